@@ -1,0 +1,32 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+namespace quillon {
+
+/// The time of day and everything that happens later. Tests drive a clock of their own.
+class Clock {
+public:
+    using Time = std::chrono::system_clock::time_point;
+
+    /// A callback that is due; destroying it cancels the callback.
+    class Timer {
+    public:
+        Timer() = default;
+        Timer(const Timer&) = delete;
+        Timer& operator=(const Timer&) = delete;
+        virtual ~Timer() = default;
+    };
+
+    virtual ~Clock() = default;
+
+    [[nodiscard]] virtual Time now() const = 0;
+
+    /// Calls `action` once on the main thread after `delay`, never before this call has returned.
+    [[nodiscard]] virtual std::unique_ptr<Timer> after(std::chrono::milliseconds delay,
+                                                       std::function<void()> action) = 0;
+};
+
+} // namespace quillon

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+#include <QFuture>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillon {
+
+/// The clipboard that all programs of the desktop share, as its owner offers it: one content in
+/// several formats. Reading never blocks the calling thread.
+class Pasteboard {
+public:
+    virtual ~Pasteboard() = default;
+
+    /// Grows whenever something new is copied, so that an unchanged clipboard need not be read again.
+    [[nodiscard]] virtual std::uint64_t changeCount() const = 0;
+
+    /// The names of the formats offered now (media types and X11 targets such as "UTF8_STRING"), in
+    /// the owner's order. Empty when nothing was copied or the owner does not answer in time.
+    [[nodiscard]] virtual QFuture<std::vector<std::string>> formats() = 0;
+
+    /// The content in one format, or none when the owner does not offer it or does not answer in time.
+    [[nodiscard]] virtual QFuture<std::optional<QByteArray>> data(std::string format) = 0;
+};
+
+} // namespace quillon

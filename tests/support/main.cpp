@@ -1,0 +1,10 @@
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+
+// Every test program has an event loop to turn and a font to measure with, and needs no display.
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
