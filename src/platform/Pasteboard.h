@@ -16,14 +16,16 @@ class Pasteboard {
 public:
     virtual ~Pasteboard() = default;
 
-    /// Grows whenever something new is copied, so that an unchanged clipboard need not be read again.
+    /// Grows whenever something new is copied, so that an unchanged clipboard need not be read
+    /// again.
     [[nodiscard]] virtual std::uint64_t changeCount() const = 0;
 
     /// The names of the formats offered now (media types and X11 targets such as "UTF8_STRING"), in
     /// the owner's order. Empty when nothing was copied or the owner does not answer in time.
     [[nodiscard]] virtual QFuture<std::vector<std::string>> formats() = 0;
 
-    /// The content in one format, or none when the owner does not offer it or does not answer in time.
+    /// The content in one format, or none when the owner does not offer it or does not answer in
+    /// time.
     [[nodiscard]] virtual QFuture<std::optional<QByteArray>> data(std::string format) = 0;
 };
 

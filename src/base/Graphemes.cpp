@@ -1,0 +1,86 @@
+#include "base/Graphemes.h"
+
+#include "base/Utf8.h"
+
+#include <unicode/brkiter.h>
+#include <unicode/uchar.h>
+#include <unicode/utext.h>
+
+#include <cstdint>
+
+namespace quillon {
+
+namespace {
+
+/// Whether the code point neither joins what stands before it, save a Prepend, nor what follows it,
+/// save an Extend, SpacingMark, ZWJ or Hangul jamo: two such neighbours are two characters.
+bool standsAlone(UChar32 codePoint) {
+    // Printable ASCII and line feed, by far the most common.
+    if ((codePoint >= 0x20 && codePoint < 0x7F) || codePoint == '\n') return true;
+    switch (u_getIntPropertyValue(codePoint, UCHAR_GRAPHEME_CLUSTER_BREAK)) {
+    case U_GCB_OTHER:
+    case U_GCB_LF:
+    case U_GCB_CONTROL:
+    case U_GCB_LV:
+    case U_GCB_LVT:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+/// ICU's own segmentation of the whole text, made only when a text needs it.
+class GraphemeCursor::Breaks {
+public:
+    explicit Breaks(std::string_view text) {
+        UErrorCode status = U_ZERO_ERROR;
+        text_ =
+            utext_openUTF8(nullptr, text.data(), static_cast<std::int64_t>(text.size()), &status);
+        iterator_.reset(
+            icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+        if (U_SUCCESS(status)) iterator_->setText(text_, status);
+    }
+    ~Breaks() {
+        iterator_.reset();
+        utext_close(text_);
+    }
+    Breaks(const Breaks&) = delete;
+    Breaks& operator=(const Breaks&) = delete;
+
+    /// The first boundary after `offset`.
+    std::size_t after(std::size_t offset) {
+        return static_cast<std::size_t>(iterator_->following(static_cast<std::int32_t>(offset)));
+    }
+
+private:
+    UText* text_ = nullptr;
+    std::unique_ptr<icu::BreakIterator> iterator_;
+};
+
+GraphemeCursor::GraphemeCursor(std::string_view text) : text_{text} {}
+
+GraphemeCursor::~GraphemeCursor() = default;
+
+Grapheme GraphemeCursor::next() {
+    if (offset_ >= text_.size()) return {.end = offset_, .codePoints = 0};
+    const std::size_t begin = offset_;
+    const UChar32 first = nextCodePoint(text_, offset_);
+    if (offset_ == text_.size()) return {.end = offset_, .codePoints = 1};
+
+    std::size_t lookAhead = offset_;
+    const UChar32 second = nextCodePoint(text_, lookAhead);
+    if (standsAlone(first) && standsAlone(second)) return {.end = offset_, .codePoints = 1};
+
+    if (!breaks_) breaks_ = std::make_unique<Breaks>(text_);
+    const std::size_t end = breaks_->after(begin);
+    std::size_t codePoints = 1;
+    for (; offset_ < end; ++codePoints) {
+        nextCodePoint(text_, offset_);
+    }
+    offset_ = end;
+    return {.end = end, .codePoints = codePoints};
+}
+
+} // namespace quillon

@@ -1,0 +1,138 @@
+#include "base/Text.h"
+
+#include "base/Graphemes.h"
+#include "base/Utf8.h"
+
+#include <unicode/uchar.h>
+
+namespace quillon {
+
+namespace {
+
+template <typename Predicate>
+std::string_view trimmedOf(std::string_view text, Predicate drop) {
+    std::size_t begin = 0;
+    for (std::size_t after = 0; begin < text.size() && drop(nextCodePoint(text, after));) {
+        begin = after;
+    }
+    std::size_t end = text.size();
+    for (std::size_t before = end; end > begin && drop(previousCodePoint(text, before));) {
+        end = before;
+    }
+    return text.substr(begin, end - begin);
+}
+
+bool isSpace(UChar32 codePoint) {
+    return codePoint == U'\t' || u_charType(codePoint) == U_SPACE_SEPARATOR;
+}
+
+bool isLineBreak(UChar32 codePoint) {
+    return (codePoint >= 0x0A && codePoint <= 0x0D) || codePoint == 0x85 || codePoint == 0x2028 ||
+           codePoint == 0x2029;
+}
+
+/// Moves the cursor over as many characters as the limit allows, and gives where it stands then.
+std::size_t advance(GraphemeCursor& cursor, std::string_view text, TextLimit limit) {
+    const std::size_t begin = cursor.offset();
+    std::size_t end = begin;
+    std::size_t codePoints = 0;
+    for (std::size_t count = 0; count < limit.characters; ++count) {
+        const Grapheme grapheme = cursor.next();
+        codePoints += grapheme.codePoints;
+        if (grapheme.codePoints == 0 || codePoints > limit.codePoints) break;
+        end = grapheme.end;
+    }
+    if (end == begin) {
+        // A single character over the limit: losing its shape beats losing the text.
+        for (std::size_t count = 0; end < text.size() && count < limit.codePoints; ++count) {
+            nextCodePoint(text, end);
+        }
+    }
+    cursor.moveTo(end);
+    return end;
+}
+
+} // namespace
+
+std::string_view trimmed(std::string_view text) {
+    return trimmedOf(text, [](UChar32 codePoint) { return u_isUWhiteSpace(codePoint) != 0; });
+}
+
+std::string_view trimmedSpaces(std::string_view text) {
+    return trimmedOf(text, isSpace);
+}
+
+std::string_view firstLine(std::string_view text) {
+    std::size_t begin = 0;
+    for (std::size_t offset = 0; offset < text.size();) {
+        const std::size_t at = offset;
+        if (!isLineBreak(nextCodePoint(text, offset))) continue;
+        if (at > begin) return text.substr(begin, at - begin);
+        begin = offset;
+    }
+    return begin < text.size() ? text.substr(begin) : text;
+}
+
+std::string validUtf8(std::string_view text) {
+    std::string valid;
+    valid.reserve(text.size());
+    for (std::size_t offset = 0; offset < text.size();) {
+        const std::size_t at = offset;
+        valid += nextCodePointOrError(text, offset) < 0 ? std::string_view{"\uFFFD"}
+                                                        : text.substr(at, offset - at);
+    }
+    return valid;
+}
+
+std::string_view prefix(std::string_view text, TextLimit limit) {
+    GraphemeCursor cursor{text};
+    return text.substr(0, advance(cursor, text, limit));
+}
+
+std::string_view firstCharacters(std::string_view text, std::size_t count) {
+    return prefix(text, {.characters = count, .codePoints = text.size()});
+}
+
+std::vector<std::string_view> chunks(std::string_view text, TextLimit limit) {
+    std::vector<std::string_view> pieces;
+    GraphemeCursor cursor{text};
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t end = advance(cursor, text, limit);
+        pieces.push_back(text.substr(begin, end - begin));
+        begin = end;
+    }
+    return pieces;
+}
+
+std::string escapedHtml(std::string_view text) {
+    std::string escaped;
+    escaped.reserve(text.size() + text.size() / 8);
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t special = std::min(text.find_first_of("&<>", begin), text.size());
+        escaped += text.substr(begin, special - begin);
+        if (special == text.size()) break;
+        switch (text[special]) {
+        case '&':
+            escaped += "&amp;";
+            break;
+        case '<':
+            escaped += "&lt;";
+            break;
+        default:
+            escaped += "&gt;";
+            break;
+        }
+        begin = special + 1;
+    }
+    return escaped;
+}
+
+std::string lowercasedAscii(std::string_view text) {
+    std::string lower{text};
+    for (char& letter : lower) {
+        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+    }
+    return lower;
+}
+
+} // namespace quillon

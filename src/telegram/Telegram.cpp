@@ -1,0 +1,71 @@
+#include "telegram/Telegram.h"
+
+#include "platform/HttpTransport.h"
+#include "platform/Sleep.h"
+#include "telegram/Multipart.h"
+#include "telegram/Reply.h"
+#include "telegram/Url.h"
+
+#include <QCoroFuture>
+
+#include <chrono>
+
+namespace quillon {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::chrono::seconds plainTimeout = 30s;
+constexpr std::chrono::seconds uploadTimeout = 300s;
+
+HttpRequest makeRequest(const std::string& url, const Json& params,
+                        const std::optional<Upload>& upload) {
+    HttpRequest request;
+    request.url = url;
+    if (upload) {
+        MultipartBody multipart = encodeMultipart(params, *upload, makeBoundary());
+        request.headers = {{"Content-Type", std::move(multipart.contentType)}};
+        request.body = std::move(multipart.pieces);
+        request.inactivityTimeout = uploadTimeout;
+    } else {
+        request.headers = {{"Content-Type", "application/json"}};
+        request.body = {QByteArray::fromStdString(writeJson(params))};
+        request.inactivityTimeout = plainTimeout;
+    }
+    return request;
+}
+
+} // namespace
+
+Telegram::Telegram(std::string token, std::string api, HttpTransport& http, Clock& clock)
+    : token_{std::move(token)},
+      api_{std::move(api)},
+      http_{&http},
+      clock_{&clock} {}
+
+QCoro::Task<Json> Telegram::call(std::string method, Json params, std::optional<Upload> upload,
+                                 SendProgress progress) const {
+    // The coroutine may outlive this value: it keeps what it needs in its own frame.
+    HttpTransport& http = *http_;
+    Clock& clock = *clock_;
+    const std::string url = api_ + "/bot" + token_ + "/" + method;
+    if (!isUrlText(url)) throw TelegramError{"That bot token doesn't look right."};
+
+    for (;;) {
+        HttpRequest request = makeRequest(url, params, upload);
+        request.progress = progress;
+        const std::optional<HttpReply> reply = co_await http.post(std::move(request));
+        if (!reply) {
+            throw TelegramError{std::string{unreachable} + ". Check your internet connection."};
+        }
+        Verdict verdict = judge(*reply);
+        if (auto* success = std::get_if<Success>(&verdict)) co_return std::move(success->result);
+        if (auto* refusal = std::get_if<Refusal>(&verdict)) {
+            throw TelegramError{std::move(refusal->message)};
+        }
+        co_await sleep(clock, std::get<Wait>(verdict).duration);
+    }
+}
+
+} // namespace quillon
