@@ -1,0 +1,44 @@
+// Connecting the user's bot and forgetting it again.
+#include "analytics/Analytics.h"
+#include "base/Text.h"
+#include "platform/Platform.h"
+#include "state/Store.h"
+
+#include <QCoroFuture>
+
+namespace quillon {
+
+QCoro::Task<std::string> Store::connectBot(std::string pasted) {
+    const std::string token{trimmed(pasted)};
+    if (token.find(':') == token.npos) {
+        throw TelegramError{"That doesn't look like a bot token. It looks like 123456:ABC-DEF…"};
+    }
+    const Telegram tg = telegramFor(token);
+    const Json me = co_await tg.call("getMe", Json::object());
+    const std::string name = textMember(me, "username").value_or("your bot");
+
+    // All at once, so that nothing else the store does comes in between; the keyring follows. When
+    // it refuses, the token lives on in memory for this run.
+    const QFuture<bool> saved = platform_.secrets.save(botTokenItem(), token);
+    cachedToken_ = token;
+    publish(tokenSaved_, true);
+    changeConfig([&name](Config& config) { config.botName = name; });
+    analytics_.track("setup_step", {{"step", "bot_connected"}});
+    co_await saved;
+    co_return name;
+}
+
+QCoro::Task<> Store::forgetBot() {
+    const QFuture<void> removed = platform_.secrets.remove(botTokenItem());
+    cachedToken_.reset();
+    publish(tokenSaved_, false);
+    changeConfig([](Config& config) {
+        config.chatId.reset();
+        config.chatTitle.reset();
+        config.botName.reset();
+        config.topics = Topic::defaults();
+    });
+    co_await removed;
+}
+
+} // namespace quillon

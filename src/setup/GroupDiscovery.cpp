@@ -1,0 +1,46 @@
+// Finding the user's group through the bot's recent updates.
+#include "analytics/Analytics.h"
+#include "setup/GroupUpdates.h"
+#include "state/Store.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* noGroup = "No group found yet. Add the bot to your group, then send “hi” in "
+                                "the group and try again.";
+
+std::string topicsAreOff(const Json& chat) {
+    return "Found “" + textMember(chat, "title").value_or("your group") +
+           "”, but Topics are off. Turn on Topics in the group settings.";
+}
+
+} // namespace
+
+QCoro::Task<> Store::findGroup() {
+    const std::optional<Telegram> tg = co_await telegram();
+    if (!tg) throw TelegramError{"Connect your bot first."};
+
+    // Without an offset the updates stay with Telegram, and creating the topics reads them again.
+    Json params{{"allowed_updates", Json::array({"message", "my_chat_member"})}};
+    const Json updates = co_await tg->call("getUpdates", std::move(params));
+    const std::optional<std::int64_t> group = latestGroup(updates);
+    if (!group) throw TelegramError{noGroup};
+
+    Json question{{"chat_id", *group}};
+    const Json chat = co_await tg->call("getChat", std::move(question));
+    if (!isTrue(chat, "is_forum")) throw TelegramError{topicsAreOff(chat)};
+
+    changeConfig([&](Config& config) {
+        if (config.chatId != group) {
+            for (Topic& topic : config.topics) {
+                topic.threadId.reset();
+            }
+        }
+        config.chatId = group;
+        config.chatTitle = textMember(chat, "title");
+    });
+    analytics_.track("setup_step", {{"step", "group_found"}});
+}
+
+} // namespace quillon

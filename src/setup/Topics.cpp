@@ -1,0 +1,116 @@
+// Creating the forum topics, finding them again, and giving them new names.
+#include "analytics/Analytics.h"
+#include "setup/GroupUpdates.h"
+#include "state/Store.h"
+
+#include <QString>
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* cannotCreate =
+    "Couldn't create topics. Make the bot an admin with “Manage Topics” and try again.";
+
+/// Telegram's answer to an edit that changes nothing, which proves that the topic exists.
+bool saysNotModified(const TelegramError& error) {
+    return QString::fromStdString(error.message).toUpper().contains(QLatin1String{"NOT_MODIFIED"});
+}
+
+/// Gives the topic its name; one that has it already is fine.
+QCoro::Task<> editTopic(Telegram tg, std::int64_t chat, std::int64_t thread, std::string name) {
+    Json params{{"chat_id", chat}, {"message_thread_id", thread}, {"name", name}};
+    try {
+        co_await tg.call("editForumTopic", std::move(params));
+    } catch (const TelegramError& error) {
+        if (!saysNotModified(error)) throw;
+    }
+}
+
+/// Whether the thread still is a topic of the group.
+QCoro::Task<bool> topicExists(Telegram tg, std::int64_t chat, std::int64_t thread,
+                              std::string name) {
+    try {
+        co_await editTopic(tg, chat, thread, name);
+    } catch (const TelegramError&) {
+        co_return false;
+    }
+    co_return true;
+}
+
+/// The topics that exist in the group as far as Telegram still tells; empty when it does not.
+QCoro::Task<std::map<std::string, std::int64_t>> knownTopics(Telegram tg, std::int64_t chat) {
+    Json params{{"allowed_updates", Json::array({"message"})}};
+    Json updates;
+    try {
+        updates = co_await tg.call("getUpdates", std::move(params));
+    } catch (const TelegramError&) {
+        co_return {};
+    }
+    co_return topicThreads(updates, chat);
+}
+
+/// Creates the topic and gives its thread id, absent when the reply has none.
+QCoro::Task<std::optional<std::int64_t>> createTopic(Telegram tg, std::int64_t chat, Topic topic) {
+    Json params{{"chat_id", chat}, {"name", topic.name}, {"icon_color", topic.color}};
+    Json created;
+    try {
+        created = co_await tg.call("createForumTopic", std::move(params));
+    } catch (const TelegramError&) {
+        throw TelegramError{cannotCreate};
+    }
+    co_return integerMember(created, "message_thread_id");
+}
+
+std::string welcome(ShortcutChoice shortcut) {
+    return "✅ Quillon is connected. Press " + keysText(shortcut) +
+           " on your Mac to send what you copied.";
+}
+
+} // namespace
+
+QCoro::Task<> Store::createTopics() {
+    const std::optional<Telegram> tg = co_await telegram();
+    if (!tg || !config_.chatId) throw TelegramError{"Find your group first."};
+    const std::int64_t chat = *config_.chatId;
+    const std::map<std::string, std::int64_t> known = co_await knownTopics(*tg, chat);
+
+    const auto storeThread = [this](std::size_t index, std::optional<std::int64_t> thread) {
+        changeConfig([&](Config& config) {
+            // The list may have become another one while Telegram answered.
+            if (index < config.topics.size()) config.topics[index].threadId = thread;
+        });
+    };
+    bool created = false;
+    for (std::size_t index = 0; index < config_.topics.size(); ++index) {
+        const Topic topic = config_.topics[index];
+        if (topic.threadId) continue;
+        const auto found = known.find(topic.name);
+        if (found != known.end() && co_await topicExists(*tg, chat, found->second, topic.name)) {
+            storeThread(index, found->second);
+            continue;
+        }
+        storeThread(index, co_await createTopic(*tg, chat, topic));
+        created = true;
+    }
+    analytics_.track("setup_step", {{"step", created ? "topics_created" : "topics_reused"}});
+    if (!created) co_return;
+
+    Json params{{"chat_id", chat},
+                {"message_thread_id", topicFor("notes").threadId.value_or(0)},
+                {"text", welcome(config_.shortcut)}};
+    co_await tg->call("sendMessage", std::move(params));
+}
+
+QCoro::Task<> Store::renameTopics() {
+    const std::optional<Telegram> tg = co_await telegram();
+    if (!tg || !config_.chatId) co_return;
+    const std::int64_t chat = *config_.chatId;
+    const std::vector<Topic> topics = config_.topics;
+    for (const Topic& topic : topics) {
+        if (!topic.threadId) continue;
+        co_await editTopic(*tg, chat, *topic.threadId, topic.name);
+    }
+}
+
+} // namespace quillon

@@ -1,0 +1,44 @@
+#include "state/BannerPosition.h"
+
+namespace quillon {
+
+namespace {
+
+struct Row {
+    std::string_view rawValue;
+    std::string_view label;
+    std::string_view symbol;
+};
+
+constexpr std::array<Row, allBannerPositions.size()> rows{{
+    {"top", "Top", "inset.filled.topthird.rectangle"},
+    {"middle", "Middle", "inset.filled.center.rectangle"},
+    {"bottom", "Bottom", "inset.filled.bottomthird.rectangle"},
+}};
+
+const Row& row(BannerPosition position) {
+    return rows.at(static_cast<std::size_t>(position));
+}
+
+} // namespace
+
+std::string_view rawValue(BannerPosition position) {
+    return row(position).rawValue;
+}
+
+std::optional<BannerPosition> bannerPosition(std::string_view raw) {
+    for (const BannerPosition position : allBannerPositions) {
+        if (rawValue(position) == raw) return position;
+    }
+    return std::nullopt;
+}
+
+std::string_view label(BannerPosition position) {
+    return row(position).label;
+}
+
+std::string_view symbol(BannerPosition position) {
+    return row(position).symbol;
+}
+
+} // namespace quillon

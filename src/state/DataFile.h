@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string_view>
+
+#include <QtGlobal>
+
+namespace quillon {
+
+/// The files of the data folder.
+inline constexpr std::string_view configFile = "config.json";
+inline constexpr std::string_view historyFile = "history.json";
+inline constexpr std::string_view eventsFile = "events.json";
+
+/// None of those files comes near this size, in bytes; a larger one is not ours and not read.
+inline constexpr qint64 maximumDataFileSize = 16'000'000;
+
+} // namespace quillon

@@ -1,0 +1,113 @@
+#include "state/Store.h"
+
+#include "platform/FileSystem.h"
+#include "platform/Platform.h"
+#include "state/DataFile.h"
+
+#include <QCoroFuture>
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+/// The file's content; none when it cannot be read as a file of ours.
+std::optional<QByteArray> readDataFile(const Platform& platform, std::string_view file) {
+    FileReading reading = platform.files.read(platform.dataFolder / file, maximumDataFileSize);
+    if (reading.outcome != FileReading::Outcome::read) return std::nullopt;
+    return std::move(reading.bytes);
+}
+
+std::string_view view(const QByteArray& bytes) {
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+} // namespace
+
+const KeychainItem& botTokenItem() {
+    static const KeychainItem item{
+        .service = "quillon-telegram-token", .account = "quillon", .label = "Quillon bot token"};
+    return item;
+}
+
+Store::Store(Platform& platform, Analytics& analytics, Banner& banner)
+    : platform_{platform},
+      analytics_{analytics},
+      banner_{banner},
+      tokenSaved_{platform.secrets.exists(botTokenItem())} {
+    load();
+}
+
+void Store::load() {
+    platform_.files.createFolder(platform_.dataFolder);
+    if (const auto bytes = readDataFile(platform_, configFile)) {
+        config_ = decodeConfig(view(*bytes)).value_or(Config{});
+    }
+    if (const auto bytes = readDataFile(platform_, historyFile)) {
+        history_ = decodeHistory(view(*bytes));
+    }
+}
+
+void Store::save(std::string_view file, const std::string& content) const {
+    if (!persist_) return;
+    platform_.files.write(platform_.dataFolder / file, QByteArray::fromStdString(content));
+}
+
+void Store::saveHistory() const {
+    save(historyFile, encodeHistory(history_));
+}
+
+template <typename T>
+void Store::publish(T& field, T value) {
+    Q_EMIT objectWillChange();
+    field = std::move(value);
+}
+
+template void Store::publish(bool& field, bool value);
+template void Store::publish(std::vector<Sent>& field, std::vector<Sent> value);
+
+void Store::setConfig(Config config) {
+    const Config previous = config_;
+    publish(config_, std::move(config));
+    save(configFile, encodeConfig(config_));
+    trackSettings(previous);
+}
+
+void Store::changeConfig(const std::function<void(Config&)>& change) {
+    Config changed = config_;
+    change(changed);
+    setConfig(std::move(changed));
+}
+
+bool Store::isConnected() const {
+    return config_.chatId && std::ranges::all_of(config_.topics, [](const Topic& topic) {
+               return topic.threadId.has_value();
+           });
+}
+
+bool Store::isReady() const {
+    return tokenSaved_ && isConnected();
+}
+
+Topic Store::topicFor(std::string_view key) const {
+    const std::vector<Topic>& topics = config_.topics.empty() ? Topic::defaults() : config_.topics;
+    const auto found = std::ranges::find(topics, key, &Topic::key);
+    return found == topics.end() ? topics.front() : *found;
+}
+
+QCoro::Task<std::optional<Telegram>> Store::telegram() {
+    if (!cachedToken_) {
+        std::optional<std::string> stored = co_await platform_.secrets.read(botTokenItem());
+        // Connecting may have stored a token meanwhile; that one is newer.
+        if (!cachedToken_) cachedToken_ = std::move(stored);
+    }
+    if (!cachedToken_) co_return std::nullopt;
+    co_return telegramFor(*cachedToken_);
+}
+
+Telegram Store::telegramFor(std::string token) const {
+    return {std::move(token), platform_.botApi, platform_.http, platform_.clock};
+}
+
+} // namespace quillon
