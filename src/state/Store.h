@@ -113,10 +113,13 @@ private:
     [[nodiscard]] Telegram telegramFor(std::string token) const;
 
     [[nodiscard]] QCoro::Task<Item> sendText(std::string text, Telegram tg, std::int64_t chat);
-    [[nodiscard]] QCoro::Task<Item> sendImage(QByteArray png, std::optional<std::string> caption,
+    [[nodiscard]] QCoro::Task<Item> sendImage(QByteArray png, std::optional<std::string> text,
                                               Telegram tg, std::int64_t chat);
     [[nodiscard]] QCoro::Task<Item> sendFile(std::filesystem::path path, Telegram tg,
                                              std::int64_t chat);
+    /// Makes one call for the item; a failure goes into the item, which must outlive the call.
+    [[nodiscard]] QCoro::Task<bool> delivered(Telegram tg, std::string method, Json params,
+                                              std::optional<Upload> upload, Item& item);
     void refuseToSend();
     void finishSend(std::vector<Item> items, const std::string& via);
     void reportOutcome(const std::vector<Sent>& entries);

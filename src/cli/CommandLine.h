@@ -1,0 +1,42 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillon {
+
+/// What the program can be asked for on the command line.
+enum class Command {
+    send,
+    connect,
+    findGroup,
+    createTopics,
+    renameTopics,
+    forget,
+    status,
+    history,
+    help,
+    version
+};
+
+/// A command line that was understood.
+struct Invocation {
+    Command command = Command::help;
+    /// The answer is wanted as JSON.
+    bool json = false;
+
+    bool operator==(const Invocation&) const = default;
+};
+
+/// How the process ends.
+enum ExitCode { exitDone = 0, exitFailed = 1, exitUsage = 2 };
+
+/// Reads the arguments after the program's name; none when they make no command.
+[[nodiscard]] std::optional<Invocation> parseCommandLine(const std::vector<std::string>& arguments);
+
+/// What --help prints.
+[[nodiscard]] std::string helpText();
+
+} // namespace quillon

@@ -1,0 +1,85 @@
+#include "cli/Reports.h"
+
+#include "base/Json.h"
+#include "cli/Terminal.h"
+#include "state/Store.h"
+
+#include <QDateTime>
+
+namespace quillon {
+
+namespace {
+
+QDateTime dateTime(Date date) {
+    const auto sinceEpoch = std::chrono::duration_cast<std::chrono::duration<double, std::milli>>(
+        date.time_since_epoch());
+    return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(sinceEpoch.count()));
+}
+
+std::string row(const std::string& name, const std::string& value) {
+    constexpr std::size_t width = 10;
+    std::string label = name + ":";
+    label.resize(std::max(width, label.size()), ' ');
+    return Terminal::harmless(label + value) + "\n";
+}
+
+} // namespace
+
+std::string sendLine(const Sent& entry) {
+    return std::string{entry.error ? "failed" : "sent"} + "\t" + entry.topic + "\t" + entry.title;
+}
+
+std::string statusText(const Store& store) {
+    const Config& config = store.config();
+    std::string text =
+        row("Bot", store.tokenSaved() ? config.botName.value_or("connected") : "not connected");
+    text += row("Group", config.chatId ? config.chatTitle.value_or("your group") : "not found yet");
+    for (const Topic& topic : config.topics) {
+        text += row("Topic", topic.name + (topic.threadId ? "" : " (not created yet)"));
+    }
+    text += row("Shortcut", keysText(config.shortcut));
+    return text + row("Ready", store.isReady() ? "yes" : "no");
+}
+
+std::string statusJson(const Store& store) {
+    const Config& config = store.config();
+    Json object{{"ready", store.isReady()}, {"tokenSaved", store.tokenSaved()}};
+    if (config.botName) object["botName"] = *config.botName;
+    if (config.chatId) object["chatId"] = *config.chatId;
+    if (config.chatTitle) object["chatTitle"] = *config.chatTitle;
+    object["topics"] = Json::array();
+    for (const Topic& topic : config.topics) {
+        Json entry{{"key", topic.key}, {"name", topic.name}};
+        if (topic.threadId) entry["threadId"] = *topic.threadId;
+        object["topics"].push_back(std::move(entry));
+    }
+    object["shortcut"] = rawValue(config.shortcut);
+    return writeJson(object) + "\n";
+}
+
+std::string historyText(const std::vector<Sent>& history) {
+    std::string text;
+    for (const Sent& entry : history) {
+        const QString when = dateTime(entry.date).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+        std::string line = when.toStdString() + "\t" + sendLine(entry);
+        if (entry.error) line += "\t" + *entry.error;
+        text += Terminal::harmless(line) + "\n";
+    }
+    return text;
+}
+
+std::string historyJson(const std::vector<Sent>& history) {
+    Json array = Json::array();
+    for (const Sent& entry : history) {
+        Json object{
+            {"id", entry.id.toString(QUuid::WithoutBraces).toUpper().toStdString()},
+            {"date", dateTime(entry.date).toUTC().toString(Qt::ISODateWithMs).toStdString()},
+            {"topic", entry.topic},
+            {"title", entry.title}};
+        if (entry.error) object["error"] = *entry.error;
+        array.push_back(std::move(object));
+    }
+    return writeJson(array) + "\n";
+}
+
+} // namespace quillon

@@ -1,0 +1,107 @@
+#include "cli/Terminal.h"
+
+#include "base/Utf8.h"
+
+#include <array>
+#include <cstdio>
+#include <iostream>
+
+#include <termios.h>
+#include <unistd.h>
+
+namespace quillon::Terminal {
+
+namespace {
+
+constexpr std::string_view clearLine = "\r\x1b[K";
+
+bool isControl(UChar32 codePoint) {
+    return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
+}
+
+/// While it lives, what is typed is not shown.
+class EchoOff {
+public:
+    EchoOff() {
+        on_ = tcgetattr(STDIN_FILENO, &before_) == 0;
+        if (!on_) return;
+        termios quiet = before_;
+        quiet.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &quiet);
+    }
+    ~EchoOff() {
+        if (on_) tcsetattr(STDIN_FILENO, TCSAFLUSH, &before_);
+    }
+    EchoOff(const EchoOff&) = delete;
+    EchoOff& operator=(const EchoOff&) = delete;
+
+private:
+    termios before_{};
+    bool on_ = false;
+};
+
+std::string megabytes(qint64 bytes) {
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%.1f", static_cast<double>(bytes) / 1e6);
+    return text.data();
+}
+
+} // namespace
+
+std::string harmless(std::string_view text) {
+    std::string safe;
+    for (std::size_t offset = 0; offset < text.size();) {
+        const std::size_t begin = offset;
+        const UChar32 codePoint = nextCodePoint(text, offset);
+        const bool keep = codePoint == '\t' || !isControl(codePoint);
+        safe += keep ? text.substr(begin, offset - begin) : std::string_view{"\uFFFD"};
+    }
+    return safe;
+}
+
+void print(std::string_view line) {
+    std::cout << harmless(line) << std::endl;
+}
+
+void printError(std::string_view line) {
+    std::cerr << harmless(line) << std::endl;
+}
+
+void printText(std::string_view text) {
+    std::cout << text << std::flush;
+}
+
+std::optional<std::string> readSecret(std::string_view prompt) {
+    std::optional<EchoOff> echoOff;
+    const bool terminal = isatty(STDIN_FILENO) != 0;
+    if (terminal) {
+        std::cerr << prompt << std::flush;
+        echoOff.emplace();
+    }
+    std::string line;
+    const bool read = static_cast<bool>(std::getline(std::cin, line));
+    if (terminal) std::cerr << std::endl;
+    return read ? std::optional{line} : std::nullopt;
+}
+
+Progress::Progress(std::chrono::milliseconds patience)
+    : from_{std::chrono::steady_clock::now() + patience},
+      terminal_{isatty(STDERR_FILENO) != 0} {}
+
+Progress::~Progress() {
+    clear();
+}
+
+void Progress::show(qint64 sent, qint64 total) {
+    if (!terminal_ || std::chrono::steady_clock::now() < from_) return;
+    std::cerr << clearLine << "Sending… " << megabytes(sent) << " of " << megabytes(total) << " MB"
+              << std::flush;
+    shown_ = true;
+}
+
+void Progress::clear() {
+    if (shown_) std::cerr << clearLine << std::flush;
+    shown_ = false;
+}
+
+} // namespace quillon::Terminal
