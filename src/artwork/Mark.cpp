@@ -24,10 +24,12 @@ QPainterPath rounded(const QRectF& box, double radius) {
 }
 
 QPainterPath phoneShape() {
-    QPainterPathStroker pen;
-    pen.setWidth(phoneWidth);
+    const double half = phoneWidth / 2;
+    const QRectF outside = phoneLine.adjusted(-half, -half, half, half);
+    const QRectF inside = phoneLine.adjusted(half, half, -half, -half);
     const QRectF door = contentBar.adjusted(-gap, -gap, gap, gap);
-    return pen.createStroke(rounded(phoneLine, cornerRadius))
+    return rounded(outside, cornerRadius + half)
+        .subtracted(rounded(inside, cornerRadius - half))
         .subtracted(rounded(door, cornerRadius + gap));
 }
 
