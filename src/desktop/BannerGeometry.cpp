@@ -1,0 +1,104 @@
+#include "desktop/BannerGeometry.h"
+
+#include <QFontMetricsF>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillon {
+namespace {
+
+constexpr double markSide = 22;
+constexpr double symbolSide = 16; // an outline icon this large is as tall as 14 point bold type
+constexpr double between = 10;
+constexpr double sidePadding = 16;
+constexpr double endPadding = 10; // above and below the row
+constexpr double margin = 16;
+
+constexpr int fromTop = 12;
+constexpr int fromBottom = 24;
+
+constexpr double maxTextWidth = 380;
+constexpr qsizetype maxLines = 2;
+
+/// What fits of the text from `start` on, which is more than one line.
+QString lastLine(const QString& text, qsizetype start, const QFont& font) {
+    QString rest = text.mid(start);
+    const qsizetype end = rest.indexOf(QChar::LineSeparator);
+    if (end >= 0) rest = rest.left(end) + QChar{0x2026};
+    return QFontMetricsF{font}.elidedText(rest, Qt::ElideRight, maxTextWidth);
+}
+
+QString trimmedEnd(QString text) {
+    while (!text.isEmpty() && text.back().isSpace())
+        text.chop(1);
+    return text;
+}
+
+} // namespace
+
+BannerLayout layOutBanner(QSizeF text) {
+    const double height = std::ceil(std::max(markSide, text.height()));
+    const double middle = margin + endPadding + height / 2;
+    double x = margin + sidePadding;
+    const auto next = [&](QSizeF size) {
+        const QRectF box{QPointF{x, middle - size.height() / 2}, size};
+        x += size.width() + between;
+        return box;
+    };
+    BannerLayout layout;
+    layout.mark = next({markSide, markSide});
+    layout.text = next({std::ceil(text.width()), text.height()});
+    layout.symbol = next({symbolSide, symbolSide});
+    layout.capsule = {margin, margin, layout.symbol.right() + sidePadding - margin,
+                      height + 2 * endPadding};
+    layout.window = layout.capsule.adjusted(-margin, -margin, margin, margin).size().toSize();
+    return layout;
+}
+
+QRect bannerFrame(QRect visible, QSize window, BannerPosition position) {
+    const int x = visible.x() + (visible.width() - window.width()) / 2;
+    int y = visible.y();
+    switch (position) {
+    case BannerPosition::top:
+        y += fromTop;
+        break;
+    case BannerPosition::middle:
+        y += (visible.height() - window.height()) / 2;
+        break;
+    case BannerPosition::bottom:
+        y += visible.height() - window.height() - fromBottom;
+        break;
+    }
+    return {QPoint{x, y}, window};
+}
+
+BannerText wrapBannerText(QString text, const QFont& font) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    text.replace(u'\n', QChar{QChar::LineSeparator});
+    QTextLayout layout{text, font};
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    BannerText result;
+    layout.beginLayout();
+    qsizetype start = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        if (result.lines.size() == maxLines) {
+            result.lines.back() = lastLine(text, start, font);
+            break;
+        }
+        line.setLineWidth(maxTextWidth);
+        start = line.textStart();
+        result.lines << trimmedEnd(text.mid(start, line.textLength()));
+    }
+    layout.endLayout();
+    if (result.lines.isEmpty()) result.lines << QString{};
+    const QFontMetricsF metrics{font};
+    for (const QString& line : result.lines)
+        result.width = std::max(result.width, metrics.horizontalAdvance(line));
+    return result;
+}
+
+} // namespace quillon

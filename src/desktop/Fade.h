@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Clock.h"
+
+namespace quillon {
+
+/// A number that moves smoothly to where it is sent, in steps of about a frame, on a clock.
+class Fade {
+public:
+    /// `apply` gets each new value.
+    Fade(Clock& clock, std::function<void(double)> apply);
+
+    /// Moves from the present value to `target`, instead of where it was going; then calls `done`.
+    /// A duration of zero gets there before this returns.
+    void run(double target, std::chrono::milliseconds duration, std::function<void()> done = {});
+
+    [[nodiscard]] double value() const { return value_; }
+
+private:
+    void step();
+
+    Clock& clock_;
+    std::function<void(double)> apply_;
+    double value_ = 0;
+    double from_ = 0;
+    double target_ = 0;
+    std::chrono::milliseconds duration_{};
+    std::chrono::milliseconds elapsed_{};
+    Clock::Time last_;
+    std::function<void()> done_;
+    std::unique_ptr<Clock::Timer> timer_;
+};
+
+} // namespace quillon

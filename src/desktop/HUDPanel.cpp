@@ -1,0 +1,53 @@
+#include "desktop/HUDPanel.h"
+
+#include "desktop/HUDView.h"
+
+#include <QAccessible>
+#include <QPainter>
+
+namespace quillon {
+namespace {
+
+// Window managers keep windows below full-screen ones and on one workspace; none manages this one.
+constexpr Qt::WindowFlags overlay = Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                                    Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus |
+                                    Qt::BypassWindowManagerHint | Qt::NoDropShadowWindowHint;
+
+} // namespace
+
+HUDPanel::HUDPanel() : QWidget{nullptr, overlay} {
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_X11NetWmWindowTypeNotification);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void HUDPanel::setContent(const HUDView& view, const QString& text, double devicePixelRatio,
+                          bool blended) {
+    picture_ = view.render(devicePixelRatio, blended);
+    if (blended)
+        clearMask();
+    else
+        setMask(view.outline());
+    setAccessibleName(text);
+    QAccessibleEvent announcement{this, QAccessible::Alert};
+    QAccessible::updateAccessibility(&announcement);
+    update();
+}
+
+void HUDPanel::setAlpha(double alpha) {
+    alpha_ = alpha;
+    update();
+}
+
+// The picture is faded, not the window: that works on every display, and a window that has only
+// just appeared never flashes up at full strength.
+void HUDPanel::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter{this};
+    painter.setOpacity(alpha_);
+    painter.drawPixmap(0, 0, picture_);
+}
+
+} // namespace quillon

@@ -1,0 +1,98 @@
+#include "desktop/HUDView.h"
+
+#include "artwork/Brand.h"
+#include "artwork/Mark.h"
+#include "artwork/Symbols.h"
+#include "desktop/Shadow.h"
+
+#include <QBitmap>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <cmath>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+constexpr QColor amber{255, 194, 75};
+constexpr int fontSize = 13;
+constexpr double capsuleOpacity = 0.94;
+constexpr double borderOpacity = 0.08;
+constexpr Shadow shadow{.opacity = 0.30, .blur = 14, .offset = {0, 6}};
+
+QFont bannerFont() {
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(fontSize);
+    font.setWeight(QFont::DemiBold);
+    return font;
+}
+
+QColor faded(QColor color, double opacity) {
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
+}
+
+QPainterPath capsulePath(const QRectF& box) {
+    QPainterPath path;
+    path.addRoundedRect(box, box.height() / 2, box.height() / 2);
+    return path;
+}
+
+} // namespace
+
+HUDView::HUDView(const std::string& text, std::string symbol, bool ok)
+    : font_{bannerFont()},
+      text_{wrapBannerText(QString::fromStdString(text), font_)},
+      layout_{layOutBanner({text_.width, std::ceil(QFontMetricsF{font_}.height()) *
+                                             static_cast<double>(text_.lines.size())})},
+      symbol_{std::move(symbol)},
+      ok_{ok} {}
+
+QPixmap HUDView::render(double devicePixelRatio, bool blended) const {
+    QPixmap pixmap{(QSizeF{layout_.window} * devicePixelRatio).toSize()};
+    pixmap.setDevicePixelRatio(devicePixelRatio);
+    pixmap.fill(blended ? Qt::transparent : Brand::navy);
+    QPainter painter{&pixmap};
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (blended)
+        painter.drawPixmap(
+            0, 0, capsuleShadow(layout_.window, layout_.capsule, shadow, devicePixelRatio));
+    paintCapsule(painter, blended);
+    paintRow(painter, devicePixelRatio);
+    return pixmap;
+}
+
+QRegion HUDView::outline() const {
+    QBitmap mask{layout_.window};
+    mask.clear();
+    QPainter painter{&mask};
+    painter.fillPath(capsulePath(layout_.capsule), Qt::color1);
+    painter.end();
+    return QRegion{mask};
+}
+
+void HUDView::paintCapsule(QPainter& painter, bool blended) const {
+    if (blended) painter.fillPath(capsulePath(layout_.capsule), faded(Brand::navy, capsuleOpacity));
+    painter.strokePath(capsulePath(layout_.capsule.adjusted(0.5, 0.5, -0.5, -0.5)),
+                       QPen{faded(Qt::white, borderOpacity), 1});
+}
+
+void HUDView::paintRow(QPainter& painter, double devicePixelRatio) const {
+    paintMark(painter, layout_.mark, Qt::white, Brand::coral);
+    painter.setFont(font_);
+    painter.setPen(Qt::white);
+    const double height = layout_.text.height() / static_cast<double>(text_.lines.size());
+    double baseline = layout_.text.top() + std::round(QFontMetricsF{font_}.ascent());
+    for (const QString& line : text_.lines) {
+        painter.drawText(QPointF{layout_.text.left(), baseline}, line);
+        baseline += height;
+    }
+    const QPixmap symbol = symbolPixmap(symbol_, layout_.symbol.width(), ok_ ? Brand::coral : amber,
+                                        devicePixelRatio, SymbolWeight::bold);
+    painter.drawPixmap(layout_.symbol.topLeft(), symbol);
+}
+
+} // namespace quillon

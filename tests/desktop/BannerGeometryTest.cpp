@@ -1,0 +1,77 @@
+#include "desktop/BannerGeometry.h"
+
+#include <QFontMetricsF>
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+namespace {
+
+TEST(BannerFrame, IsCentredInWhatPanelsLeaveOfTheScreen) {
+    const QRect visible{100, 30, 1000, 700}; // a panel above, a dock at the left
+    struct Case {
+        BannerPosition position;
+        QSize window;
+        QRect frame;
+    };
+    for (const Case& c : {
+             Case{BannerPosition::top, {300, 74}, {450, 42, 300, 74}},
+             Case{BannerPosition::middle, {300, 74}, {450, 343, 300, 74}},
+             Case{BannerPosition::bottom, {300, 74}, {450, 632, 300, 74}},
+             Case{BannerPosition::top, {1200, 74}, {0, 42, 1200, 74}},
+         })
+        EXPECT_EQ(bannerFrame(visible, c.window, c.position), c.frame) << c.frame.y();
+}
+
+TEST(BannerLayout, PutsPaddingAndMarginAroundTheRow) {
+    const BannerLayout one = layOutBanner({99.2, 16});
+    EXPECT_EQ(one.mark, (QRectF{32, 26, 22, 22}));
+    EXPECT_EQ(one.text, (QRectF{64, 29, 100, 16}));
+    EXPECT_EQ(one.symbol, (QRectF{174, 29, 16, 16}));
+    EXPECT_EQ(one.capsule, (QRectF{16, 16, 190, 42}));
+    EXPECT_EQ(one.window, (QSize{222, 74}));
+    const BannerLayout two = layOutBanner({380, 32});
+    EXPECT_EQ(two.window, (QSize{502, 84}));
+    EXPECT_EQ(two.mark.center().y(), two.capsule.center().y());
+}
+
+class BannerTextTest : public testing::Test {
+protected:
+    [[nodiscard]] QStringList wrap(const QString& text) const {
+        const BannerText result = wrapBannerText(text, font);
+        EXPECT_LE(result.width, 380);
+        return result.lines;
+    }
+
+    QFont font{QStringLiteral("sans"), 10};
+};
+
+TEST_F(BannerTextTest, WrapsIntoTwoLinesAndEndsTheSecondWithAnEllipsis) {
+    EXPECT_EQ(wrap(QString{}), QStringList{QString{}});
+    EXPECT_EQ(wrap(QStringLiteral("Sent")), QStringList{QStringLiteral("Sent")});
+    const QString words = QStringLiteral("word ").repeated(60);
+    const QStringList lines = wrap(words);
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_TRUE(lines[0].endsWith(QStringLiteral("word")));
+    EXPECT_TRUE(lines[1].endsWith(QChar{0x2026}));
+    EXPECT_GT(QFontMetricsF{font}.horizontalAdvance(lines[1]), 340);
+}
+
+TEST_F(BannerTextTest, BreaksAWordThatFitsNoLineBetweenItsCharacters) {
+    const QString family =
+        QStringLiteral("👨‍👩‍👧‍👦"); // one character to the eye, eleven code units
+    const QStringList lines = wrap(family.repeated(100));
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_EQ(lines[0].size() % family.size(), 0);
+    EXPECT_EQ((lines[1].size() - 1) % family.size(), 0);
+}
+
+TEST_F(BannerTextTest, KeepsLineBreaksAndMarksWhatComesAfterTheSecond) {
+    EXPECT_EQ(wrap(QStringLiteral("one\r\ntwo")),
+              (QStringList{QStringLiteral("one"), QStringLiteral("two")}));
+    EXPECT_EQ(wrap(QStringLiteral("one\ntwo\nthree")),
+              (QStringList{QStringLiteral("one"), QStringLiteral("two…")}));
+}
+
+} // namespace
+} // namespace quillon

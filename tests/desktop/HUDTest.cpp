@@ -1,0 +1,135 @@
+#include "desktop/HUD.h"
+#include "desktop/HUDPanel.h"
+#include "platform/Compositor.h"
+#include "support/FakeClock.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+namespace {
+
+using namespace std::chrono_literals;
+
+struct Blending : Compositor {
+    [[nodiscard]] bool active() const override { return on; }
+    bool on = true;
+};
+
+class HUDTest : public testing::Test {
+protected:
+    [[nodiscard]] bool visible() const { return hud.panel() && hud.panel()->isVisible(); }
+    [[nodiscard]] double alpha() const { return hud.panel()->alpha(); }
+    void good(bool sticky = false) { hud.show("Sent", "checkmark.circle.fill", true, sticky); }
+    void bad() { hud.show("No", "exclamationmark.triangle", false, false); }
+
+    test::FakeClock clock;
+    Blending compositor;
+    BannerPosition position = BannerPosition::top;
+    HUD hud{clock, compositor, [this] { return position; }};
+};
+
+TEST_F(HUDTest, FadesInStaysAsLongAsItsNewsDeservesAndFadesOut) {
+    for (const auto& [ok, stays] : {std::pair{true, 1800ms}, std::pair{false, 3500ms}}) {
+        SCOPED_TRACE(ok);
+        ok ? good() : bad();
+        EXPECT_TRUE(visible());
+        EXPECT_EQ(alpha(), 0);
+        clock.advance(90ms);
+        EXPECT_GT(alpha(), 0.2);
+        EXPECT_LT(alpha(), 0.8);
+        clock.advance(90ms);
+        EXPECT_EQ(alpha(), 1);
+        clock.advance(stays - 180ms - 1ms);
+        EXPECT_EQ(alpha(), 1);
+        clock.advance(1ms + 349ms);
+        EXPECT_TRUE(visible());
+        EXPECT_LT(alpha(), 0.01);
+        clock.advance(1ms);
+        EXPECT_FALSE(visible());
+    }
+}
+
+TEST_F(HUDTest, ANewBannerTakesTheTimeOfTheOldOne) {
+    bad();
+    const QWidget* const window = hud.panel();
+    clock.advance(3400ms);
+    good();
+    clock.advance(1799ms);
+    EXPECT_EQ(alpha(), 1);
+    clock.advance(1ms + 350ms);
+    EXPECT_FALSE(visible());
+    EXPECT_EQ(hud.panel(), window);
+}
+
+TEST_F(HUDTest, StaysWhileStickyUntilTheNextBannerEndsIt) {
+    good();
+    clock.advance(1s);
+    good(true);
+    clock.advance(24h);
+    EXPECT_EQ(alpha(), 1);
+    bad();
+    clock.advance(3500ms + 350ms);
+    EXPECT_FALSE(visible());
+}
+
+TEST_F(HUDTest, ComesBackFromFadingOut) {
+    good();
+    clock.advance(1800ms + 200ms);
+    const double faded = alpha();
+    EXPECT_LT(faded, 0.7);
+    good(true);
+    EXPECT_EQ(alpha(), faded);
+    clock.advance(180ms);
+    EXPECT_EQ(alpha(), 1);
+    clock.advance(1h);
+    EXPECT_TRUE(visible());
+}
+
+TEST_F(HUDTest, FadesToItsEndThoughTheTimeOfDayIsSetBack) {
+    good();
+    clock.advance(1800ms + 100ms);
+    clock.jump(-1h);
+    clock.advance(400ms);
+    EXPECT_FALSE(visible());
+}
+
+TEST_F(HUDTest, AChangedPositionMovesTheNextBanner) {
+    good();
+    const QRect top = hud.panel()->geometry();
+    EXPECT_EQ(top.y(), QGuiApplication::primaryScreen()->availableGeometry().y() + 12);
+    position = BannerPosition::bottom;
+    clock.advance(100ms);
+    EXPECT_EQ(hud.panel()->geometry(), top);
+    good();
+    EXPECT_GT(hud.panel()->geometry().y(), top.y() + 100);
+}
+
+TEST_F(HUDTest, IsASolidCapsuleThatComesAndGoesAtOnceWhereNothingBlends) {
+    compositor.on = false;
+    good();
+    EXPECT_EQ(alpha(), 1);
+    const QRect window = hud.panel()->rect();
+    const QRegion mask = hud.panel()->mask();
+    EXPECT_EQ(mask.boundingRect(), window.adjusted(16, 16, -16, -16));
+    EXPECT_FALSE(mask.contains(QPoint{17, 17}));
+    clock.advance(1800ms);
+    EXPECT_FALSE(visible());
+    compositor.on = true;
+    good();
+    EXPECT_TRUE(hud.panel()->mask().isEmpty());
+}
+
+TEST_F(HUDTest, IsNothingToMouseAndKeyboardAndIsReadAloud) {
+    hud.show("Sent to 📝 Notes & text", "checkmark.circle.fill", true, false);
+    EXPECT_EQ(hud.panel()->accessibleName().toStdString(), "Sent to 📝 Notes & text");
+    const Qt::WindowFlags flags = hud.panel()->windowFlags();
+    EXPECT_TRUE(flags.testFlag(Qt::WindowTransparentForInput));
+    EXPECT_TRUE(flags.testFlag(Qt::WindowDoesNotAcceptFocus));
+    EXPECT_FALSE(hud.panel()->isActiveWindow());
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,64 @@
+// Shows banners on the real display for taking pictures of them. Arguments: a position and then,
+// for each banner, "good" or "bad" and its text; banners follow one another after a second, and the
+// last one stays.
+#include "desktop/HUD.h"
+#include "platform/Clock.h"
+#include "platform/linux/X11Compositor.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+using namespace quillon;
+
+class WallClock : public Clock {
+public:
+    [[nodiscard]] Time now() const override { return std::chrono::system_clock::now(); }
+
+    [[nodiscard]] std::unique_ptr<Timer> after(std::chrono::milliseconds delay,
+                                               std::function<void()> action) override {
+        auto timer = std::make_unique<Single>();
+        timer->timer.setSingleShot(true);
+        timer->timer.setTimerType(Qt::PreciseTimer);
+        timer->timer.callOnTimeout(std::move(action));
+        timer->timer.start(delay);
+        return timer;
+    }
+
+private:
+    struct Single : Timer {
+        QTimer timer;
+    };
+};
+
+BannerPosition positionNamed(const QString& name) {
+    if (name == QLatin1String{"middle"}) return BannerPosition::middle;
+    return name == QLatin1String{"bottom"} ? BannerPosition::bottom : BannerPosition::top;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application{argc, argv};
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 4 || arguments.size() % 2 != 0) {
+        std::fputs("usage: banner_shots top|middle|bottom (good|bad TEXT)...\n", stderr);
+        return 2;
+    }
+    WallClock clock;
+    const X11Compositor compositor;
+    HUD hud{clock, compositor, [&] { return positionNamed(arguments[1]); }};
+    for (qsizetype i = 2; i < arguments.size(); i += 2) {
+        const bool good = arguments[i] == QLatin1String{"good"};
+        const bool last = i + 2 == arguments.size();
+        QTimer::singleShot(std::chrono::seconds{i / 2 - 1}, &application, [&, i, good, last] {
+            hud.show(arguments[i + 1].toStdString(),
+                     good ? "checkmark.circle.fill" : "exclamationmark.triangle", good, last);
+        });
+    }
+    return QApplication::exec();
+}
