@@ -71,6 +71,10 @@ void printText(std::string_view text) {
     std::cout << text << std::flush;
 }
 
+void printErrorText(std::string_view text) {
+    std::cerr << text << std::flush;
+}
+
 std::optional<std::string> readSecret(std::string_view prompt) {
     std::optional<EchoOff> echoOff;
     const bool terminal = isatty(STDIN_FILENO) != 0;

@@ -19,6 +19,7 @@ void print(std::string_view line);
 void printError(std::string_view line);
 /// Text with line breaks of its own, as it is.
 void printText(std::string_view text);
+void printErrorText(std::string_view text);
 
 /// The first line of standard input; asked for with `prompt` and without echo on a terminal. None
 /// when nothing comes.

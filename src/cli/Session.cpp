@@ -1,0 +1,91 @@
+#include "cli/Session.h"
+
+#include "analytics/Analytics.h"
+#include "cli/Commands.h"
+#include "cli/Detach.h"
+#include "cli/SpokenBanner.h"
+#include "cli/Terminal.h"
+#include "desktop/HUD.h"
+#include "desktop/HUDPanel.h"
+#include "platform/Sleep.h"
+#include "platform/linux/Display.h"
+#include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/MakePasteboard.h"
+#include "platform/linux/X11Compositor.h"
+#include "state/Store.h"
+
+#include <QApplication>
+#include <QTimer>
+
+namespace quillon {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+QCoro::Task<> untilHidden(const HUD& hud, Clock& clock) {
+    while (hud.panel() != nullptr && hud.panel()->isVisible()) {
+        co_await sleep(clock, 50ms);
+    }
+}
+
+QCoro::Task<> runToExit(Invocation invocation, CommandContext context) {
+    const int code = co_await runCommand(invocation, context);
+    QCoreApplication::exit(code);
+}
+
+QCoro::Task<> sendToExit(Invocation invocation, CommandContext context, const HUD& hud,
+                         Detach& detach) {
+    const int code = co_await runCommand(invocation, context);
+    if (hud.panel() != nullptr && hud.panel()->isVisible()) detach.release(code);
+    co_await untilHidden(hud, context.platform.clock);
+    QCoreApplication::exit(code);
+}
+
+} // namespace
+
+int Session::run(Invocation invocation, Detach& detach) {
+    if (!displayAnswers()) {
+        Terminal::printError("There is no clipboard to read: no X server answers.");
+        return exitFailed;
+    }
+    // The banner is an X11 window, also where the desktop offers Wayland as well.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+    int argc = 1;
+    char name[] = "quillon";
+    char* argv[] = {name, nullptr};
+    QApplication application{argc, argv};
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    LinuxPlatform services{makePasteboard()};
+    Platform& platform = services.platform();
+    Analytics analytics{platform};
+    const X11Compositor compositor;
+    Store* settings = nullptr;
+    HUD hud{platform.clock, compositor, [&settings] { return settings->config().bannerPosition; }};
+    SpokenBanner banner{&hud};
+    Store store{platform, analytics, banner};
+    settings = &store;
+
+    QTimer::singleShot(0, &store, [&] {
+        sendToExit(invocation, {platform, store, banner}, hud, detach);
+    });
+    return QApplication::exec();
+}
+
+int Session::run(Invocation invocation) {
+    int argc = 1;
+    char name[] = "quillon";
+    char* argv[] = {name, nullptr};
+    QCoreApplication application{argc, argv};
+    LinuxPlatform services{nullptr};
+    Platform& platform = services.platform();
+    Analytics analytics{platform};
+    SpokenBanner banner{nullptr};
+    Store store{platform, analytics, banner};
+
+    QTimer::singleShot(0, &store, [&] { runToExit(invocation, {platform, store, banner}); });
+    return QCoreApplication::exec();
+}
+
+} // namespace quillon

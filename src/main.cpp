@@ -1,0 +1,31 @@
+#include "cli/CommandLine.h"
+#include "cli/Detach.h"
+#include "cli/Session.h"
+#include "cli/Terminal.h"
+#include "platform/linux/Hardening.h"
+
+#include <csignal>
+
+int main(int argc, char** argv) {
+    using namespace quillon;
+    keepOutOfCoreDumps();
+    std::signal(SIGPIPE, SIG_IGN);
+
+    const auto invocation = parseCommandLine({argv + 1, argv + argc});
+    if (!invocation) {
+        Terminal::printErrorText(helpText());
+        return exitUsage;
+    }
+    switch (invocation->command) {
+    case Command::help:
+        Terminal::printText(helpText());
+        return exitDone;
+    case Command::version:
+        Terminal::print("quillon " QUILLON_VERSION);
+        return exitDone;
+    case Command::send:
+        return Detach::run([&](Detach& detach) { return Session::run(*invocation, detach); });
+    default:
+        return Session::run(*invocation);
+    }
+}

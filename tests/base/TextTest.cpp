@@ -1,0 +1,127 @@
+#include "base/Text.h"
+#include "base/Graphemes.h"
+
+#include <unicode/brkiter.h>
+#include <unicode/utext.h>
+
+#include <gmock/gmock.h>
+
+#include <random>
+
+using namespace quillon;
+using testing::ElementsAre;
+
+namespace {
+
+std::string repeated(std::string_view piece, std::size_t count) {
+    std::string text;
+    while (count-- > 0) {
+        text += piece;
+    }
+    return text;
+}
+
+std::vector<std::size_t> sizes(const std::vector<std::string_view>& pieces) {
+    std::vector<std::size_t> all;
+    for (const std::string_view piece : pieces) {
+        all.push_back(piece.size());
+    }
+    return all;
+}
+
+constexpr TextLimit roomy{.characters = 3900, .codePoints = 1'000'000};
+
+} // namespace
+
+TEST(Text, TrimsTheWhiteSpaceItSays) {
+    EXPECT_EQ(trimmed(" \t\r\n\u00A0\u2028\u3000x y\u0085\u2003 \n"), "x y");
+    EXPECT_EQ(trimmed(" \n\u2029 "), "");
+    EXPECT_EQ(trimmed("\u200Bx"), "\u200Bx") << "a zero-width space is no white space";
+    EXPECT_EQ(trimmedSpaces("\u00A0\t x \u3000"), "x");
+    EXPECT_EQ(trimmedSpaces("\n x \n"), "\n x \n") << "line breaks stay";
+    EXPECT_EQ(trimmed("\xFF \xFF"), "\xFF \xFF") << "invalid bytes are no space";
+}
+
+TEST(Text, FindsTheFirstLineThatIsNotEmpty) {
+    EXPECT_EQ(firstLine("\n\r\n first\nsecond"), " first");
+    EXPECT_EQ(firstLine("\u0085\u2028one\u2029two"), "one");
+    EXPECT_EQ(firstLine("one\vtwo"), "one");
+    EXPECT_EQ(firstLine("   \nx"), "   ") << "blank is not empty";
+    EXPECT_EQ(firstLine("\n\n"), "\n\n") << "no such line: the whole text";
+    EXPECT_EQ(firstLine("no end"), "no end");
+}
+
+TEST(Text, RepairsInvalidUtf8AndNothingElse) {
+    EXPECT_EQ(validUtf8("grün 👩‍👩‍👧"), "grün 👩‍👩‍👧");
+    EXPECT_EQ(validUtf8("a\xFF"
+                        "b"),
+              "a\uFFFDb");
+    EXPECT_EQ(validUtf8("\xED\xA0\x80"), "\uFFFD\uFFFD\uFFFD") << "a surrogate half";
+    EXPECT_EQ(validUtf8("x\xE2\x82"), "x\uFFFD") << "cut in the middle";
+}
+
+TEST(Text, CutsBetweenUserPerceivedCharacters) {
+    const std::string family = "👨‍👩‍👧‍👦"; // 7 code points
+    EXPECT_EQ(firstCharacters(family + "ab", 2), family + "a");
+    EXPECT_EQ(firstCharacters("e\u0301\u0302x", 1), "e\u0301\u0302");
+    EXPECT_EQ(firstCharacters("\r\nx", 1), "\r\n");
+    EXPECT_EQ(firstCharacters("🇩🇪🇫🇷🇮🇹", 2), "🇩🇪🇫🇷");
+    EXPECT_EQ(firstCharacters("한국", 1), "한") << "jamo join to one syllable";
+    EXPECT_EQ(firstCharacters("abc", 9), "abc");
+    EXPECT_EQ(firstCharacters("", 3), "");
+    EXPECT_EQ(prefix(family + family, {.characters = 9, .codePoints = 13}), family)
+        << "two families have 14 code points";
+    const std::string zalgo = "a" + repeated("\u0301", 10);
+    EXPECT_EQ(prefix(zalgo, {.characters = 1, .codePoints = 4}), "a\u0301\u0301\u0301")
+        << "one character over the limit is cut all the same";
+}
+
+TEST(Text, CutsIntoChunksThatJoinToTheText) {
+    EXPECT_THAT(sizes(chunks(repeated("x", 8000), roomy)), ElementsAre(3900, 3900, 200));
+    EXPECT_THAT(sizes(chunks(repeated("x", 3900), roomy)), ElementsAre(3900));
+    EXPECT_TRUE(chunks("", roomy).empty());
+
+    const std::string families = repeated("👨‍👩‍👧‍👦", 1000);
+    const auto pieces = chunks(families, {.characters = 3900, .codePoints = 4096});
+    EXPECT_THAT(sizes(pieces), ElementsAre(585 * 25, 415 * 25)) << "585 families have 4,095 code "
+                                                                   "points and 14,625 bytes";
+    std::string joined;
+    for (const std::string_view piece : pieces) {
+        joined += piece;
+    }
+    EXPECT_EQ(joined, families);
+}
+
+TEST(Text, EscapesAmpersandsOnce) {
+    EXPECT_EQ(escapedHtml("<a & b> &lt;"), "&lt;a &amp; b&gt; &amp;lt;");
+    EXPECT_EQ(escapedHtml("\"plain\" 'text'"), "\"plain\" 'text'");
+}
+
+// The cursor takes a short cut for most neighbours; ICU alone decides the same text here.
+TEST(Graphemes, AgreeWithIcuOnRandomText) {
+    const std::vector<std::string> alphabet{
+        "a",  " ",  "\n", "\r",     "\r\n", "é", "e\u0301", "👍",    "🏽", "\u200D",
+        "👩",  "🇩",  "🇪",  "\uFE0F", "क",    "्",  "ष",       "ि",    "한",   "ᄒ",
+        "ᅡ", "ᆫ", "가", "\u0600", "ไ",    "ำ", "\u200B",  "\xFF", "中"};
+    std::mt19937 random{7};
+    for (int round = 0; round < 2000; ++round) {
+        std::string text;
+        for (int piece = 0; piece < 12; ++piece) {
+            text += alphabet[random() % alphabet.size()];
+        }
+        UErrorCode status = U_ZERO_ERROR;
+        UText* opened =
+            utext_openUTF8(nullptr, text.data(), static_cast<std::int64_t>(text.size()), &status);
+        const std::unique_ptr<icu::BreakIterator> icuBreaks{
+            icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status)};
+        icuBreaks->setText(opened, status);
+        GraphemeCursor cursor{text};
+        for (std::int32_t end = icuBreaks->next(); end != icu::BreakIterator::DONE;
+             end = icuBreaks->next()) {
+            ASSERT_EQ(cursor.next().end, static_cast<std::size_t>(end))
+                << testing::PrintToString(text);
+        }
+        ASSERT_EQ(cursor.next().codePoints, 0U);
+        utext_close(opened);
+    }
+}

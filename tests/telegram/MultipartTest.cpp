@@ -1,0 +1,56 @@
+#include "telegram/Multipart.h"
+
+#include <gmock/gmock.h>
+
+using namespace quillon;
+
+namespace {
+
+std::string whole(const MultipartBody& body) {
+    std::string bytes;
+    for (const QByteArray& piece : body.pieces) {
+        bytes += piece.toStdString();
+    }
+    return bytes;
+}
+
+} // namespace
+
+TEST(Multipart, IsWrittenToTheByte) {
+    const Json params{{"chat_id", -1001234567890}, {"flag", true}, {"caption", "\"ü\"\r\n"}};
+    const Upload upload{.field = "photo",
+                        .filename = "grün \"1\".png",
+                        .data = QByteArray{"\0\r\n--qln", 8},
+                        .mime = "image/png"};
+    const MultipartBody body = encodeMultipart(params, upload, "qln-B");
+    EXPECT_EQ(body.contentType, "multipart/form-data; boundary=qln-B");
+    const std::string expected =
+        "--qln-B\r\nContent-Disposition: form-data; name=\"chat_id\"\r\n\r\n"
+        "-1001234567890\r\n"
+        "--qln-B\r\nContent-Disposition: form-data; name=\"flag\"\r\n\r\n"
+        "true\r\n"
+        "--qln-B\r\nContent-Disposition: form-data; name=\"caption\"\r\n\r\n"
+        "\"ü\"\r\n\r\n"
+        "--qln-B\r\nContent-Disposition: form-data; name=\"photo\"; "
+        "filename=\"grün '1'.png\"\r\nContent-Type: image/png\r\n\r\n" +
+        std::string("\0\r\n--qln", 8) + "\r\n--qln-B--\r\n";
+    EXPECT_EQ(whole(body), expected);
+    EXPECT_EQ(body.pieces.at(1).constData(), upload.data.constData()) << "the file was copied";
+}
+
+TEST(Multipart, KeepsHostileFileNamesInsideTheirHeader) {
+    const Upload upload{.field = "document",
+                        .filename = std::string{"a\r\nX-Evil: 1\r\n\r\n\0b\xFF", 19},
+                        .data = {},
+                        .mime = "application/octet-stream"};
+    const std::string body = whole(encodeMultipart(Json::object(), upload, "qln-B"));
+    EXPECT_EQ(body, "--qln-B\r\nContent-Disposition: form-data; name=\"document\"; "
+                    "filename=\"a  X-Evil: 1     b\uFFFD\"\r\n"
+                    "Content-Type: application/octet-stream\r\n\r\n\r\n--qln-B--\r\n");
+}
+
+TEST(Multipart, HasANewBoundaryEachTime) {
+    const std::string boundary = makeBoundary();
+    EXPECT_THAT(boundary, testing::MatchesRegex("qln-[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}"));
+    EXPECT_NE(makeBoundary(), boundary);
+}
