@@ -1,0 +1,72 @@
+#include "platform/linux/X11Connection.h"
+
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace quillon {
+
+namespace {
+
+xcb_window_t rootWindow(xcb_connection_t* connection, int screen) {
+    auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
+    for (; screens.rem > 1 && screen > 0; --screen)
+        xcb_screen_next(&screens);
+    return screens.rem > 0 ? screens.data->root : xcb_window_t{XCB_WINDOW_NONE};
+}
+
+/// For poll(2): rounded up, so that a sleep never ends just before its deadline; -1 for no
+/// deadline.
+int millisecondsUntil(std::optional<X11Connection::Time> deadline) {
+    if (!deadline) return -1;
+    const auto left = *deadline - std::chrono::steady_clock::now();
+    const auto rounded = std::chrono::ceil<std::chrono::milliseconds>(left).count();
+    return static_cast<int>(std::clamp<std::int64_t>(rounded, 0, 60'000));
+}
+
+} // namespace
+
+std::unique_ptr<X11Connection> X11Connection::open(const char* display) {
+    int screen = 0;
+    xcb_connection_t* connection = xcb_connect(display, &screen); // never null
+    if (xcb_connection_has_error(connection) == 0) {
+        const xcb_window_t root = rootWindow(connection, screen);
+        const int bell = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+        if (root != XCB_WINDOW_NONE && bell >= 0) {
+            return std::unique_ptr<X11Connection>{new X11Connection{connection, root, bell}};
+        }
+        if (bell >= 0) close(bell);
+    }
+    xcb_disconnect(connection);
+    return nullptr;
+}
+
+X11Connection::X11Connection(xcb_connection_t* connection, xcb_window_t root, int bell)
+    : connection_{connection},
+      root_{root},
+      bell_{bell} {}
+
+X11Connection::~X11Connection() {
+    xcb_disconnect(connection_);
+    close(bell_);
+}
+
+void X11Connection::ring() const {
+    eventfd_write(bell_, 1);
+}
+
+void X11Connection::sleep(std::optional<Time> deadline) const {
+    xcb_flush(connection_);
+    // The socket of a dead server is always "readable": poll ignores a negative descriptor.
+    const int socket = alive() ? xcb_get_file_descriptor(connection_) : -1;
+    std::array<pollfd, 2> sources{{{bell_, POLLIN, 0}, {socket, POLLIN, 0}}};
+    poll(sources.data(), sources.size(), millisecondsUntil(deadline));
+    eventfd_t rung = 0;
+    eventfd_read(bell_, &rung);
+}
+
+} // namespace quillon

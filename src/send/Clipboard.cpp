@@ -1,0 +1,113 @@
+#include "send/Clipboard.h"
+
+#include "base/Text.h"
+#include "platform/Pasteboard.h"
+#include "send/ClipboardFormats.h"
+#include "send/PngConversion.h"
+
+#include <QBuffer>
+#include <QCoroFuture>
+#include <QImageReader>
+
+#include <utility>
+
+namespace quillon::Clipboard {
+
+namespace {
+
+using Names = std::vector<std::string>;
+using Paths = std::vector<std::filesystem::path>;
+
+/// Looks taken at a clipboard that changes while it is being read.
+constexpr int maximumLooks = 3;
+
+QCoro::Task<std::optional<QByteArray>> bytesOf(Pasteboard& pasteboard, std::string format) {
+    const QFuture<std::optional<QByteArray>> answer = pasteboard.data(std::move(format));
+    co_return co_await answer;
+}
+
+QCoro::Task<Paths> readFiles(Pasteboard& pasteboard, Names offered) {
+    const auto format = ClipboardFormats::fileList(offered);
+    if (!format) co_return Paths{};
+    const auto list = co_await bytesOf(pasteboard, *format);
+    co_return list ? ClipboardFormats::decodedPaths(*list) : Paths{};
+}
+
+QCoro::Task<std::optional<std::string>> readText(Pasteboard& pasteboard, Names offered) {
+    const auto format = ClipboardFormats::text(offered);
+    if (!format) co_return std::nullopt;
+    const auto text = co_await bytesOf(pasteboard, format->name);
+    if (!text) co_return std::nullopt;
+    co_return ClipboardFormats::decodedText(*text, format->coding);
+}
+
+/// As PNG.
+QCoro::Task<std::optional<QByteArray>> readImage(Pasteboard& pasteboard, Names offered) {
+    if (const auto format = ClipboardFormats::png(offered)) {
+        const auto png = co_await bytesOf(pasteboard, *format);
+        if (png && !png->isEmpty()) co_return png;
+    }
+    if (const auto format = ClipboardFormats::otherBitmap(offered)) {
+        const auto bitmap = co_await bytesOf(pasteboard, *format);
+        const QFuture<std::optional<QByteArray>> png = convertToPng(bitmap.value_or(QByteArray{}));
+        co_return co_await png;
+    }
+    co_return std::nullopt;
+}
+
+QCoro::Task<ClipContent> look(Pasteboard& pasteboard) {
+    const QFuture<Names> answer = pasteboard.formats();
+    const Names offered = co_await answer;
+    Paths paths = co_await readFiles(pasteboard, offered);
+    if (!paths.empty()) co_return ClipFiles{std::move(paths)};
+    std::optional<std::string> text = co_await readText(pasteboard, offered);
+    std::optional<QByteArray> png = co_await readImage(pasteboard, offered);
+    if (png) co_return ClipImage{std::move(*png), std::move(text)};
+    if (text && !trimmed(*text).empty()) co_return ClipText{std::move(*text)};
+    co_return ClipEmpty{};
+}
+
+Summary summaryOf(const ClipFiles& files) {
+    if (files.paths.size() != 1) {
+        return {"doc.on.doc", std::to_string(files.paths.size()) + " files"};
+    }
+    const std::filesystem::path& path = files.paths.front();
+    const std::filesystem::path name = path.has_filename() ? path.filename() : path; // "/"
+    return {"doc", validUtf8(name.native())};
+}
+
+Summary summaryOf(const ClipImage& image) {
+    QBuffer buffer;
+    buffer.setData(image.png);
+    const QSize size = QImageReader{&buffer}.size();
+    if (size.isEmpty()) return {"photo", "Image"};
+    return {"photo",
+            "Image · " + std::to_string(size.width()) + "×" + std::to_string(size.height())};
+}
+
+Summary summaryOf(const ClipText& text) {
+    std::string line{trimmedSpaces(firstLine(text.text))};
+    return {"text.alignleft", "“" + line + "”"};
+}
+
+Summary summaryOf(const ClipEmpty& /*empty*/) {
+    return {"clipboard", "The clipboard is empty"};
+}
+
+} // namespace
+
+QCoro::Task<ClipContent> read(Pasteboard& pasteboard) {
+    for (int looks = 1;; ++looks) {
+        const auto before = pasteboard.changeCount();
+        ClipContent content = co_await look(pasteboard);
+        // Formats of one owner and data of another make no content.
+        const bool changed = pasteboard.changeCount() != before;
+        if (!changed || looks == maximumLooks) co_return content;
+    }
+}
+
+Summary summary(const ClipContent& content) {
+    return std::visit([](const auto& kind) { return summaryOf(kind); }, content);
+}
+
+} // namespace quillon::Clipboard

@@ -1,0 +1,184 @@
+#include "send/ClipboardFormats.h"
+
+#include "base/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace quillon::ClipboardFormats {
+
+namespace {
+
+// The tables name the formats in lower case, the best first.
+
+constexpr std::array fileListNames{
+    std::string_view{"text/uri-list"}, // RFC 2483
+    std::string_view{"x-special/gnome-copied-files"},
+    std::string_view{"x-special/mate-copied-files"},
+};
+
+struct TextEntry {
+    std::string_view name;
+    TextCoding coding;
+};
+
+// UTF8_STRING first: some toolkits rewrite line ends for the media types.
+constexpr std::array textTable{
+    TextEntry{"utf8_string", TextCoding::utf8},
+    TextEntry{"text/plain;charset=utf-8", TextCoding::utf8},
+    TextEntry{"text/plain; charset=utf-8", TextCoding::utf8},
+    TextEntry{"text/plain;charset=utf8", TextCoding::utf8},
+    TextEntry{"text/plain", TextCoding::utf8},
+    TextEntry{"string", TextCoding::latin1},
+};
+
+constexpr std::array pngNames{std::string_view{"image/png"}};
+
+// After TIFF, those without loss first.
+constexpr std::array otherBitmapNames{
+    std::string_view{"image/tiff"},   std::string_view{"image/bmp"},
+    std::string_view{"image/x-bmp"},  std::string_view{"image/x-ms-bmp"},
+    std::string_view{"image/webp"},   std::string_view{"image/jpeg"},
+    std::string_view{"image/jpg"},    std::string_view{"image/gif"},
+    std::string_view{"image/x-icon"}, std::string_view{"image/vnd.microsoft.icon"},
+};
+
+std::optional<std::string> spelling(std::string_view name,
+                                    const std::vector<std::string>& offered) {
+    for (const std::string& candidate : offered) {
+        if (lowercasedAscii(candidate) == name) return candidate;
+    }
+    return {};
+}
+
+std::optional<std::string> best(std::span<const std::string_view> names,
+                                const std::vector<std::string>& offered) {
+    for (const std::string_view name : names) {
+        if (auto found = spelling(name, offered)) return found;
+    }
+    return {};
+}
+
+std::string_view viewOf(const QByteArray& bytes) {
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+std::string_view withoutTrailingNul(std::string_view bytes) {
+    return bytes.substr(0, bytes.find_last_not_of('\0') + 1);
+}
+
+std::optional<unsigned> hexDigit(char digit) {
+    if (digit >= '0' && digit <= '9') return static_cast<unsigned>(digit - '0');
+    const char small = static_cast<char>(digit | 0x20);
+    if (small >= 'a' && small <= 'f') return static_cast<unsigned>(small - 'a') + 10;
+    return {};
+}
+
+/// A "%" that two hexadecimal digits do not follow stands for itself: not every owner encodes it.
+std::string percentDecoded(std::string_view text) {
+    std::string decoded;
+    decoded.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '%' && i + 2 < text.size()) {
+            const auto high = hexDigit(text[i + 1]);
+            const auto low = hexDigit(text[i + 2]);
+            if (high && low) {
+                decoded += static_cast<char>(*high * 16 + *low);
+                i += 2;
+                continue;
+            }
+        }
+        decoded += text[i];
+    }
+    return decoded;
+}
+
+/// What follows "file:" and, where there is one, the name of this machine; none for other URLs.
+std::optional<std::string_view> encodedPath(std::string_view url) {
+    constexpr std::string_view scheme = "file:";
+    constexpr std::string_view localHost = "localhost";
+    if (lowercasedAscii(url.substr(0, scheme.size())) != scheme) return {};
+    url.remove_prefix(scheme.size());
+    if (!url.starts_with("//")) return url;
+    url.remove_prefix(2);
+    if (lowercasedAscii(url.substr(0, localHost.size())) == localHost) {
+        url.remove_prefix(localHost.size());
+    }
+    return url;
+}
+
+std::optional<std::filesystem::path> decodedPath(std::string_view url) {
+    const auto encoded = encodedPath(url);
+    if (!encoded || !encoded->starts_with('/')) return {};
+    std::string path = percentDecoded(*encoded);
+    if (path.find('\0') != std::string::npos) return {};
+    while (path.size() > 1 && path.ends_with('/'))
+        path.pop_back();
+    return std::filesystem::path{std::move(path)};
+}
+
+std::vector<std::string_view> lines(std::string_view list) {
+    std::vector<std::string_view> found;
+    while (!list.empty()) {
+        const auto end = std::min(list.find_first_of("\r\n"), list.size());
+        if (end > 0) found.push_back(list.substr(0, end));
+        list.remove_prefix(std::min(end + 1, list.size()));
+    }
+    return found;
+}
+
+std::string utf8FromLatin1(std::string_view text) {
+    std::string utf8;
+    utf8.reserve(text.size());
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < 0x80) {
+            utf8 += c;
+        } else {
+            utf8 += static_cast<char>(0xc0 | (byte >> 6));
+            utf8 += static_cast<char>(0x80 | (byte & 0x3f));
+        }
+    }
+    return utf8;
+}
+
+} // namespace
+
+std::optional<std::string> fileList(const std::vector<std::string>& offered) {
+    return best(fileListNames, offered);
+}
+
+std::optional<TextFormat> text(const std::vector<std::string>& offered) {
+    for (const TextEntry& entry : textTable) {
+        if (auto name = spelling(entry.name, offered)) return TextFormat{*name, entry.coding};
+    }
+    return {};
+}
+
+std::optional<std::string> png(const std::vector<std::string>& offered) {
+    return best(pngNames, offered);
+}
+
+std::optional<std::string> otherBitmap(const std::vector<std::string>& offered) {
+    return best(otherBitmapNames, offered);
+}
+
+std::vector<std::filesystem::path> decodedPaths(const QByteArray& list) {
+    // The comments of text/uri-list and the "copy" or "cut" of the desktops' own lists are no file
+    // URLs and go the way of web links.
+    std::vector<std::filesystem::path> paths;
+    for (const std::string_view line : lines(withoutTrailingNul(viewOf(list)))) {
+        if (auto path = decodedPath(line)) paths.push_back(std::move(*path));
+    }
+    return paths;
+}
+
+std::string decodedText(const QByteArray& bytes, TextCoding coding) {
+    const std::string_view text = withoutTrailingNul(viewOf(bytes));
+    return coding == TextCoding::latin1 ? utf8FromLatin1(text) : validUtf8(text);
+}
+
+} // namespace quillon::ClipboardFormats

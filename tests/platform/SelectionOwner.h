@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <xcb/xcb.h>
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <map>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace quillon::test {
+
+/// An owner of the clipboard that answers as well or as badly as a test wants, in a thread of its
+/// own.
+class SelectionOwner {
+public:
+    using Request = xcb_selection_request_event_t;
+    using Answer = std::function<void(SelectionOwner&, const Request&)>;
+
+    /// Owns the clipboard when it returns. Targets that are not in `answers` are refused, except
+    /// that TARGETS lists the others when nothing else is said.
+    SelectionOwner(const char* display, std::map<std::string, Answer> answers);
+    SelectionOwner(const SelectionOwner&) = delete;
+    SelectionOwner& operator=(const SelectionOwner&) = delete;
+    ~SelectionOwner();
+
+    /// How many requests have come in.
+    [[nodiscard]] int requests() const { return requests_; }
+
+    // What an answer is made of; on the owner's thread.
+    void write(const Request& request, const std::string& type, std::uint8_t format,
+               const QByteArray& value);
+    void notify(const Request& request, bool refused = false);
+    /// Sends the pieces one by one as the requestor takes them, each `pause` after the last was
+    /// taken, and the empty piece that ends them if `finish`.
+    void writePieces(const Request& request, const std::string& type,
+                     const std::vector<QByteArray>& pieces, std::chrono::milliseconds pause,
+                     bool finish = true);
+    /// Drops the connection: nothing is answered any more.
+    void vanish();
+
+private:
+    void run();
+    void answer(const Request& request);
+    bool waitUntilTaken(const Request& request);
+    xcb_atom_t atom(const std::string& name);
+    std::string name(xcb_atom_t atom);
+
+    std::map<std::string, Answer> answers_;
+    xcb_connection_t* connection_;
+    xcb_window_t window_ = XCB_WINDOW_NONE;
+    std::atomic<int> requests_ = 0;
+    std::atomic<bool> stopped_ = false;
+    std::thread thread_;
+};
+
+/// The whole value at once.
+SelectionOwner::Answer whole(QByteArray value, std::string type, std::uint8_t format = 8);
+/// No answer, ever.
+SelectionOwner::Answer silence();
+
+} // namespace quillon::test

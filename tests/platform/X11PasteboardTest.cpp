@@ -1,0 +1,220 @@
+#include "platform/linux/X11Pasteboard.h"
+
+#include "platform/SelectionOwner.h"
+#include "platform/linux/MakePasteboard.h"
+#include "support/Await.h"
+#include "support/XServer.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+namespace {
+
+using std::chrono_literals::operator""ms;
+using testing::Contains;
+using testing::IsEmpty;
+
+constexpr qint64 promptly = 800; // ms: sooner than the reader's patience
+
+class X11PasteboardTest : public testing::Test {
+protected:
+    std::optional<QByteArray> data(const char* format) { return await(pasteboard->data(format)); }
+
+    XServer server;
+    std::unique_ptr<X11Pasteboard> pasteboard = X11Pasteboard::open(server.display());
+};
+
+/// The xclip program as the clipboard's owner.
+struct Xclip {
+    Xclip(const XServer& server, const QByteArray& content, const char* target) {
+        const auto text = [](const char* latin) { return QString::fromLatin1(latin); };
+        process.start(text("xclip"),
+                      {text("-quiet"), text("-display"), text(server.display()), text("-selection"),
+                       text("clipboard"), text("-t"), text(target), text("-in")});
+        process.write(content);
+        process.closeWriteChannel();
+    }
+    ~Xclip() {
+        process.kill();
+        process.waitForFinished();
+    }
+    Xclip(const Xclip&) = delete;
+    Xclip& operator=(const Xclip&) = delete;
+
+    QProcess process;
+};
+
+/// The longest time between two turns of the event loop while it lives, in milliseconds.
+class LongestGap {
+public:
+    LongestGap() {
+        QObject::connect(&timer_, &QTimer::timeout, &timer_,
+                         [this] { longest_ = std::max(longest_, clock_.restart()); });
+        clock_.start();
+        timer_.start(1);
+    }
+    [[nodiscard]] qint64 milliseconds() const { return std::max(longest_, clock_.elapsed()); }
+
+private:
+    QTimer timer_;
+    QElapsedTimer clock_;
+    qint64 longest_ = 0;
+};
+
+} // namespace
+
+TEST_F(X11PasteboardTest, ReadsWhatAnotherProgramCopied) {
+    QByteArray content{5'000'000, 'x'}; // more than one property holds
+    content[4'999'999] = '\0';
+    const Xclip owner{server, content, "image/png"};
+    ASSERT_TRUE(waitUntil([&] { return pasteboard->changeCount() > 0; }));
+    EXPECT_THAT(await(pasteboard->formats()), Contains("image/png"));
+    EXPECT_TRUE(data("image/png") == content);
+    EXPECT_EQ(data("a target that no program ever named"), std::nullopt);
+}
+
+TEST_F(X11PasteboardTest, CountsCopiesAndTheOwnersEnd) {
+    EXPECT_THAT(await(pasteboard->formats()), IsEmpty());
+    const auto atFirst = pasteboard->changeCount();
+    auto owner = std::make_unique<SelectionOwner>(
+        server.display(), std::map<std::string, SelectionOwner::Answer>{
+                              {"UTF8_STRING", whole("one", "UTF8_STRING")}});
+    EXPECT_EQ(data("UTF8_STRING"), "one");
+    const auto copied = pasteboard->changeCount();
+    EXPECT_GT(copied, atFirst);
+    EXPECT_EQ(data("UTF8_STRING"), "one");
+    EXPECT_EQ(pasteboard->changeCount(), copied);
+    owner.reset();
+    EXPECT_TRUE(waitUntil([&] { return pasteboard->changeCount() > copied; }));
+    EXPECT_THAT(await(pasteboard->formats()), IsEmpty());
+}
+
+TEST_F(X11PasteboardTest, GivesUpOnAnOwnerThatHangsAndHoldsUpNobody) {
+    const SelectionOwner owner{server.display(), {{"TARGETS", silence()}}};
+    QElapsedTimer clock;
+    clock.start();
+    const LongestGap gap;
+    EXPECT_THAT(await(pasteboard->formats()), IsEmpty());
+    EXPECT_GE(clock.elapsed(), 990);
+    EXPECT_LT(clock.elapsed(), 2000);
+    EXPECT_LT(gap.milliseconds(), 200);
+}
+
+TEST_F(X11PasteboardTest, TakesNoLateAnswerForALaterQuestion) {
+    std::vector<SelectionOwner::Request> asked;
+    const auto answerBelatedly = [&](SelectionOwner& owner,
+                                     const SelectionOwner::Request& request) {
+        asked.push_back(request);
+        if (asked.size() < 2) return;
+        whole("late", "UTF8_STRING")(owner, asked.front());
+        whole("right", "UTF8_STRING")(owner, request);
+    };
+    const SelectionOwner owner{server.display(), {{"UTF8_STRING", answerBelatedly}}};
+    EXPECT_EQ(data("UTF8_STRING"), std::nullopt);
+    EXPECT_EQ(data("UTF8_STRING"), "right");
+}
+
+TEST_F(X11PasteboardTest, StopsWaitingWhenTheClipboardGetsANewOwner) {
+    const SelectionOwner hanging{server.display(), {{"UTF8_STRING", silence()}}};
+    QElapsedTimer clock;
+    clock.start();
+    const auto first = pasteboard->data("UTF8_STRING");
+    ASSERT_TRUE(waitUntil([&] { return hanging.requests() == 1; }));
+    const SelectionOwner owner{server.display(), {{"UTF8_STRING", whole("new", "UTF8_STRING")}}};
+    EXPECT_EQ(await(first), std::nullopt);
+    EXPECT_EQ(data("UTF8_STRING"), "new");
+    EXPECT_LT(clock.elapsed(), promptly);
+}
+
+TEST_F(X11PasteboardTest, ReceivesPiecesAsLongAsTheyKeepComing) {
+    const auto dribble = [](SelectionOwner& owner, const SelectionOwner::Request& request) {
+        owner.writePieces(request, "UTF8_STRING", {"a", "bc", "d"}, 450ms);
+    };
+    const auto stall = [](SelectionOwner& owner, const SelectionOwner::Request& request) {
+        owner.writePieces(request, "text/html", {"<p>"}, 0ms, false);
+    };
+    const auto vanish = [](SelectionOwner& owner, const SelectionOwner::Request& request) {
+        owner.writePieces(request, "image/png", {"a", "b"}, 0ms, false);
+        owner.vanish();
+    };
+    const SelectionOwner owner{
+        server.display(), {{"UTF8_STRING", dribble}, {"text/html", stall}, {"image/png", vanish}}};
+    EXPECT_EQ(data("UTF8_STRING"), "abcd");
+    EXPECT_EQ(data("text/html"), std::nullopt);
+    EXPECT_EQ(data("UTF8_STRING"), "abcd");
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(data("image/png"), std::nullopt);
+    EXPECT_LT(clock.elapsed(), promptly);
+}
+
+TEST_F(X11PasteboardTest, TakesNoAnswerOfAWrongType) {
+    const auto pieces = [](SelectionOwner& owner, const SelectionOwner::Request& request) {
+        owner.writePieces(request, "STRING", {"caf\xe9"}, 0ms);
+    };
+    const auto huge = [](SelectionOwner& owner, const SelectionOwner::Request& request) {
+        owner.write(request, "INCR", 32, QByteArray(4, '\x7f'));
+        owner.notify(request);
+    };
+    const auto nothing = [](SelectionOwner& owner, const SelectionOwner::Request& request) {
+        owner.notify(request);
+    };
+    const SelectionOwner owner{server.display(),
+                               {{"TARGETS", whole("1234", "STRING")},
+                                {"UTF8_STRING", pieces},
+                                {"STRING", whole("caf\xc3\xa9", "UTF8_STRING")},
+                                {"image/png", whole("1234", "ATOM", 32)},
+                                {"image/bmp", huge},
+                                {"image/tiff", nothing},
+                                {"text/plain", whole("text", "STRING")}}};
+    EXPECT_THAT(await(pasteboard->formats()), IsEmpty());
+    for (const char* format : {"UTF8_STRING", "STRING", "image/png", "image/bmp", "image/tiff"}) {
+        EXPECT_EQ(data(format), std::nullopt) << format;
+    }
+    EXPECT_EQ(data("text/plain"), "text");
+}
+
+TEST_F(X11PasteboardTest, FinishesWhatIsOutstandingWhenDestroyed) {
+    const SelectionOwner owner{server.display(), {{"UTF8_STRING", silence()}}};
+    const auto first = pasteboard->data("UTF8_STRING");
+    const auto second = pasteboard->formats();
+    ASSERT_TRUE(waitUntil([&] { return owner.requests() == 1; }));
+    QElapsedTimer clock;
+    clock.start();
+    pasteboard.reset();
+    EXPECT_LT(clock.elapsed(), promptly);
+    EXPECT_EQ(await(first), std::nullopt);
+    EXPECT_THAT(await(second), IsEmpty());
+}
+
+TEST_F(X11PasteboardTest, SurvivesItsServer) {
+    const SelectionOwner owner{server.display(), {{"UTF8_STRING", silence()}}};
+    const auto before = pasteboard->data("UTF8_STRING");
+    ASSERT_TRUE(waitUntil([&] { return owner.requests() == 1; }));
+    const auto changes = pasteboard->changeCount();
+    QElapsedTimer clock;
+    clock.start();
+    server.stop();
+    EXPECT_EQ(await(before), std::nullopt);
+    EXPECT_THAT(await(pasteboard->formats()), IsEmpty());
+    EXPECT_EQ(data("UTF8_STRING"), std::nullopt);
+    EXPECT_LT(clock.elapsed(), promptly);
+    EXPECT_GT(pasteboard->changeCount(), changes);
+}
+
+TEST(MakePasteboard, OffersNothingWithoutADisplay) {
+    const QByteArray display = qgetenv("DISPLAY");
+    for (const char* name : {"", ":59999"}) {
+        qputenv("DISPLAY", name);
+        const auto pasteboard = makePasteboard();
+        EXPECT_THAT(await(pasteboard->formats()), IsEmpty());
+        EXPECT_EQ(await(pasteboard->data("UTF8_STRING")), std::nullopt);
+    }
+    qputenv("DISPLAY", display);
+}
+
+} // namespace quillon::test

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/Pasteboard.h"
+
+#include <QPromise>
+
+#include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace quillon::test {
+
+/// A clipboard that holds what a test puts on it, and counts how often each format is read.
+class FakePasteboard final : public Pasteboard {
+public:
+    using Content = std::vector<std::pair<std::string, std::optional<QByteArray>>>;
+
+    /// A format without bytes is offered and then refused.
+    void copy(Content content) {
+        content_ = std::move(content);
+        ++changes_;
+    }
+
+    [[nodiscard]] std::uint64_t changeCount() const override { return changes_; }
+
+    [[nodiscard]] QFuture<std::vector<std::string>> formats() override {
+        std::vector<std::string> names;
+        for (const auto& [name, bytes] : content_)
+            names.push_back(name);
+        return finished(std::move(names));
+    }
+
+    [[nodiscard]] QFuture<std::optional<QByteArray>> data(std::string format) override {
+        ++reads[format];
+        if (beforeData) beforeData(format);
+        const auto found = std::find_if(content_.begin(), content_.end(),
+                                        [&](const auto& entry) { return entry.first == format; });
+        return finished(found == content_.end() ? std::optional<QByteArray>{} : found->second);
+    }
+
+    std::map<std::string, int> reads;
+    /// Called with the format before its bytes are looked up.
+    std::function<void(const std::string&)> beforeData;
+
+private:
+    template <typename T>
+    static QFuture<T> finished(T value) {
+        QPromise<T> promise;
+        promise.start();
+        promise.addResult(std::move(value));
+        promise.finish();
+        return promise.future();
+    }
+
+    Content content_;
+    std::uint64_t changes_ = 0;
+};
+
+} // namespace quillon::test
