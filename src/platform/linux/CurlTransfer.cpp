@@ -1,0 +1,178 @@
+#include "platform/linux/CurlTransfer.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace quillon {
+
+namespace {
+
+/// How much libcurl asks of the body at once, in bytes.
+constexpr long uploadBufferSize = 512L * 1024;
+
+/// What the environment variable says; null where it is unset or empty.
+const char* environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value && *value ? value : nullptr;
+}
+
+void trustCertificates(CURL* handle, const std::filesystem::path& certificates) {
+    if (!certificates.empty()) {
+        curl_easy_setopt(handle, CURLOPT_CAINFO, certificates.c_str());
+        curl_easy_setopt(handle, CURLOPT_CAPATH, nullptr);
+        return;
+    }
+    if (const char* file = environment("SSL_CERT_FILE"))
+        curl_easy_setopt(handle, CURLOPT_CAINFO, file);
+    if (const char* folder = environment("SSL_CERT_DIR"))
+        curl_easy_setopt(handle, CURLOPT_CAPATH, folder);
+}
+
+} // namespace
+
+CurlTransfer::CurlTransfer(HttpRequest request, std::uint64_t listener)
+    : m_request{std::move(request)},
+      m_listener{listener} {
+    for (const QByteArray& piece : m_request.body)
+        m_total += piece.size();
+    m_promise.start();
+}
+
+bool CurlTransfer::setHeaders() {
+    // A server that knows "Expect" would make each upload wait for one more round trip.
+    std::vector<std::string> lines{"Expect:"};
+    for (const auto& [name, value] : m_request.headers) {
+        std::string& line = lines.emplace_back(name);
+        // libcurl takes "Name:" as an order to leave the header out, "Name;" as an empty header.
+        value.empty() ? line.append(";") : line.append(": ").append(value);
+    }
+    for (const std::string& line : lines) {
+        curl_slist* longer = curl_slist_append(m_headers.get(), line.c_str());
+        if (!longer) return false;
+        static_cast<void>(m_headers.release());
+        m_headers.reset(longer);
+    }
+    return true;
+}
+
+bool CurlTransfer::prepare(const CurlTransportOptions& options) {
+    m_movedAt = std::chrono::steady_clock::now();
+    m_handle.reset(curl_easy_init());
+    CURL* handle = m_handle.get();
+    if (!handle || !setHeaders()) return false;
+
+    curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, options.allowHttp ? "http,https" : "https");
+    curl_easy_setopt(handle, CURLOPT_FOLLOWLOCATION, 0L);
+    curl_easy_setopt(handle, CURLOPT_PATH_AS_IS, 1L);
+    curl_easy_setopt(handle, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_2TLS));
+    curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
+    // Ends a transfer without waiting for the name server that it still waits for.
+    curl_easy_setopt(handle, CURLOPT_QUICK_EXIT, 1L);
+    // The time-out is by inactivity alone.
+    curl_easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, 24L * 60 * 60 * 1000);
+    trustCertificates(handle, options.trustedCertificates);
+
+    curl_easy_setopt(handle, CURLOPT_POST, 1L);
+    curl_easy_setopt(handle, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(m_total));
+    if (m_total > uploadBufferSize)
+        curl_easy_setopt(handle, CURLOPT_UPLOAD_BUFFERSIZE, uploadBufferSize);
+    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, m_headers.get());
+    curl_easy_setopt(handle, CURLOPT_READFUNCTION, &CurlTransfer::readBody);
+    curl_easy_setopt(handle, CURLOPT_READDATA, this);
+    curl_easy_setopt(handle, CURLOPT_SEEKFUNCTION, &CurlTransfer::seekBody);
+    curl_easy_setopt(handle, CURLOPT_SEEKDATA, this);
+    curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &CurlTransfer::takeReply);
+    curl_easy_setopt(handle, CURLOPT_WRITEDATA, this);
+    curl_easy_setopt(handle, CURLOPT_PRIVATE, this);
+    return curl_easy_setopt(handle, CURLOPT_URL, m_request.url.c_str()) == CURLE_OK;
+}
+
+std::uint64_t CurlTransfer::movement() const {
+    // Bytes of either direction, and the moments at which the host was found, the connection stood
+    // and its encryption was agreed: each grows when something has moved.
+    constexpr std::array counters{CURLINFO_SIZE_UPLOAD_T,     CURLINFO_SIZE_DOWNLOAD_T,
+                                  CURLINFO_NAMELOOKUP_TIME_T, CURLINFO_CONNECT_TIME_T,
+                                  CURLINFO_APPCONNECT_TIME_T, CURLINFO_PRETRANSFER_TIME_T};
+    std::uint64_t sum = 0;
+    for (const CURLINFO counter : counters) {
+        curl_off_t value = 0;
+        curl_easy_getinfo(m_handle.get(), counter, &value);
+        sum += static_cast<std::uint64_t>(value);
+    }
+    long headers = 0;
+    curl_easy_getinfo(m_handle.get(), CURLINFO_HEADER_SIZE, &headers);
+    return sum + static_cast<std::uint64_t>(headers);
+}
+
+CurlTransfer::Moment CurlTransfer::deadline(Moment now) {
+    if (const std::uint64_t current = movement(); current != m_movement) {
+        m_movement = current;
+        m_movedAt = now;
+    }
+    return m_movedAt + m_request.inactivityTimeout;
+}
+
+qint64 CurlTransfer::sent() const {
+    curl_off_t bytes = 0;
+    if (m_handle) curl_easy_getinfo(m_handle.get(), CURLINFO_SIZE_UPLOAD_T, &bytes);
+    return std::min<qint64>(bytes, m_total);
+}
+
+void CurlTransfer::finish(CURLcode code) {
+    long status = 0;
+    if (m_handle) curl_easy_getinfo(m_handle.get(), CURLINFO_RESPONSE_CODE, &status);
+    m_request = {};
+    m_piece = m_offset = 0;
+    std::optional<HttpReply> reply;
+    if (code == CURLE_OK) {
+        m_reply.status = static_cast<int>(status);
+        reply = std::move(m_reply);
+    }
+    m_promise.addResult(std::move(reply));
+    m_promise.finish();
+}
+
+size_t CurlTransfer::readBody(char* target, size_t /*one*/, size_t count, void* self) {
+    auto& transfer = *static_cast<CurlTransfer*>(self);
+    const std::vector<QByteArray>& body = transfer.m_request.body;
+    const auto room = static_cast<qsizetype>(count);
+    qsizetype filled = 0;
+    while (filled < room && transfer.m_piece < static_cast<qsizetype>(body.size())) {
+        const QByteArray& piece = body[static_cast<size_t>(transfer.m_piece)];
+        const qsizetype step = std::min(room - filled, piece.size() - transfer.m_offset);
+        std::memcpy(target + filled, piece.constData() + transfer.m_offset,
+                    static_cast<size_t>(step));
+        filled += step;
+        transfer.m_offset += step;
+        if (transfer.m_offset < piece.size()) continue;
+        ++transfer.m_piece;
+        transfer.m_offset = 0;
+    }
+    return static_cast<size_t>(filled);
+}
+
+int CurlTransfer::seekBody(void* self, curl_off_t offset, int origin) {
+    auto& transfer = *static_cast<CurlTransfer*>(self);
+    if (origin != SEEK_SET || offset < 0 || offset > transfer.m_total) return CURL_SEEKFUNC_FAIL;
+    transfer.m_piece = 0;
+    transfer.m_offset = static_cast<qsizetype>(offset);
+    for (const QByteArray& piece : transfer.m_request.body) {
+        if (transfer.m_offset < piece.size()) break;
+        transfer.m_offset -= piece.size();
+        ++transfer.m_piece;
+    }
+    return CURL_SEEKFUNC_OK;
+}
+
+size_t CurlTransfer::takeReply(char* bytes, size_t /*one*/, size_t count, void* self) {
+    QByteArray& body = static_cast<CurlTransfer*>(self)->m_reply.body;
+    const auto length = static_cast<qsizetype>(count);
+    if (body.size() + length > HttpTransport::maximumReplySize) return 0;
+    body.append(bytes, length);
+    return count;
+}
+
+} // namespace quillon

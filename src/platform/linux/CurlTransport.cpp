@@ -1,0 +1,207 @@
+#include "platform/linux/CurlTransport.h"
+
+#include "platform/linux/CurlTransfer.h"
+
+#include <QObject>
+
+#include <algorithm>
+#include <csignal>
+#include <map>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace quillon {
+
+namespace {
+
+using Moment = CurlTransfer::Moment;
+
+/// The least time between two reports of one transfer's progress.
+constexpr std::chrono::milliseconds progressInterval{100};
+
+/// How long the worker sleeps at most when nothing is to be done.
+constexpr std::chrono::milliseconds longestSleep{std::chrono::hours{1}};
+
+/// libcurl leaves SIGPIPE to the program when it may not touch signal handlers; everything else is
+/// for the main thread.
+void blockSignals() {
+    sigset_t all;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, nullptr);
+}
+
+} // namespace
+
+/// Who wants to know how a transfer gets on. The callbacks never leave the thread of the transport:
+/// what they hold may belong to it.
+class CurlTransport::ProgressListeners : public QObject {
+public:
+    std::uint64_t add(std::function<void(qint64, qint64)> listener) {
+        m_listeners.emplace(++m_lastId, std::move(listener));
+        return m_lastId;
+    }
+
+    /// Thread-safe.
+    void tell(std::uint64_t id, qint64 sent, qint64 total, bool last) {
+        QMetaObject::invokeMethod(
+            this, [this, id, sent, total, last] { deliver(id, sent, total, last); },
+            Qt::QueuedConnection);
+    }
+
+private:
+    void deliver(std::uint64_t id, qint64 sent, qint64 total, bool last) {
+        const auto found = m_listeners.find(id);
+        if (found == m_listeners.end()) return;
+        // The listener may destroy the transport: nothing of it is touched afterwards.
+        const auto listener = found->second;
+        if (last) m_listeners.erase(found);
+        listener(sent, total);
+    }
+
+    std::map<std::uint64_t, std::function<void(qint64, qint64)>> m_listeners;
+    std::uint64_t m_lastId = 0;
+};
+
+/// The thread that drives all transfers.
+class CurlTransport::Worker {
+public:
+    Worker(CurlTransportOptions options, ProgressListeners& listeners)
+        : m_options{std::move(options)},
+          m_listeners{listeners} {
+        static const CURLcode ready = curl_global_init(CURL_GLOBAL_DEFAULT);
+        if (ready == CURLE_OK) m_multi = curl_multi_init();
+        if (m_multi) m_thread = std::thread{[this] { run(); }};
+    }
+    Worker(const Worker&) = delete;
+    Worker& operator=(const Worker&) = delete;
+
+    ~Worker() {
+        if (!m_multi) return;
+        {
+            const std::lock_guard lock{m_mutex};
+            m_stopping = true;
+        }
+        curl_multi_wakeup(m_multi);
+        m_thread.join();
+        curl_multi_cleanup(m_multi);
+    }
+
+    void add(std::unique_ptr<CurlTransfer> transfer) {
+        if (!m_multi) return transfer->finish(CURLE_FAILED_INIT);
+        {
+            const std::lock_guard lock{m_mutex};
+            m_waiting.push_back(std::move(transfer));
+        }
+        curl_multi_wakeup(m_multi);
+    }
+
+private:
+    using Transfers = std::vector<std::unique_ptr<CurlTransfer>>;
+
+    void run() {
+        blockSignals();
+        while (admit()) {
+            int running = 0;
+            curl_multi_perform(m_multi, &running);
+            collect();
+            const auto sleep = attend();
+            curl_multi_poll(m_multi, nullptr, 0, static_cast<int>(sleep.count()), nullptr);
+        }
+        while (!m_running.empty())
+            end(*m_running.back(), CURLE_ABORTED_BY_CALLBACK);
+    }
+
+    /// Starts what was handed over; false when the transport is going away.
+    bool admit() {
+        Transfers waiting;
+        bool stopping = false;
+        {
+            const std::lock_guard lock{m_mutex};
+            waiting.swap(m_waiting);
+            stopping = m_stopping;
+        }
+        for (auto& transfer : waiting) {
+            CurlTransfer& started = *m_running.emplace_back(std::move(transfer));
+            if (stopping) continue;
+            if (!started.prepare(m_options) ||
+                curl_multi_add_handle(m_multi, started.handle()) != CURLM_OK)
+                end(started, CURLE_FAILED_INIT);
+        }
+        return !stopping;
+    }
+
+    /// Finishes the transfers that libcurl is done with.
+    void collect() {
+        int left = 0;
+        while (const CURLMsg* message = curl_multi_info_read(m_multi, &left)) {
+            if (message->msg != CURLMSG_DONE) continue;
+            const CURLcode code = message->data.result;
+            CurlTransfer* transfer = nullptr;
+            curl_easy_getinfo(message->easy_handle, CURLINFO_PRIVATE, &transfer);
+            end(*transfer, code);
+        }
+    }
+
+    /// Ends what has not moved for too long, tells progress, and gives how long there is nothing
+    /// more to do unless a connection stirs.
+    std::chrono::milliseconds attend() {
+        const Moment now = std::chrono::steady_clock::now();
+        Moment next = now + longestSleep;
+        std::vector<CurlTransfer*> expired;
+        for (const auto& transfer : m_running) {
+            const Moment deadline = transfer->deadline(now);
+            if (deadline <= now) expired.push_back(transfer.get());
+            next = std::min({next, deadline, tellProgress(*transfer, now)});
+        }
+        for (CurlTransfer* transfer : expired)
+            end(*transfer, CURLE_OPERATION_TIMEDOUT);
+        return std::chrono::ceil<std::chrono::milliseconds>(std::max(next - now, {}));
+    }
+
+    /// Tells what has gone out, unless that was done a moment ago; gives when to come back.
+    Moment tellProgress(CurlTransfer& transfer, Moment now) {
+        const qint64 sent = transfer.sent();
+        if (transfer.listener() == 0 || sent == transfer.told) return Moment::max();
+        const Moment due = transfer.toldAt + progressInterval;
+        if (due > now) return due;
+        transfer.toldAt = now;
+        transfer.told = sent;
+        m_listeners.tell(transfer.listener(), sent, transfer.total(), false);
+        return Moment::max();
+    }
+
+    void end(CurlTransfer& transfer, CURLcode code) {
+        if (transfer.listener() != 0)
+            m_listeners.tell(transfer.listener(), transfer.sent(), transfer.total(), true);
+        transfer.finish(code);
+        if (transfer.handle()) curl_multi_remove_handle(m_multi, transfer.handle());
+        std::erase_if(m_running, [&](const auto& each) { return each.get() == &transfer; });
+    }
+
+    CurlTransportOptions m_options;
+    ProgressListeners& m_listeners;
+    CURLM* m_multi = nullptr;
+    Transfers m_running;
+    std::mutex m_mutex;
+    Transfers m_waiting;
+    bool m_stopping = false;
+    std::thread m_thread;
+};
+
+CurlTransport::CurlTransport(CurlTransportOptions options)
+    : m_listeners{std::make_unique<ProgressListeners>()},
+      m_worker{std::make_unique<Worker>(std::move(options), *m_listeners)} {}
+
+CurlTransport::~CurlTransport() = default;
+
+QFuture<std::optional<HttpReply>> CurlTransport::post(HttpRequest request) {
+    std::uint64_t listener = 0;
+    if (request.progress) listener = m_listeners->add(std::exchange(request.progress, nullptr));
+    auto transfer = std::make_unique<CurlTransfer>(std::move(request), listener);
+    auto future = transfer->future();
+    m_worker->add(std::move(transfer));
+    return future;
+}
+
+} // namespace quillon

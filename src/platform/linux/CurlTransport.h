@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/HttpTransport.h"
+
+#include <filesystem>
+#include <memory>
+
+namespace quillon {
+
+/// What a CurlTransport does beyond the ordinary.
+struct CurlTransportOptions {
+    /// Allows http beside https, for a Bot API server on a trusted network.
+    bool allowHttp = false;
+    /// The certificates to trust, as one PEM file, in place of the system's.
+    std::filesystem::path trustedCertificates{};
+};
+
+/// HTTP through libcurl: every transfer runs on one worker thread and shares its connections, which
+/// stay open between requests. Proxies come from the environment (https_proxy, all_proxy,
+/// no_proxy), trusted certificates from SSL_CERT_FILE and SSL_CERT_DIR where these are set.
+class CurlTransport final : public HttpTransport {
+public:
+    explicit CurlTransport(CurlTransportOptions options = {});
+
+    /// Ends what still runs: its futures finish with none, its progress is no longer told.
+    ~CurlTransport() override;
+
+    /// To be called on the thread that made the transport, which is where progress is told.
+    [[nodiscard]] QFuture<std::optional<HttpReply>> post(HttpRequest request) override;
+
+private:
+    class ProgressListeners;
+    class Worker;
+    std::unique_ptr<ProgressListeners> m_listeners;
+    std::unique_ptr<Worker> m_worker;
+};
+
+} // namespace quillon

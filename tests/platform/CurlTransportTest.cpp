@@ -1,0 +1,246 @@
+#include "platform/linux/CurlTransport.h"
+#include "support/Await.h"
+#include "support/RawServer.h"
+
+#include <gmock/gmock.h>
+
+#include <QElapsedTimer>
+
+#include <future>
+
+namespace quillon::test {
+namespace {
+
+using namespace std::chrono_literals;
+using Connection = RawServer::Connection;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+HttpRequest requestTo(std::string url, std::vector<QByteArray> body = {"{}"}) {
+    HttpRequest request;
+    request.url = std::move(url);
+    request.headers = {{"Content-Type", "application/json"}};
+    request.body = std::move(body);
+    return request;
+}
+
+class CurlTransportTest : public testing::Test {
+protected:
+    std::optional<HttpReply> post(const std::string& url) {
+        return await(transport->post(requestTo(url)));
+    }
+
+    std::unique_ptr<CurlTransport> transport =
+        std::make_unique<CurlTransport>(CurlTransportOptions{.allowHttp = true});
+};
+
+TEST_F(CurlTransportTest, SendsPiecesAsOneBodyAndKeepsTheConnection) {
+    std::promise<std::string> first;
+    RawServer server{[&](Connection& connection) {
+        first.set_value(connection.request());
+        connection.reply(200, std::string_view{"a\0b", 3});
+        connection.request();
+        connection.reply(404, "");
+        connection.awaitEnd();
+    }};
+    const std::string zeros(3'000'000, '\0');
+    auto request = requestTo(server.url("/bot1:a/../x%20y"),
+                             {"head\0er", {}, QByteArray::fromStdString(zeros), "tail"});
+    request.body[0] = QByteArray{"head\0er", 7};
+    const auto reply = await(transport->post(std::move(request)));
+
+    ASSERT_TRUE(reply);
+    EXPECT_EQ(reply->status, 200);
+    EXPECT_EQ(reply->body, QByteArray("a\0b", 3));
+    const std::string sent = first.get_future().get();
+    const auto head = sent.substr(0, sent.find("\r\n\r\n"));
+    EXPECT_THAT(head, StartsWith("POST /bot1:a/../x%20y HTTP/1.1\r\n"));
+    EXPECT_THAT(head, HasSubstr("Content-Type: application/json"));
+    EXPECT_THAT(head, Not(HasSubstr("Expect")));
+    EXPECT_TRUE(sent.substr(head.size() + 4) == std::string("head\0er", 7) + zeros + "tail");
+
+    EXPECT_EQ(post(server.url()).value().status, 404);
+    EXPECT_EQ(server.connections(), 1);
+}
+
+TEST_F(CurlTransportTest, SendsTheBodyAgainWhenAKeptConnectionIsClosed) {
+    std::atomic<int> served = 0;
+    std::promise<std::string> last;
+    RawServer server{[&](Connection& connection) {
+        if (++served > 1)
+            last.set_value(connection.request());
+        else
+            connection.request();
+        connection.reply(200, "reply");
+        // The next request on the first connection is taken and dropped.
+        if (served == 1) connection.request();
+    }};
+    ASSERT_TRUE(post(server.url()));
+    ASSERT_TRUE(await(transport->post(requestTo(server.url(), {"one, ", "two, ", "three"}))));
+    EXPECT_EQ(server.connections(), 2);
+    EXPECT_THAT(last.get_future().get(), EndsWith("\r\n\r\none, two, three"));
+}
+
+TEST_F(CurlTransportTest, TakesARedirectAsTheReply) {
+    RawServer other{[](Connection& connection) { connection.request(); }};
+    RawServer server{[&](Connection& connection) {
+        connection.request();
+        connection.reply(302, "elsewhere", "Location: " + other.url() + "\r\n");
+    }};
+    const auto reply = post(server.url());
+    ASSERT_TRUE(reply);
+    EXPECT_EQ(reply->status, 302);
+    EXPECT_EQ(reply->body, "elsewhere");
+    EXPECT_EQ(other.connections(), 0);
+}
+
+TEST_F(CurlTransportTest, FailsWithoutAWholeReply) {
+    struct Case {
+        const char* what;
+        std::function<void(Connection&)> serve;
+    };
+    const std::string oversized(HttpTransport::maximumReplySize + 1, 'x');
+    const Case cases[]{
+        {"closed without a word", [](Connection& connection) { connection.request(); }},
+        {"reply shorter than announced",
+         [](Connection& connection) {
+             connection.request();
+             connection.send("HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n{\"ok\":");
+         }},
+        {"not HTTP",
+         [](Connection& connection) {
+             connection.request();
+             connection.send("SSH-2.0-Server\r\n");
+         }},
+        {"reply too large",
+         [&](Connection& connection) {
+             connection.request();
+             connection.reply(200, oversized);
+         }},
+        {"endless reply without a length",
+         [](Connection& connection) {
+             connection.request();
+             connection.send("HTTP/1.1 200 OK\r\n\r\n");
+             while (connection.send(std::string(1 << 16, 'x'))) {
+             }
+         }},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.what);
+        RawServer server{each.serve};
+        EXPECT_FALSE(post(server.url()));
+    }
+}
+
+TEST_F(CurlTransportTest, TakesAReplyOfTheLargestSize) {
+    const std::string largest(HttpTransport::maximumReplySize, 'x');
+    RawServer server{[&](Connection& connection) {
+        connection.request();
+        connection.reply(200, largest);
+    }};
+    const auto reply = post(server.url());
+    ASSERT_TRUE(reply);
+    EXPECT_EQ(reply->body.size(), HttpTransport::maximumReplySize);
+}
+
+TEST_F(CurlTransportTest, FailsWhereNobodyListens) {
+    std::string url;
+    {
+        RawServer server{[](Connection&) {}};
+        url = server.url();
+    }
+    EXPECT_FALSE(post(url));
+    EXPECT_FALSE(post("http://[::1"));
+    EXPECT_FALSE(post("ftp://127.0.0.1/"));
+}
+
+TEST_F(CurlTransportTest, RefusesHttpUnlessAllowed) {
+    RawServer server{[](Connection& connection) {
+        connection.request();
+        connection.reply(200, "");
+    }};
+    CurlTransport strict;
+    EXPECT_FALSE(await(strict.post(requestTo(server.url()))));
+    EXPECT_EQ(server.connections(), 0);
+}
+
+TEST_F(CurlTransportTest, CutsWhatStallsButNotWhatTrickles) {
+    constexpr auto timeout = 600ms;
+    std::promise<void> over;
+    const auto end = over.get_future().share();
+    RawServer trickling{[&](Connection& connection) {
+        connection.request();
+        connection.send("HTTP/1.1 200 OK\r\nContent-Length: 8\r\n\r\n");
+        for (int count = 0; count < 8; ++count) {
+            end.wait_for(timeout / 4);
+            connection.send("x");
+        }
+    }};
+    RawServer stalling{[&](Connection& connection) {
+        connection.request();
+        connection.send("HTTP/1.1 200 OK\r\nContent-Length: 8\r\n\r\nxx");
+        end.wait_for(10s);
+    }};
+    // Takes a part of the body and then no more.
+    RawServer clogging{[&](Connection&) { end.wait_for(10s); }};
+
+    const auto start = [&](const RawServer& server) {
+        auto request = requestTo(server.url(), {QByteArray(20'000'000, 'x')});
+        request.inactivityTimeout = timeout;
+        return transport->post(std::move(request));
+    };
+    const auto begin = std::chrono::steady_clock::now();
+    const auto elapsed = [&] { return std::chrono::steady_clock::now() - begin; };
+    const auto trickled = start(trickling);
+    const auto stalled = start(stalling);
+    const auto clogged = start(clogging);
+    EXPECT_FALSE(await(stalled));
+    EXPECT_FALSE(await(clogged));
+    EXPECT_GE(elapsed(), timeout);
+    EXPECT_LT(elapsed(), 3s);
+    const auto reply = await(trickled);
+    ASSERT_TRUE(reply);
+    EXPECT_EQ(reply->body, "xxxxxxxx");
+    EXPECT_GE(elapsed(), 2 * timeout);
+    over.set_value();
+}
+
+TEST_F(CurlTransportTest, TellsProgressOnItsThreadUpToTheEnd) {
+    RawServer server{[](Connection& connection) {
+        connection.request();
+        connection.reply(200, "");
+    }};
+    auto request = requestTo(server.url(), {QByteArray(30'000'000, 'x'), QByteArray(1, 'y')});
+    std::vector<qint64> told;
+    QElapsedTimer elapsed;
+    elapsed.start();
+    request.progress = [&](qint64 sent, qint64 total) {
+        EXPECT_EQ(QThread::currentThread(), qApp->thread());
+        EXPECT_EQ(total, 30'000'001);
+        told.push_back(sent);
+    };
+    ASSERT_TRUE(await(transport->post(std::move(request))));
+    ASSERT_TRUE(waitUntil([&] { return !told.empty() && told.back() == 30'000'001; }));
+    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+    EXPECT_LE(static_cast<qint64>(told.size()), 3 + elapsed.elapsed() / 100);
+}
+
+TEST_F(CurlTransportTest, EndsTransfersWhenDestroyed) {
+    RawServer server{[](Connection& connection) { connection.awaitEnd(); }};
+    bool told = false;
+    auto request = requestTo(server.url(), {QByteArray(20'000'000, 'x')});
+    request.progress = [&](qint64, qint64) {
+        told = true;
+        transport.reset();
+    };
+    const auto running = transport->post(std::move(request));
+    const auto second = transport->post(requestTo(server.url()));
+    ASSERT_TRUE(waitUntil([&] { return told; }));
+    EXPECT_TRUE(running.isFinished());
+    EXPECT_EQ(running.result(), std::nullopt);
+    EXPECT_EQ(second.result(), std::nullopt);
+}
+
+} // namespace
+} // namespace quillon::test

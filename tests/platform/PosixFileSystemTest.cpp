@@ -1,0 +1,189 @@
+#include "platform/linux/PosixFileSystem.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstring>
+
+namespace quillon::test {
+namespace {
+
+using Outcome = FileReading::Outcome;
+using std::filesystem::path;
+
+class PosixFileSystemTest : public testing::Test {
+protected:
+    // Qt leaves files behind whose names are not UTF-8.
+    ~PosixFileSystemTest() override { std::filesystem::remove_all(root); }
+
+    [[nodiscard]] path at(const char* name) const { return root / name; }
+
+    void makeSocket(const path& where) const {
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        std::strncpy(address.sun_path, where.c_str(), sizeof address.sun_path - 1);
+        const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        ASSERT_EQ(::bind(socket, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+        ::close(socket);
+    }
+
+    [[nodiscard]] static mode_t modeOf(const path& where) {
+        struct stat status {};
+        EXPECT_EQ(::stat(where.c_str(), &status), 0) << where;
+        return status.st_mode & 07777;
+    }
+
+    [[nodiscard]] QByteArray content(const path& where) const {
+        return files.read(where, 1'000'000).bytes;
+    }
+
+    [[nodiscard]] size_t entries() const {
+        return static_cast<size_t>(std::distance(std::filesystem::directory_iterator{root}, {}));
+    }
+
+    QTemporaryDir folder;
+    path root{folder.path().toStdString()};
+    PosixFileSystem files;
+};
+
+TEST_F(PosixFileSystemTest, TellsWhatLiesAtAPath) {
+    ASSERT_TRUE(files.write(at("ten"), QByteArray("0123\x00\xff\n789", 10)));
+    ASSERT_TRUE(files.write(at("empty"), {}));
+    ASSERT_TRUE(files.write(at("not \xff\xfe UTF-8\n"), "name"));
+    std::filesystem::create_symlink(at("ten"), at("link"));
+    std::filesystem::create_symlink(at("nowhere"), at("dangling"));
+    std::filesystem::create_symlink("/dev/zero", at("to device"));
+    ASSERT_EQ(::mkfifo(at("pipe").c_str(), 0600), 0);
+    makeSocket(at("socket"));
+
+    struct Case {
+        path where;
+        qint64 limit;
+        Outcome outcome;
+        qint64 size;
+    };
+    const Case cases[]{
+        {at("ten"), 10, Outcome::read, 10},
+        {at("ten"), 9, Outcome::tooBig, 10},
+        {at("link"), 10, Outcome::read, 10},
+        {at("empty"), 0, Outcome::read, 0},
+        {at("not \xff\xfe UTF-8\n"), 10, Outcome::read, 4},
+        {root, 10, Outcome::directory, 0},
+        {at("missing"), 10, Outcome::unreadable, 0},
+        {at("ten/below"), 10, Outcome::unreadable, 0},
+        {at("dangling"), 10, Outcome::unreadable, 0},
+        {at("pipe"), 10, Outcome::unreadable, 0},
+        {at("socket"), 10, Outcome::unreadable, 0},
+        {"/dev/zero", 10, Outcome::unreadable, 0},
+        {at("to device"), 10, Outcome::unreadable, 0},
+        {"", 10, Outcome::unreadable, 0},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.where);
+        const FileReading reading = files.read(each.where, each.limit);
+        EXPECT_EQ(reading.outcome, each.outcome);
+        EXPECT_EQ(reading.size, each.size);
+        EXPECT_EQ(reading.bytes.size(), each.outcome == Outcome::read ? each.size : 0);
+    }
+    EXPECT_EQ(content(at("ten")), QByteArray("0123\x00\xff\n789", 10));
+}
+
+TEST_F(PosixFileSystemTest, ReadsFilesThatHideTheirSize) {
+    const FileReading whole = files.read("/proc/self/smaps", 10'000'000);
+    EXPECT_EQ(whole.outcome, Outcome::read);
+    EXPECT_GT(whole.size, 10'000);
+    EXPECT_EQ(whole.bytes.size(), whole.size);
+    EXPECT_TRUE(whole.bytes.endsWith('\n'));
+    const FileReading tooBig = files.read("/proc/self/smaps", 10'000);
+    EXPECT_EQ(tooBig.outcome, Outcome::tooBig);
+    EXPECT_GT(tooBig.size, 10'000);
+    EXPECT_TRUE(tooBig.bytes.isEmpty());
+}
+
+TEST_F(PosixFileSystemTest, HeedsPermissions) {
+    // The administrator may read everything: give that up for the while.
+    const bool administrator = ::geteuid() == 0;
+    ASSERT_TRUE(files.write(at("secret"), "bytes"));
+    ASSERT_EQ(::chmod(at("secret").c_str(), administrator ? 0600 : 0), 0);
+    ASSERT_EQ(::chmod(root.c_str(), 0755), 0);
+    ASSERT_EQ(administrator ? ::seteuid(65534) : 0, 0);
+    const Outcome outcome = files.read(at("secret"), 10).outcome;
+    const bool written = files.write(at("secret"), "other");
+    const bool created = administrator && files.writeAtomically(at("new"), "other");
+    ASSERT_EQ(administrator ? ::seteuid(0) : 0, 0);
+    EXPECT_EQ(outcome, Outcome::unreadable);
+    EXPECT_FALSE(written);
+    EXPECT_FALSE(created);
+}
+
+TEST_F(PosixFileSystemTest, ReplacesContentForItsOwnerAlone) {
+    for (const bool atomically : {false, true}) {
+        SCOPED_TRACE(atomically);
+        const path where = at(atomically ? "a" : "b");
+        const auto write = [&](const QByteArray& bytes) {
+            return atomically ? files.writeAtomically(where, bytes) : files.write(where, bytes);
+        };
+        ASSERT_TRUE(write("a long first content"));
+        EXPECT_EQ(modeOf(where), 0600U);
+        ASSERT_TRUE(write("short"));
+        EXPECT_EQ(content(where), "short");
+    }
+    EXPECT_EQ(entries(), 2U);
+}
+
+TEST_F(PosixFileSystemTest, WritesNothingButFiles) {
+    ASSERT_EQ(::mkfifo(at("pipe").c_str(), 0600), 0);
+    ASSERT_EQ(::mkfifo(at("read pipe").c_str(), 0600), 0);
+    const int reader = ::open(at("read pipe").c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    std::filesystem::create_directory(at("folder"));
+    makeSocket(at("socket"));
+    const size_t before = entries();
+    const path places[]{
+        at("pipe"), at("read pipe"), at("folder"), at("socket"), "/dev/null", at("none/file"), ""};
+    for (const path& place : places) {
+        SCOPED_TRACE(place);
+        EXPECT_FALSE(files.write(place, "bytes"));
+        EXPECT_FALSE(files.writeAtomically(place, "bytes"));
+    }
+    EXPECT_EQ(entries(), before);
+    ::close(reader);
+}
+
+TEST_F(PosixFileSystemTest, ReportsAFullDisk) {
+    ASSERT_TRUE(files.write(at("old"), "old"));
+    rlimit before{};
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small{100'000, before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    const bool replaced = files.writeAtomically(at("old"), QByteArray(200'000, 'x'));
+    const bool written = files.write(at("new"), QByteArray(200'000, 'x'));
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    static_cast<void>(std::signal(SIGXFSZ, handler));
+    EXPECT_FALSE(replaced);
+    EXPECT_FALSE(written);
+    EXPECT_EQ(content(at("old")), "old");
+    EXPECT_EQ(entries(), 2U);
+}
+
+TEST_F(PosixFileSystemTest, CreatesFoldersForTheirOwnerAlone) {
+    ASSERT_TRUE(files.createFolder(at("one/two/three/")));
+    EXPECT_EQ(modeOf(at("one")), 0700U);
+    EXPECT_EQ(modeOf(at("one/two/three")), 0700U);
+    EXPECT_TRUE(files.createFolder(at("one/two")));
+    ASSERT_TRUE(files.write(at("file"), {}));
+    EXPECT_FALSE(files.createFolder(at("file")));
+    EXPECT_FALSE(files.createFolder(at("file/below")));
+}
+
+} // namespace
+} // namespace quillon::test

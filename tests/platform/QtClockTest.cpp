@@ -1,0 +1,39 @@
+#include "platform/linux/QtClock.h"
+#include "support/Await.h"
+
+namespace quillon::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(QtClockTest, CallsInOrderAndNeverAtOnce) {
+    QtClock clock;
+    std::string called;
+    const auto second = clock.after(30ms, [&] { called += "2"; });
+    const auto first = clock.after(0ms, [&] { called += "1"; });
+    const auto late = clock.after(std::chrono::hours{24 * 365}, [&] { called += "late"; });
+    EXPECT_EQ(called, "");
+    const auto begin = clock.now();
+    EXPECT_TRUE(waitUntil([&] { return called == "12"; }));
+    EXPECT_GE(clock.now() - begin, 25ms);
+}
+
+TEST(QtClockTest, ForgetsWhatIsDestroyedEvenFromItsOwnAction) {
+    QtClock clock;
+    int calls = 0;
+    bool over = false;
+    std::unique_ptr<Clock::Timer> own;
+    const auto held = std::make_shared<int>(7);
+    own = clock.after(1ms, [&own, &calls, held] {
+        own.reset();
+        calls += *held;
+    });
+    static_cast<void>(clock.after(1ms, [&] { calls += 100; }));
+    const auto end = clock.after(20ms, [&] { over = true; });
+    EXPECT_TRUE(waitUntil([&] { return over; }));
+    EXPECT_EQ(calls, 7);
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+} // namespace
+} // namespace quillon::test
