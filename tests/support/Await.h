@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QCoro/QCoroTask>
 #include <QCoreApplication>
+#include <QCoro/QCoroTask>
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QFuture>
@@ -27,13 +27,15 @@ inline bool waitUntil(const std::function<bool()>& done,
 }
 
 /// Turns the event loop until the future has finished, and gives its result.
-template <typename T> T await(QFuture<T> future) {
+template <typename T>
+T await(QFuture<T> future) {
     EXPECT_TRUE(waitUntil([&] { return future.isFinished(); })) << "the future did not finish";
     if constexpr (!std::is_void_v<T>) return future.result();
 }
 
 /// Runs the task to its end and gives its result; what it throws is thrown.
-template <typename T> T await(QCoro::Task<T> task) {
+template <typename T>
+T await(QCoro::Task<T> task) {
     return QCoro::waitFor(std::move(task));
 }
 

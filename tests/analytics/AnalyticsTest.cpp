@@ -1,0 +1,74 @@
+#include "support/World.h"
+
+#include <gmock/gmock.h>
+
+using namespace quillon;
+using namespace quillon::test;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(Analytics, WritesEachEventAtOnce) {
+    World world;
+    world.analytics->track("probe", {{"text", "ü"}, {"number", std::int64_t{-5}}, {"flag", true}});
+    EXPECT_EQ(
+        world.content("events.json"),
+        R"([{"name":"probe","at":1700000000000,"props":{"text":"ü","number":-5,"flag":true}}])");
+    world.restart();
+    world.analytics->track("second");
+    EXPECT_THAT(world.events(),
+                ElementsAre(R"(probe {"text":"ü","number":-5,"flag":true})", "second {}"));
+}
+
+TEST(Analytics, DropsTheOldestBeyondItsLimit) {
+    World world;
+    for (std::int64_t number = 0; number < 2005; ++number) {
+        world.analytics->track("n", {{"number", number}});
+    }
+    const std::vector<std::string> events = world.events();
+    ASSERT_EQ(events.size(), 2000U);
+    EXPECT_EQ(events.front(), R"(n {"number":5})");
+    EXPECT_EQ(events.back(), R"(n {"number":2004})");
+}
+
+TEST(Analytics, StartsEmptyFromAnUnusableFile) {
+    World world;
+    for (const char* content : {"", "{}", "[7]", R"([{"name":"a","at":1,"props":{"x":null}}])",
+                                R"([{"name":"a","at":1.5,"props":{}}])",
+                                R"([{"name":"a","at":1,"props":{}},{"at":2}])"}) {
+        world.setContent("events.json", content);
+        world.restart();
+        EXPECT_TRUE(world.analytics->queue().empty()) << content;
+    }
+}
+
+TEST(Analytics, RecordsNothingAfterPersistingEnded) {
+    World world;
+    world.analytics->stopPersisting();
+    world.analytics->track("probe");
+    EXPECT_TRUE(world.analytics->queue().empty());
+    EXPECT_FALSE(std::filesystem::exists(world.path("events.json")));
+}
+
+TEST(Analytics, SortsSizesIntoBuckets) {
+    const std::pair<std::int64_t, std::optional<std::string_view>> cases[] = {
+        {-1, "lt100k"},        {99'999, "lt100k"},    {100'000, "lt1m"},
+        {999'999, "lt1m"},     {1'000'000, "lt10m"},  {9'999'999, "lt10m"},
+        {10'000'000, "lt50m"}, {49'999'999, "lt50m"}, {50'000'000, std::nullopt}};
+    for (const auto& [bytes, bucket] : cases) {
+        EXPECT_EQ(Analytics::sizeBucket(bytes), bucket) << bytes;
+    }
+}
+
+TEST(Analytics, ReportsChangedSettingsInTheirOrder) {
+    World world;
+    world.store->changeConfig([](Config& config) {
+        config.bannerPosition = BannerPosition::bottom;
+        config.playSound = false;
+        config.chatTitle = "private";
+        config.shortcut = ShortcutChoice::ctrlOptP;
+    });
+    EXPECT_THAT(world.events(),
+                ElementsAre(R"(settings_changed {"setting":"shortcut","value":"⌃⌥P"})",
+                            R"(settings_changed {"setting":"sound","value":false})",
+                            R"(settings_changed {"setting":"banner_position","value":"bottom"})"));
+}

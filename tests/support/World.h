@@ -1,0 +1,104 @@
+#pragma once
+
+#include "analytics/Analytics.h"
+#include "base/Json.h"
+#include "desktop/Banner.h"
+#include "platform/Platform.h"
+#include "platform/Sounds.h"
+#include "platform/linux/CurlTransport.h"
+#include "platform/linux/PosixFileSystem.h"
+#include "state/Store.h"
+#include "support/FakeClock.h"
+#include "support/FakePasteboard.h"
+#include "support/FakeSecrets.h"
+
+#include <QTemporaryDir>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quillon::test {
+
+/// Remembers the banners it was to show.
+class FakeBanner : public Banner {
+public:
+    struct Shown {
+        std::string text;
+        std::string symbol;
+        bool ok;
+        bool sticky;
+        bool operator==(const Shown&) const = default;
+    };
+    std::vector<Shown> shown;
+
+    void show(std::string text, std::string symbol, bool ok, bool sticky) override {
+        shown.push_back({std::move(text), std::move(symbol), ok, sticky});
+    }
+};
+
+/// Remembers the sounds it was to play.
+class FakeSounds : public Sounds {
+public:
+    std::vector<Sound> played;
+
+    void play(Sound sound) override { played.push_back(sound); }
+};
+
+/// A computer for one store: real files in a folder of its own, real HTTP, and a clock, clipboard,
+/// keyring, banner and sounds that the test commands.
+struct World {
+    /// `botApi` is the base address of a stand-in.
+    explicit World(std::string botApi = "http://127.0.0.1:9")
+        : platform{clock,
+                   files,
+                   http,
+                   pasteboard,
+                   secrets,
+                   sounds,
+                   std::filesystem::path{folder.path().toStdString()} / "share" / "Quillon",
+                   std::move(botApi)} {
+        restart();
+    }
+
+    /// Ends the program and starts it again on the same data.
+    void restart() {
+        store.reset();
+        analytics = std::make_unique<Analytics>(platform);
+        store = std::make_unique<Store>(platform, *analytics, banner);
+    }
+
+    [[nodiscard]] std::filesystem::path path(std::string_view file) const {
+        return platform.dataFolder / file;
+    }
+    /// The content of a data file; empty when there is none.
+    [[nodiscard]] std::string content(std::string_view file) const {
+        return files.read(path(file), 1'000'000'000).bytes.toStdString();
+    }
+    void setContent(std::string_view file, const std::string& content) const {
+        files.write(path(file), QByteArray::fromStdString(content));
+    }
+    /// The usage events on disk, each as its name and properties.
+    [[nodiscard]] std::vector<std::string> events() const {
+        std::vector<std::string> events;
+        const Json stored = parseJson(content("events.json")).value_or(Json::array());
+        for (const Json& event : stored) {
+            events.push_back(event["name"].get<std::string>() + " " + event["props"].dump());
+        }
+        return events;
+    }
+
+    QTemporaryDir folder;
+    FakeClock clock;
+    PosixFileSystem files;
+    CurlTransport http{{.allowHttp = true}};
+    FakePasteboard pasteboard;
+    FakeSecrets secrets;
+    FakeSounds sounds;
+    FakeBanner banner;
+    Platform platform;
+    std::unique_ptr<Analytics> analytics;
+    std::unique_ptr<Store> store;
+};
+
+} // namespace quillon::test
