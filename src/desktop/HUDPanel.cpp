@@ -19,9 +19,10 @@ HUDPanel::HUDPanel() : QWidget{nullptr, overlay} {
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAttribute(Qt::WA_X11NetWmWindowTypeNotification);
     setAttribute(Qt::WA_QuitOnClose, false);
     setFocusPolicy(Qt::NoFocus);
+    create(); // Qt drops a window type that is set on a window yet to be made
+    setAttribute(Qt::WA_X11NetWmWindowTypeNotification);
 }
 
 void HUDPanel::setContent(const HUDView& view, const QString& text, double devicePixelRatio,
