@@ -1,7 +1,6 @@
 #include "platform/linux/X11Pasteboard.h"
 
 #include "platform/SelectionOwner.h"
-#include "platform/linux/MakePasteboard.h"
 #include "support/Await.h"
 #include "support/XServer.h"
 
@@ -210,7 +209,7 @@ TEST(MakePasteboard, OffersNothingWithoutADisplay) {
     const QByteArray display = qgetenv("DISPLAY");
     for (const char* name : {"", ":59999"}) {
         qputenv("DISPLAY", name);
-        const auto pasteboard = makePasteboard();
+        const auto pasteboard = X11Pasteboard::open(nullptr);
         EXPECT_THAT(await(pasteboard->formats()), IsEmpty());
         EXPECT_EQ(await(pasteboard->data("UTF8_STRING")), std::nullopt);
     }
