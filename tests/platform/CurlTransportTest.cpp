@@ -122,8 +122,8 @@ TEST_F(CurlTransportTest, FailsWithoutAWholeReply) {
          [](Connection& connection) {
              connection.request();
              connection.send("HTTP/1.1 200 OK\r\n\r\n");
-             while (connection.send(std::string(1 << 16, 'x'))) {
-             }
+             while (connection.send(std::string(1 << 16, 'x')))
+                 continue;
          }},
     };
     for (const Case& each : cases) {

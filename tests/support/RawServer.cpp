@@ -31,7 +31,7 @@ std::string RawServer::Connection::request() {
         if (more.empty()) return std::exchange(m_received, {});
         m_received += more;
     }
-    const std::string whole = m_received.substr(0, wanted());
+    std::string whole = m_received.substr(0, wanted());
     m_received.erase(0, whole.size());
     return whole;
 }
@@ -52,8 +52,8 @@ bool RawServer::Connection::reply(int status, std::string_view body, std::string
 }
 
 void RawServer::Connection::awaitEnd() {
-    while (!receive(1 << 20).empty()) {
-    }
+    while (!receive(1 << 20).empty())
+        continue;
 }
 
 RawServer::RawServer(std::function<void(Connection&)> serve) : m_serve{std::move(serve)} {

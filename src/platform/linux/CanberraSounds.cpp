@@ -1,0 +1,92 @@
+#include "platform/linux/CanberraSounds.h"
+
+#include <canberra.h>
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+#include <thread>
+
+namespace quillon {
+
+namespace {
+
+/// How long quitting waits for the sound server at most.
+constexpr std::chrono::milliseconds closingLimit{200};
+
+/// Names of the freedesktop sound naming specification. A theme without "message-sent-instant" is
+/// searched for "message-sent" and "message".
+const char* eventOf(Sound sound) {
+    return sound == Sound::pop ? "message-sent-instant" : "dialog-error";
+}
+
+ca_context* connect() {
+    ca_context* context = nullptr;
+    if (ca_context_create(&context) != CA_SUCCESS) return nullptr;
+    ca_context_change_props(context, CA_PROP_APPLICATION_NAME, "Quillon", CA_PROP_MEDIA_ROLE,
+                            "event", CA_PROP_CANBERRA_CACHE_CONTROL, "permanent", nullptr);
+    return context;
+}
+
+} // namespace
+
+/// The thread and what it is to play next. A sound that comes while the server is still being
+/// looked for takes the place of the one before it.
+class CanberraSounds::Player : public std::enable_shared_from_this<Player> {
+public:
+    void play(Sound sound) {
+        const std::lock_guard lock{m_mutex};
+        m_next = sound;
+        m_changed.notify_all();
+        if (m_running) return;
+        m_running = true;
+        std::thread{[self = shared_from_this()] { self->run(); }}.detach();
+    }
+
+    /// A thread that hangs in the sound server is left behind.
+    void close() {
+        std::unique_lock lock{m_mutex};
+        m_closing = true;
+        m_changed.notify_all();
+        m_changed.wait_for(lock, closingLimit, [this] { return !m_running; });
+    }
+
+private:
+    void run() {
+        ca_context* context = connect();
+        std::unique_lock lock{m_mutex};
+        for (;;) {
+            m_changed.wait(lock, [this] { return m_closing || m_next; });
+            if (m_closing) break;
+            const char* event = eventOf(*m_next);
+            m_next.reset();
+            lock.unlock();
+            if (context) ca_context_play(context, 0, CA_PROP_EVENT_ID, event, nullptr);
+            lock.lock();
+        }
+        lock.unlock();
+        if (context) ca_context_destroy(context);
+        lock.lock();
+        m_running = false;
+        m_changed.notify_all();
+    }
+
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::optional<Sound> m_next;
+    bool m_running = false;
+    bool m_closing = false;
+};
+
+CanberraSounds::CanberraSounds() : m_player{std::make_shared<Player>()} {}
+
+CanberraSounds::~CanberraSounds() {
+    m_player->close();
+}
+
+void CanberraSounds::play(Sound sound) {
+    m_player->play(sound);
+}
+
+} // namespace quillon

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/Sounds.h"
+
+#include <memory>
+
+namespace quillon {
+
+/// The sounds of the desktop's theme through libcanberra, on a thread of its own, because finding
+/// the sound server can take a while.
+class CanberraSounds final : public Sounds {
+public:
+    CanberraSounds();
+    ~CanberraSounds() override;
+
+    void play(Sound sound) override;
+
+private:
+    class Player;
+    std::shared_ptr<Player> m_player;
+};
+
+} // namespace quillon

@@ -1,0 +1,72 @@
+#include "platform/linux/GlibSteps.h"
+
+namespace quillon {
+
+namespace {
+
+/// How long a cancelled operation may take to call back before it is left to itself: one that waits
+/// for a hanging service to close its window would never do so.
+constexpr std::chrono::milliseconds graceAfterCancelling{300};
+
+} // namespace
+
+struct GlibSteps::Answer {
+    GlibPointer<GAsyncResult> result;
+
+    /// Owns its share of the answer, which may be nobody else's by now.
+    static void arrive(GObject* /*source*/, GAsyncResult* result, gpointer share) {
+        const std::unique_ptr<std::shared_ptr<Answer>> answer{
+            static_cast<std::shared_ptr<Answer>*>(share)};
+        (*answer)->result.reset(G_ASYNC_RESULT(g_object_ref(result)));
+    }
+};
+
+GlibSteps::GlibSteps() : m_context{g_main_context_new()} {
+    g_main_context_push_thread_default(m_context);
+}
+
+GlibSteps::~GlibSteps() {
+    g_main_context_pop_thread_default(m_context);
+    g_main_context_unref(m_context);
+}
+
+GlibPointer<GAsyncResult> GlibSteps::await(std::optional<std::chrono::milliseconds> limit,
+                                           const Start& start) {
+    if (m_stopping) return {};
+    const auto answer = std::make_shared<Answer>();
+    const GlibPointer<GCancellable> cancellable{g_cancellable_new()};
+    start(cancellable.get(), &Answer::arrive, new std::shared_ptr<Answer>{answer});
+    iterate(*answer, limit, false);
+    if (!answer->result) {
+        g_cancellable_cancel(cancellable.get());
+        iterate(*answer, graceAfterCancelling, true);
+    }
+    return std::move(answer->result);
+}
+
+void GlibSteps::iterate(const Answer& answer, std::optional<std::chrono::milliseconds> limit,
+                        bool evenWhenStopped) {
+    bool expired = false;
+    GSource* timer = nullptr;
+    if (limit) {
+        timer = g_timeout_source_new(static_cast<guint>(limit->count()));
+        const auto expire = [](gpointer flag) -> gboolean {
+            *static_cast<bool*>(flag) = true;
+            return G_SOURCE_REMOVE;
+        };
+        g_source_set_callback(timer, expire, &expired, nullptr);
+        g_source_attach(timer, m_context);
+    }
+    while (!answer.result && !expired && (evenWhenStopped || !m_stopping))
+        g_main_context_iteration(m_context, TRUE);
+    if (!timer) return;
+    g_source_destroy(timer);
+    g_source_unref(timer);
+}
+
+void GlibSteps::stop() {
+    m_stopping = true;
+    g_main_context_wakeup(m_context);
+}
+
+} // namespace quillon

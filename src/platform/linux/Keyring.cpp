@@ -1,0 +1,168 @@
+#include "platform/linux/Keyring.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <string_view>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::chrono::milliseconds stepLimit{std::chrono::seconds{5}};
+
+/// How items are described. The schema's name is not looked at when searching, so that an item that
+/// another program made with the same attributes is the same item.
+const SecretSchema& schema() {
+    static const SecretSchema schema = [] {
+        SecretSchema made{};
+        made.name = "quillon.Secret";
+        made.flags = SECRET_SCHEMA_DONT_MATCH_NAME;
+        made.attributes[0] = {"service", SECRET_SCHEMA_ATTRIBUTE_STRING};
+        made.attributes[1] = {"account", SECRET_SCHEMA_ATTRIBUTE_STRING};
+        return made;
+    }();
+    return schema;
+}
+
+using Attributes = std::unique_ptr<GHashTable, decltype(&g_hash_table_unref)>;
+
+Attributes attributesOf(const KeychainItem& item) {
+    return {secret_attributes_build(&schema(), "service", item.service.c_str(), "account",
+                                    item.account.c_str(), nullptr),
+            &g_hash_table_unref};
+}
+
+using Value = std::unique_ptr<SecretValue, decltype(&secret_value_unref)>;
+
+/// Whether a session bus is there already. GLib would start one otherwise, whose keyring nobody but
+/// this program could see.
+bool hasSessionBus() {
+    const char* address = std::getenv("DBUS_SESSION_BUS_ADDRESS");
+    if (address && *address) return !std::string_view{address}.starts_with("autolaunch:");
+    const char* folder = std::getenv("XDG_RUNTIME_DIR");
+    std::error_code ignored;
+    return folder && *folder &&
+           std::filesystem::is_socket(std::filesystem::path{folder} / "bus", ignored);
+}
+
+} // namespace
+
+bool Keyring::open() {
+    if (!hasSessionBus()) return false;
+    auto answer =
+        m_steps.await(stepLimit, [](auto... end) { g_bus_get(G_BUS_TYPE_SESSION, end...); });
+    if (!answer) return false;
+    const GlibPointer<GDBusConnection> bus{g_bus_get_finish(answer.get(), nullptr)};
+    if (!bus) return false;
+    // GLib would end the program together with the session bus.
+    g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
+
+    answer = m_steps.await(stepLimit, [](auto... end) {
+        secret_service_open(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_NONE, end...);
+    });
+    if (answer) m_service.reset(secret_service_open_finish(answer.get(), nullptr));
+    return m_service != nullptr;
+}
+
+Keyring::Items Keyring::search(const KeychainItem& item, SecretSearchFlags flags) {
+    const Attributes attributes = attributesOf(item);
+    const auto answer = m_steps.await(stepLimit, [&](auto... end) {
+        secret_service_search(m_service.get(), &schema(), attributes.get(), flags, end...);
+    });
+    if (!answer) return {};
+    return Items{secret_service_search_finish(m_service.get(), answer.get(), nullptr)};
+}
+
+bool Keyring::unlock(gpointer object) {
+    GList objects{object, nullptr, nullptr};
+    const auto answer = m_steps.await(std::nullopt, [&](auto... end) {
+        secret_service_unlock(m_service.get(), &objects, end...);
+    });
+    if (!answer) return false;
+    return secret_service_unlock_finish(m_service.get(), answer.get(), nullptr, nullptr) > 0;
+}
+
+bool Keyring::load(SecretItem* item) {
+    if (secret_item_get_locked(item) && !unlock(item)) return false;
+    const auto answer =
+        m_steps.await(stepLimit, [&](auto... end) { secret_item_load_secret(item, end...); });
+    return answer && secret_item_load_secret_finish(item, answer.get(), nullptr);
+}
+
+bool Keyring::exists(const KeychainItem& item) {
+    return open() && search(item, SECRET_SEARCH_NONE) != nullptr;
+}
+
+std::optional<std::string> Keyring::read(const KeychainItem& item) {
+    if (!open()) return std::nullopt;
+    const Items found = search(item, SECRET_SEARCH_NONE);
+    if (!found) return std::nullopt;
+    auto* first = SECRET_ITEM(found->data);
+    if (!load(first)) return std::nullopt;
+    const Value value{secret_item_get_secret(first), &secret_value_unref};
+    if (!value) return std::nullopt;
+    gsize length = 0;
+    const char* bytes = secret_value_get(value.get(), &length);
+    if (!g_utf8_validate_len(bytes, length, nullptr)) return std::nullopt;
+    return std::string{bytes, length};
+}
+
+bool Keyring::removeAll(const KeychainItem& item) {
+    const Items found = search(item, SECRET_SEARCH_ALL);
+    bool all = true;
+    for (const GList* link = found.get(); link; link = link->next) {
+        auto* each = SECRET_ITEM(link->data);
+        if (secret_item_get_locked(each) && !unlock(each)) {
+            all = false;
+            continue;
+        }
+        const auto answer =
+            m_steps.await(stepLimit, [&](auto... end) { secret_item_delete(each, end...); });
+        all = answer && secret_item_delete_finish(each, answer.get(), nullptr) && all;
+    }
+    return all;
+}
+
+void Keyring::remove(const KeychainItem& item) {
+    if (open()) removeAll(item);
+}
+
+Keyring::DefaultCollection Keyring::prepareDefaultCollection() {
+    using enum DefaultCollection;
+    const auto answer = m_steps.await(stepLimit, [&](auto... end) {
+        secret_collection_for_alias(m_service.get(), SECRET_COLLECTION_DEFAULT,
+                                    SECRET_COLLECTION_NONE, end...);
+    });
+    if (!answer) return unusable;
+    GError* error = nullptr;
+    const GlibPointer<SecretCollection> collection{
+        secret_collection_for_alias_finish(answer.get(), &error)};
+    if (error) {
+        g_error_free(error);
+        return unusable;
+    }
+    if (!collection) return missing;
+    if (!secret_collection_get_locked(collection.get())) return unlocked;
+    return unlock(collection.get()) ? unlocked : unusable;
+}
+
+bool Keyring::save(const KeychainItem& item, const std::string& value) {
+    if (!open()) return false;
+    const DefaultCollection collection = prepareDefaultCollection();
+    if (collection == DefaultCollection::unusable || !removeAll(item)) return false;
+
+    // Storing makes a missing collection, for which the user is asked for a password.
+    std::optional<std::chrono::milliseconds> limit;
+    if (collection == DefaultCollection::unlocked) limit = stepLimit;
+    const Attributes attributes = attributesOf(item);
+    const Value secret{
+        secret_value_new(value.data(), static_cast<gssize>(value.size()), "text/plain"),
+        &secret_value_unref};
+    const auto answer = m_steps.await(limit, [&](auto... end) {
+        secret_service_store(m_service.get(), &schema(), attributes.get(),
+                             SECRET_COLLECTION_DEFAULT, item.label.c_str(), secret.get(), end...);
+    });
+    return answer && secret_service_store_finish(m_service.get(), answer.get(), nullptr);
+}
+
+} // namespace quillon

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/SecretStore.h"
+
+#include <memory>
+
+namespace quillon {
+
+/// The user's keyring over the Secret Service, through libsecret. All operations run one after
+/// another on one worker thread. Where there is no session bus, none is started.
+class LibsecretStore final : public SecretStore {
+public:
+    LibsecretStore();
+
+    /// Closes the question that the user may still be asked; what has not ended yet fails.
+    ~LibsecretStore() override;
+
+    [[nodiscard]] QFuture<bool> save(KeychainItem item, std::string value) override;
+    [[nodiscard]] QFuture<std::optional<std::string>> read(KeychainItem item) override;
+    [[nodiscard]] bool exists(const KeychainItem& item) override;
+    [[nodiscard]] QFuture<void> remove(KeychainItem item) override;
+
+private:
+    class Worker;
+    std::unique_ptr<Worker> m_worker;
+};
+
+} // namespace quillon

@@ -1,0 +1,47 @@
+#include "platform/linux/LinuxPlatform.h"
+
+#include <cstdlib>
+#include <optional>
+#include <string>
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* telegramsBotApi = "https://api.telegram.org";
+
+std::optional<std::string> environment(const char* name) {
+    const char* value = std::getenv(name);
+    if (!value || !*value) return std::nullopt;
+    return value;
+}
+
+std::optional<std::string> otherBotApi() {
+    auto api = environment("QUILLON_BOT_API");
+    while (api && api->ends_with('/'))
+        api->pop_back();
+    return api;
+}
+
+CurlTransportOptions transportOptions() {
+    CurlTransportOptions options;
+    options.allowHttp = otherBotApi().has_value();
+    return options;
+}
+
+/// As the XDG base directory specification has it, which ignores relative paths.
+std::filesystem::path dataFolder() {
+    const std::filesystem::path data = environment("XDG_DATA_HOME").value_or("");
+    if (data.is_absolute()) return data / "Quillon";
+    return std::filesystem::path{environment("HOME").value_or("/")} / ".local/share/Quillon";
+}
+
+} // namespace
+
+LinuxPlatform::LinuxPlatform(std::unique_ptr<Pasteboard> pasteboard)
+    : m_http{transportOptions()},
+      m_pasteboard{std::move(pasteboard)},
+      m_platform{m_clock,   m_files,  m_http,       *m_pasteboard,
+                 m_secrets, m_sounds, dataFolder(), otherBotApi().value_or(telegramsBotApi)} {}
+
+} // namespace quillon

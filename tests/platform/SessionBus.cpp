@@ -1,0 +1,129 @@
+#include "platform/SessionBus.h"
+
+#include "support/Await.h"
+
+#include <QFile>
+
+namespace quillon::test {
+
+namespace {
+
+constexpr const char* keyringName = "org.freedesktop.secrets";
+
+// Without folders of services, so that the bus starts none.
+constexpr const char* configuration = R"(<busconfig>
+  <type>session</type>
+  <listen>unix:tmpdir=/tmp</listen>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>)";
+
+/// Asks the bus itself; null when it refuses.
+GVariant* askBus(GDBusConnection* bus, const char* method, GVariant* arguments) {
+    return g_dbus_connection_call_sync(bus, "org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                       "org.freedesktop.DBus", method, arguments, nullptr,
+                                       G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr);
+}
+
+bool hasOwner(GDBusConnection* bus, const char* name) {
+    GVariant* answer = askBus(bus, "NameHasOwner", g_variant_new("(s)", name));
+    gboolean owned = FALSE;
+    g_variant_get(answer, "(b)", &owned);
+    g_variant_unref(answer);
+    return owned;
+}
+
+} // namespace
+
+SessionBus::SessionBus() {
+    const QString file = m_folder.filePath(QStringLiteral("bus.conf"));
+    QFile config{file};
+    EXPECT_TRUE(config.open(QIODevice::WriteOnly) && config.write(configuration) > 0);
+    config.close();
+    m_bus.start(QStringLiteral("dbus-daemon"),
+                {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
+                 QStringLiteral("--config-file=") + file});
+    EXPECT_TRUE(waitUntil([&] { return m_bus.waitForReadyRead(100) && m_bus.canReadLine(); }));
+    m_address = m_bus.readLine().trimmed().toStdString();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", QByteArray::fromStdString(m_address));
+}
+
+SessionBus::~SessionBus() {
+    for (QProcess* process : {&m_keyring, &m_bus}) {
+        process->kill();
+        process->waitForFinished();
+    }
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+}
+
+void SessionBus::startKeyring() {
+    auto environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
+        environment.insert(QString::fromLatin1(name), m_folder.path());
+    m_keyring.setProcessEnvironment(environment);
+    m_keyring.start(QStringLiteral("gnome-keyring-daemon"),
+                    {QStringLiteral("--foreground"), QStringLiteral("--unlock"),
+                     QStringLiteral("--components=secrets")});
+    m_keyring.write("password");
+    m_keyring.closeWriteChannel();
+    const auto connection = connect();
+    EXPECT_TRUE(waitUntil([&] { return hasOwner(connection.get(), keyringName); }));
+}
+
+QByteArray SessionBus::secretTool(const QStringList& arguments, const QByteArray& input) {
+    QProcess tool;
+    tool.start(QStringLiteral("secret-tool"), arguments);
+    tool.write(input);
+    tool.closeWriteChannel();
+    EXPECT_TRUE(tool.waitForFinished());
+    return tool.readAllStandardOutput() + tool.readAllStandardError();
+}
+
+GlibPointer<GDBusConnection> SessionBus::connect() const {
+    constexpr auto flags =
+        static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
+                                          G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
+    return GlibPointer<GDBusConnection>{g_dbus_connection_new_for_address_sync(
+        m_address.c_str(), flags, nullptr, nullptr, nullptr)};
+}
+
+ScriptedSecretService::ScriptedSecretService(const SessionBus& bus, Answers answers)
+    : m_connection{bus.connect()},
+      m_answers{std::move(answers)} {
+    const auto filter = [](GDBusConnection*, GDBusMessage* message, gboolean incoming,
+                           gpointer self) {
+        const bool call =
+            incoming && g_dbus_message_get_message_type(message) == G_DBUS_MESSAGE_TYPE_METHOD_CALL;
+        return call ? static_cast<ScriptedSecretService*>(self)->take(message) : message;
+    };
+    m_filter = g_dbus_connection_add_filter(m_connection.get(), filter, this, nullptr);
+    GVariant* answer =
+        askBus(m_connection.get(), "RequestName", g_variant_new("(su)", keyringName, 0U));
+    EXPECT_TRUE(answer);
+    g_variant_unref(answer);
+}
+
+ScriptedSecretService::~ScriptedSecretService() {
+    g_dbus_connection_close_sync(m_connection.get(), nullptr, nullptr);
+    g_dbus_connection_remove_filter(m_connection.get(), m_filter);
+}
+
+GDBusMessage* ScriptedSecretService::take(GDBusMessage* message) {
+    const std::string method = g_dbus_message_get_member(message);
+    if (const auto found = m_answers.find(method); found != m_answers.end()) {
+        GDBusMessage* reply = g_dbus_message_new_method_reply(message);
+        g_dbus_message_set_body(
+            reply, g_variant_parse(nullptr, found->second.c_str(), nullptr, nullptr, nullptr));
+        g_dbus_connection_send_message(m_connection.get(), reply, G_DBUS_SEND_MESSAGE_FLAGS_NONE,
+                                       nullptr, nullptr);
+        g_object_unref(reply);
+    }
+    if (method == "Prompt") m_prompted = true;
+    g_object_unref(message);
+    return nullptr;
+}
+
+} // namespace quillon::test

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/linux/GlibSteps.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <atomic>
+#include <map>
+#include <string>
+
+namespace quillon::test {
+
+/// A session bus for one test, on which nothing is started by itself. The environment points to it
+/// while it lives, and to no bus at all afterwards.
+class SessionBus {
+public:
+    SessionBus();
+    SessionBus(const SessionBus&) = delete;
+    SessionBus& operator=(const SessionBus&) = delete;
+    ~SessionBus();
+
+    /// Starts the real keyring, empty and unlocked.
+    void startKeyring();
+
+    /// Runs the command line tool of the keyring to its end, and gives its output.
+    QByteArray secretTool(const QStringList& arguments, const QByteArray& input = {});
+
+    /// A connection of the test's own.
+    [[nodiscard]] GlibPointer<GDBusConnection> connect() const;
+
+private:
+    QTemporaryDir m_folder;
+    QProcess m_bus;
+    QProcess m_keyring;
+    std::string m_address;
+};
+
+/// Stands in for the Secret Service and gives one fixed answer to each method; whoever calls a
+/// method without one waits for ever.
+class ScriptedSecretService {
+public:
+    /// From method names to the answers in GVariant's text format.
+    using Answers = std::map<std::string, std::string>;
+
+    ScriptedSecretService(const SessionBus& bus, Answers answers);
+    ScriptedSecretService(const ScriptedSecretService&) = delete;
+    ScriptedSecretService& operator=(const ScriptedSecretService&) = delete;
+    ~ScriptedSecretService();
+
+    /// Whether someone has called the method "Prompt", which is to ask the user.
+    [[nodiscard]] bool hasPrompted() const { return m_prompted; }
+
+private:
+    GDBusMessage* take(GDBusMessage* message);
+
+    GlibPointer<GDBusConnection> m_connection;
+    Answers m_answers;
+    std::atomic<bool> m_prompted = false;
+    guint m_filter = 0;
+};
+
+} // namespace quillon::test
