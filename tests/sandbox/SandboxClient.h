@@ -18,10 +18,10 @@ struct Reply {
 
     Json json() const { return Json::parse(text, nullptr, false); }
     Json result() const { return json().value("result", Json{}); }
-    /// The description of a refusal; the whole text of anything else.
+    /// The description of a refusal; empty for a call that was accepted.
     std::string error() const {
         const Json body = json();
-        return body.is_object() && body.contains("description") ? body["description"] : text;
+        return body.is_object() ? body.value("description", std::string{}) : "no JSON object";
     }
 };
 
