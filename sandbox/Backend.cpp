@@ -50,13 +50,13 @@ HttpReply errorReply(const ApiError& error) {
     return {error.code, "application/json", dumped(body)};
 }
 
-RequestRecord begunRecord(HttpRequest& request, const std::string& faultName) {
+RequestRecord begunRecord(const HttpRequest& request, const std::string& faultName) {
     RequestRecord record;
     record.connection = request.connection;
     record.time = request.time;
     record.verb = request.verb;
     record.method = Backend::methodOf(request.path).value_or("(no method)");
-    record.contentType = request.headers["content-type"];
+    record.contentType = request.header("content-type");
     record.bodySize = request.body.size;
     record.fault = faultName;
     return record;

@@ -33,6 +33,12 @@ struct HttpRequest {
             task();
     }
 
+    /// By its name in lower case; empty when there is none.
+    std::string header(const std::string& name) const {
+        const auto found = headers.find(name);
+        return found == headers.end() ? std::string{} : found->second;
+    }
+
     std::string verb;
     std::string path;
     std::string query;                          ///< without the question mark

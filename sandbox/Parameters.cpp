@@ -123,7 +123,7 @@ Parameters readParameters(HttpRequest& request, bool hashFiles) {
     Parameters parameters;
     readForm(request.query, ParameterSource::query, parameters);
     const std::string_view body = request.body.view();
-    const std::string contentType = request.headers["content-type"];
+    const std::string contentType = request.header("content-type");
     const std::string type = lowered(trimmedAscii(contentType.substr(0, contentType.find(';'))));
     if (body.empty()) return parameters;
     if (type == "application/json")

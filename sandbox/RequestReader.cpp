@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <limits>
 
 namespace quillon::sandbox {
 
@@ -32,7 +33,8 @@ bool RequestReader::receive() {
 
 RequestReader::Outcome RequestReader::readHeader(HttpRequest& request) {
     http::request_parser<http::empty_body> parser;
-    parser.body_limit(boost::none);
+    // Not "none": Beast 1.74 takes every length to be beyond that.
+    parser.body_limit(std::numeric_limits<std::uint64_t>::max());
     while (!parser.is_header_done()) {
         boost::system::error_code error;
         if (buffer_.size() > 0) buffer_.consume(parser.put(buffer_.data(), error));
@@ -51,7 +53,7 @@ RequestReader::Outcome RequestReader::readHeader(HttpRequest& request) {
     keepAlive_ = parser.keep_alive();
     chunked_ = parser.chunked();
     length_ = parser.content_length().value_or(0);
-    expectsContinue_ = lowered(request.headers["expect"]) == "100-continue";
+    expectsContinue_ = lowered(request.header("expect")) == "100-continue";
     return length_ > biggestBody ? Outcome::tooLarge : Outcome::ready;
 }
 

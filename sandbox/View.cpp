@@ -95,7 +95,11 @@ void printMessage(std::ostream& out, const Json& message) {
     out << "    " << message["from"].get<std::string>() << " #"
         << message["id"].get<std::int64_t>();
     if (kind == "service") {
-        out << " — " << dumped(message["service"]) << '\n';
+        const auto first = message["service"].begin();
+        out << " — " << first.key();
+        if (first->is_object() && first->contains("name"))
+            out << ": " << (*first)["name"].get<std::string>();
+        out << '\n';
         return;
     }
     out << '\n';
