@@ -191,8 +191,9 @@ QCoro::Task<Store::Item> Store::sendFile(std::filesystem::path path, Telegram tg
     const Topic topic = topicFor(kind.topic);
     const std::string name = path.filename().native();
     const std::string title = validUtf8(name);
-    FileReading reading = co_await QtConcurrent::run(
+    const QFuture<FileReading> pending = QtConcurrent::run(
         [&files = platform_.files, path] { return files.read(path, maximumFileSize); });
+    FileReading reading = co_await pending;
     Item item{makeEntry(platform_.clock, kind.symbol, title, topic.name),
               SendInfo{.kind = std::string{kind.kind}, .bytes = reading.size, .reason = {}}};
     if (auto found = problem(reading, title)) {
