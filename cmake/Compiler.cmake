@@ -26,5 +26,5 @@ if(QUILLON_SANITIZE)
     target_compile_definitions(quillon_compiler INTERFACE QUILLON_SANITIZED)
     # GCC 12 reports false "may be used uninitialized" inside the standard library under sanitizers.
     target_compile_options(quillon_compiler INTERFACE
-        -Wno-maybe-uninitialized $<$<CONFIG:Debug>:-O1>)
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized> $<$<CONFIG:Debug>:-O1>)
 endif()
