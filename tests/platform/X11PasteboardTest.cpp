@@ -14,7 +14,7 @@ namespace quillon::test {
 
 namespace {
 
-using std::chrono_literals::operator""ms;
+using namespace std::chrono_literals;
 using testing::Contains;
 using testing::IsEmpty;
 
