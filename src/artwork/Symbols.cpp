@@ -28,7 +28,7 @@ constexpr std::string_view fallbackIcon = "hash";
 
 // Lines that are added around an icon's shapes, in the units of its 16 by 16 grid, whose own lines
 // are about 1 wide.
-constexpr std::array<double, 3> extraLines{0, 0.3, 0.6};
+constexpr std::array<double, 3> extraLines{0, 0.4, 0.8};
 
 /// A filled symbol is heavy as it is; more line would only close what is cut out of it.
 double extraLine(std::string_view name, SymbolWeight weight) {
@@ -46,9 +46,10 @@ QByteArray iconDocument(std::string_view icon, double line) {
     QFile file{QStringLiteral(":/symbols/%1.svg").arg(fromView(icon))};
     if (!file.open(QIODevice::ReadOnly)) return {};
     QByteArray document = file.readAll();
-    if (line > 0)
-        document.replace("<svg ", "<svg stroke=\"#000\" stroke-linejoin=\"round\" stroke-width=\"" +
-                                      QByteArray::number(line) + "\" ");
+    if (line > 0) {
+        document.replace("<svg ", R"(<svg stroke="#000" stroke-linejoin="round" stroke-width=")" +
+                                      QByteArray::number(line) + R"(" )");
+    }
     return document;
 }
 

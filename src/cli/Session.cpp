@@ -7,11 +7,11 @@
 #include "cli/Terminal.h"
 #include "desktop/HUD.h"
 #include "desktop/HUDPanel.h"
+#include "platform/EmptyPasteboard.h"
 #include "platform/Sleep.h"
-#include "platform/linux/Display.h"
 #include "platform/linux/LinuxPlatform.h"
-#include "platform/linux/MakePasteboard.h"
 #include "platform/linux/X11Compositor.h"
+#include "platform/linux/X11Pasteboard.h"
 #include "state/Store.h"
 
 #include <QApplication>
@@ -45,7 +45,8 @@ QCoro::Task<> sendToExit(Invocation invocation, CommandContext context, const HU
 } // namespace
 
 int Session::run(Invocation invocation, Detach& detach) {
-    if (!displayAnswers()) {
+    std::unique_ptr<Pasteboard> pasteboard = X11Pasteboard::open(nullptr);
+    if (!pasteboard) {
         Terminal::printError("There is no clipboard to read: no X server answers.");
         return exitFailed;
     }
@@ -57,7 +58,7 @@ int Session::run(Invocation invocation, Detach& detach) {
     QApplication application{argc, argv};
     QApplication::setQuitOnLastWindowClosed(false);
 
-    LinuxPlatform services{makePasteboard()};
+    LinuxPlatform services{std::move(pasteboard)};
     Platform& platform = services.platform();
     Analytics analytics{platform};
     const X11Compositor compositor;
@@ -78,7 +79,7 @@ int Session::run(Invocation invocation) {
     char name[] = "quillon";
     char* argv[] = {name, nullptr};
     QCoreApplication application{argc, argv};
-    LinuxPlatform services{nullptr};
+    LinuxPlatform services{std::make_unique<EmptyPasteboard>()};
     Platform& platform = services.platform();
     Analytics analytics{platform};
     SpokenBanner banner{nullptr};

@@ -28,10 +28,7 @@ HUDPanel::HUDPanel() : QWidget{nullptr, overlay} {
 void HUDPanel::setContent(const HUDView& view, const QString& text, double devicePixelRatio,
                           bool blended) {
     picture_ = view.render(devicePixelRatio, blended);
-    if (blended)
-        clearMask();
-    else
-        setMask(view.outline());
+    setMask(blended ? QRegion{} : view.outline());
     setAccessibleName(text);
     QAccessibleEvent announcement{this, QAccessible::Alert};
     QAccessible::updateAccessibility(&announcement);

@@ -57,9 +57,10 @@ QPixmap HUDView::render(double devicePixelRatio, bool blended) const {
     pixmap.fill(blended ? Qt::transparent : Brand::navy);
     QPainter painter{&pixmap};
     painter.setRenderHint(QPainter::Antialiasing);
-    if (blended)
+    if (blended) {
         painter.drawPixmap(
             0, 0, capsuleShadow(layout_.window, layout_.capsule, shadow, devicePixelRatio));
+    }
     paintCapsule(painter, blended);
     paintRow(painter, devicePixelRatio);
     return pixmap;

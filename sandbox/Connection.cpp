@@ -1,0 +1,127 @@
+#include "sandbox/Connection.h"
+
+#include <boost/beast/http/status.hpp>
+
+#include <poll.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon::sandbox {
+
+namespace {
+
+std::string reason(int status) {
+    const auto known = boost::beast::http::int_to_status(static_cast<unsigned>(status));
+    const auto text = boost::beast::http::obsolete_reason(known);
+    return {text.data(), text.size()};
+}
+
+} // namespace
+
+void Connection::run() {
+    if (!channel_.open()) return;
+    while (exchange() && !closing_) {
+    }
+    if (!broken_) channel_.close();
+}
+
+bool Connection::exchange() {
+    using Outcome = RequestReader::Outcome;
+    HttpRequest request;
+    request.connection = number_;
+    const Outcome header = reader_.readHeader(request);
+    if (header == Outcome::malformed) return refuse(400, "Bad Request");
+    if (header == Outcome::tooLarge) return refuse(413, "Request Entity Too Large");
+    if (header == Outcome::closed) return false;
+    closing_ = !reader_.keepAlive();
+    const auto method = Backend::methodOf(request.path);
+    const auto fault = method ? backend_.faults.takeForCall(*method) : std::nullopt;
+    if (fault && fault->kind == FaultKind::cutBeforeBody) {
+        backend_.record(request, fault->name(), false, 0);
+        channel_.reset();
+        broken_ = true;
+        return false;
+    }
+    const Outcome body = reader_.readBody(request);
+    if (body == Outcome::malformed) return refuse(400, "Bad Request");
+    if (body == Outcome::tooLarge) return refuse(413, "Request Entity Too Large");
+    if (body == Outcome::closed) return false;
+    return fault ? answerWithFault(request, *fault) : answer(request);
+}
+
+bool Connection::answer(HttpRequest& request) {
+    return send(backend_.serve(request));
+}
+
+bool Connection::answerWithFault(HttpRequest& request, const Fault& fault) {
+    const auto standIn = fault.reply();
+    if (standIn || fault.kind == FaultKind::hang || fault.kind == FaultKind::cutAfterBody) {
+        backend_.record(request, fault.name(), true, standIn ? standIn->status : 0);
+        request.finish();
+        if (standIn) return send(*standIn);
+        if (fault.kind == FaultKind::hang) hang();
+        return false;
+    }
+    const HttpReply reply = backend_.serve(request, fault.name());
+    request.finish();
+    if (fault.kind == FaultKind::trickle) return trickle(reply, fault.delay);
+    if (fault.kind == FaultKind::delay) return pause(fault.delay) && send(reply);
+    sendPart(reply);
+    return false;
+}
+
+// The rest of the request, if any, is not read, so the connection cannot be used again. Closing it
+// with unread bytes would reset it and lose the reply; what is still under way is read and dropped.
+bool Connection::refuse(int status, std::string_view description) {
+    closing_ = true;
+    const Json body{{"ok", false}, {"error_code", status}, {"description", description}};
+    if (!send({status, "application/json", dumped(body)})) return false;
+    channel_.close();
+    std::string dropped(64UL * 1024, '\0');
+    while (channel_.read(dropped.data(), dropped.size()) > 0) {
+    }
+    return false;
+}
+
+std::string Connection::onTheWire(const HttpReply& reply) const {
+    std::string bytes = "HTTP/1.1 " + std::to_string(reply.status) + ' ' + reason(reply.status) +
+                        "\r\nServer: nginx\r\nContent-Type: " + reply.contentType +
+                        "\r\nContent-Length: " + std::to_string(reply.body.size()) +
+                        "\r\nConnection: " + (closing_ ? "close" : "keep-alive") + "\r\n\r\n";
+    return bytes + reply.body;
+}
+
+bool Connection::send(const HttpReply& reply) {
+    return channel_.write(onTheWire(reply));
+}
+
+// The header and half of the body.
+void Connection::sendPart(const HttpReply& reply) {
+    const std::string bytes = onTheWire(reply);
+    channel_.write(std::string_view{bytes}.substr(0, bytes.size() - (reply.body.size() + 1) / 2));
+}
+
+bool Connection::trickle(const HttpReply& reply, std::chrono::milliseconds between) {
+    constexpr std::size_t pieces = 20;
+    const std::string bytes = onTheWire(reply);
+    const std::size_t piece = bytes.size() / pieces + 1;
+    for (std::size_t begin = 0; begin < bytes.size(); begin += piece) {
+        if (begin > 0 && !pause(between)) return false;
+        if (!channel_.write(std::string_view{bytes}.substr(begin, piece))) return false;
+    }
+    return true;
+}
+
+// False when the client has gone, or the server stops, before the time is over.
+bool Connection::pause(std::chrono::milliseconds duration) {
+    pollfd descriptor{channel_.descriptor(), POLLRDHUP, 0};
+    return poll(&descriptor, 1, static_cast<int>(duration.count())) == 0;
+}
+
+void Connection::hang() {
+    constexpr std::chrono::hours longest{1};
+    pause(longest);
+}
+
+} // namespace quillon::sandbox

@@ -1,0 +1,44 @@
+// Serves the requests of one connection, one after the other, faults included.
+#pragma once
+
+#include "sandbox/Backend.h"
+#include "sandbox/Channel.h"
+#include "sandbox/RequestReader.h"
+
+#include <optional>
+#include <string>
+
+namespace quillon::sandbox {
+
+class Connection {
+public:
+    Connection(Channel& channel, Backend& backend, int number)
+        : channel_{channel},
+          backend_{backend},
+          reader_{channel},
+          number_{number} {}
+
+    /// Returns when the connection has ended.
+    void run();
+
+private:
+    bool exchange();
+    bool answer(HttpRequest& request);
+    bool answerWithFault(HttpRequest& request, const Fault& fault);
+    bool refuse(int status, std::string_view description);
+    bool send(const HttpReply& reply);
+    void sendPart(const HttpReply& reply);
+    bool trickle(const HttpReply& reply, std::chrono::milliseconds pause);
+    std::string onTheWire(const HttpReply& reply) const;
+    bool pause(std::chrono::milliseconds duration);
+    void hang();
+
+    Channel& channel_;
+    Backend& backend_;
+    RequestReader reader_;
+    int number_;
+    bool closing_ = false;
+    bool broken_ = false;
+};
+
+} // namespace quillon::sandbox

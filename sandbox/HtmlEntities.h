@@ -1,0 +1,40 @@
+// Telegram's reading of HTML messages: a text without its markup and the entities over it.
+#pragma once
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillon::sandbox {
+
+/// One stretch of a text, in bytes; the Bot API counts the same stretch in UTF-16 units.
+struct Entity {
+    std::string type; ///< "bold", "pre", "text_link"… as the Bot API names it
+    std::size_t begin = 0;
+    std::size_t end = 0;
+    std::string argument; ///< a link's address or a pre block's language
+
+    bool operator==(const Entity&) const = default;
+};
+
+struct FormattedText {
+    std::string text;
+    std::vector<Entity> entities; ///< outer before inner, in the order of their beginnings
+};
+
+/// Its text continues "Bad Request: can't parse entities: ".
+class EntityError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Reads text written for parse_mode "HTML". Throws EntityError for a tag that is unknown, unclosed
+/// or not opened; the wordings, with offsets in bytes of `html`, are the Bot API's.
+FormattedText parseHtml(std::string_view html);
+
+/// White space at the end goes, and at the beginning as far as the first entity.
+FormattedText trimmed(FormattedText formatted);
+
+} // namespace quillon::sandbox

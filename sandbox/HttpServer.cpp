@@ -1,0 +1,79 @@
+#include "sandbox/HttpServer.h"
+
+#include "sandbox/Connection.h"
+
+#include <sys/socket.h>
+
+#include <utility>
+
+namespace quillon::sandbox {
+
+using boost::asio::ip::tcp;
+
+std::uint16_t HttpServer::start(std::uint16_t port) {
+    const tcp::endpoint endpoint{boost::asio::ip::address_v4::loopback(), port};
+    acceptor_.emplace(context_, endpoint, true);
+    acceptThread_ = std::thread{[this] { acceptAll(); }};
+    return acceptor_->local_endpoint().port();
+}
+
+void HttpServer::stop() {
+    if (!acceptor_) return;
+    // Wakes the accepting thread, which close() would not.
+    ::shutdown(acceptor_->native_handle(), SHUT_RDWR);
+    acceptThread_.join();
+    acceptor_.reset();
+    dropConnections();
+    reap(true);
+}
+
+void HttpServer::dropConnections() {
+    const std::lock_guard lock{mutex_};
+    for (Client& client : clients_) {
+        if (!client.ended) ::shutdown(client.channel->descriptor(), SHUT_RDWR);
+    }
+}
+
+void HttpServer::acceptAll() {
+    while (true) {
+        boost::system::error_code error;
+        tcp::socket socket = acceptor_->accept(error);
+        if (error) return;
+        socket.set_option(tcp::no_delay{true}, error);
+        auto* const tls = certificate_ != nullptr ? &certificate_->context() : nullptr;
+        auto channel = makeChannel(std::move(socket), tls);
+        const int number = ++accepted_;
+        if (backend_.faults.takeForConnection()) {
+            channel->reset();
+            continue;
+        }
+        reap(false);
+        const std::lock_guard lock{mutex_};
+        Client& client = clients_.emplace_back();
+        client.channel = std::move(channel);
+        client.thread = std::thread{[this, &client, number] { serve(client, number); }};
+    }
+}
+
+void HttpServer::serve(Client& client, int number) {
+    Connection{*client.channel, backend_, number}.run();
+    const std::lock_guard lock{mutex_};
+    client.channel.reset();
+    client.ended = true;
+}
+
+void HttpServer::reap(bool all) {
+    std::list<Client> ended;
+    {
+        const std::lock_guard lock{mutex_};
+        for (auto client = clients_.begin(); client != clients_.end();) {
+            const auto next = std::next(client);
+            if (all || client->ended) ended.splice(ended.end(), clients_, client);
+            client = next;
+        }
+    }
+    for (Client& client : ended)
+        client.thread.join();
+}
+
+} // namespace quillon::sandbox

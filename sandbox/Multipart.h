@@ -1,0 +1,34 @@
+// A strict reader of multipart/form-data bodies (RFC 7578 over RFC 2046): what a careless encoder
+// gets wrong is refused here, where a lenient server would hide it.
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillon::sandbox {
+
+struct MultipartPart {
+    std::string name;
+    std::optional<std::string> filename; ///< bytes as they came, a backslash included
+    std::string mime;                    ///< empty when the part names none
+    std::string_view bytes;              ///< within the body that was read
+};
+
+class MultipartError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The boundary that a Content-Type header announces. Throws MultipartError when there is none or
+/// it is not 1 to 70 of the characters that RFC 2046 allows.
+std::string boundaryOf(std::string_view contentType);
+
+/// The parts, in order. Throws MultipartError for bytes before the first or after the last
+/// boundary, a missing closing boundary, a malformed part header and a part without a name.
+/// Content is never copied, only looked through once.
+std::vector<MultipartPart> parseMultipart(std::string_view body, std::string_view boundary);
+
+} // namespace quillon::sandbox

@@ -1,0 +1,49 @@
+// Reads HTTP/1.1 requests from a channel: the header first, so that a connection can be cut before
+// its body, then the body straight into memory of its size.
+#pragma once
+
+#include "sandbox/Channel.h"
+#include "sandbox/Http.h"
+
+#include <boost/beast/core/flat_buffer.hpp>
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace quillon::sandbox {
+
+class RequestReader {
+public:
+    /// Bodies beyond this are refused unread; a file of 50 MB with its parameters fits.
+    static constexpr std::uint64_t biggestBody = 64'000'000;
+
+    explicit RequestReader(Channel& channel) : channel_{channel} {}
+
+    enum class Outcome { ready, closed, malformed, tooLarge };
+
+    /// Fills everything of the request but its body.
+    Outcome readHeader(HttpRequest& request);
+
+    /// Reads the body that the header announced; answers an "Expect: 100-continue" first.
+    Outcome readBody(HttpRequest& request);
+
+    bool keepAlive() const { return keepAlive_; }
+
+private:
+    bool receive();
+    Outcome readSizedBody(HttpRequest& request, std::size_t size);
+    Outcome readChunkedBody(HttpRequest& request);
+    std::optional<std::size_t> readChunkSize();
+    bool readBytes(char* data, std::size_t size);
+    std::optional<std::string> readLine();
+
+    Channel& channel_;
+    boost::beast::flat_buffer buffer_;
+    bool keepAlive_ = false;
+    bool chunked_ = false;
+    bool expectsContinue_ = false;
+    std::uint64_t length_ = 0;
+};
+
+} // namespace quillon::sandbox

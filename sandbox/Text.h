@@ -1,0 +1,40 @@
+// UTF-8 as the Bot API counts, checks and cleans it.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quillon::sandbox {
+
+/// The code point at `position`, which is moved behind it; none (and no move) where the bytes are
+/// no well-formed UTF-8 (overlong forms and surrogates included) or at the end.
+std::optional<char32_t> nextCodePoint(std::string_view text, std::size_t& position);
+
+bool isUtf8(std::string_view text);
+
+std::string encoded(char32_t codePoint);
+
+/// Lengths of well-formed UTF-8.
+std::size_t codePoints(std::string_view text);
+std::size_t utf16Units(std::string_view text);
+
+/// The first `count` code points.
+std::string_view firstCodePoints(std::string_view text, std::size_t count);
+
+/// What the Bot API makes of any text before it looks at it: control characters (the tab included)
+/// become spaces, carriage returns, line separators, direction marks U+2028…U+202E and three
+/// combining lines are dropped.
+std::string cleaned(std::string_view text);
+
+/// Whether nothing in the text can be seen: spaces, line breaks, zero-width and blank letters.
+bool isBlank(std::string_view text);
+
+/// A topic's name as it is kept: cleaned, on one line, trimmed, at most `limit` code points.
+std::string cleanedName(std::string_view text, std::size_t limit);
+
+std::string lowered(std::string_view ascii);
+std::string trimmedAscii(std::string_view text);
+
+} // namespace quillon::sandbox

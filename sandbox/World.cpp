@@ -1,0 +1,237 @@
+#include "sandbox/World.h"
+
+#include "sandbox/Text.h"
+
+#include <algorithm>
+#include <chrono>
+#include <stdexcept>
+
+namespace quillon::sandbox {
+
+namespace {
+
+// Basic groups have small negative ids; a supergroup's is −100… before its own number, and such
+// numbers have long left 32 bits.
+constexpr std::int64_t firstGroupId = -4'123'456'789;
+constexpr std::int64_t firstSupergroupId = -1'001'234'567'890;
+constexpr std::int64_t idStep = 111'111'113;
+
+std::int64_t now() {
+    const auto time = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::seconds>(time).count();
+}
+
+std::string_view statusName(BotRole role) {
+    switch (role) {
+    case BotRole::absent:
+        return "left";
+    case BotRole::kicked:
+        return "kicked";
+    case BotRole::restricted:
+        return "restricted";
+    case BotRole::member:
+        return "member";
+    default:
+        return "administrator";
+    }
+}
+
+bool isIn(BotRole role) {
+    return role != BotRole::absent && role != BotRole::kicked;
+}
+
+} // namespace
+
+std::string_view kindName(ChatKind kind) {
+    switch (kind) {
+    case ChatKind::privateChat:
+        return "private";
+    case ChatKind::group:
+        return "group";
+    default:
+        return "supergroup";
+    }
+}
+
+Topic* Chat::topic(std::int64_t topicId) {
+    const auto found = std::find_if(topics.begin(), topics.end(), [&](const Topic& candidate) {
+        return candidate.id == topicId && !candidate.deleted;
+    });
+    return found == topics.end() ? nullptr : &*found;
+}
+
+BotRole Chat::role(std::int64_t botId) const {
+    const auto found = roles.find(botId);
+    return found == roles.end() ? BotRole::absent : found->second;
+}
+
+Bot& World::addBot(const std::string& token, const std::string& username) {
+    if (Bot* const known = bot(token)) {
+        known->username = username;
+        return *known;
+    }
+    return bots_.emplace_back(Bot{std::stoll(token), token, "Quillon", username, {}});
+}
+
+Bot* World::bot(std::string_view token) {
+    const auto found = std::find_if(bots_.begin(), bots_.end(),
+                                    [&](const Bot& candidate) { return candidate.token == token; });
+    return found == bots_.end() ? nullptr : &*found;
+}
+
+Chat& World::addGroup(const GroupOptions& options) {
+    const bool super = options.kind == ChatKind::supergroup;
+    const auto id = (super ? firstSupergroupId : firstGroupId) - idStep * groupsMade_++;
+    Chat& chat = chats_.emplace_back();
+    chat.id = options.id != 0 ? options.id : id;
+    chat.kind = options.kind;
+    chat.title = options.title;
+    chat.forum = super && options.forum;
+    if (options.bot != BotRole::absent) setRoleOfAll(chat, options.bot);
+    return chat;
+}
+
+Chat* World::chat(std::int64_t id) {
+    const auto found = std::find_if(chats_.begin(), chats_.end(),
+                                    [&](const Chat& candidate) { return candidate.id == id; });
+    return found == chats_.end() ? nullptr : &*found;
+}
+
+Chat& World::knownChat(std::int64_t id) {
+    if (Chat* const found = chat(id)) return *found;
+    throw std::out_of_range{"no such chat"};
+}
+
+void World::setRole(Chat& chat, Bot& bot, BotRole role) {
+    const BotRole old = chat.role(bot.id);
+    if (old == role) return;
+    chat.roles[bot.id] = role;
+    bot.updates.push("my_chat_member", {{"chat", chatJson(chat)},
+                                        {"from", userJson(userId)},
+                                        {"date", now()},
+                                        {"old_chat_member", memberJson(bot, old)},
+                                        {"new_chat_member", memberJson(bot, role)}});
+    if (isIn(old) || !isIn(role)) return;
+    Message joined;
+    joined.sender = userId;
+    joined.kind = "service";
+    joined.service = {{"new_chat_participant", userJson(bot.id)},
+                      {"new_chat_member", userJson(bot.id)},
+                      {"new_chat_members", Json::array({userJson(bot.id)})}};
+    post(chat, std::move(joined));
+}
+
+void World::setRoleOfAll(Chat& chat, BotRole role) {
+    for (Bot& bot : bots_)
+        setRole(chat, bot, role);
+}
+
+std::int64_t World::userSays(Chat& chat, const std::string& text, std::int64_t topic) {
+    if (topic != 0 && chat.topic(topic) == nullptr) throw std::out_of_range{"no such topic"};
+    Message message;
+    message.sender = userId;
+    message.topic = topic;
+    message.text.text = text;
+    return post(chat, std::move(message)).id;
+}
+
+std::int64_t World::userSaysTo(Bot& bot, const std::string& text) {
+    Chat* found = chat(userId);
+    if (found == nullptr) {
+        found = &chats_.emplace_back();
+        found->id = userId;
+        found->kind = ChatKind::privateChat;
+    }
+    found->roles[bot.id] = BotRole::member;
+    return userSays(*found, text, 0);
+}
+
+Chat& World::migrate(Chat& chat, bool forum) {
+    if (chat.kind != ChatKind::group) throw std::out_of_range{"not a basic group"};
+    GroupOptions options{chat.title, 0, ChatKind::supergroup, forum, BotRole::absent};
+    Chat& fresh = addGroup(options);
+    fresh.roles = chat.roles;
+    chat.migratedTo = fresh.id;
+    Message leaving;
+    leaving.sender = userId;
+    leaving.kind = "service";
+    leaving.service = {{"migrate_to_chat_id", fresh.id}};
+    Message arriving = leaving;
+    arriving.service = {{"migrate_from_chat_id", chat.id}};
+    post(chat, std::move(leaving));
+    post(fresh, std::move(arriving));
+    return fresh;
+}
+
+Topic& World::createTopic(Chat& chat, const std::string& name, int iconColor, std::int64_t by) {
+    Message created;
+    created.sender = by;
+    created.kind = "service";
+    created.topic = chat.lastMessage + 1;
+    created.service = {{"forum_topic_created", {{"name", name}, {"icon_color", iconColor}}}};
+    Topic topic{created.topic, name, iconColor, by, false};
+    chat.topics.push_back(std::move(topic));
+    post(chat, std::move(created));
+    return chat.topics.back();
+}
+
+void World::renameTopic(Chat& chat, Topic& topic, const std::string& name, std::int64_t by) {
+    topic.name = name;
+    Message edited;
+    edited.sender = by;
+    edited.kind = "service";
+    edited.topic = topic.id;
+    edited.service = {{"forum_topic_edited", {{"name", name}}}};
+    post(chat, std::move(edited));
+}
+
+void World::deleteTopic(Chat& chat, std::int64_t topicId) {
+    Topic* const topic = chat.topic(topicId);
+    if (topic == nullptr) throw std::out_of_range{"no such topic"};
+    topic->deleted = true;
+    std::erase_if(chat.messages, [&](const Message& message) { return message.topic == topicId; });
+}
+
+Message& World::post(Chat& chat, Message message) {
+    message.id = ++chat.lastMessage;
+    message.date = now();
+    Message& kept = chat.messages.emplace_back(std::move(message));
+    announce(chat, kept);
+    return kept;
+}
+
+// A bot hears service messages (its own included) and the user, but no other bot. In a group, one
+// that is no administrator hears of the user only commands: bots are made with their privacy on.
+void World::announce(const Chat& chat, const Message& message) {
+    const bool service = message.kind == "service";
+    for (Bot& bot : bots_) {
+        const BotRole role = chat.role(bot.id);
+        const bool hearsAll = chat.kind == ChatKind::privateChat || role >= BotRole::admin;
+        const bool heard = service || (message.sender == userId &&
+                                       (hearsAll || message.text.text.starts_with('/')));
+        if (isIn(role) && heard) bot.updates.push("message", messageJson(chat, message));
+    }
+}
+
+Json World::userJson(std::int64_t id) const {
+    const auto found =
+        std::find_if(bots_.begin(), bots_.end(), [&](const Bot& bot) { return bot.id == id; });
+    if (found == bots_.end())
+        return {{"id", id}, {"is_bot", false}, {"first_name", "Robin"}, {"language_code", "en"}};
+    Json json{{"id", id}, {"is_bot", true}, {"first_name", found->firstName}};
+    if (!found->username.empty()) json["username"] = found->username;
+    return json;
+}
+
+Json World::memberJson(const Bot& bot, BotRole role) const {
+    Json json{{"user", userJson(bot.id)}, {"status", statusName(role)}};
+    if (role >= BotRole::admin) {
+        json["can_be_edited"] = false;
+        json["can_manage_chat"] = true;
+        json["can_manage_topics"] = role == BotRole::topicAdmin;
+    }
+    if (role == BotRole::kicked) json["until_date"] = 0;
+    return json;
+}
+
+} // namespace quillon::sandbox
