@@ -13,9 +13,8 @@ namespace quillon::test {
 
 namespace {
 
-using std::string_literals::operator""s;
+using namespace std::string_literals;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::Pair;
 
 QByteArray picture(const char* format, QSize size = {3, 2}) {

@@ -24,7 +24,7 @@ public:
     /// large answer starts it anew.
     static constexpr std::chrono::milliseconds patience{1000};
     /// A larger answer counts as none, in bytes.
-    static constexpr qsizetype maximumSize = 256 * 1024 * 1024;
+    static constexpr qsizetype maximumSize = qsizetype{256} * 1024 * 1024;
 
     /// `ownerChanged` is called on the reading thread, each time something is copied or the owner
     /// goes away. Check ready() before use.
