@@ -16,11 +16,11 @@ std::string whole(const std::string& header, const std::string& content) {
 
 TEST(Multipart, keepsNamesAndBytesAsTheyCame) {
     const std::string bytes = std::string{"\0\r\n--a\r\n\r\n--", 13} + "\xFF\r";
-    const auto parts = parseMultipart(
+    const std::string body =
         "--b\r\n" + name + "\r\n\r\n\r\n--b\r\n" + name +
-            "; filename=\"a\\ é\xFF'.txt\"\r\nContent-Type: text/plain; charset=x\r\n\r\n" + bytes +
-            "\r\n--b--",
-        "b");
+        "; filename=\"a\\ é\xFF'.txt\"\r\nContent-Type: text/plain; charset=x" + "\r\n\r\n" +
+        bytes + "\r\n--b--";
+    const auto parts = parseMultipart(body, "b");
     ASSERT_EQ(parts.size(), 2);
     EXPECT_EQ(parts[0].bytes, "");
     EXPECT_FALSE(parts[0].filename);
