@@ -9,6 +9,12 @@
 
 namespace quillon::test {
 
+namespace {
+
+constexpr std::size_t stepSize = 1 << 16;
+
+} // namespace
+
 std::string RawServer::Connection::receive(std::size_t limit) {
     std::string bytes(limit, '\0');
     const ssize_t count = ::recv(m_socket, bytes.data(), bytes.size(), 0);
@@ -27,7 +33,7 @@ std::string RawServer::Connection::request() {
         return head + headEnd.size() + std::stoul(m_received.substr(length + lengthName.size()));
     };
     while (m_received.size() < wanted()) {
-        const std::string more = receive(1 << 20);
+        const std::string more = receive(stepSize);
         if (more.empty()) return std::exchange(m_received, {});
         m_received += more;
     }
@@ -52,7 +58,7 @@ bool RawServer::Connection::reply(int status, std::string_view body, std::string
 }
 
 void RawServer::Connection::awaitEnd() {
-    while (!receive(1 << 20).empty())
+    while (!receive(stepSize).empty())
         continue;
 }
 
