@@ -25,12 +25,14 @@ std::string RawServer::Connection::receive(std::size_t limit) {
 std::string RawServer::Connection::request() {
     constexpr std::string_view headEnd = "\r\n\r\n";
     constexpr std::string_view lengthName = "Content-Length: ";
+    constexpr std::size_t longestNumber = 20;
     const auto wanted = [&]() -> std::size_t {
         const auto head = m_received.find(headEnd);
         if (head == std::string::npos) return std::string::npos;
         const auto length = m_received.find(lengthName);
         if (length > head) return head + headEnd.size();
-        return head + headEnd.size() + std::stoul(m_received.substr(length + lengthName.size()));
+        const auto number = m_received.substr(length + lengthName.size(), longestNumber);
+        return head + headEnd.size() + std::stoul(number);
     };
     while (m_received.size() < wanted()) {
         const std::string more = receive(stepSize);
