@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 
 #include <QElapsedTimer>
+#include <QProcess>
+#include <QTemporaryDir>
 
 #include <future>
 
@@ -185,20 +187,20 @@ TEST_F(CurlTransportTest, CutsWhatStallsButNotWhatTrickles) {
     // Takes a part of the body and then no more.
     RawServer clogging{[&](Connection&) { end.wait_for(10s); }};
 
-    const auto start = [&](const RawServer& server) {
-        auto request = requestTo(server.url(), {QByteArray(20'000'000, 'x')});
+    const auto start = [&](const RawServer& server, qsizetype size) {
+        auto request = requestTo(server.url(), {QByteArray(size, 'x')});
         request.inactivityTimeout = timeout;
         return transport->post(std::move(request));
     };
     const auto begin = std::chrono::steady_clock::now();
     const auto elapsed = [&] { return std::chrono::steady_clock::now() - begin; };
-    const auto trickled = start(trickling);
-    const auto stalled = start(stalling);
-    const auto clogged = start(clogging);
+    const auto trickled = start(trickling, 1);
+    const auto stalled = start(stalling, 1);
+    const auto clogged = start(clogging, 20'000'000);
     EXPECT_FALSE(await(stalled));
     EXPECT_FALSE(await(clogged));
     EXPECT_GE(elapsed(), timeout);
-    EXPECT_LT(elapsed(), 3s);
+    EXPECT_LT(elapsed(), 5s);
     const auto reply = await(trickled);
     ASSERT_TRUE(reply);
     EXPECT_EQ(reply->body, "xxxxxxxx");
@@ -240,6 +242,70 @@ TEST_F(CurlTransportTest, EndsTransfersWhenDestroyed) {
     EXPECT_TRUE(running.isFinished());
     EXPECT_EQ(running.result(), std::nullopt);
     EXPECT_EQ(second.result(), std::nullopt);
+}
+
+/// A server for https on localhost whose certificate nobody has signed.
+class TlsServer {
+public:
+    TlsServer() {
+        QProcess maker;
+        maker.start(QStringLiteral("openssl"),
+                    QStringLiteral("req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 "
+                                   "-nodes -days 2 -subj /CN=localhost "
+                                   "-addext subjectAltName=DNS:localhost -keyout %1 -out %2")
+                        .arg(m_key, certificate())
+                        .split(u' '));
+        EXPECT_TRUE(maker.waitForFinished());
+        m_server.start(QStringLiteral("openssl"),
+                       QStringLiteral("s_server -accept 127.0.0.1:0 -key %1 -cert %2")
+                           .arg(m_key, certificate())
+                           .split(u' '));
+        EXPECT_TRUE(waitUntil([&] {
+            m_server.waitForReadyRead(50);
+            m_output += m_server.readAllStandardOutput();
+            return m_output.contains("ACCEPT 127.0.0.1:") && m_output.endsWith('\n');
+        }));
+        m_port = m_output.mid(m_output.lastIndexOf(':') + 1).trimmed().toStdString();
+    }
+    TlsServer(const TlsServer&) = delete;
+    TlsServer& operator=(const TlsServer&) = delete;
+    ~TlsServer() {
+        m_server.kill();
+        m_server.waitForFinished();
+    }
+
+    [[nodiscard]] QString certificate() const { return m_folder.filePath(QStringLiteral("cert")); }
+    [[nodiscard]] std::string url(const std::string& host) const {
+        return "https://" + host + ':' + m_port + '/';
+    }
+    void replyToTheNext() { m_server.write("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nhi"); }
+
+private:
+    QTemporaryDir m_folder;
+    QString m_key = m_folder.filePath(QStringLiteral("key"));
+    QProcess m_server;
+    QByteArray m_output;
+    std::string m_port;
+};
+
+TEST_F(CurlTransportTest, TrustsOnlyCertificatesItKnowsForTheHost) {
+    TlsServer server;
+    EXPECT_FALSE(post(server.url("localhost")));
+
+    CurlTransport trusting{{.trustedCertificates = server.certificate().toStdString()}};
+    EXPECT_FALSE(await(trusting.post(requestTo(server.url("127.0.0.1")))));
+    server.replyToTheNext();
+    const auto reply = await(trusting.post(requestTo(server.url("localhost"))));
+    ASSERT_TRUE(reply);
+    EXPECT_EQ(reply->body, "hi");
+
+    qputenv("SSL_CERT_FILE", server.certificate().toUtf8());
+    TlsServer another;
+    EXPECT_FALSE(post(another.url("localhost")));
+    qputenv("SSL_CERT_FILE", another.certificate().toUtf8());
+    another.replyToTheNext();
+    EXPECT_TRUE(post(another.url("localhost")));
+    qunsetenv("SSL_CERT_FILE");
 }
 
 } // namespace

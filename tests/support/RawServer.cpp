@@ -9,6 +9,12 @@
 
 namespace quillon::test {
 
+namespace {
+
+constexpr std::size_t stepSize = 1 << 16;
+
+} // namespace
+
 std::string RawServer::Connection::receive(std::size_t limit) {
     std::string bytes(limit, '\0');
     const ssize_t count = ::recv(m_socket, bytes.data(), bytes.size(), 0);
@@ -19,15 +25,17 @@ std::string RawServer::Connection::receive(std::size_t limit) {
 std::string RawServer::Connection::request() {
     constexpr std::string_view headEnd = "\r\n\r\n";
     constexpr std::string_view lengthName = "Content-Length: ";
+    constexpr std::size_t longestNumber = 20;
     const auto wanted = [&]() -> std::size_t {
         const auto head = m_received.find(headEnd);
         if (head == std::string::npos) return std::string::npos;
         const auto length = m_received.find(lengthName);
         if (length > head) return head + headEnd.size();
-        return head + headEnd.size() + std::stoul(m_received.substr(length + lengthName.size()));
+        const auto number = m_received.substr(length + lengthName.size(), longestNumber);
+        return head + headEnd.size() + std::stoul(number);
     };
     while (m_received.size() < wanted()) {
-        const std::string more = receive(1 << 20);
+        const std::string more = receive(stepSize);
         if (more.empty()) return std::exchange(m_received, {});
         m_received += more;
     }
@@ -52,7 +60,7 @@ bool RawServer::Connection::reply(int status, std::string_view body, std::string
 }
 
 void RawServer::Connection::awaitEnd() {
-    while (!receive(1 << 20).empty())
+    while (!receive(stepSize).empty())
         continue;
 }
 

@@ -64,6 +64,11 @@ void GlibSteps::iterate(const Answer& answer, std::optional<std::chrono::millise
     g_source_unref(timer);
 }
 
+void GlibSteps::settle() {
+    while (g_main_context_iteration(m_context, FALSE))
+        continue;
+}
+
 void GlibSteps::stop() {
     m_stopping = true;
     g_main_context_wakeup(m_context);

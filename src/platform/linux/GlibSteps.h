@@ -35,6 +35,10 @@ public:
     GlibPointer<GAsyncResult> await(std::optional<std::chrono::milliseconds> limit,
                                     const Start& start);
 
+    /// Lets objects that were released finish their cleaning up, which GLib puts off to the context
+    /// that they were made in.
+    void settle();
+
     /// Cancels what is running and everything that comes. Thread-safe.
     void stop();
 

@@ -75,8 +75,11 @@ private:
             const Job job = std::exchange(m_jobs.front(), nullptr);
             m_jobs.pop_front();
             lock.unlock();
-            Keyring keyring{steps};
-            job(keyring);
+            {
+                Keyring keyring{steps};
+                job(keyring);
+            }
+            steps.settle();
             lock.lock();
         }
     }
