@@ -97,6 +97,19 @@ TEST_F(CurlTransportTest, TakesARedirectAsTheReply) {
     EXPECT_EQ(other.connections(), 0);
 }
 
+TEST_F(CurlTransportTest, TakesAReplyThatComesBeforeTheBodyHasGone) {
+    RawServer server{[](Connection& connection) {
+        connection.receive(1000);
+        connection.reply(413, "{\"ok\":false}", "Connection: close\r\n");
+        connection.awaitEnd();
+    }};
+    const auto reply =
+        await(transport->post(requestTo(server.url(), {QByteArray(60'000'000, 'x')})));
+    ASSERT_TRUE(reply);
+    EXPECT_EQ(reply->status, 413);
+    EXPECT_EQ(reply->body, "{\"ok\":false}");
+}
+
 TEST_F(CurlTransportTest, FailsWithoutAWholeReply) {
     struct Case {
         const char* what;
@@ -260,11 +273,8 @@ public:
                        QStringLiteral("s_server -accept 127.0.0.1:0 -key %1 -cert %2")
                            .arg(m_key, certificate())
                            .split(u' '));
-        EXPECT_TRUE(waitUntil([&] {
-            m_server.waitForReadyRead(50);
-            m_output += m_server.readAllStandardOutput();
-            return m_output.contains("ACCEPT 127.0.0.1:") && m_output.endsWith('\n');
-        }));
+        EXPECT_TRUE(
+            waitUntil([&] { return hasPrinted("ACCEPT 127.0.0.1:") && m_output.endsWith('\n'); }));
         m_port = m_output.mid(m_output.lastIndexOf(':') + 1).trimmed().toStdString();
     }
     TlsServer(const TlsServer&) = delete;
@@ -278,9 +288,19 @@ public:
     [[nodiscard]] std::string url(const std::string& host) const {
         return "https://" + host + ':' + m_port + '/';
     }
-    void replyToTheNext() { m_server.write("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nhi"); }
+    /// Answers the next request once it has come through.
+    void reply() {
+        EXPECT_TRUE(waitUntil([&] { return hasPrinted("POST / HTTP/"); }));
+        m_server.write("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nhi");
+    }
 
 private:
+    bool hasPrinted(const char* text) {
+        m_server.waitForReadyRead(50);
+        m_output += m_server.readAllStandardOutput();
+        return m_output.contains(text);
+    }
+
     QTemporaryDir m_folder;
     QString m_key = m_folder.filePath(QStringLiteral("key"));
     QProcess m_server;
@@ -294,17 +314,17 @@ TEST_F(CurlTransportTest, TrustsOnlyCertificatesItKnowsForTheHost) {
 
     CurlTransport trusting{{.trustedCertificates = server.certificate().toStdString()}};
     EXPECT_FALSE(await(trusting.post(requestTo(server.url("127.0.0.1")))));
-    server.replyToTheNext();
-    const auto reply = await(trusting.post(requestTo(server.url("localhost"))));
-    ASSERT_TRUE(reply);
-    EXPECT_EQ(reply->body, "hi");
+    const auto trusted = trusting.post(requestTo(server.url("localhost")));
+    server.reply();
+    EXPECT_EQ(await(trusted).value_or(HttpReply{}).body, "hi");
 
     qputenv("SSL_CERT_FILE", server.certificate().toUtf8());
     TlsServer another;
     EXPECT_FALSE(post(another.url("localhost")));
     qputenv("SSL_CERT_FILE", another.certificate().toUtf8());
-    another.replyToTheNext();
-    EXPECT_TRUE(post(another.url("localhost")));
+    const auto named = transport->post(requestTo(another.url("localhost")));
+    another.reply();
+    EXPECT_EQ(await(named).value_or(HttpReply{}).body, "hi");
     qunsetenv("SSL_CERT_FILE");
 }
 

@@ -79,12 +79,12 @@ public:
     ~Worker() {
         if (!m_multi) return;
         {
+            // The multi handle is gone soon after the thread can see that it is to stop.
             const std::lock_guard lock{m_mutex};
             m_stopping = true;
+            curl_multi_wakeup(m_multi);
         }
-        curl_multi_wakeup(m_multi);
         m_thread.join();
-        curl_multi_cleanup(m_multi);
     }
 
     void add(std::unique_ptr<CurlTransfer> transfer) {
@@ -110,6 +110,8 @@ private:
         }
         while (!m_running.empty())
             end(*m_running.back(), CURLE_ABORTED_BY_CALLBACK);
+        // Says goodbye on its connections, for which SIGPIPE has to be blocked.
+        curl_multi_cleanup(m_multi);
     }
 
     /// Starts what was handed over; false when the transport is going away.

@@ -53,10 +53,11 @@ public:
         const auto promise = std::make_shared<QPromise<Result>>();
         promise->start();
         add([promise, operation = std::move(operation)](Keyring& keyring) {
-            if constexpr (std::is_void_v<Result>)
+            if constexpr (std::is_void_v<Result>) {
                 operation(keyring);
-            else
+            } else {
                 promise->addResult(operation(keyring));
+            }
             promise->finish();
         });
         return promise->future();

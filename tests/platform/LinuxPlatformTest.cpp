@@ -1,0 +1,63 @@
+#include "platform/linux/LinuxPlatform.h"
+#include "support/Await.h"
+#include "support/RawServer.h"
+
+namespace quillon::test {
+namespace {
+
+class NoPasteboard : public Pasteboard {
+public:
+    [[nodiscard]] std::uint64_t changeCount() const override { return 0; }
+    [[nodiscard]] QFuture<std::vector<std::string>> formats() override { return {}; }
+    [[nodiscard]] QFuture<std::optional<QByteArray>> data(std::string) override { return {}; }
+};
+
+void setEnvironment(const char* name, const char* value) {
+    value ? qputenv(name, value) : qunsetenv(name);
+}
+
+TEST(LinuxPlatformTest, TakesItsPlacesFromTheEnvironment) {
+    struct Case {
+        const char* data;
+        const char* home;
+        const char* api;
+        const char* dataFolder;
+        const char* botApi;
+    };
+    constexpr Case cases[]{
+        {nullptr, "/home/m\xc3\xa9", nullptr, "/home/m\xc3\xa9/.local/share/Quillon",
+         "https://api.telegram.org"},
+        {"relative", "/home/me", "", "/home/me/.local/share/Quillon", "https://api.telegram.org"},
+        {"/data", "/home/me", "http://127.0.0.1:81//", "/data/Quillon", "http://127.0.0.1:81"},
+    };
+    const auto home = qgetenv("HOME");
+    for (const Case& each : cases) {
+        setEnvironment("XDG_DATA_HOME", each.data);
+        setEnvironment("HOME", each.home);
+        setEnvironment("QUILLON_BOT_API", each.api);
+        LinuxPlatform platform{std::make_unique<NoPasteboard>()};
+        EXPECT_EQ(platform.platform().dataFolder, each.dataFolder);
+        EXPECT_EQ(platform.platform().botApi, each.botApi);
+    }
+    qputenv("HOME", home);
+    qunsetenv("XDG_DATA_HOME");
+    qunsetenv("QUILLON_BOT_API");
+}
+
+TEST(LinuxPlatformTest, SpeaksPlainHttpOnlyToAServerOfTheUsersChoice) {
+    RawServer server{[](RawServer::Connection& connection) {
+        connection.request();
+        connection.reply(200, "");
+    }};
+    for (const bool chosen : {false, true}) {
+        setEnvironment("QUILLON_BOT_API", chosen ? server.url().c_str() : nullptr);
+        LinuxPlatform platform{std::make_unique<NoPasteboard>()};
+        HttpRequest request;
+        request.url = server.url();
+        EXPECT_EQ(await(platform.platform().http.post(std::move(request))).has_value(), chosen);
+    }
+    qunsetenv("QUILLON_BOT_API");
+}
+
+} // namespace
+} // namespace quillon::test
