@@ -266,46 +266,46 @@ public:
                     QStringLiteral("req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 "
                                    "-nodes -days 2 -subj /CN=localhost "
                                    "-addext subjectAltName=DNS:localhost -keyout %1 -out %2")
-                        .arg(m_key, certificate())
+                        .arg(key_, certificate())
                         .split(u' '));
         EXPECT_TRUE(maker.waitForFinished());
-        m_server.start(QStringLiteral("openssl"),
-                       QStringLiteral("s_server -accept 127.0.0.1:0 -key %1 -cert %2")
-                           .arg(m_key, certificate())
-                           .split(u' '));
+        server_.start(QStringLiteral("openssl"),
+                      QStringLiteral("s_server -accept 127.0.0.1:0 -key %1 -cert %2")
+                          .arg(key_, certificate())
+                          .split(u' '));
         EXPECT_TRUE(
-            waitUntil([&] { return hasPrinted("ACCEPT 127.0.0.1:") && m_output.endsWith('\n'); }));
-        m_port = m_output.mid(m_output.lastIndexOf(':') + 1).trimmed().toStdString();
+            waitUntil([&] { return hasPrinted("ACCEPT 127.0.0.1:") && output_.endsWith('\n'); }));
+        port_ = output_.mid(output_.lastIndexOf(':') + 1).trimmed().toStdString();
     }
     TlsServer(const TlsServer&) = delete;
     TlsServer& operator=(const TlsServer&) = delete;
     ~TlsServer() {
-        m_server.kill();
-        m_server.waitForFinished();
+        server_.kill();
+        server_.waitForFinished();
     }
 
-    [[nodiscard]] QString certificate() const { return m_folder.filePath(QStringLiteral("cert")); }
+    [[nodiscard]] QString certificate() const { return folder_.filePath(QStringLiteral("cert")); }
     [[nodiscard]] std::string url(const std::string& host) const {
-        return "https://" + host + ':' + m_port + '/';
+        return "https://" + host + ':' + port_ + '/';
     }
     /// Answers the next request once it has come through.
     void reply() {
         EXPECT_TRUE(waitUntil([&] { return hasPrinted("POST / HTTP/"); }));
-        m_server.write("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nhi");
+        server_.write("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nhi");
     }
 
 private:
     bool hasPrinted(const char* text) {
-        m_server.waitForReadyRead(50);
-        m_output += m_server.readAllStandardOutput();
-        return m_output.contains(text);
+        server_.waitForReadyRead(50);
+        output_ += server_.readAllStandardOutput();
+        return output_.contains(text);
     }
 
-    QTemporaryDir m_folder;
-    QString m_key = m_folder.filePath(QStringLiteral("key"));
-    QProcess m_server;
-    QByteArray m_output;
-    std::string m_port;
+    QTemporaryDir folder_;
+    QString key_ = folder_.filePath(QStringLiteral("key"));
+    QProcess server_;
+    QByteArray output_;
+    std::string port_;
 };
 
 TEST_F(CurlTransportTest, TrustsOnlyCertificatesItKnowsForTheHost) {

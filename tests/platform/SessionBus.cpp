@@ -39,20 +39,20 @@ bool hasOwner(GDBusConnection* bus, const char* name) {
 } // namespace
 
 SessionBus::SessionBus() {
-    const QString file = m_folder.filePath(QStringLiteral("bus.conf"));
+    const QString file = folder_.filePath(QStringLiteral("bus.conf"));
     QFile config{file};
     EXPECT_TRUE(config.open(QIODevice::WriteOnly) && config.write(configuration) > 0);
     config.close();
-    m_bus.start(QStringLiteral("dbus-daemon"),
-                {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
-                 QStringLiteral("--config-file=") + file});
-    EXPECT_TRUE(waitUntil([&] { return m_bus.waitForReadyRead(100) && m_bus.canReadLine(); }));
-    m_address = m_bus.readLine().trimmed().toStdString();
-    qputenv("DBUS_SESSION_BUS_ADDRESS", QByteArray::fromStdString(m_address));
+    bus_.start(QStringLiteral("dbus-daemon"),
+               {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
+                QStringLiteral("--config-file=") + file});
+    EXPECT_TRUE(waitUntil([&] { return bus_.waitForReadyRead(100) && bus_.canReadLine(); }));
+    address_ = bus_.readLine().trimmed().toStdString();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", QByteArray::fromStdString(address_));
 }
 
 SessionBus::~SessionBus() {
-    for (QProcess* process : {&m_keyring, &m_bus}) {
+    for (QProcess* process : {&keyring_, &bus_}) {
         process->kill();
         process->waitForFinished();
     }
@@ -62,13 +62,13 @@ SessionBus::~SessionBus() {
 void SessionBus::startKeyring() {
     auto environment = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
-        environment.insert(QString::fromLatin1(name), m_folder.path());
-    m_keyring.setProcessEnvironment(environment);
-    m_keyring.start(QStringLiteral("gnome-keyring-daemon"),
-                    {QStringLiteral("--foreground"), QStringLiteral("--unlock"),
-                     QStringLiteral("--components=secrets")});
-    m_keyring.write("password");
-    m_keyring.closeWriteChannel();
+        environment.insert(QString::fromLatin1(name), folder_.path());
+    keyring_.setProcessEnvironment(environment);
+    keyring_.start(QStringLiteral("gnome-keyring-daemon"),
+                   {QStringLiteral("--foreground"), QStringLiteral("--unlock"),
+                    QStringLiteral("--components=secrets")});
+    keyring_.write("password");
+    keyring_.closeWriteChannel();
     const auto connection = connect();
     EXPECT_TRUE(waitUntil([&] { return hasOwner(connection.get(), keyringName); }));
 }
@@ -86,42 +86,42 @@ GlibPointer<GDBusConnection> SessionBus::connect() const {
     constexpr auto flags =
         static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
                                           G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
-    return GlibPointer<GDBusConnection>{g_dbus_connection_new_for_address_sync(
-        m_address.c_str(), flags, nullptr, nullptr, nullptr)};
+    return GlibPointer<GDBusConnection>{
+        g_dbus_connection_new_for_address_sync(address_.c_str(), flags, nullptr, nullptr, nullptr)};
 }
 
 ScriptedSecretService::ScriptedSecretService(const SessionBus& bus, Answers answers)
-    : m_connection{bus.connect()},
-      m_answers{std::move(answers)} {
+    : connection_{bus.connect()},
+      answers_{std::move(answers)} {
     const auto filter = [](GDBusConnection*, GDBusMessage* message, gboolean incoming,
                            gpointer self) {
         const bool call =
             incoming && g_dbus_message_get_message_type(message) == G_DBUS_MESSAGE_TYPE_METHOD_CALL;
         return call ? static_cast<ScriptedSecretService*>(self)->take(message) : message;
     };
-    m_filter = g_dbus_connection_add_filter(m_connection.get(), filter, this, nullptr);
+    filter_ = g_dbus_connection_add_filter(connection_.get(), filter, this, nullptr);
     GVariant* answer =
-        askBus(m_connection.get(), "RequestName", g_variant_new("(su)", keyringName, 0U));
+        askBus(connection_.get(), "RequestName", g_variant_new("(su)", keyringName, 0U));
     EXPECT_TRUE(answer);
     g_variant_unref(answer);
 }
 
 ScriptedSecretService::~ScriptedSecretService() {
-    g_dbus_connection_close_sync(m_connection.get(), nullptr, nullptr);
-    g_dbus_connection_remove_filter(m_connection.get(), m_filter);
+    g_dbus_connection_close_sync(connection_.get(), nullptr, nullptr);
+    g_dbus_connection_remove_filter(connection_.get(), filter_);
 }
 
 GDBusMessage* ScriptedSecretService::take(GDBusMessage* message) {
     const std::string method = g_dbus_message_get_member(message);
-    if (const auto found = m_answers.find(method); found != m_answers.end()) {
+    if (const auto found = answers_.find(method); found != answers_.end()) {
         GDBusMessage* reply = g_dbus_message_new_method_reply(message);
         g_dbus_message_set_body(
             reply, g_variant_parse(nullptr, found->second.c_str(), nullptr, nullptr, nullptr));
-        g_dbus_connection_send_message(m_connection.get(), reply, G_DBUS_SEND_MESSAGE_FLAGS_NONE,
+        g_dbus_connection_send_message(connection_.get(), reply, G_DBUS_SEND_MESSAGE_FLAGS_NONE,
                                        nullptr, nullptr);
         g_object_unref(reply);
     }
-    if (method == "Prompt") m_prompted = true;
+    if (method == "Prompt") prompted_ = true;
     g_object_unref(message);
     return nullptr;
 }

@@ -30,10 +30,10 @@ public:
     [[nodiscard]] GlibPointer<GDBusConnection> connect() const;
 
 private:
-    QTemporaryDir m_folder;
-    QProcess m_bus;
-    QProcess m_keyring;
-    std::string m_address;
+    QTemporaryDir folder_;
+    QProcess bus_;
+    QProcess keyring_;
+    std::string address_;
 };
 
 /// Stands in for the Secret Service and gives one fixed answer to each method; whoever calls a
@@ -49,15 +49,15 @@ public:
     ~ScriptedSecretService();
 
     /// Whether someone has called the method "Prompt", which is to ask the user.
-    [[nodiscard]] bool hasPrompted() const { return m_prompted; }
+    [[nodiscard]] bool hasPrompted() const { return prompted_; }
 
 private:
     GDBusMessage* take(GDBusMessage* message);
 
-    GlibPointer<GDBusConnection> m_connection;
-    Answers m_answers;
-    std::atomic<bool> m_prompted = false;
-    guint m_filter = 0;
+    GlibPointer<GDBusConnection> connection_;
+    Answers answers_;
+    std::atomic<bool> prompted_ = false;
+    guint filter_ = 0;
 };
 
 } // namespace quillon::test

@@ -17,7 +17,7 @@ constexpr std::size_t stepSize = 1 << 16;
 
 std::string RawServer::Connection::receive(std::size_t limit) {
     std::string bytes(limit, '\0');
-    const ssize_t count = ::recv(m_socket, bytes.data(), bytes.size(), 0);
+    const ssize_t count = ::recv(socket_, bytes.data(), bytes.size(), 0);
     bytes.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
     return bytes;
 }
@@ -27,26 +27,26 @@ std::string RawServer::Connection::request() {
     constexpr std::string_view lengthName = "Content-Length: ";
     constexpr std::size_t longestNumber = 20;
     const auto wanted = [&]() -> std::size_t {
-        const auto head = m_received.find(headEnd);
+        const auto head = received_.find(headEnd);
         if (head == std::string::npos) return std::string::npos;
-        const auto length = m_received.find(lengthName);
+        const auto length = received_.find(lengthName);
         if (length > head) return head + headEnd.size();
-        const auto number = m_received.substr(length + lengthName.size(), longestNumber);
+        const auto number = received_.substr(length + lengthName.size(), longestNumber);
         return head + headEnd.size() + std::stoul(number);
     };
-    while (m_received.size() < wanted()) {
+    while (received_.size() < wanted()) {
         const std::string more = receive(stepSize);
-        if (more.empty()) return std::exchange(m_received, {});
-        m_received += more;
+        if (more.empty()) return std::exchange(received_, {});
+        received_ += more;
     }
-    std::string whole = m_received.substr(0, wanted());
-    m_received.erase(0, whole.size());
+    std::string whole = received_.substr(0, wanted());
+    received_.erase(0, whole.size());
     return whole;
 }
 
 bool RawServer::Connection::send(std::string_view bytes) {
     while (!bytes.empty()) {
-        const ssize_t count = ::send(m_socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+        const ssize_t count = ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
         if (count <= 0) return false;
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
@@ -64,48 +64,48 @@ void RawServer::Connection::awaitEnd() {
         continue;
 }
 
-RawServer::RawServer(std::function<void(Connection&)> serve) : m_serve{std::move(serve)} {
+RawServer::RawServer(std::function<void(Connection&)> serve) : serve_{std::move(serve)} {
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t length = sizeof address;
     auto* generic = reinterpret_cast<sockaddr*>(&address);
-    m_listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (::bind(m_listener, generic, length) != 0 || ::listen(m_listener, 16) != 0 ||
-        ::getsockname(m_listener, generic, &length) != 0)
+    listener_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (::bind(listener_, generic, length) != 0 || ::listen(listener_, 16) != 0 ||
+        ::getsockname(listener_, generic, &length) != 0)
         throw std::runtime_error{"no port to listen on"};
-    m_port = ntohs(address.sin_port);
-    m_accepting = std::thread{[this] { accept(); }};
+    port_ = ntohs(address.sin_port);
+    accepting_ = std::thread{[this] { accept(); }};
 }
 
 RawServer::~RawServer() {
-    ::shutdown(m_listener, SHUT_RDWR);
-    m_accepting.join();
-    for (const int socket : m_sockets)
+    ::shutdown(listener_, SHUT_RDWR);
+    accepting_.join();
+    for (const int socket : sockets_)
         ::shutdown(socket, SHUT_RDWR);
-    for (std::thread& servant : m_servants)
+    for (std::thread& servant : servants_)
         servant.join();
-    m_sockets.push_back(m_listener);
-    for (const int socket : m_sockets)
+    sockets_.push_back(listener_);
+    for (const int socket : sockets_)
         ::close(socket);
 }
 
 void RawServer::accept() {
     for (;;) {
-        const int socket = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
+        const int socket = ::accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
         if (socket < 0) return;
-        ++m_connections;
-        m_sockets.push_back(socket);
-        m_servants.emplace_back([this, socket] {
+        ++connections_;
+        sockets_.push_back(socket);
+        servants_.emplace_back([this, socket] {
             Connection connection{socket};
-            m_serve(connection);
+            serve_(connection);
             ::shutdown(socket, SHUT_RDWR);
         });
     }
 }
 
 std::string RawServer::url(std::string_view path) const {
-    return "http://127.0.0.1:" + std::to_string(m_port) + std::string{path};
+    return "http://127.0.0.1:" + std::to_string(port_) + std::string{path};
 }
 
 } // namespace quillon::test

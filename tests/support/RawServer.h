@@ -16,7 +16,7 @@ public:
     /// One accepted connection.
     class Connection {
     public:
-        explicit Connection(int socket) : m_socket{socket} {}
+        explicit Connection(int socket) : socket_{socket} {}
 
         /// The next request, head and body as they came; what there is when the client goes away.
         std::string request();
@@ -34,8 +34,8 @@ public:
         void awaitEnd();
 
     private:
-        int m_socket;
-        std::string m_received;
+        int socket_;
+        std::string received_;
     };
 
     explicit RawServer(std::function<void(Connection&)> serve);
@@ -45,22 +45,22 @@ public:
     /// Cuts what is still open.
     ~RawServer();
 
-    [[nodiscard]] int port() const { return m_port; }
+    [[nodiscard]] int port() const { return port_; }
     [[nodiscard]] std::string url(std::string_view path = "/") const;
 
     /// How many connections were made so far.
-    [[nodiscard]] int connections() const { return m_connections; }
+    [[nodiscard]] int connections() const { return connections_; }
 
 private:
     void accept();
 
-    std::function<void(Connection&)> m_serve;
-    int m_listener = -1;
-    int m_port = 0;
-    std::atomic<int> m_connections = 0;
-    std::list<int> m_sockets;
-    std::list<std::thread> m_servants;
-    std::thread m_accepting;
+    std::function<void(Connection&)> serve_;
+    int listener_ = -1;
+    int port_ = 0;
+    std::atomic<int> connections_ = 0;
+    std::list<int> sockets_;
+    std::list<std::thread> servants_;
+    std::thread accepting_;
 };
 
 } // namespace quillon::test

@@ -36,31 +36,31 @@ ca_context* connect() {
 class CanberraSounds::Player : public std::enable_shared_from_this<Player> {
 public:
     void play(Sound sound) {
-        const std::lock_guard lock{m_mutex};
-        m_next = sound;
-        m_changed.notify_all();
-        if (m_running) return;
-        m_running = true;
+        const std::lock_guard lock{mutex_};
+        next_ = sound;
+        changed_.notify_all();
+        if (running_) return;
+        running_ = true;
         std::thread{[self = shared_from_this()] { self->run(); }}.detach();
     }
 
     /// A thread that hangs in the sound server is left behind.
     void close() {
-        std::unique_lock lock{m_mutex};
-        m_closing = true;
-        m_changed.notify_all();
-        m_changed.wait_for(lock, closingLimit, [this] { return !m_running; });
+        std::unique_lock lock{mutex_};
+        closing_ = true;
+        changed_.notify_all();
+        changed_.wait_for(lock, closingLimit, [this] { return !running_; });
     }
 
 private:
     void run() {
         ca_context* context = connect();
-        std::unique_lock lock{m_mutex};
+        std::unique_lock lock{mutex_};
         for (;;) {
-            m_changed.wait(lock, [this] { return m_closing || m_next; });
-            if (m_closing) break;
-            const char* event = eventOf(*m_next);
-            m_next.reset();
+            changed_.wait(lock, [this] { return closing_ || next_; });
+            if (closing_) break;
+            const char* event = eventOf(*next_);
+            next_.reset();
             lock.unlock();
             if (context) ca_context_play(context, 0, CA_PROP_EVENT_ID, event, nullptr);
             lock.lock();
@@ -68,25 +68,25 @@ private:
         lock.unlock();
         if (context) ca_context_destroy(context);
         lock.lock();
-        m_running = false;
-        m_changed.notify_all();
+        running_ = false;
+        changed_.notify_all();
     }
 
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::optional<Sound> m_next;
-    bool m_running = false;
-    bool m_closing = false;
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::optional<Sound> next_;
+    bool running_ = false;
+    bool closing_ = false;
 };
 
-CanberraSounds::CanberraSounds() : m_player{std::make_shared<Player>()} {}
+CanberraSounds::CanberraSounds() : player_{std::make_shared<Player>()} {}
 
 CanberraSounds::~CanberraSounds() {
-    m_player->close();
+    player_->close();
 }
 
 void CanberraSounds::play(Sound sound) {
-    m_player->play(sound);
+    player_->play(sound);
 }
 
 } // namespace quillon

@@ -17,7 +17,7 @@ public:
 
 private:
     class Player;
-    std::shared_ptr<Player> m_player;
+    std::shared_ptr<Player> player_;
 };
 
 } // namespace quillon

@@ -34,34 +34,34 @@ void trustCertificates(CURL* handle, const std::filesystem::path& certificates) 
 } // namespace
 
 CurlTransfer::CurlTransfer(HttpRequest request, std::uint64_t listener)
-    : m_request{std::move(request)},
-      m_listener{listener} {
-    for (const QByteArray& piece : m_request.body)
-        m_total += piece.size();
-    m_promise.start();
+    : request_{std::move(request)},
+      listener_{listener} {
+    for (const QByteArray& piece : request_.body)
+        total_ += piece.size();
+    promise_.start();
 }
 
 bool CurlTransfer::setHeaders() {
     // A server that knows "Expect" would make each upload wait for one more round trip.
     std::vector<std::string> lines{"Expect:"};
-    for (const auto& [name, value] : m_request.headers) {
+    for (const auto& [name, value] : request_.headers) {
         std::string& line = lines.emplace_back(name);
         // libcurl takes "Name:" as an order to leave the header out, "Name;" as an empty header.
         value.empty() ? line.append(";") : line.append(": ").append(value);
     }
     for (const std::string& line : lines) {
-        curl_slist* longer = curl_slist_append(m_headers.get(), line.c_str());
+        curl_slist* longer = curl_slist_append(headers_.get(), line.c_str());
         if (!longer) return false;
-        static_cast<void>(m_headers.release());
-        m_headers.reset(longer);
+        static_cast<void>(headers_.release());
+        headers_.reset(longer);
     }
     return true;
 }
 
 bool CurlTransfer::prepare(const CurlTransportOptions& options) {
-    m_movedAt = std::chrono::steady_clock::now();
-    m_handle.reset(curl_easy_init());
-    CURL* handle = m_handle.get();
+    movedAt_ = std::chrono::steady_clock::now();
+    handle_.reset(curl_easy_init());
+    CURL* handle = handle_.get();
     if (!handle || !setHeaders()) return false;
 
     curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, options.allowHttp ? "http,https" : "https");
@@ -76,10 +76,10 @@ bool CurlTransfer::prepare(const CurlTransportOptions& options) {
     trustCertificates(handle, options.trustedCertificates);
 
     curl_easy_setopt(handle, CURLOPT_POST, 1L);
-    curl_easy_setopt(handle, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(m_total));
-    if (m_total > uploadBufferSize)
+    curl_easy_setopt(handle, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(total_));
+    if (total_ > uploadBufferSize)
         curl_easy_setopt(handle, CURLOPT_UPLOAD_BUFFERSIZE, uploadBufferSize);
-    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, m_headers.get());
+    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, headers_.get());
     curl_easy_setopt(handle, CURLOPT_READFUNCTION, &CurlTransfer::readBody);
     curl_easy_setopt(handle, CURLOPT_READDATA, this);
     curl_easy_setopt(handle, CURLOPT_SEEKFUNCTION, &CurlTransfer::seekBody);
@@ -87,7 +87,7 @@ bool CurlTransfer::prepare(const CurlTransportOptions& options) {
     curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &CurlTransfer::takeReply);
     curl_easy_setopt(handle, CURLOPT_WRITEDATA, this);
     curl_easy_setopt(handle, CURLOPT_PRIVATE, this);
-    return curl_easy_setopt(handle, CURLOPT_URL, m_request.url.c_str()) == CURLE_OK;
+    return curl_easy_setopt(handle, CURLOPT_URL, request_.url.c_str()) == CURLE_OK;
 }
 
 std::uint64_t CurlTransfer::movement() const {
@@ -99,76 +99,76 @@ std::uint64_t CurlTransfer::movement() const {
     std::uint64_t sum = 0;
     for (const CURLINFO counter : counters) {
         curl_off_t value = 0;
-        curl_easy_getinfo(m_handle.get(), counter, &value);
+        curl_easy_getinfo(handle_.get(), counter, &value);
         sum += static_cast<std::uint64_t>(value);
     }
     long headers = 0;
-    curl_easy_getinfo(m_handle.get(), CURLINFO_HEADER_SIZE, &headers);
+    curl_easy_getinfo(handle_.get(), CURLINFO_HEADER_SIZE, &headers);
     return sum + static_cast<std::uint64_t>(headers);
 }
 
 CurlTransfer::Moment CurlTransfer::deadline(Moment now) {
-    if (const std::uint64_t current = movement(); current != m_movement) {
-        m_movement = current;
-        m_movedAt = now;
+    if (const std::uint64_t current = movement(); current != movement_) {
+        movement_ = current;
+        movedAt_ = now;
     }
-    return m_movedAt + m_request.inactivityTimeout;
+    return movedAt_ + request_.inactivityTimeout;
 }
 
 qint64 CurlTransfer::sent() const {
     curl_off_t bytes = 0;
-    if (m_handle) curl_easy_getinfo(m_handle.get(), CURLINFO_SIZE_UPLOAD_T, &bytes);
-    return std::min<qint64>(bytes, m_total);
+    if (handle_) curl_easy_getinfo(handle_.get(), CURLINFO_SIZE_UPLOAD_T, &bytes);
+    return std::min<qint64>(bytes, total_);
 }
 
 void CurlTransfer::finish(CURLcode code) {
     long status = 0;
-    if (m_handle) curl_easy_getinfo(m_handle.get(), CURLINFO_RESPONSE_CODE, &status);
-    m_request = {};
-    m_piece = m_offset = 0;
+    if (handle_) curl_easy_getinfo(handle_.get(), CURLINFO_RESPONSE_CODE, &status);
+    request_ = {};
+    piece_ = offset_ = 0;
     std::optional<HttpReply> reply;
     if (code == CURLE_OK) {
-        m_reply.status = static_cast<int>(status);
-        reply = std::move(m_reply);
+        reply_.status = static_cast<int>(status);
+        reply = std::move(reply_);
     }
-    m_promise.addResult(std::move(reply));
-    m_promise.finish();
+    promise_.addResult(std::move(reply));
+    promise_.finish();
 }
 
 size_t CurlTransfer::readBody(char* target, size_t /*one*/, size_t count, void* self) {
     auto& transfer = *static_cast<CurlTransfer*>(self);
-    const std::vector<QByteArray>& body = transfer.m_request.body;
+    const std::vector<QByteArray>& body = transfer.request_.body;
     const auto room = static_cast<qsizetype>(count);
     qsizetype filled = 0;
-    while (filled < room && transfer.m_piece < static_cast<qsizetype>(body.size())) {
-        const QByteArray& piece = body[static_cast<size_t>(transfer.m_piece)];
-        const qsizetype step = std::min(room - filled, piece.size() - transfer.m_offset);
-        std::memcpy(target + filled, piece.constData() + transfer.m_offset,
+    while (filled < room && transfer.piece_ < static_cast<qsizetype>(body.size())) {
+        const QByteArray& piece = body[static_cast<size_t>(transfer.piece_)];
+        const qsizetype step = std::min(room - filled, piece.size() - transfer.offset_);
+        std::memcpy(target + filled, piece.constData() + transfer.offset_,
                     static_cast<size_t>(step));
         filled += step;
-        transfer.m_offset += step;
-        if (transfer.m_offset < piece.size()) continue;
-        ++transfer.m_piece;
-        transfer.m_offset = 0;
+        transfer.offset_ += step;
+        if (transfer.offset_ < piece.size()) continue;
+        ++transfer.piece_;
+        transfer.offset_ = 0;
     }
     return static_cast<size_t>(filled);
 }
 
 int CurlTransfer::seekBody(void* self, curl_off_t offset, int origin) {
     auto& transfer = *static_cast<CurlTransfer*>(self);
-    if (origin != SEEK_SET || offset < 0 || offset > transfer.m_total) return CURL_SEEKFUNC_FAIL;
-    transfer.m_piece = 0;
-    transfer.m_offset = static_cast<qsizetype>(offset);
-    for (const QByteArray& piece : transfer.m_request.body) {
-        if (transfer.m_offset < piece.size()) break;
-        transfer.m_offset -= piece.size();
-        ++transfer.m_piece;
+    if (origin != SEEK_SET || offset < 0 || offset > transfer.total_) return CURL_SEEKFUNC_FAIL;
+    transfer.piece_ = 0;
+    transfer.offset_ = static_cast<qsizetype>(offset);
+    for (const QByteArray& piece : transfer.request_.body) {
+        if (transfer.offset_ < piece.size()) break;
+        transfer.offset_ -= piece.size();
+        ++transfer.piece_;
     }
     return CURL_SEEKFUNC_OK;
 }
 
 size_t CurlTransfer::takeReply(char* bytes, size_t /*one*/, size_t count, void* self) {
-    QByteArray& body = static_cast<CurlTransfer*>(self)->m_reply.body;
+    QByteArray& body = static_cast<CurlTransfer*>(self)->reply_.body;
     const auto length = static_cast<qsizetype>(count);
     if (body.size() + length > HttpTransport::maximumReplySize) return 0;
     body.append(bytes, length);

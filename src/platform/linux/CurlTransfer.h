@@ -24,12 +24,12 @@ public:
     CurlTransfer& operator=(const CurlTransfer&) = delete;
     ~CurlTransfer() = default;
 
-    [[nodiscard]] std::uint64_t listener() const { return m_listener; }
-    [[nodiscard]] qint64 total() const { return m_total; }
-    [[nodiscard]] QFuture<std::optional<HttpReply>> future() const { return m_promise.future(); }
+    [[nodiscard]] std::uint64_t listener() const { return listener_; }
+    [[nodiscard]] qint64 total() const { return total_; }
+    [[nodiscard]] QFuture<std::optional<HttpReply>> future() const { return promise_.future(); }
 
     /// libcurl's handle of this transfer; null before it was prepared.
-    [[nodiscard]] CURL* handle() const { return m_handle.get(); }
+    [[nodiscard]] CURL* handle() const { return handle_.get(); }
 
     /// Sets up the handle; false when libcurl refuses the request. The time-out starts here.
     bool prepare(const CurlTransportOptions& options);
@@ -62,17 +62,17 @@ private:
         void operator()(curl_slist* list) const { curl_slist_free_all(list); }
     };
 
-    HttpRequest m_request;
-    std::uint64_t m_listener;
-    qint64 m_total = 0;
-    qsizetype m_piece = 0;
-    qsizetype m_offset = 0;
-    HttpReply m_reply;
-    QPromise<std::optional<HttpReply>> m_promise;
-    std::unique_ptr<curl_slist, FreeList> m_headers;
-    std::unique_ptr<CURL, FreeHandle> m_handle;
-    std::uint64_t m_movement = 0;
-    Moment m_movedAt;
+    HttpRequest request_;
+    std::uint64_t listener_;
+    qint64 total_ = 0;
+    qsizetype piece_ = 0;
+    qsizetype offset_ = 0;
+    HttpReply reply_;
+    QPromise<std::optional<HttpReply>> promise_;
+    std::unique_ptr<curl_slist, FreeList> headers_;
+    std::unique_ptr<CURL, FreeHandle> handle_;
+    std::uint64_t movement_ = 0;
+    Moment movedAt_;
 };
 
 } // namespace quillon

@@ -38,8 +38,8 @@ void blockSignals() {
 class CurlTransport::ProgressListeners : public QObject {
 public:
     std::uint64_t add(std::function<void(qint64, qint64)> listener) {
-        m_listeners.emplace(++m_lastId, std::move(listener));
-        return m_lastId;
+        listeners_.emplace(++lastId_, std::move(listener));
+        return lastId_;
     }
 
     /// Thread-safe.
@@ -51,49 +51,49 @@ public:
 
 private:
     void deliver(std::uint64_t id, qint64 sent, qint64 total, bool last) {
-        const auto found = m_listeners.find(id);
-        if (found == m_listeners.end()) return;
+        const auto found = listeners_.find(id);
+        if (found == listeners_.end()) return;
         // The listener may destroy the transport: nothing of it is touched afterwards.
         const auto listener = found->second;
-        if (last) m_listeners.erase(found);
+        if (last) listeners_.erase(found);
         listener(sent, total);
     }
 
-    std::map<std::uint64_t, std::function<void(qint64, qint64)>> m_listeners;
-    std::uint64_t m_lastId = 0;
+    std::map<std::uint64_t, std::function<void(qint64, qint64)>> listeners_;
+    std::uint64_t lastId_ = 0;
 };
 
 /// The thread that drives all transfers.
 class CurlTransport::Worker {
 public:
     Worker(CurlTransportOptions options, ProgressListeners& listeners)
-        : m_options{std::move(options)},
-          m_listeners{listeners} {
+        : options_{std::move(options)},
+          listeners_{listeners} {
         static const CURLcode ready = curl_global_init(CURL_GLOBAL_DEFAULT);
-        if (ready == CURLE_OK) m_multi = curl_multi_init();
-        if (m_multi) m_thread = std::thread{[this] { run(); }};
+        if (ready == CURLE_OK) multi_ = curl_multi_init();
+        if (multi_) thread_ = std::thread{[this] { run(); }};
     }
     Worker(const Worker&) = delete;
     Worker& operator=(const Worker&) = delete;
 
     ~Worker() {
-        if (!m_multi) return;
+        if (!multi_) return;
         {
             // The multi handle is gone soon after the thread can see that it is to stop.
-            const std::lock_guard lock{m_mutex};
-            m_stopping = true;
-            curl_multi_wakeup(m_multi);
+            const std::lock_guard lock{mutex_};
+            stopping_ = true;
+            curl_multi_wakeup(multi_);
         }
-        m_thread.join();
+        thread_.join();
     }
 
     void add(std::unique_ptr<CurlTransfer> transfer) {
-        if (!m_multi) return transfer->finish(CURLE_FAILED_INIT);
+        if (!multi_) return transfer->finish(CURLE_FAILED_INIT);
         {
-            const std::lock_guard lock{m_mutex};
-            m_waiting.push_back(std::move(transfer));
+            const std::lock_guard lock{mutex_};
+            waiting_.push_back(std::move(transfer));
         }
-        curl_multi_wakeup(m_multi);
+        curl_multi_wakeup(multi_);
     }
 
 private:
@@ -103,15 +103,15 @@ private:
         blockSignals();
         while (admit()) {
             int running = 0;
-            curl_multi_perform(m_multi, &running);
+            curl_multi_perform(multi_, &running);
             collect();
             const auto sleep = attend();
-            curl_multi_poll(m_multi, nullptr, 0, static_cast<int>(sleep.count()), nullptr);
+            curl_multi_poll(multi_, nullptr, 0, static_cast<int>(sleep.count()), nullptr);
         }
-        while (!m_running.empty())
-            end(*m_running.back(), CURLE_ABORTED_BY_CALLBACK);
+        while (!running_.empty())
+            end(*running_.back(), CURLE_ABORTED_BY_CALLBACK);
         // Says goodbye on its connections, for which SIGPIPE has to be blocked.
-        curl_multi_cleanup(m_multi);
+        curl_multi_cleanup(multi_);
     }
 
     /// Starts what was handed over; false when the transport is going away.
@@ -119,15 +119,15 @@ private:
         Transfers waiting;
         bool stopping = false;
         {
-            const std::lock_guard lock{m_mutex};
-            waiting.swap(m_waiting);
-            stopping = m_stopping;
+            const std::lock_guard lock{mutex_};
+            waiting.swap(waiting_);
+            stopping = stopping_;
         }
         for (auto& transfer : waiting) {
-            CurlTransfer& started = *m_running.emplace_back(std::move(transfer));
+            CurlTransfer& started = *running_.emplace_back(std::move(transfer));
             if (stopping) continue;
-            if (!started.prepare(m_options) ||
-                curl_multi_add_handle(m_multi, started.handle()) != CURLM_OK)
+            if (!started.prepare(options_) ||
+                curl_multi_add_handle(multi_, started.handle()) != CURLM_OK)
                 end(started, CURLE_FAILED_INIT);
         }
         return !stopping;
@@ -136,7 +136,7 @@ private:
     /// Finishes the transfers that libcurl is done with.
     void collect() {
         int left = 0;
-        while (const CURLMsg* message = curl_multi_info_read(m_multi, &left)) {
+        while (const CURLMsg* message = curl_multi_info_read(multi_, &left)) {
             if (message->msg != CURLMSG_DONE) continue;
             const CURLcode code = message->data.result;
             CurlTransfer* transfer = nullptr;
@@ -151,7 +151,7 @@ private:
         const Moment now = std::chrono::steady_clock::now();
         Moment next = now + longestSleep;
         std::vector<CurlTransfer*> expired;
-        for (const auto& transfer : m_running) {
+        for (const auto& transfer : running_) {
             const Moment deadline = transfer->deadline(now);
             if (deadline <= now) expired.push_back(transfer.get());
             next = std::min({next, deadline, tellProgress(*transfer, now)});
@@ -169,40 +169,40 @@ private:
         if (due > now) return due;
         transfer.toldAt = now;
         transfer.told = sent;
-        m_listeners.tell(transfer.listener(), sent, transfer.total(), false);
+        listeners_.tell(transfer.listener(), sent, transfer.total(), false);
         return Moment::max();
     }
 
     void end(CurlTransfer& transfer, CURLcode code) {
         if (transfer.listener() != 0)
-            m_listeners.tell(transfer.listener(), transfer.sent(), transfer.total(), true);
+            listeners_.tell(transfer.listener(), transfer.sent(), transfer.total(), true);
         transfer.finish(code);
-        if (transfer.handle()) curl_multi_remove_handle(m_multi, transfer.handle());
-        std::erase_if(m_running, [&](const auto& each) { return each.get() == &transfer; });
+        if (transfer.handle()) curl_multi_remove_handle(multi_, transfer.handle());
+        std::erase_if(running_, [&](const auto& each) { return each.get() == &transfer; });
     }
 
-    CurlTransportOptions m_options;
-    ProgressListeners& m_listeners;
-    CURLM* m_multi = nullptr;
-    Transfers m_running;
-    std::mutex m_mutex;
-    Transfers m_waiting;
-    bool m_stopping = false;
-    std::thread m_thread;
+    CurlTransportOptions options_;
+    ProgressListeners& listeners_;
+    CURLM* multi_ = nullptr;
+    Transfers running_;
+    std::mutex mutex_;
+    Transfers waiting_;
+    bool stopping_ = false;
+    std::thread thread_;
 };
 
 CurlTransport::CurlTransport(CurlTransportOptions options)
-    : m_listeners{std::make_unique<ProgressListeners>()},
-      m_worker{std::make_unique<Worker>(std::move(options), *m_listeners)} {}
+    : listeners_{std::make_unique<ProgressListeners>()},
+      worker_{std::make_unique<Worker>(std::move(options), *listeners_)} {}
 
 CurlTransport::~CurlTransport() = default;
 
 QFuture<std::optional<HttpReply>> CurlTransport::post(HttpRequest request) {
     std::uint64_t listener = 0;
-    if (request.progress) listener = m_listeners->add(std::exchange(request.progress, nullptr));
+    if (request.progress) listener = listeners_->add(std::exchange(request.progress, nullptr));
     auto transfer = std::make_unique<CurlTransfer>(std::move(request), listener);
     auto future = transfer->future();
-    m_worker->add(std::move(transfer));
+    worker_->add(std::move(transfer));
     return future;
 }
 

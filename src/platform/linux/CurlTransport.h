@@ -31,8 +31,8 @@ public:
 private:
     class ProgressListeners;
     class Worker;
-    std::unique_ptr<ProgressListeners> m_listeners;
-    std::unique_ptr<Worker> m_worker;
+    std::unique_ptr<ProgressListeners> listeners_;
+    std::unique_ptr<Worker> worker_;
 };
 
 } // namespace quillon

@@ -21,18 +21,18 @@ struct GlibSteps::Answer {
     }
 };
 
-GlibSteps::GlibSteps() : m_context{g_main_context_new()} {
-    g_main_context_push_thread_default(m_context);
+GlibSteps::GlibSteps() : context_{g_main_context_new()} {
+    g_main_context_push_thread_default(context_);
 }
 
 GlibSteps::~GlibSteps() {
-    g_main_context_pop_thread_default(m_context);
-    g_main_context_unref(m_context);
+    g_main_context_pop_thread_default(context_);
+    g_main_context_unref(context_);
 }
 
 GlibPointer<GAsyncResult> GlibSteps::await(std::optional<std::chrono::milliseconds> limit,
                                            const Start& start) {
-    if (m_stopping) return {};
+    if (stopping_) return {};
     const auto answer = std::make_shared<Answer>();
     const GlibPointer<GCancellable> cancellable{g_cancellable_new()};
     start(cancellable.get(), &Answer::arrive, new std::shared_ptr<Answer>{answer});
@@ -55,23 +55,23 @@ void GlibSteps::iterate(const Answer& answer, std::optional<std::chrono::millise
             return G_SOURCE_REMOVE;
         };
         g_source_set_callback(timer, expire, &expired, nullptr);
-        g_source_attach(timer, m_context);
+        g_source_attach(timer, context_);
     }
-    while (!answer.result && !expired && (evenWhenStopped || !m_stopping))
-        g_main_context_iteration(m_context, TRUE);
+    while (!answer.result && !expired && (evenWhenStopped || !stopping_))
+        g_main_context_iteration(context_, TRUE);
     if (!timer) return;
     g_source_destroy(timer);
     g_source_unref(timer);
 }
 
 void GlibSteps::settle() {
-    while (g_main_context_iteration(m_context, FALSE))
+    while (g_main_context_iteration(context_, FALSE))
         continue;
 }
 
 void GlibSteps::stop() {
-    m_stopping = true;
-    g_main_context_wakeup(m_context);
+    stopping_ = true;
+    g_main_context_wakeup(context_);
 }
 
 } // namespace quillon

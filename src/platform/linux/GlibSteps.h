@@ -47,8 +47,8 @@ private:
     void iterate(const Answer& answer, std::optional<std::chrono::milliseconds> limit,
                  bool evenWhenStopped);
 
-    GMainContext* m_context;
-    std::atomic<bool> m_stopping = false;
+    GMainContext* context_;
+    std::atomic<bool> stopping_ = false;
 };
 
 } // namespace quillon

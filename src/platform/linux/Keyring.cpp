@@ -50,42 +50,42 @@ bool hasSessionBus() {
 bool Keyring::open() {
     if (!hasSessionBus()) return false;
     auto answer =
-        m_steps.await(stepLimit, [](auto... end) { g_bus_get(G_BUS_TYPE_SESSION, end...); });
+        steps_.await(stepLimit, [](auto... end) { g_bus_get(G_BUS_TYPE_SESSION, end...); });
     if (!answer) return false;
     const GlibPointer<GDBusConnection> bus{g_bus_get_finish(answer.get(), nullptr)};
     if (!bus) return false;
     // GLib would end the program together with the session bus.
     g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
 
-    answer = m_steps.await(stepLimit, [](auto... end) {
+    answer = steps_.await(stepLimit, [](auto... end) {
         secret_service_open(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_NONE, end...);
     });
-    if (answer) m_service.reset(secret_service_open_finish(answer.get(), nullptr));
-    return m_service != nullptr;
+    if (answer) service_.reset(secret_service_open_finish(answer.get(), nullptr));
+    return service_ != nullptr;
 }
 
 Keyring::Items Keyring::search(const KeychainItem& item, SecretSearchFlags flags) {
     const Attributes attributes = attributesOf(item);
-    const auto answer = m_steps.await(stepLimit, [&](auto... end) {
-        secret_service_search(m_service.get(), &schema(), attributes.get(), flags, end...);
+    const auto answer = steps_.await(stepLimit, [&](auto... end) {
+        secret_service_search(service_.get(), &schema(), attributes.get(), flags, end...);
     });
     if (!answer) return {};
-    return Items{secret_service_search_finish(m_service.get(), answer.get(), nullptr)};
+    return Items{secret_service_search_finish(service_.get(), answer.get(), nullptr)};
 }
 
 bool Keyring::unlock(gpointer object) {
     GList objects{object, nullptr, nullptr};
-    const auto answer = m_steps.await(std::nullopt, [&](auto... end) {
-        secret_service_unlock(m_service.get(), &objects, end...);
+    const auto answer = steps_.await(std::nullopt, [&](auto... end) {
+        secret_service_unlock(service_.get(), &objects, end...);
     });
     if (!answer) return false;
-    return secret_service_unlock_finish(m_service.get(), answer.get(), nullptr, nullptr) > 0;
+    return secret_service_unlock_finish(service_.get(), answer.get(), nullptr, nullptr) > 0;
 }
 
 bool Keyring::load(SecretItem* item) {
     if (secret_item_get_locked(item) && !unlock(item)) return false;
     const auto answer =
-        m_steps.await(stepLimit, [&](auto... end) { secret_item_load_secret(item, end...); });
+        steps_.await(stepLimit, [&](auto... end) { secret_item_load_secret(item, end...); });
     return answer && secret_item_load_secret_finish(item, answer.get(), nullptr);
 }
 
@@ -117,7 +117,7 @@ bool Keyring::removeAll(const KeychainItem& item) {
             continue;
         }
         const auto answer =
-            m_steps.await(stepLimit, [&](auto... end) { secret_item_delete(each, end...); });
+            steps_.await(stepLimit, [&](auto... end) { secret_item_delete(each, end...); });
         all = answer && secret_item_delete_finish(each, answer.get(), nullptr) && all;
     }
     return all;
@@ -129,8 +129,8 @@ void Keyring::remove(const KeychainItem& item) {
 
 Keyring::DefaultCollection Keyring::prepareDefaultCollection() {
     using enum DefaultCollection;
-    const auto answer = m_steps.await(stepLimit, [&](auto... end) {
-        secret_collection_for_alias(m_service.get(), SECRET_COLLECTION_DEFAULT,
+    const auto answer = steps_.await(stepLimit, [&](auto... end) {
+        secret_collection_for_alias(service_.get(), SECRET_COLLECTION_DEFAULT,
                                     SECRET_COLLECTION_NONE, end...);
     });
     if (!answer) return unusable;
@@ -158,11 +158,11 @@ bool Keyring::save(const KeychainItem& item, const std::string& value) {
     const Value secret{
         secret_value_new(value.data(), static_cast<gssize>(value.size()), "text/plain"),
         &secret_value_unref};
-    const auto answer = m_steps.await(limit, [&](auto... end) {
-        secret_service_store(m_service.get(), &schema(), attributes.get(),
-                             SECRET_COLLECTION_DEFAULT, item.label.c_str(), secret.get(), end...);
+    const auto answer = steps_.await(limit, [&](auto... end) {
+        secret_service_store(service_.get(), &schema(), attributes.get(), SECRET_COLLECTION_DEFAULT,
+                             item.label.c_str(), secret.get(), end...);
     });
-    return answer && secret_service_store_finish(m_service.get(), answer.get(), nullptr);
+    return answer && secret_service_store_finish(service_.get(), answer.get(), nullptr);
 }
 
 } // namespace quillon

@@ -11,7 +11,7 @@ namespace quillon {
 /// only the steps that ask the user to unlock or create a keyring wait for as long as it takes.
 class Keyring {
 public:
-    explicit Keyring(GlibSteps& steps) : m_steps{steps} {}
+    explicit Keyring(GlibSteps& steps) : steps_{steps} {}
 
     bool save(const KeychainItem& item, const std::string& value);
     std::optional<std::string> read(const KeychainItem& item);
@@ -33,8 +33,8 @@ private:
     bool removeAll(const KeychainItem& item);
     DefaultCollection prepareDefaultCollection();
 
-    GlibSteps& m_steps;
-    GlibPointer<SecretService> m_service;
+    GlibSteps& steps_;
+    GlibPointer<SecretService> service_;
 };
 
 } // namespace quillon

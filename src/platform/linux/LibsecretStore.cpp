@@ -24,26 +24,26 @@ class LibsecretStore::Worker {
 public:
     using Job = std::function<void(Keyring&)>;
 
-    Worker() : m_thread{[this] { run(); }} { m_started.get_future().wait(); }
+    Worker() : thread_{[this] { run(); }} { started_.get_future().wait(); }
     Worker(const Worker&) = delete;
     Worker& operator=(const Worker&) = delete;
 
     ~Worker() {
         {
-            const std::lock_guard lock{m_mutex};
-            m_closing = true;
-            m_steps->stop();
+            const std::lock_guard lock{mutex_};
+            closing_ = true;
+            steps_->stop();
         }
-        m_changed.notify_one();
-        m_thread.join();
+        changed_.notify_one();
+        thread_.join();
     }
 
     void add(Job job) {
         {
-            const std::lock_guard lock{m_mutex};
-            m_jobs.push_back(std::move(job));
+            const std::lock_guard lock{mutex_};
+            jobs_.push_back(std::move(job));
         }
-        m_changed.notify_one();
+        changed_.notify_one();
     }
 
     /// Runs the operation on the thread; its result becomes the future's.
@@ -67,14 +67,14 @@ private:
     /// Once the steps are stopped, the jobs that are left fail at once.
     void run() {
         GlibSteps steps;
-        m_steps = &steps;
-        m_started.set_value();
-        std::unique_lock lock{m_mutex};
+        steps_ = &steps;
+        started_.set_value();
+        std::unique_lock lock{mutex_};
         for (;;) {
-            m_changed.wait(lock, [this] { return m_closing || !m_jobs.empty(); });
-            if (m_jobs.empty()) return;
-            const Job job = std::exchange(m_jobs.front(), nullptr);
-            m_jobs.pop_front();
+            changed_.wait(lock, [this] { return closing_ || !jobs_.empty(); });
+            if (jobs_.empty()) return;
+            const Job job = std::exchange(jobs_.front(), nullptr);
+            jobs_.pop_front();
             lock.unlock();
             {
                 Keyring keyring{steps};
@@ -85,39 +85,39 @@ private:
         }
     }
 
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::deque<Job> m_jobs;
-    bool m_closing = false;
-    GlibSteps* m_steps = nullptr;
-    std::promise<void> m_started;
-    std::thread m_thread;
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::deque<Job> jobs_;
+    bool closing_ = false;
+    GlibSteps* steps_ = nullptr;
+    std::promise<void> started_;
+    std::thread thread_;
 };
 
-LibsecretStore::LibsecretStore() : m_worker{std::make_unique<Worker>()} {}
+LibsecretStore::LibsecretStore() : worker_{std::make_unique<Worker>()} {}
 
 LibsecretStore::~LibsecretStore() = default;
 
 QFuture<bool> LibsecretStore::save(KeychainItem item, std::string value) {
-    return m_worker->perform([item = std::move(item), value = std::move(value)](Keyring& keyring) {
+    return worker_->perform([item = std::move(item), value = std::move(value)](Keyring& keyring) {
         return keyring.save(item, value);
     });
 }
 
 QFuture<std::optional<std::string>> LibsecretStore::read(KeychainItem item) {
-    return m_worker->perform(
+    return worker_->perform(
         [item = std::move(item)](Keyring& keyring) { return keyring.read(item); });
 }
 
 bool LibsecretStore::exists(const KeychainItem& item) {
     const auto promise = std::make_shared<std::promise<bool>>();
     auto answer = promise->get_future();
-    m_worker->add([promise, item](Keyring& keyring) { promise->set_value(keyring.exists(item)); });
+    worker_->add([promise, item](Keyring& keyring) { promise->set_value(keyring.exists(item)); });
     return answer.wait_for(existsLimit) == std::future_status::ready && answer.get();
 }
 
 QFuture<void> LibsecretStore::remove(KeychainItem item) {
-    return m_worker->perform([item = std::move(item)](Keyring& keyring) { keyring.remove(item); });
+    return worker_->perform([item = std::move(item)](Keyring& keyring) { keyring.remove(item); });
 }
 
 } // namespace quillon

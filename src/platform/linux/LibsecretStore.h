@@ -22,7 +22,7 @@ public:
 
 private:
     class Worker;
-    std::unique_ptr<Worker> m_worker;
+    std::unique_ptr<Worker> worker_;
 };
 
 } // namespace quillon

@@ -39,9 +39,9 @@ std::filesystem::path dataFolder() {
 } // namespace
 
 LinuxPlatform::LinuxPlatform(std::unique_ptr<Pasteboard> pasteboard)
-    : m_http{transportOptions()},
-      m_pasteboard{std::move(pasteboard)},
-      m_platform{m_clock,   m_files,  m_http,       *m_pasteboard,
-                 m_secrets, m_sounds, dataFolder(), otherBotApi().value_or(telegramsBotApi)} {}
+    : http_{transportOptions()},
+      pasteboard_{std::move(pasteboard)},
+      platform_{clock_,   files_,  http_,        *pasteboard_,
+                secrets_, sounds_, dataFolder(), otherBotApi().value_or(telegramsBotApi)} {}
 
 } // namespace quillon

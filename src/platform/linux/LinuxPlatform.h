@@ -18,16 +18,16 @@ public:
     /// QUILLON_BOT_API, when set, names another Bot API server, which may speak plain http.
     explicit LinuxPlatform(std::unique_ptr<Pasteboard> pasteboard);
 
-    [[nodiscard]] Platform& platform() { return m_platform; }
+    [[nodiscard]] Platform& platform() { return platform_; }
 
 private:
-    QtClock m_clock;
-    PosixFileSystem m_files;
-    CurlTransport m_http;
-    std::unique_ptr<Pasteboard> m_pasteboard;
-    LibsecretStore m_secrets;
-    CanberraSounds m_sounds;
-    Platform m_platform;
+    QtClock clock_;
+    PosixFileSystem files_;
+    CurlTransport http_;
+    std::unique_ptr<Pasteboard> pasteboard_;
+    LibsecretStore secrets_;
+    CanberraSounds sounds_;
+    Platform platform_;
 };
 
 } // namespace quillon

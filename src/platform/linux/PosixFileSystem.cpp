@@ -37,22 +37,22 @@ auto uninterrupted(Call call) {
 /// An open file, closed with its owner.
 class Descriptor {
 public:
-    explicit Descriptor(int number) : m_number{number} {}
+    explicit Descriptor(int number) : number_{number} {}
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
     ~Descriptor() { close(); }
 
-    [[nodiscard]] int number() const { return m_number; }
-    [[nodiscard]] bool isOpen() const { return m_number >= 0; }
+    [[nodiscard]] int number() const { return number_; }
+    [[nodiscard]] bool isOpen() const { return number_ >= 0; }
 
     /// False when the system could not write what it had taken. Linux closes even when interrupted.
     bool close() {
-        const int number = std::exchange(m_number, -1);
+        const int number = std::exchange(number_, -1);
         return number < 0 || ::close(number) == 0 || errno == EINTR;
     }
 
 private:
-    int m_number;
+    int number_;
 };
 
 FileReading failed(FileReading::Outcome outcome, qint64 size = 0) {

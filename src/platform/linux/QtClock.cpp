@@ -17,18 +17,18 @@ constexpr std::chrono::milliseconds longestDelay = 24 * 24h;
 class QtClockTimer final : public Clock::Timer {
 public:
     QtClockTimer(std::chrono::milliseconds delay, std::function<void()> action)
-        : m_action{std::move(action)} {
-        m_timer.setSingleShot(true);
-        m_timer.setTimerType(Qt::PreciseTimer);
+        : action_{std::move(action)} {
+        timer_.setSingleShot(true);
+        timer_.setTimerType(Qt::PreciseTimer);
         // The action is taken out first, because it may destroy this timer.
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer,
-                         [this] { std::exchange(m_action, nullptr)(); });
-        m_timer.start(std::clamp(delay, 0ms, longestDelay));
+        QObject::connect(&timer_, &QTimer::timeout, &timer_,
+                         [this] { std::exchange(action_, nullptr)(); });
+        timer_.start(std::clamp(delay, 0ms, longestDelay));
     }
 
 private:
-    std::function<void()> m_action;
-    QTimer m_timer;
+    std::function<void()> action_;
+    QTimer timer_;
 };
 
 } // namespace
