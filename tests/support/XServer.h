@@ -5,12 +5,18 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/prctl.h>
+
+#include <csignal>
+
 namespace quillon::test {
 
 /// An X server without a screen, on a free display, for as long as the object lives.
 class XServer {
 public:
     XServer() {
+        // A test program that crashes leaves no server behind.
+        process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
         process_.setStandardErrorFile(QProcess::nullDevice());
         process_.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1"),
                                                 QStringLiteral("-nolisten"), QStringLiteral("tcp"),

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 // For the thread sanitizer, which by default ends a program that starts a thread after it has
-// started another program. NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer's name for
-// it
+// started another program. The name is the sanitizer's.
+// NOLINTNEXTLINE(bugprone-reserved-identifier)
 extern "C" [[gnu::visibility("default")]] const char* __tsan_default_options() {
     return "die_after_fork=0";
 }
