@@ -47,11 +47,9 @@ bool Connection::exchange() {
     if (body == Outcome::malformed) return refuse(400, "Bad Request");
     if (body == Outcome::tooLarge) return refuse(413, "Request Entity Too Large");
     if (body == Outcome::closed) return false;
-    return fault ? answerWithFault(request, *fault) : answer(request);
-}
-
-bool Connection::answer(HttpRequest& request) {
-    return send(backend_.serve(request));
+    const bool open = fault ? answerWithFault(request, *fault) : send(backend_.serve(request));
+    reader_.recycle(request);
+    return open;
 }
 
 bool Connection::answerWithFault(HttpRequest& request, const Fault& fault) {

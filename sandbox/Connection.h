@@ -23,7 +23,6 @@ public:
 
 private:
     bool exchange();
-    bool answer(HttpRequest& request);
     bool answerWithFault(HttpRequest& request, const Fault& fault);
     bool refuse(int status, std::string_view description);
     bool send(const HttpReply& reply);

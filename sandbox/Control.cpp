@@ -73,9 +73,10 @@ HttpReply clearFaultsPage(Backend& backend, const Json&) {
 HttpReply saysPage(Backend& backend, const Json& in) {
     return json(backend.withWorld([&](World& world) -> Json {
         const auto text = in.value("text", std::string{"hi"});
-        if (!in.contains("token"))
+        if (!in.contains("token")) {
             return {{"message_id",
                      world.userSays(groupOf(world, in), text, in.value("topic", std::int64_t{0}))}};
+        }
         Bot* const bot = world.bot(in["token"].get<std::string>());
         if (bot == nullptr) throw std::out_of_range{"no such bot"};
         return {{"message_id", world.userSaysTo(*bot, text)}};

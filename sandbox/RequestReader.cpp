@@ -9,6 +9,7 @@
 #include <charconv>
 #include <cstring>
 #include <limits>
+#include <utility>
 
 namespace quillon::sandbox {
 
@@ -65,9 +66,19 @@ RequestReader::Outcome RequestReader::readBody(HttpRequest& request) {
 }
 
 RequestReader::Outcome RequestReader::readSizedBody(HttpRequest& request, std::size_t size) {
-    request.body.bytes = std::make_unique_for_overwrite<char[]>(size);
-    request.body.size = size;
+    if (size > spareSize_) {
+        spare_ = std::make_unique_for_overwrite<char[]>(size);
+        spareSize_ = size;
+    }
+    request.body = {std::move(spare_), size};
+    bodySize_ = std::exchange(spareSize_, 0);
     return readBytes(request.body.bytes.get(), size) ? Outcome::ready : Outcome::closed;
+}
+
+void RequestReader::recycle(HttpRequest& request) {
+    request.finish();
+    spare_ = std::move(request.body.bytes);
+    spareSize_ = std::exchange(bodySize_, 0);
 }
 
 // What has been read ahead, then from the channel without a detour.
@@ -123,8 +134,8 @@ RequestReader::Outcome RequestReader::readChunkedBody(HttpRequest& request) {
         if (!line || !line->empty()) return Outcome::malformed;
         if (*size == 0) break;
     }
-    request.body.bytes = std::make_unique_for_overwrite<char[]>(body.size());
-    request.body.size = body.size();
+    request.body = {std::make_unique_for_overwrite<char[]>(body.size()), body.size()};
+    bodySize_ = body.size();
     std::copy(body.begin(), body.end(), request.body.bytes.get());
     return Outcome::ready;
 }
