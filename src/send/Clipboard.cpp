@@ -8,6 +8,7 @@
 #include <QBuffer>
 #include <QCoroFuture>
 #include <QImageReader>
+#include <QtConcurrentRun>
 
 #include <utility>
 
@@ -17,6 +18,10 @@ namespace {
 
 using Names = std::vector<std::string>;
 using Paths = std::vector<std::filesystem::path>;
+
+/// A text of this size in bytes takes about a millisecond to decode; a longer one is decoded on the
+/// thread pool.
+constexpr qsizetype longText = 100'000;
 
 /// Looks taken at a clipboard that changes while it is being read.
 constexpr int maximumLooks = 3;
@@ -38,7 +43,10 @@ QCoro::Task<std::optional<std::string>> readText(Pasteboard& pasteboard, Names o
     if (!format) co_return std::nullopt;
     const auto text = co_await bytesOf(pasteboard, format->name);
     if (!text) co_return std::nullopt;
-    co_return ClipboardFormats::decodedText(*text, format->coding);
+    if (text->size() < longText) co_return ClipboardFormats::decodedText(*text, format->coding);
+    const QFuture<std::string> decoded =
+        QtConcurrent::run(&ClipboardFormats::decodedText, *text, format->coding);
+    co_return co_await decoded;
 }
 
 /// As PNG.
