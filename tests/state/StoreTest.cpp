@@ -64,9 +64,7 @@ TEST(Store, SurvivesHugeFilesAndFolders) {
     EXPECT_EQ(world.store->config(), Config{});
     world.store->changeConfig([](Config& config) { config.playSound = false; });
     EXPECT_LT(std::filesystem::file_size(world.path("config.json")), 1000U);
-    EXPECT_THAT(world.events(),
-                ElementsAre(R"(settings_changed {"setting":"sound","value":false})"))
-        << "the queue's file was replaced";
+    EXPECT_EQ(world.analytics->queue().size(), 1U) << "a pipe in the queue's place held up nothing";
 }
 
 TEST(Store, KeepsChangesInMemoryAfterPersistingEnded) {
