@@ -64,9 +64,10 @@ Fault Fault::fromJson(const Json& json) {
     fault.delay = std::chrono::milliseconds{json.value("delay_ms", fault.delay.count())};
     fault.status = json.value("status", fault.status);
     fault.retryAfter = json.value("retry_after", fault.retryAfter);
-    if (json.contains("body"))
+    if (json.contains("body")) {
         fault.body =
             json["body"].is_string() ? json["body"].get<std::string>() : dumped(json["body"]);
+    }
     return fault;
 }
 

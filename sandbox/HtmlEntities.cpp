@@ -53,9 +53,10 @@ public:
             else
                 readStartTag();
         }
-        if (!open_.empty())
+        if (!open_.empty()) {
             throw EntityError{"Can't find end tag corresponding to start tag \"" +
                               open_.back().name + '"'};
+        }
         return {std::move(text_), inOrder()};
     }
 
@@ -138,7 +139,7 @@ private:
             if (name == "class" && value == "tg-spoiler") spoiler = true;
         }
         if (tag.name == "span" && !spoiler)
-            fail("Tag \"span\" must have class \"tg-spoiler\"", begin);
+            fail(R"(Tag "span" must have class "tg-spoiler")", begin);
     }
 
     std::pair<std::string, std::string> readAttribute(const OpenTag& tag, std::size_t begin) {
@@ -196,9 +197,10 @@ private:
         ++position_;
         const OpenTag tag = std::move(open_.back());
         open_.pop_back();
-        if (!name.empty() && name != tag.name)
+        if (!name.empty() && name != tag.name) {
             throw EntityError{"Unmatched end tag at byte offset " + std::to_string(begin) +
                               ", expected \"</" + tag.name + ">\", found \"</" + name + ">\""};
+        }
         close(tag);
     }
 

@@ -68,10 +68,11 @@ void addContent(const Chat& chat, const Message& message, Json& json) {
         return;
     }
     const bool plain = message.kind == "text";
-    if (message.kind == "photo")
+    if (message.kind == "photo") {
         json["photo"] = photoJson(chat, message);
-    else if (!plain)
+    } else if (!plain) {
         json[message.kind] = documentJson(chat, message);
+    }
     if (message.kind == "animation") json["document"] = json["animation"];
     if (!message.text.text.empty()) json[plain ? "text" : "caption"] = message.text.text;
     if (!message.text.entities.empty())
@@ -82,10 +83,11 @@ void addContent(const Chat& chat, const Message& message, Json& json) {
 
 Json chatJson(const Chat& chat) {
     Json json{{"id", chat.id}};
-    if (chat.kind == ChatKind::privateChat)
+    if (chat.kind == ChatKind::privateChat) {
         json["first_name"] = "Robin";
-    else
+    } else {
         json["title"] = chat.title;
+    }
     if (chat.forum) json["is_forum"] = true;
     json["type"] = kindName(chat.kind);
     if (chat.kind == ChatKind::group) json["all_members_are_administrators"] = true;

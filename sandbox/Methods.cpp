@@ -34,9 +34,10 @@ Json getUpdates(MethodCall& call) {
     call.changed.notify_all();
     const auto over = [&] { return call.stopping || updates.polls != poll || updates.has(offset); };
     if (timeout > 0) call.changed.wait_for(call.lock, std::chrono::seconds{timeout}, over);
-    if (updates.polls != poll)
+    if (updates.polls != poll) {
         throw ApiError{409, "Conflict: terminated by other getUpdates request; make sure that "
                             "only one bot instance is running"};
+    }
     return updates.take(offset, static_cast<std::size_t>(limit));
 }
 
@@ -44,11 +45,12 @@ Json getChat(MethodCall& call) {
     const Chat& chat = chatOf(call);
     Json json = chatJson(chat);
     json.erase("all_members_are_administrators");
-    if (chat.kind != ChatKind::privateChat)
+    if (chat.kind != ChatKind::privateChat) {
         json["permissions"] = {{"can_send_messages", true},
                                {"can_send_photos", true},
                                {"can_send_documents", true},
                                {"can_manage_topics", false}};
+    }
     json["max_reaction_count"] = 11;
     json["accent_color_id"] = 2;
     return json;
@@ -61,10 +63,11 @@ Chat& accessibleChat(MethodCall& call, bool toWrite) {
     Chat* const chat = number ? call.world.chat(*number) : nullptr;
     const bool known = chat != nullptr && chat->roles.contains(call.bot.id);
     if (!known) throw badRequest("chat not found");
-    if (toWrite && chat->migratedTo != 0)
+    if (toWrite && chat->migratedTo != 0) {
         throw ApiError{400,
                        "Bad Request: group chat was upgraded to a supergroup chat",
                        {{"migrate_to_chat_id", chat->migratedTo}}};
+    }
     const std::string kind = std::string{kindName(chat->kind)} + " chat";
     const BotRole role = chat->role(call.bot.id);
     if (role == BotRole::kicked) throw ApiError{403, "Forbidden: bot was kicked from the " + kind};

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view lineEnd = "\r\n";
 constexpr std::size_t longestBoundary = 70;
-constexpr std::size_t longestPartHeader = 16 * 1024;
+constexpr std::size_t longestPartHeader = 16'384;
 
 bool isAlphanumeric(char c) {
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');

@@ -55,9 +55,10 @@ void readForm(std::string_view form, ParameterSource source, Parameters& paramet
         const std::string_view pair = form.substr(0, end);
         const auto equals = std::min(pair.find('='), pair.size());
         const auto value = pair.substr(std::min(equals + 1, pair.size()));
-        if (!pair.empty())
+        if (!pair.empty()) {
             parameters.values.push_back(
                 {urlDecoded(pair.substr(0, equals)), urlDecoded(value), source});
+        }
         form.remove_prefix(std::min(end + 1, form.size()));
     }
 }
@@ -126,12 +127,13 @@ Parameters readParameters(HttpRequest& request, bool hashFiles) {
     const std::string contentType = request.header("content-type");
     const std::string type = lowered(trimmedAscii(contentType.substr(0, contentType.find(';'))));
     if (body.empty()) return parameters;
-    if (type == "application/json")
+    if (type == "application/json") {
         readJson(body, parameters);
-    else if (type == "application/x-www-form-urlencoded")
+    } else if (type == "application/x-www-form-urlencoded") {
         readForm(body, ParameterSource::form, parameters);
-    else if (type == "multipart/form-data")
+    } else if (type == "multipart/form-data") {
         readMultipart(request, contentType, hashFiles, parameters);
+    }
     return parameters;
 }
 

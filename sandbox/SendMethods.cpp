@@ -114,10 +114,11 @@ Json sendMessage(MethodCall& call) {
 
 Json sendPhoto(MethodCall& call) {
     const UploadedFile& file = uploaded(call, "photo");
-    if (file.size > biggestPhoto)
+    if (file.size > biggestPhoto) {
         throw badRequest("file of size " + std::to_string(file.size) +
                          " bytes is too big for a photo; the maximum size is " +
                          std::to_string(biggestPhoto) + " bytes");
+    }
     Message message = fileMessage("photo", file, caption(call));
     writableChatOf(call);
     const auto size = pictureSize(file.bytes);

@@ -19,10 +19,11 @@ void UpdateQueue::allow(const std::string& allowedUpdates) {
         if (!kind.is_string()) return;
         kinds.insert(kind.get<std::string>());
     }
-    if (kinds.empty())
+    if (kinds.empty()) {
         allowed_.reset();
-    else
+    } else {
         allowed_ = std::move(kinds);
+    }
 }
 
 Json UpdateQueue::take(std::int64_t offset, std::size_t limit) {

@@ -103,10 +103,11 @@ void printMessage(std::ostream& out, const Json& message) {
         return;
     }
     out << '\n';
-    if (kind == "text")
+    if (kind == "text") {
         printText(out, message);
-    else
+    } else {
         printFile(out, message);
+    }
 }
 
 } // namespace
@@ -127,9 +128,10 @@ std::string viewText(const World& world) {
         for (const Json& topic : group["topics"]) {
             if (topic["id"] == 0 && topic["messages"].empty()) continue;
             out << "  " << topic["name"].get<std::string>();
-            if (topic.contains("icon_color"))
+            if (topic.contains("icon_color")) {
                 out << "  #" << std::hex << std::uppercase << std::setw(6) << std::setfill('0')
                     << topic["icon_color"].get<int>() << std::dec;
+            }
             out << '\n';
             for (const Json& message : topic["messages"])
                 printMessage(out, message);

@@ -88,12 +88,13 @@ Arguments parse(const std::vector<std::string>& words) {
     for (auto word = words.begin(); word != words.end(); ++word) {
         const auto flag = flags.find(*word);
         const auto setting = settings.find(*word);
-        if (flag != flags.end())
+        if (flag != flags.end()) {
             flag->second();
-        else if (setting != settings.end() && std::next(word) != words.end())
+        } else if (setting != settings.end() && std::next(word) != words.end()) {
             setting->second(*++word);
-        else
+        } else {
             throw std::invalid_argument{"unknown or incomplete option " + *word};
+        }
     }
     return result;
 }
@@ -139,10 +140,11 @@ int main(int argc, char** argv) {
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
     try {
         const Arguments arguments = parse({argv + 1, argv + argc});
-        if (arguments.help)
+        if (arguments.help) {
             std::fputs(usage, stdout);
-        else
+        } else {
             serve(arguments, signals);
+        }
         return 0;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "quillon-sandbox: %s\n", error.what());
