@@ -1,0 +1,41 @@
+// The program's objects on the real desktop, as a benchmark finds them: set up and running.
+#pragma once
+
+#include "analytics/Analytics.h"
+#include "cli/SpokenBanner.h"
+#include "desktop/HUD.h"
+#include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/X11Compositor.h"
+#include "platform/linux/X11Pasteboard.h"
+#include "state/Store.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+namespace quillon::bench {
+
+class RunningProgram {
+public:
+    explicit RunningProgram(std::unique_ptr<Pasteboard> pasteboard)
+        : services{std::move(pasteboard)},
+          hud{services.platform().clock, compositor,
+              [this] { return store.config().bannerPosition; }} {}
+
+    LinuxPlatform services;
+    Analytics analytics{services.platform()};
+    X11Compositor compositor;
+    HUD hud;
+    SpokenBanner banner{&hud};
+    Store store{services.platform(), analytics, banner};
+};
+
+/// Whether all of the history's newest `count` entries were sent.
+inline bool newestWereSent(const Store& store, std::size_t count) {
+    const auto& history = store.history();
+    const auto sent = [](const Sent& entry) { return !entry.error; };
+    return history.size() >= count &&
+           std::all_of(history.begin(), history.begin() + static_cast<std::ptrdiff_t>(count), sent);
+}
+
+} // namespace quillon::bench
