@@ -38,6 +38,18 @@ struct BotWorld : Phone, World {
         return methods;
     }
 
+    /// The same with their parameters, as JSON with their types.
+    [[nodiscard]] std::vector<std::string> calls() const {
+        std::vector<std::string> calls;
+        for (const sandbox::RequestRecord& request : sandbox.requests()) {
+            Json parameters = Json::object();
+            for (const auto& parameter : request.parameters.values)
+                parameters[parameter.name] = parameter.value;
+            calls.push_back(request.method + " " + writeJson(parameters));
+        }
+        return calls;
+    }
+
     /// The usage events since clear().
     [[nodiscard]] std::vector<std::string> newEvents() const {
         const std::vector<std::string> all = events();
@@ -73,6 +85,21 @@ struct ConnectedWorld : BotWorld {
 
     [[nodiscard]] const Topic& topic(std::string_view key) const {
         return *std::ranges::find(store->config().topics, key, &Topic::key);
+    }
+
+    /// The thread ids of all topics, in their order.
+    [[nodiscard]] std::vector<std::optional<std::int64_t>> threads() const {
+        std::vector<std::optional<std::int64_t>> threads;
+        for (const Topic& each : store->config().topics)
+            threads.push_back(each.threadId);
+        return threads;
+    }
+
+    void forgetThreads() const {
+        store->changeConfig([](Config& config) {
+            for (Topic& each : config.topics)
+                each.threadId.reset();
+        });
     }
 
     /// The messages that the topic shows on the phone, without those of the setup.
