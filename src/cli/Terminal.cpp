@@ -79,8 +79,9 @@ std::optional<std::string> readSecret(std::string_view prompt) {
     std::optional<EchoOff> echoOff;
     const bool terminal = isatty(STDIN_FILENO) != 0;
     if (terminal) {
-        std::cerr << prompt << std::flush;
+        // First, since it drops what was typed before: nobody has been asked yet.
         echoOff.emplace();
+        std::cerr << prompt << std::flush;
     }
     std::string line;
     const bool read = static_cast<bool>(std::getline(std::cin, line));

@@ -10,7 +10,13 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <exception>
 #include <functional>
+#include <memory>
+#include <stdexcept>
+#include <type_traits>
+#include <utility>
+#include <variant>
 
 namespace quillon::test {
 
@@ -33,10 +39,30 @@ T await(QFuture<T> future) {
     if constexpr (!std::is_void_v<T>) return future.result();
 }
 
-/// Runs the task to its end and gives its result; what it throws is thrown.
+/// Runs the task to its end and gives its result; what it throws is thrown. QCoro::waitFor never
+/// returns from a task that has failed before its first wait.
 template <typename T>
 T await(QCoro::Task<T> task) {
-    return QCoro::waitFor(std::move(task));
+    using Result = std::conditional_t<std::is_void_v<T>, std::monostate, T>;
+    const auto result =
+        std::make_shared<std::variant<std::monostate, std::exception_ptr, Result>>();
+    const auto run = [](QCoro::Task<T> running, auto outcome) -> QCoro::Task<> {
+        try {
+            if constexpr (std::is_void_v<T>) {
+                co_await running;
+                outcome->template emplace<2>();
+            } else {
+                outcome->template emplace<2>(co_await running);
+            }
+        } catch (...) {
+            outcome->template emplace<1>(std::current_exception());
+        }
+    };
+    const auto running = run(std::move(task), result);
+    if (!waitUntil([&] { return result->index() != 0; }, std::chrono::seconds{60}))
+        throw std::runtime_error{"the task does not end"};
+    if (const auto* error = std::get_if<1>(result.get())) std::rethrow_exception(*error);
+    if constexpr (!std::is_void_v<T>) return std::get<2>(std::move(*result));
 }
 
 } // namespace quillon::test

@@ -2,6 +2,7 @@
 
 #include "platform/Clock.h"
 
+#include <algorithm>
 #include <map>
 #include <utility>
 
@@ -33,6 +34,12 @@ public:
             (*action)(); // held here: a callback may let go of its own timer
         }
         now_ = end;
+    }
+
+    /// How many callbacks are still to come.
+    [[nodiscard]] auto pending() const {
+        return std::count_if(due_.begin(), due_.end(),
+                             [](const auto& entry) { return !entry.second.expired(); });
     }
 
     /// Sets the time of day without letting anything fall due, as a user who corrects it does.

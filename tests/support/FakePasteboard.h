@@ -38,26 +38,44 @@ public:
     [[nodiscard]] QFuture<std::optional<QByteArray>> data(std::string format) override {
         ++reads[format];
         if (beforeData) beforeData(format);
+        if (hesitates) return held_.emplace_back(started<std::optional<QByteArray>>()).future();
         const auto found = std::find_if(content_.begin(), content_.end(),
                                         [&](const auto& entry) { return entry.first == format; });
         return finished(found == content_.end() ? std::optional<QByteArray>{} : found->second);
     }
 
+    /// Answers the reads that were left open, as an owner does that gave up: with nothing.
+    void giveUp() {
+        for (auto& promise : std::exchange(held_, {})) {
+            promise.addResult(std::nullopt);
+            promise.finish();
+        }
+    }
+
     std::map<std::string, int> reads;
+    /// Bytes that are asked for stay out until giveUp().
+    bool hesitates = false;
     /// Called with the format before its bytes are looked up.
     std::function<void(const std::string&)> beforeData;
 
 private:
     template <typename T>
-    static QFuture<T> finished(T value) {
+    static QPromise<T> started() {
         QPromise<T> promise;
         promise.start();
+        return promise;
+    }
+
+    template <typename T>
+    static QFuture<T> finished(T value) {
+        QPromise<T> promise = started<T>();
         promise.addResult(std::move(value));
         promise.finish();
         return promise.future();
     }
 
     Content content_;
+    std::vector<QPromise<std::optional<QByteArray>>> held_;
     std::uint64_t changes_ = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/linux/CanberraSounds.h"
 
 #include <canberra.h>
+#include <dlfcn.h>
 
 #include <chrono>
 #include <condition_variable>
@@ -21,11 +22,28 @@ const char* eventOf(Sound sound) {
     return sound == Sound::pop ? "message-sent-instant" : "dialog-error";
 }
 
+/// An error handler in ALSA's form.
+void ignoreError(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
+                 const char* /*format*/, ...) {}
+
+/// Without a sound server ALSA is tried, which complains on standard error where there is no sound
+/// card either. It is loaded once a context is open.
+void silenceAlsa() {
+    using SetHandler = int (*)(decltype(&ignoreError));
+    void* alsa = dlopen("libasound.so.2", RTLD_LAZY | RTLD_NOLOAD);
+    if (!alsa) return;
+    if (auto* set = reinterpret_cast<SetHandler>(dlsym(alsa, "snd_lib_error_set_handler")))
+        set(&ignoreError);
+    dlclose(alsa);
+}
+
 ca_context* connect() {
     ca_context* context = nullptr;
     if (ca_context_create(&context) != CA_SUCCESS) return nullptr;
     ca_context_change_props(context, CA_PROP_APPLICATION_NAME, "Quillon", CA_PROP_MEDIA_ROLE,
                             "event", CA_PROP_CANBERRA_CACHE_CONTROL, "permanent", nullptr);
+    ca_context_open(context);
+    silenceAlsa();
     return context;
 }
 

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QByteArray>
+#include <QProcess>
+#include <QProcessEnvironment>
+
+#include <chrono>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quillon::test {
+
+/// What a finished run of the program left.
+struct Finished {
+    int code = -1; ///< 128 and the signal's number when one ended it
+    std::string out;
+    std::string err;
+    std::chrono::milliseconds took{};
+};
+
+/// The program's command line, in an environment of the test's choosing.
+class Program {
+public:
+    /// The surroundings of the test, with a data folder of its own and `botApi` as the Bot API.
+    Program(const std::string& botApi, const std::filesystem::path& data);
+
+    /// Runs to the end, with `input` on standard input.
+    [[nodiscard]] Finished run(const std::vector<std::string>& arguments,
+                               const std::string& input = {}) const;
+
+    /// Starts without waiting; its standard input is at its end.
+    [[nodiscard]] std::unique_ptr<QProcess> start(const std::vector<std::string>& arguments) const;
+
+    /// Waits for a started run to end.
+    [[nodiscard]] static Finished finish(QProcess& process);
+
+    /// Runs to the end on a terminal; `typed` is typed as soon as the program has asked for
+    /// something. Whatever the terminal showed is in `out`.
+    [[nodiscard]] Finished runOnTerminal(const std::vector<std::string>& arguments,
+                                         const std::string& typed = {}) const;
+
+    /// All processes of the program, by id.
+    [[nodiscard]] static std::vector<int> processes();
+
+    QProcessEnvironment environment;
+};
+
+/// Puts content on the desktop's clipboard, and takes it away again.
+class Copier {
+public:
+    ~Copier() { clear(); }
+
+    /// Returns once the clipboard offers it.
+    void copy(const std::string& format, const QByteArray& content);
+    void copyText(const std::string& text) { copy("UTF8_STRING", QByteArray::fromStdString(text)); }
+    /// URIs as a file manager offers them.
+    void copyFiles(const std::vector<std::string>& uris);
+    void clear();
+
+    /// The process that owns the clipboard.
+    [[nodiscard]] int owner() const { return static_cast<int>(process_->processId()); }
+
+private:
+    std::unique_ptr<QProcess> process_;
+};
+
+} // namespace quillon::test

@@ -1,0 +1,311 @@
+#include "SendTest.h"
+
+namespace quillon::test {
+
+namespace {
+
+using namespace std::chrono_literals;
+using sandbox::Fault;
+using sandbox::FaultKind;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+using Content = FakePasteboard::Content;
+using Path = std::filesystem::path;
+
+constexpr const char* unreachableText = "Couldn't reach Telegram. Check your internet connection.";
+
+class SendPipeline : public SendTest {};
+
+/// What becomes of one item that is sent.
+struct Kind {
+    Content content;
+    std::string topic;
+    std::string method;
+    std::vector<std::string> upload; ///< field, file name and type
+    std::size_t uploadSize;
+    std::map<std::string, Json> more; ///< parameters beside the chat and the topic
+    std::string symbol;
+    std::string title;
+    std::string event; ///< kind and size of the usage event
+};
+
+std::vector<Kind> kinds(const std::function<Path(const std::string&, std::uintmax_t)>& file) {
+    const auto document = [&](const std::string& name, std::size_t size, const std::string& topic,
+                              const std::string& kind, const std::string& symbol,
+                              const std::string& bucket) {
+        return Kind{files({file(name, size)}),
+                    topic,
+                    "sendDocument",
+                    {"document", name, "application/octet-stream"},
+                    size,
+                    {{"disable_content_type_detection", "true"}},
+                    symbol,
+                    name,
+                    R"("kind":")" + kind + R"(","size":")" + bucket + "\""};
+    };
+    const std::string clipboardName = "clipboard-1700000000.png";
+    return {
+        {text("\n  a <b> & \"c\"\r\n" + std::string(70, 'x')),
+         "notes",
+         "sendMessage",
+         {},
+         0,
+         {{"parse_mode", "HTML"},
+          {"text", "<pre>\n  a &lt;b&gt; &amp; \"c\"\r\n" + std::string(70, 'x') + "</pre>"}},
+         "text.alignleft",
+         "  a <b> & \"c\"",
+         R"("kind":"text","size":"lt100k")"},
+        {text(repeated("é", 70)),
+         "notes",
+         "sendMessage",
+         {},
+         0,
+         {{"parse_mode", "HTML"}, {"text", "<pre>" + repeated("é", 70) + "</pre>"}},
+         "text.alignleft",
+         repeated("é", 60),
+         R"("kind":"text","size":"lt100k")"},
+        {{{"image/png", pngOf(9'999'999)}},
+         "images",
+         "sendPhoto",
+         {"photo", clipboardName, "image/png"},
+         9'999'999,
+         {},
+         "photo",
+         "Image · 4×3",
+         R"("kind":"image","size":"lt10m")"},
+        {{{"image/png", pngOf(10'000'000)}},
+         "images",
+         "sendDocument",
+         {"document", clipboardName, "image/png"},
+         10'000'000,
+         {},
+         "photo",
+         "Image · 4×3",
+         R"("kind":"image","size":"lt50m")"},
+        document("Movie.MOV", 100'000, "videos", "video", "film", "lt1m"),
+        document("photo.1.hEiC", 99'999, "images", "image", "photo", "lt100k"),
+        document("notes.pdf", 1'000'000, "files", "file", "doc", "lt10m"),
+        document("mp4", 1, "files", "file", "doc", "lt100k"),
+    };
+}
+
+TEST_F(SendPipeline, SendsEachKindOfContentToItsTopic) {
+    for (const Kind& kind :
+         kinds([this](const std::string&name, std::uintmax_t size) { return file(name, size); })) {
+        SCOPED_TRACE(kind.title);
+        world.clear();
+        world.send(kind.content);
+
+        const auto requests = world.sandbox.requests();
+        ASSERT_THAT(requests, SizeIs(1));
+        EXPECT_EQ(requests[0].method, kind.method);
+        const bool json = kind.upload.empty();
+        const auto number = [&](std::int64_t value) {
+            return json ? Json(value) : Json(std::to_string(value));
+        };
+        std::map<std::string, Json> expected = kind.more;
+        expected["chat_id"] = number(world.group);
+        expected["message_thread_id"] = number(*world.topic(kind.topic).threadId);
+        std::map<std::string, Json> actual;
+        for (const auto& parameter : requests[0].parameters.values)
+            actual[parameter.name] = parameter.value;
+        EXPECT_EQ(actual, expected);
+        for (const auto& uploaded : requests[0].parameters.files) {
+            EXPECT_THAT(kind.upload, ElementsAre(uploaded.field, uploaded.filename, uploaded.mime));
+            EXPECT_EQ(uploaded.size, kind.uploadSize);
+        }
+        EXPECT_THAT(requests[0].parameters.files, SizeIs(json ? 0 : 1));
+
+        const Sent& entry = world.store->history().front();
+        const std::string topic = world.topic(kind.topic).name;
+        EXPECT_EQ(entry, (Sent{entry.id, kind.symbol, kind.title, topic, world.clock.now(), {}}));
+        EXPECT_THAT(world.banner.shown,
+                    ElementsAre(FakeBanner::Shown{"Sent to " + topic, "checkmark.circle.fill", true,
+                                                  false}));
+        EXPECT_THAT(world.sounds.played, ElementsAre(Sound::pop));
+        const std::size_t comma = kind.event.find(',');
+        EXPECT_THAT(world.newEvents(), ElementsAre("sent {" + kind.event.substr(0, comma) +
+                                                   R"(,"ok":true,"via":"button","count":1)" +
+                                                   kind.event.substr(comma) + "}"));
+    }
+    const std::vector<Sent> history = world.store->history();
+    world.restart();
+    EXPECT_EQ(world.store->history(), history) << "the history is on disk";
+}
+
+TEST_F(SendPipeline, GivesAnImageTheTextBesideItAsCaption) {
+    const std::string families = repeated("👨‍👩‍👧‍👦", 200);
+    const std::pair<std::string, Json> cases[] = {
+        {" \u00a0\r\n\t", nullptr},
+        {"\n  <b>a</b> & c \u2003\n", "<b>a</b> & c"},
+        {" " + repeated("ü", 2000), repeated("ü", 1024)},
+        {families, repeated("👨‍👩‍👧‍👦",
+                            146)}, // 1,022 code points; one more would be cut in two
+    };
+    for (const qsizetype size : {1000, 10'000'000}) {
+        for (const auto& [beside, caption] : cases) {
+            world.clear();
+            world.send({{"image/png", pngOf(size)}, {"UTF8_STRING", beside.c_str()}});
+            EXPECT_EQ(world.sandbox.requests().at(0).parameter("caption"), caption) << beside;
+            EXPECT_EQ(world.messages("images").back().value("caption", Json{}), caption);
+        }
+    }
+}
+
+TEST_F(SendPipeline, CutsTextBetweenCharactersAndLosesNone) {
+    const std::string family = "👨‍👩‍👧‍👦"; // one character of seven code points
+    const std::string letters = repeated("0123456789", 800);
+    struct Case {
+        std::string text;
+        std::vector<std::string> shown; ///< on the phone, where blanks at the ends do not show
+    };
+    const Case cases[] = {
+        {letters, {letters.substr(0, 3900), letters.substr(3900, 3900), letters.substr(7800)}},
+        {repeated("<&>é", 975), {repeated("<&>é", 975)}},
+        {"<pre>&amp;</pre>&#65;", {"<pre>&amp;</pre>&#65;"}},
+        {std::string(3900, 'a') + "\n", {std::string(3900, 'a')}},
+        {std::string(3899, 'a') + "\r\nb", {std::string(3899, 'a'), "b"}},
+        {repeated(family, 1200),
+         {repeated(family, 585), repeated(family, 585), repeated(family, 30)}},
+    };
+    for (const Case& each : cases) {
+        const auto before = static_cast<std::ptrdiff_t>(world.messages("notes").size());
+        world.send(text(each.text));
+        EXPECT_EQ(world.store->history().front().error, std::nullopt);
+        std::vector<Json> messages = world.messages("notes");
+        messages.erase(messages.begin(), messages.begin() + before);
+        std::vector<std::string> shown;
+        for (const Json& message : messages)
+            shown.push_back(message["pre"].at(0).get<std::string>());
+        EXPECT_EQ(shown, each.shown);
+    }
+}
+
+TEST_F(SendPipeline, StopsATextAtTheFirstMessageThatFails) {
+    Fault none = fault(FaultKind::delay);
+    none.delay = 0ms;
+    world.sandbox.failNext(none);
+    world.sandbox.failNext(fault(FaultKind::jsonList));
+    world.send(text(std::string(12'000, 'a')));
+    EXPECT_THAT(world.sandbox.requests(), SizeIs(2));
+    EXPECT_EQ(world.store->history().front().error,
+              "Telegram sent an empty reply (error 200). Try again in a moment.");
+}
+
+TEST_F(SendPipeline, SaysThatItIsSendingAfterAWhile) {
+    for (const bool showBanner : {true, false}) {
+        world.store->changeConfig([&](Config& config) { config.showBanner = showBanner; });
+        world.clear();
+        world.sandbox.failNext(flood(1));
+        world.pasteboard.copy({{"image/png", pngOf(1000)}});
+        auto sending = world.store->sendClipboard("button");
+        // The flood-control wait, beside the one for the banner, keeps the send open.
+        ASSERT_TRUE(waitUntil([&] { return world.clock.pending() == 2; }));
+        EXPECT_TRUE(world.store->busy());
+        world.clock.advance(699ms);
+        EXPECT_THAT(banners(), IsEmpty());
+        world.clock.advance(1ms);
+        if (showBanner) {
+            EXPECT_THAT(world.banner.shown,
+                        ElementsAre(FakeBanner::Shown{"Sending…", "arrow.up.circle", true, true}));
+        }
+        world.clock.advance(1299ms);
+        EXPECT_THAT(world.sandbox.requests(), SizeIs(1)) << "a second is added to what was asked";
+        world.clock.advance(1ms);
+        await(std::move(sending));
+        EXPECT_EQ(banners(), showBanner
+                                 ? (std::vector<std::string>{"Sending…", "Sent to 📸 Images"})
+                                 : std::vector<std::string>{});
+        const auto requests = world.sandbox.requests();
+        ASSERT_THAT(requests, SizeIs(2));
+        EXPECT_NE(requests[0].contentType, requests[1].contentType) << "a boundary for each body";
+        EXPECT_FALSE(world.store->busy());
+        EXPECT_EQ(world.clock.pending(), 0);
+    }
+}
+
+TEST_F(SendPipeline, IgnoresATriggerWhileASendRuns) {
+    world.pasteboard.copy(text("held"));
+    world.pasteboard.hesitates = true;
+    auto reading = world.store->sendClipboard("shortcut");
+    EXPECT_FALSE(world.store->busy()) << "still reads the clipboard";
+    await(world.store->sendClipboard("button"));
+    world.pasteboard.hesitates = false;
+    world.pasteboard.giveUp();
+    await(std::move(reading));
+    EXPECT_THAT(banners(), ElementsAre("The clipboard is empty"));
+
+    world.clear();
+    world.pasteboard.copy(text("one"));
+    world.sandbox.failNext(fault(FaultKind::hang));
+    auto hanging = world.store->sendClipboard("shortcut");
+    ASSERT_TRUE(waitUntil([&] { return !world.sandbox.requests().empty(); }));
+    await(world.store->sendClipboard("button"));
+    EXPECT_THAT(banners(), IsEmpty());
+    world.sandbox.stop();
+    await(std::move(hanging));
+    EXPECT_THAT(world.sandbox.requests(), SizeIs(1));
+    EXPECT_THAT(world.store->history(), SizeIs(1));
+}
+
+TEST_F(SendPipeline, NeedsASetupAndSomethingToSend) {
+    world.send({});
+    EXPECT_THAT(world.banner.shown, ElementsAre(FakeBanner::Shown{"The clipboard is empty",
+                                                                  "clipboard", false, false}));
+    EXPECT_THAT(world.newEvents(), IsEmpty());
+
+    const std::function<void()> breakages[] = {
+        [&] {
+            world.secrets.values.clear();
+            world.restart();
+        },
+        [&] { world.store->changeConfig([](Config& config) { config.chatId.reset(); }); },
+    };
+    for (const auto& breakIt : breakages) {
+        world.clear();
+        breakIt();
+        world.send(text("a"));
+        EXPECT_THAT(world.banner.shown,
+                    ElementsAre(FakeBanner::Shown{"Finish setting up Quillon first",
+                                                  "exclamationmark.circle", false, false}));
+        EXPECT_THAT(world.newEvents(), ElementsAre(R"(send_failed {"reason":"not_set_up"})"));
+    }
+    EXPECT_THAT(world.sandbox.requests(), IsEmpty());
+    EXPECT_THAT(world.sounds.played, IsEmpty());
+    EXPECT_THAT(world.store->history(), IsEmpty());
+}
+
+TEST_F(SendPipeline, TellsApartWhatWentWrong) {
+    struct Case {
+        Fault fault;
+        std::string message;
+        std::string reason;
+    };
+    const Case cases[] = {
+        {fault(FaultKind::cutBeforeBody, 3), unreachableText, "no_internet"},
+        {fault(FaultKind::cutReply), unreachableText, "no_internet"},
+        {fault(FaultKind::hugeReply), unreachableText, "no_internet"},
+        {refusal("", 400, "Bad Request: <b>no</b>"), "Bad Request: <b>no</b>", "telegram_error"},
+        {flood(60), "Too Many Requests: retry after 60", "telegram_error"},
+        {fault(FaultKind::html502),
+         "Telegram sent an empty reply (error 502). Try again in a moment.", "telegram_error"},
+    };
+    for (const Case& each : cases) {
+        world.clear();
+        world.sandbox.clearFaults();
+        world.sandbox.failNext(each.fault);
+        world.send({{"image/png", pngOf(2'000'000)}});
+        EXPECT_THAT(banners(), ElementsAre(each.message));
+        EXPECT_EQ(world.store->history().front().error, each.message);
+        EXPECT_EQ(world.newEvents().back(),
+                  R"(send_failed {"kind":"image","reason":")" + each.reason + "\"}");
+    }
+    world.sandbox.stop();
+    world.send(text("a"));
+    EXPECT_EQ(banners().back(), unreachableText);
+}
+
+} // namespace
+
+} // namespace quillon::test

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "support/ConnectedWorld.h"
+#include "support/Faults.h"
+
+#include <QBuffer>
+#include <QImage>
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+/// A picture of 4 by 3 pixels in exactly so many bytes; what follows a PNG's end does not matter.
+inline QByteArray pngOf(qsizetype size) {
+    QImage image{4, 3, QImage::Format_RGB32};
+    image.fill(Qt::red);
+    QByteArray bytes;
+    QBuffer buffer{&bytes};
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(image.save(&buffer, "PNG"));
+    return bytes.append(size - bytes.size(), '\0');
+}
+
+inline FakePasteboard::Content text(std::string text) {
+    return {{"UTF8_STRING", QByteArray::fromStdString(text)}};
+}
+
+inline FakePasteboard::Content files(const std::vector<std::filesystem::path>& paths) {
+    QByteArray list;
+    for (const std::filesystem::path& path : paths)
+        list +=
+            "file://" + QByteArray::fromStdString(path.native()).toPercentEncoding("/") + "\r\n";
+    return {{"text/uri-list", list}};
+}
+
+inline std::string repeated(std::string_view part, int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i)
+        text += part;
+    return text;
+}
+
+/// A store that is set up, and files to send.
+class SendTest : public testing::Test {
+protected:
+    // Qt does not remove files whose names it cannot decode.
+    ~SendTest() override { std::filesystem::remove_all(documents); }
+
+    /// A file of so many zero bytes that take no room on the disk.
+    [[nodiscard]] std::filesystem::path file(const std::string& name, std::uintmax_t size = 3) {
+        std::filesystem::path path = documents / name;
+        world.files.createFolder(documents);
+        world.files.write(path, {});
+        std::filesystem::resize_file(path, size);
+        return path;
+    }
+
+    std::vector<std::string> banners() {
+        std::vector<std::string> texts;
+        for (const FakeBanner::Shown& shown : world.banner.shown)
+            texts.push_back(shown.text);
+        return texts;
+    }
+
+    ConnectedWorld world;
+    const std::filesystem::path documents = world.path("documents");
+};
+
+} // namespace quillon::test

@@ -1,0 +1,255 @@
+#include "support/ConnectedWorld.h"
+#include "support/Faults.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+namespace {
+
+using namespace std::chrono_literals;
+using sandbox::BotRole;
+using sandbox::ChatKind;
+using sandbox::Fault;
+using sandbox::FaultKind;
+using sandbox::GroupOptions;
+using sandbox::RequestRecord;
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr const char* refusedText = "Telegram didn't accept that bot token.";
+constexpr const char* malformedText = "That bot token doesn't look right.";
+constexpr const char* noTokenText =
+    "That doesn't look like a bot token. It looks like 123456:ABC-DEF…";
+constexpr const char* noGroupText =
+    "No group found yet. Add the bot to your group, then send “hi” in the group and try again.";
+
+std::string storedToken(const World& world) {
+    const auto found = world.secrets.values.find({"quillon-telegram-token", "quillon"});
+    return found == world.secrets.values.end() ? "" : found->second;
+}
+
+} // namespace
+
+TEST(BotConnection, KeepsATokenThatTelegramAccepts) {
+    BotWorld world;
+    const std::string pasted = "\u00a0\t " + std::string{BotWorld::token} + " \r\n";
+    EXPECT_EQ(await(world.store->connectBot(pasted)), "quillon_demo_bot");
+    EXPECT_EQ(storedToken(world), BotWorld::token);
+    EXPECT_TRUE(world.store->tokenSaved());
+    EXPECT_THAT(world.calls(), ElementsAre("getMe {}"));
+    EXPECT_THAT(world.events(), ElementsAre(R"(setup_step {"step":"bot_connected"})"));
+    EXPECT_EQ(world.content("config.json").find(BotWorld::token), std::string::npos);
+    world.restart();
+    EXPECT_TRUE(world.store->tokenSaved());
+    EXPECT_EQ(world.store->config().botName, "quillon_demo_bot");
+}
+
+TEST(BotConnection, RefusesWhatIsNoTokenAndKeepsTheOldOne) {
+    struct Case {
+        std::string pasted;
+        std::string message;
+        std::size_t requests;
+    };
+    const Case cases[] = {
+        {"", noTokenText, 0},
+        {"123456 ABC", noTokenText, 0},
+        {"1:a b", malformedText, 0},
+        {"1:a\nb", malformedText, 0},
+        {"1:ä", malformedText, 0},
+        {"1:%zz", malformedText, 0},
+        {"999:unknown-to-everyone", refusedText, 1}, // 401
+        {":", "Not Found", 1},                       // 404
+    };
+    ConnectedWorld world;
+    const Config before = world.store->config();
+    for (const Case& each : cases) {
+        world.clear();
+        EXPECT_EQ(world.failure(world.store->connectBot(each.pasted)), each.message) << each.pasted;
+        EXPECT_THAT(world.sandbox.requests(), SizeIs(each.requests)) << each.pasted;
+    }
+    world.sandbox.stop();
+    EXPECT_THAT(world.failure(world.store->connectBot("8:another")),
+                testing::StartsWith("Couldn't reach Telegram."));
+    EXPECT_EQ(storedToken(world), BotWorld::token);
+    EXPECT_TRUE(world.store->tokenSaved());
+    EXPECT_EQ(world.store->config(), before);
+    EXPECT_THAT(world.newEvents(), IsEmpty());
+}
+
+TEST(BotConnection, WaitsAsLongAsTelegramAsks) {
+    BotWorld world;
+    world.sandbox.failNext(flood(59));
+    auto connecting = world.store->connectBot(BotWorld::token);
+    ASSERT_TRUE(waitUntil([&] { return world.clock.pending() == 1; }));
+    world.clock.advance(59'999ms);
+    EXPECT_EQ(world.clock.pending(), 1);
+    world.clock.advance(1ms);
+    EXPECT_EQ(await(std::move(connecting)), "quillon_demo_bot");
+    EXPECT_THAT(world.methods(), ElementsAre("getMe", "getMe"));
+}
+
+TEST(BotConnection, NamesABotThatHasNoName) {
+    for (const Json& me : {Json{{"id", 1}}, Json{{"username", 7}}, Json(true), Json()}) {
+        BotWorld world;
+        world.sandbox.failNext(answer("getMe", me));
+        EXPECT_EQ(await(world.store->connectBot(BotWorld::token)), "your bot") << me;
+        EXPECT_EQ(world.store->config().botName, "your bot");
+    }
+}
+
+TEST(BotConnection, KeepsGroupAndTopicsForAnotherBot) {
+    ConnectedWorld world;
+    Config expected = world.store->config();
+    expected.botName = "second_bot";
+    world.sandbox.addBot("8:second", "second_bot");
+    await(world.store->connectBot("8:second"));
+    EXPECT_EQ(world.store->config(), expected);
+    EXPECT_EQ(storedToken(world), "8:second");
+}
+
+TEST(BotConnection, ForgetsEverythingButTheUsersChoices) {
+    ConnectedWorld world;
+    world.store->changeConfig([](Config& config) {
+        config.shortcut = ShortcutChoice::ctrlOptC;
+        config.playSound = false;
+        config.showBanner = false;
+        config.bannerPosition = BannerPosition::bottom;
+        config.topics[0].name = "Mine";
+    });
+    world.send({{"UTF8_STRING", "a"}});
+    world.clear();
+    await(world.store->forgetBot());
+
+    Config expected;
+    expected.shortcut = ShortcutChoice::ctrlOptC;
+    expected.playSound = false;
+    expected.showBanner = false;
+    expected.bannerPosition = BannerPosition::bottom;
+    EXPECT_EQ(world.store->config(), expected);
+    EXPECT_THAT(world.store->history(), SizeIs(1));
+    EXPECT_EQ(storedToken(world), "");
+    EXPECT_THAT(world.methods(), IsEmpty());
+    EXPECT_EQ(world.failure(world.store->findGroup()), "Connect your bot first.");
+    EXPECT_EQ(world.failure(world.store->createTopics()), "Find your group first.");
+    EXPECT_EQ(world.failure(world.store->renameTopics()), "");
+    world.restart();
+    EXPECT_FALSE(world.store->tokenSaved());
+    EXPECT_EQ(world.store->config(), expected);
+}
+
+TEST(GroupDiscovery, FindsTheGroupThatSpokeLast) {
+    using Ready = std::function<std::int64_t(sandbox::Sandbox&)>;
+    const auto group = [](sandbox::Sandbox& phone, const std::string& title, BotRole role) {
+        GroupOptions options;
+        options.title = title;
+        options.bot = role;
+        return phone.addGroup(options);
+    };
+    struct Case {
+        const char* name;
+        Ready make; ///< gives the group to be found
+        std::string title;
+    };
+    const Case cases[] = {
+        {"a message",
+         [&](auto& phone) {
+             const auto id = group(phone, "Family", BotRole::topicAdmin);
+             phone.userSays(id, "hi");
+             return id;
+         },
+         "Family"},
+        {"a membership alone",
+         [&](auto& phone) {
+             const auto id = group(phone, "Family", BotRole::absent);
+             phone.failNext(answer(
+                 "getUpdates",
+                 Json::array(
+                     {{{"my_chat_member", {{"chat", {{"id", id}, {"type", "supergroup"}}}}}}})));
+             phone.addBotToGroup(id);
+             return id;
+         },
+         "Family"},
+        {"a group that was converted",
+         [&](auto& phone) {
+             GroupOptions basic;
+             basic.kind = ChatKind::group;
+             basic.title = "Was basic";
+             const auto old = phone.addGroup(basic);
+             phone.userSays(old, "hi");
+             return phone.migrateGroup(old);
+         },
+         "Was basic"},
+        {"two groups",
+         [&](auto& phone) {
+             const auto first = group(phone, "First", BotRole::topicAdmin);
+             const auto second = group(phone, "Second", BotRole::topicAdmin);
+             phone.userSays(second, "hi");
+             phone.userSays(first, "hi");
+             return first;
+         },
+         "First"},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.name);
+        BotWorld world;
+        await(world.store->connectBot(BotWorld::token));
+        const std::int64_t id = each.make(world.sandbox);
+        world.clear();
+        await(world.store->findGroup());
+        EXPECT_EQ(world.store->config().chatId, id);
+        EXPECT_EQ(world.store->config().chatTitle, each.title);
+        EXPECT_THAT(world.newEvents(), ElementsAre(R"(setup_step {"step":"group_found"})"));
+        EXPECT_THAT(world.calls(),
+                    ElementsAre(R"(getUpdates {"allowed_updates":["message","my_chat_member"]})",
+                                R"(getChat {"chat_id":)" + std::to_string(id) + "}"));
+    }
+}
+
+TEST(GroupDiscovery, SaysWhatIsMissing) {
+    ConnectedWorld world;
+    const Config before = world.store->config();
+    const auto updates = [](const Json& list) { return answer("getUpdates", list); };
+    const auto chat = [](const Json& reply) { return answer("getChat", reply); };
+    const auto message = [](const Json& content) { return Json::array({{{"message", content}}}); };
+    const std::string topicsOff = ", but Topics are off. Turn on Topics in the group settings.";
+    const std::pair<Fault, std::string> cases[] = {
+        {updates(Json::array()), noGroupText},
+        {updates(true), noGroupText},
+        {updates(Json::array({1, "x", {{"message", 7}}})), noGroupText},
+        {updates(message({{"chat", {{"id", 5}, {"type", "private"}}}})), noGroupText},
+        {updates(message({{"chat", {{"id", -5}, {"type", "group"}}}})), noGroupText},
+        {updates(message({{"chat", {{"id", "-5"}, {"type", "supergroup"}}}})), noGroupText},
+        {chat({{"title", "Family"}, {"is_forum", false}}), "Found “Family”" + topicsOff},
+        {chat({{"title", 7}, {"is_forum", "true"}}), "Found “your group”" + topicsOff},
+        {chat(Json()), "Found “your group”" + topicsOff},
+        {refusal("getUpdates", 401, "x"), refusedText},
+        {refusal("getChat", 400, "gone"), "gone"},
+    };
+    for (const auto& [fault, expected] : cases) {
+        world.sandbox.clearFaults();
+        world.sandbox.failNext(fault);
+        EXPECT_EQ(world.failure(world.store->findGroup()), expected);
+        EXPECT_EQ(world.store->config(), before);
+    }
+    EXPECT_THAT(world.newEvents(), IsEmpty());
+}
+
+TEST(GroupDiscovery, ClearsThreadsForAnotherGroupAlone) {
+    ConnectedWorld world;
+    world.store->changeConfig([](Config& config) { config.topics[1].name = "Pictures"; });
+    const auto before = world.threads();
+    world.sandbox.failNext(answer("getChat", {{"is_forum", true}}));
+    await(world.store->findGroup());
+    EXPECT_EQ(world.threads(), before);
+    EXPECT_EQ(world.store->config().chatTitle, std::nullopt);
+
+    world.sandbox.userSays(world.sandbox.addGroup(), "hi");
+    await(world.store->findGroup());
+    EXPECT_THAT(world.threads(), Each(std::nullopt));
+    EXPECT_EQ(world.store->config().topics[1].name, "Pictures");
+}
+
+} // namespace quillon::test
