@@ -23,6 +23,7 @@ constexpr std::array rows{
 
 std::vector<Topic> makeDefaults() {
     std::vector<Topic> topics;
+    topics.reserve(rows.size());
     for (const Row& row : rows) {
         topics.push_back({.key = std::string{row.key},
                           .name = std::string{row.name},
