@@ -3,6 +3,7 @@
 #include "base/Utf8.h"
 
 #include <array>
+#include <csignal>
 #include <cstdio>
 #include <iostream>
 
@@ -19,24 +20,39 @@ bool isControl(UChar32 codePoint) {
     return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
 }
 
-/// While it lives, what is typed is not shown.
+/// While it lives, what is typed is not shown. Also a signal that ends the program gives the echo
+/// back, which the terminal would be left without.
 class EchoOff {
 public:
     EchoOff() {
-        on_ = tcgetattr(STDIN_FILENO, &before_) == 0;
-        if (!on_) return;
-        termios quiet = before_;
+        if (tcgetattr(STDIN_FILENO, &before) != 0) return;
+        termios quiet = before;
         quiet.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+        for (const int number : endings)
+            std::signal(number, giveBackAndEnd);
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &quiet);
+        on_ = true;
     }
     ~EchoOff() {
-        if (on_) tcsetattr(STDIN_FILENO, TCSAFLUSH, &before_);
+        if (!on_) return;
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &before);
+        for (const int number : endings)
+            std::signal(number, SIG_DFL);
     }
     EchoOff(const EchoOff&) = delete;
     EchoOff& operator=(const EchoOff&) = delete;
 
 private:
-    termios before_{};
+    static constexpr std::array endings{SIGHUP, SIGINT, SIGQUIT, SIGTERM};
+
+    static void giveBackAndEnd(int number) {
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &before);
+        std::signal(number, SIG_DFL);
+        std::raise(number);
+    }
+
+    /// Where the handler finds it.
+    static inline termios before{};
     bool on_ = false;
 };
 

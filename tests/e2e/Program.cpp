@@ -8,10 +8,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 
 #include <pty.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 namespace quillon::test {
@@ -42,10 +44,8 @@ std::string commandLine(int process) {
     for (const QString& setting : environment.toStringList())
         settings.push_back(setting.toStdString());
     const auto pointers = [](std::vector<std::string>& texts) {
-        std::vector<char*> list;
-        for (std::string& text : texts)
-            list.push_back(text.data());
-        list.push_back(nullptr);
+        std::vector<char*> list(texts.size() + 1, nullptr);
+        std::ranges::transform(texts, list.begin(), [](std::string& text) { return text.data(); });
         return list;
     };
     ::execve(QUILLON, pointers(words).data(), pointers(settings).data());
@@ -111,6 +111,8 @@ Finished Program::runOnTerminal(const std::vector<std::string>& arguments,
     }
     int status = 0;
     ::waitpid(child, &status, 0);
+    termios settings{};
+    run.echoes = ::tcgetattr(terminal, &settings) == 0 && (settings.c_lflag & ECHO) != 0;
     ::close(terminal);
     run.code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
     return run;

@@ -18,6 +18,7 @@ struct Finished {
     std::string out;
     std::string err;
     std::chrono::milliseconds took{};
+    bool echoes = false; ///< whether the terminal shows what is typed, now that the run is over
 };
 
 /// The program's command line, in an environment of the test's choosing.

@@ -71,6 +71,11 @@ TEST_F(EndToEnd, ReadsTheTokenFromATerminalUnseen) {
     const Finished run = quillon.runOnTerminal({"connect"}, std::string{token} + "\n");
     EXPECT_EQ(run.code, 0);
     EXPECT_EQ(run.out, "Bot token: \r\nConnected to quillon_demo_bot\r\n");
+    EXPECT_TRUE(run.echoes);
+
+    const Finished interrupted = quillon.runOnTerminal({"connect"}, "\x03");
+    EXPECT_EQ(interrupted.code, 128 + SIGINT);
+    EXPECT_TRUE(interrupted.echoes);
 }
 
 TEST_F(EndToEnd, ShowsProgressOnATerminal) {

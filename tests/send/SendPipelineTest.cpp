@@ -173,11 +173,10 @@ TEST_F(SendPipeline, CutsTextBetweenCharactersAndLosesNone) {
         const auto before = static_cast<std::ptrdiff_t>(world.messages("notes").size());
         world.send(text(each.text));
         EXPECT_EQ(world.store->history().front().error, std::nullopt);
-        std::vector<Json> messages = world.messages("notes");
-        messages.erase(messages.begin(), messages.begin() + before);
         std::vector<std::string> shown;
-        for (const Json& message : messages)
+        for (const Json& message : world.messages("notes"))
             shown.push_back(message["pre"].at(0).get<std::string>());
+        shown.erase(shown.begin(), shown.begin() + before);
         EXPECT_EQ(shown, each.shown);
     }
 }

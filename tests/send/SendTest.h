@@ -27,9 +27,10 @@ inline FakePasteboard::Content text(std::string text) {
 
 inline FakePasteboard::Content files(const std::vector<std::filesystem::path>& paths) {
     QByteArray list;
-    for (const std::filesystem::path& path : paths)
-        list +=
-            "file://" + QByteArray::fromStdString(path.native()).toPercentEncoding("/") + "\r\n";
+    for (const std::filesystem::path& path : paths) {
+        const QByteArray name = QByteArray::fromStdString(path.native());
+        list += "file://" + name.toPercentEncoding("/") + "\r\n";
+    }
     return {{"text/uri-list", list}};
 }
 
