@@ -1,6 +1,7 @@
-// bench_Stalls idle|send: prints the longest gap between two turns of the window thread's event
-// loop while it is idle for a second, or sends the clipboard and shows its banners; in ms, followed
-// by the processor time that the thread took in that gap, in ms, and the number of items sent.
+// bench_Stalls idle|send|banner: prints the longest gap between two turns of the window thread's
+// event loop, in ms, followed by the processor time that the thread took in that gap, in ms, and
+// the number of items sent. Meanwhile the program is idle, or sends the clipboard and shows how
+// that went, or shows the first banner of its life; the other two have shown one before.
 #include "bench/RunningProgram.h"
 #include "platform/Sleep.h"
 
@@ -56,13 +57,15 @@ private:
     Milliseconds timeInLongest_{};
 };
 
-QCoro::Task<> measure(bench::RunningProgram& program, bool send) {
+QCoro::Task<> measure(bench::RunningProgram& program, std::string_view mode) {
     Clock& clock = program.services.platform().clock;
     Store& store = program.store;
-    co_await sleep(clock, 300ms);
+    if (mode != "banner") program.banner.show("Ready", "checkmark.circle.fill", true, false);
+    co_await sleep(clock, 400ms);
     const std::size_t before = store.history().size();
     const Pulse pulse;
-    if (send) co_await store.sendClipboard("shortcut");
+    if (mode == "send") co_await store.sendClipboard("shortcut");
+    if (mode == "banner") program.banner.show("Ready", "checkmark.circle.fill", true, false);
     co_await sleep(clock, 1000ms);
     const std::size_t items = store.history().size() - before;
     std::printf("%.2f %.2f %zu\n", pulse.longestGap().count(), pulse.timeInLongestGap().count(),
@@ -77,8 +80,7 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     auto pasteboard = X11Pasteboard::open(nullptr);
     if (argc != 2 || !pasteboard) return EXIT_FAILURE;
-    const bool send = std::string_view{argv[1]} == "send";
     bench::RunningProgram program{std::move(pasteboard)};
-    QTimer::singleShot(0, &program.store, [&] { measure(program, send); });
+    QTimer::singleShot(0, &program.store, [&] { measure(program, argv[1]); });
     return QApplication::exec();
 }

@@ -24,8 +24,9 @@ constexpr std::string_view devanagari =
     "सभी मनुष्यों को गौरव और अधिकारों के मामले में जन्मजात स्वतन्त्रता प्राप्त है।\n";
 constexpr std::string_view korean =
     "모든 인간은 태어날 때부터 자유로우며 존엄과 권리에 있어 동등하다.\n";
-constexpr std::string_view emoji = "👨‍👩‍👧‍👦👩🏽‍🚀🇩🇪🇯🇵❤️‍🔥👍🏿 "
-                                   "🏴󠁧󠁢󠁳󠁣󠁴󠁿🙂🎉\n";
+constexpr std::string_view emoji =
+    "👨‍👩‍👧‍👦👩🏽‍🚀🇩🇪🇯🇵❤️‍🔥👍🏿"
+    "🏴󠁧󠁢󠁳󠁣󠁴󠁿🙂🎉\n";
 
 using Pieces = std::vector<std::string_view>;
 

@@ -12,11 +12,15 @@ namespace quillon {
 
 namespace {
 
+/// Printable ASCII and line feed, by far the most common.
+bool isPlain(UChar32 codePoint) {
+    return (codePoint >= 0x20 && codePoint < 0x7F) || codePoint == '\n';
+}
+
 /// Whether the code point neither joins what stands before it, save a Prepend, nor what follows it,
 /// save an Extend, SpacingMark, ZWJ or Hangul jamo: two such neighbours are two characters.
 bool standsAlone(UChar32 codePoint) {
-    // Printable ASCII and line feed, by far the most common.
-    if ((codePoint >= 0x20 && codePoint < 0x7F) || codePoint == '\n') return true;
+    if (isPlain(codePoint)) return true;
     switch (u_getIntPropertyValue(codePoint, UCHAR_GRAPHEME_CLUSTER_BREAK)) {
     case U_GCB_OTHER:
     case U_GCB_LF:
@@ -63,15 +67,25 @@ GraphemeCursor::GraphemeCursor(std::string_view text) : text_{text} {}
 
 GraphemeCursor::~GraphemeCursor() = default;
 
+GraphemeCursor::Step GraphemeCursor::stepAt(std::size_t offset) const {
+    std::size_t end = offset;
+    const UChar32 codePoint = nextCodePoint(text_, end);
+    return {.begin = offset, .end = end, .standsAlone = standsAlone(codePoint)};
+}
+
 Grapheme GraphemeCursor::next() {
     if (offset_ >= text_.size()) return {.end = offset_, .codePoints = 0};
     const std::size_t begin = offset_;
-    const UChar32 first = nextCodePoint(text_, offset_);
+    if (begin + 1 < text_.size() && isPlain(text_[begin]) && isPlain(text_[begin + 1])) {
+        return {.end = ++offset_, .codePoints = 1};
+    }
+    const bool known = ahead_.begin == begin && ahead_.end > begin;
+    const Step first = known ? ahead_ : stepAt(begin);
+    offset_ = first.end;
     if (offset_ == text_.size()) return {.end = offset_, .codePoints = 1};
 
-    std::size_t lookAhead = offset_;
-    const UChar32 second = nextCodePoint(text_, lookAhead);
-    if (standsAlone(first) && standsAlone(second)) return {.end = offset_, .codePoints = 1};
+    ahead_ = stepAt(offset_);
+    if (first.standsAlone && ahead_.standsAlone) return {.end = offset_, .codePoints = 1};
 
     if (!breaks_) breaks_ = std::make_unique<Breaks>(text_);
     const std::size_t end = breaks_->after(begin);

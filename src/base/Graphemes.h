@@ -33,8 +33,17 @@ public:
 private:
     class Breaks;
 
+    /// One code point: where it begins and ends, and whether it joins no neighbour.
+    struct Step {
+        std::size_t begin = 0;
+        std::size_t end = 0;
+        bool standsAlone = false;
+    };
+    [[nodiscard]] Step stepAt(std::size_t offset) const;
+
     std::string_view text_;
     std::size_t offset_ = 0;
+    Step ahead_; ///< the last one looked at; empty when there is none
     std::unique_ptr<Breaks> breaks_;
 };
 

@@ -5,6 +5,8 @@
 
 #include <unicode/uchar.h>
 
+#include <algorithm>
+
 namespace quillon {
 
 namespace {
@@ -105,13 +107,14 @@ std::vector<std::string_view> chunks(std::string_view text, TextLimit limit) {
 }
 
 std::string escapedHtml(std::string_view text) {
+    const auto isSpecial = [](char c) { return c == '&' || c == '<' || c == '>'; };
     std::string escaped;
     escaped.reserve(text.size() + text.size() / 8);
-    for (std::size_t begin = 0; begin < text.size();) {
-        const std::size_t special = std::min(text.find_first_of("&<>", begin), text.size());
-        escaped += text.substr(begin, special - begin);
-        if (special == text.size()) break;
-        switch (text[special]) {
+    for (auto from = text.begin(); from != text.end();) {
+        const auto special = std::find_if(from, text.end(), isSpecial);
+        escaped.append(from, special);
+        if (special == text.end()) break;
+        switch (*special) {
         case '&':
             escaped += "&amp;";
             break;
@@ -122,7 +125,7 @@ std::string escapedHtml(std::string_view text) {
             escaped += "&gt;";
             break;
         }
-        begin = special + 1;
+        from = special + 1;
     }
     return escaped;
 }

@@ -47,7 +47,10 @@ int Detach::run(const std::function<int(Detach&)>& work) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (getppid() != parent) std::_Exit(EXIT_FAILURE);
         Detach detach{ends[1]};
-        std::exit(work(detach));
+        const int exitCode = work(detach);
+        std::cout.flush();
+        // Static objects stay as they are: the work may leave threads behind.
+        std::_Exit(exitCode);
     }
     close(ends[1]);
     int exitCode = 0;

@@ -52,10 +52,12 @@ int Session::run(Invocation invocation, Detach& detach) {
     }
     // The banner is an X11 window, also where the desktop offers Wayland as well.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
-    int argc = 1;
-    char name[] = "quillon";
-    char* argv[] = {name, nullptr};
-    QApplication application{argc, argv};
+    static int argc = 1;
+    static char name[] = "quillon";
+    static char* argv[] = {name, nullptr};
+    // Never destroyed, for it goes with the process: where no banner was shown, Qt would look
+    // through all fonts of the system only to let go of them.
+    [[maybe_unused]] const auto* application = new QApplication{argc, argv};
     QApplication::setQuitOnLastWindowClosed(false);
 
     LinuxPlatform services{std::move(pasteboard)};
