@@ -10,7 +10,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace quillon;
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    for (const auto& path : ClipboardFormats::decodedPaths(bytes)) {
+    for (const auto& path : ClipboardFormats::decodedPaths(bytes, "fuzz")) {
         require(path.is_absolute() && path.native().find('\0') == std::string::npos);
     }
     const std::string text =

@@ -1,5 +1,6 @@
 #include "analytics/Analytics.h"
 
+#include "base/Bytes.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
 #include "platform/Platform.h"
@@ -49,8 +50,7 @@ EventQueue& Analytics::loadedQueue() {
         const FileReading reading =
             platform_.files.read(platform_.dataFolder / eventsFile, maximumDataFileSize);
         // An unreadable file has no bytes and decodes as an empty queue.
-        queue_ = EventQueue::decode(
-            {reading.bytes.constData(), static_cast<std::size_t>(reading.bytes.size())});
+        queue_ = EventQueue::decode(asText(reading.bytes));
     }
     return *queue_;
 }

@@ -1,28 +1,42 @@
 #include "base/Json.h"
 
 #include <limits>
+#include <vector>
 
 namespace quillon {
 
 namespace {
 
-struct TooDeep {};
+struct Refused {};
+
+/// Watches a text while it is read, and refuses one that would cost too much.
+class Guard {
+public:
+    bool operator()(int depth, Json::parse_event_t event, const Json& /*parsed*/) {
+        const auto level = static_cast<std::size_t>(depth);
+        using Event = Json::parse_event_t;
+        if (event == Event::array_start || event == Event::object_start) {
+            if (depth > maximumJsonDepth) throw Refused{};
+            // The keys of what begins here are told one level deeper.
+            keys_.resize(level + 2);
+            keys_[level + 1] = 0;
+        }
+        if (event == Event::key && ++keys_.at(level) > maximumJsonKeys) throw Refused{};
+        return true;
+    }
+
+private:
+    std::vector<std::size_t> keys_;
+};
 
 } // namespace
 
 std::optional<Json> parseJson(std::string_view bytes) {
-    const auto refuseDepth = [](int depth, Json::parse_event_t event, const Json&) {
-        if (event == Json::parse_event_t::array_start ||
-            event == Json::parse_event_t::object_start) {
-            if (depth > maximumJsonDepth) throw TooDeep{};
-        }
-        return true;
-    };
     try {
-        return Json::parse(bytes, refuseDepth);
+        return Json::parse(bytes, Guard{});
     } catch (const Json::exception&) {
         return std::nullopt;
-    } catch (TooDeep) {
+    } catch (Refused) {
         return std::nullopt;
     }
 }

@@ -15,7 +15,12 @@ using Json = nlohmann::ordered_json;
 /// Deeper nesting than any of our files or the Bot API has; refusing it bounds memory.
 inline constexpr int maximumJsonDepth = 128;
 
-/// The value, or none when the bytes are not one JSON text in UTF-8 or are nested too deeply.
+/// More keys than any of our objects has. Finding a key takes time by their number, and building an
+/// object by its square.
+inline constexpr std::size_t maximumJsonKeys = 1000;
+
+/// The value, or none when the bytes are not one JSON text in UTF-8, are nested too deeply, or hold
+/// an object with too many keys.
 [[nodiscard]] std::optional<Json> parseJson(std::string_view bytes);
 
 /// Compact UTF-8. Invalid UTF-8 in a string is written as U+FFFD.

@@ -28,6 +28,12 @@ bool isSpace(UChar32 codePoint) {
     return codePoint == U'\t' || u_charType(codePoint) == U_SPACE_SEPARATOR;
 }
 
+bool isVisible(UChar32 codePoint) {
+    constexpr UChar32 brailleBlank = 0x2800;
+    return !u_isUWhiteSpace(codePoint) && !u_iscntrl(codePoint) && codePoint != brailleBlank &&
+           !u_hasBinaryProperty(codePoint, UCHAR_DEFAULT_IGNORABLE_CODE_POINT);
+}
+
 bool isLineBreak(UChar32 codePoint) {
     return (codePoint >= 0x0A && codePoint <= 0x0D) || codePoint == 0x85 || codePoint == 0x2028 ||
            codePoint == 0x2029;
@@ -75,6 +81,13 @@ std::string_view firstLine(std::string_view text) {
     return begin < text.size() ? text.substr(begin) : text;
 }
 
+bool hasVisibleText(std::string_view text) {
+    for (std::size_t offset = 0; offset < text.size();) {
+        if (isVisible(nextCodePoint(text, offset))) return true;
+    }
+    return false;
+}
+
 std::string validUtf8(std::string_view text) {
     std::string valid;
     valid.reserve(text.size());
@@ -89,10 +102,6 @@ std::string validUtf8(std::string_view text) {
 std::string_view prefix(std::string_view text, TextLimit limit) {
     GraphemeCursor cursor{text};
     return text.substr(0, advance(cursor, text, limit));
-}
-
-std::string_view firstCharacters(std::string_view text, std::size_t count) {
-    return prefix(text, {.characters = count, .codePoints = text.size()});
 }
 
 std::vector<std::string_view> chunks(std::string_view text, TextLimit limit) {

@@ -22,6 +22,10 @@ namespace quillon {
 /// The text with each invalid sequence replaced by U+FFFD.
 [[nodiscard]] std::string validUtf8(std::string_view text);
 
+/// Whether anything of the text can be seen: a character other than white space, control characters
+/// and those that Unicode calls default ignorable, such as U+200B, or the Braille blank U+2800.
+[[nodiscard]] bool hasVisibleText(std::string_view text);
+
 /// How much of a text fits: user-perceived characters (extended grapheme clusters) and Unicode code
 /// points, whichever is reached first.
 struct TextLimit {
@@ -32,9 +36,6 @@ struct TextLimit {
 /// The longest beginning of the text within the limit. A character is never cut in two, unless the
 /// very first one alone has more code points than the limit: that one is cut between code points.
 [[nodiscard]] std::string_view prefix(std::string_view text, TextLimit limit);
-
-/// The first `count` user-perceived characters of the text.
-[[nodiscard]] std::string_view firstCharacters(std::string_view text, std::size_t count);
 
 /// The text cut into prefixes, in order; joined they are the text. An empty text has none.
 [[nodiscard]] std::vector<std::string_view> chunks(std::string_view text, TextLimit limit);

@@ -1,6 +1,7 @@
 #include "cli/Reports.h"
 
 #include "base/Json.h"
+#include "base/Uuid.h"
 #include "cli/Terminal.h"
 #include "state/Store.h"
 
@@ -72,7 +73,7 @@ std::string historyJson(const std::vector<Sent>& history) {
     Json array = Json::array();
     for (const Sent& entry : history) {
         Json object{
-            {"id", entry.id.toString(QUuid::WithoutBraces).toUpper().toStdString()},
+            {"id", uuidText(entry.id)},
             {"date", dateTime(entry.date).toUTC().toString(Qt::ISODateWithMs).toStdString()},
             {"topic", entry.topic},
             {"title", entry.title}};

@@ -3,11 +3,13 @@
 #include "base/Text.h"
 #include "platform/Pasteboard.h"
 #include "send/ClipboardFormats.h"
+#include "send/FileKind.h"
 #include "send/PngConversion.h"
 
 #include <QBuffer>
 #include <QCoroFuture>
 #include <QImageReader>
+#include <QSysInfo>
 #include <QtConcurrentRun>
 
 #include <utility>
@@ -32,10 +34,14 @@ QCoro::Task<std::optional<QByteArray>> bytesOf(Pasteboard& pasteboard, std::stri
 }
 
 QCoro::Task<Paths> readFiles(Pasteboard& pasteboard, Names offered) {
-    const auto format = ClipboardFormats::fileList(offered);
-    if (!format) co_return Paths{};
-    const auto list = co_await bytesOf(pasteboard, *format);
-    co_return list ? ClipboardFormats::decodedPaths(*list) : Paths{};
+    const std::string machine = QSysInfo::machineHostName().toStdString();
+    for (const std::string& format : ClipboardFormats::fileLists(offered)) {
+        const auto list = co_await bytesOf(pasteboard, format);
+        if (!list) continue;
+        Paths paths = ClipboardFormats::decodedPaths(*list, machine);
+        if (!paths.empty()) co_return paths;
+    }
+    co_return Paths{};
 }
 
 QCoro::Task<std::optional<std::string>> readText(Pasteboard& pasteboard, Names offered) {
@@ -55,10 +61,12 @@ QCoro::Task<std::optional<QByteArray>> readImage(Pasteboard& pasteboard, Names o
         const auto png = co_await bytesOf(pasteboard, *format);
         if (png && !png->isEmpty()) co_return png;
     }
-    if (const auto format = ClipboardFormats::otherBitmap(offered)) {
-        const auto bitmap = co_await bytesOf(pasteboard, *format);
-        const QFuture<std::optional<QByteArray>> png = convertToPng(bitmap.value_or(QByteArray{}));
-        co_return co_await png;
+    for (const std::string& format : ClipboardFormats::otherBitmaps(offered)) {
+        const auto bitmap = co_await bytesOf(pasteboard, format);
+        if (!bitmap) continue;
+        const QFuture<std::optional<QByteArray>> conversion = convertToPng(*bitmap);
+        auto png = co_await conversion;
+        if (png) co_return png;
     }
     co_return std::nullopt;
 }
@@ -79,9 +87,7 @@ Summary summaryOf(const ClipFiles& files) {
     if (files.paths.size() != 1) {
         return {"doc.on.doc", std::to_string(files.paths.size()) + " files"};
     }
-    const std::filesystem::path& path = files.paths.front();
-    const std::filesystem::path name = path.has_filename() ? path.filename() : path; // "/"
-    return {"doc", validUtf8(name.native())};
+    return {"doc", validUtf8(lastComponent(files.paths.front()).native())};
 }
 
 Summary summaryOf(const ClipImage& image) {

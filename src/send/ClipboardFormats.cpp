@@ -1,5 +1,6 @@
 #include "send/ClipboardFormats.h"
 
+#include "base/Bytes.h"
 #include "base/Text.h"
 
 #include <algorithm>
@@ -35,7 +36,7 @@ constexpr std::array textTable{
     TextEntry{"string", TextCoding::latin1},
 };
 
-constexpr std::array pngNames{std::string_view{"image/png"}};
+constexpr std::string_view pngName = "image/png";
 
 // After TIFF, those without loss first.
 constexpr std::array otherBitmapNames{
@@ -54,16 +55,13 @@ std::optional<std::string> spelling(std::string_view name,
     return {};
 }
 
-std::optional<std::string> best(std::span<const std::string_view> names,
-                                const std::vector<std::string>& offered) {
+std::vector<std::string> all(std::span<const std::string_view> names,
+                             const std::vector<std::string>& offered) {
+    std::vector<std::string> found;
     for (const std::string_view name : names) {
-        if (auto found = spelling(name, offered)) return found;
+        if (auto format = spelling(name, offered)) found.push_back(std::move(*format));
     }
-    return {};
-}
-
-std::string_view viewOf(const QByteArray& bytes) {
-    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+    return found;
 }
 
 std::string_view withoutTrailingNul(std::string_view bytes) {
@@ -96,22 +94,20 @@ std::string percentDecoded(std::string_view text) {
     return decoded;
 }
 
-/// What follows "file:" and, where there is one, the name of this machine; none for other URLs.
-std::optional<std::string_view> encodedPath(std::string_view url) {
+/// What follows "file:" and the name of this machine, or none; nothing for other URLs.
+std::optional<std::string_view> encodedPath(std::string_view url, std::string_view machine) {
     constexpr std::string_view scheme = "file:";
-    constexpr std::string_view localHost = "localhost";
     if (lowercasedAscii(url.substr(0, scheme.size())) != scheme) return {};
     url.remove_prefix(scheme.size());
     if (!url.starts_with("//")) return url;
     url.remove_prefix(2);
-    if (lowercasedAscii(url.substr(0, localHost.size())) == localHost) {
-        url.remove_prefix(localHost.size());
-    }
-    return url;
+    const std::string host = lowercasedAscii(url.substr(0, url.find('/')));
+    const bool local = host.empty() || host == "localhost" || host == lowercasedAscii(machine);
+    return local ? std::optional{url.substr(host.size())} : std::nullopt;
 }
 
-std::optional<std::filesystem::path> decodedPath(std::string_view url) {
-    const auto encoded = encodedPath(url);
+std::optional<std::filesystem::path> decodedPath(std::string_view url, std::string_view machine) {
+    const auto encoded = encodedPath(url, machine);
     if (!encoded || !encoded->starts_with('/')) return {};
     std::string path = percentDecoded(*encoded);
     if (path.find('\0') != std::string::npos) return {};
@@ -147,8 +143,8 @@ std::string utf8FromLatin1(std::string_view text) {
 
 } // namespace
 
-std::optional<std::string> fileList(const std::vector<std::string>& offered) {
-    return best(fileListNames, offered);
+std::vector<std::string> fileLists(const std::vector<std::string>& offered) {
+    return all(fileListNames, offered);
 }
 
 std::optional<TextFormat> text(const std::vector<std::string>& offered) {
@@ -159,25 +155,25 @@ std::optional<TextFormat> text(const std::vector<std::string>& offered) {
 }
 
 std::optional<std::string> png(const std::vector<std::string>& offered) {
-    return best(pngNames, offered);
+    return spelling(pngName, offered);
 }
 
-std::optional<std::string> otherBitmap(const std::vector<std::string>& offered) {
-    return best(otherBitmapNames, offered);
+std::vector<std::string> otherBitmaps(const std::vector<std::string>& offered) {
+    return all(otherBitmapNames, offered);
 }
 
-std::vector<std::filesystem::path> decodedPaths(const QByteArray& list) {
+std::vector<std::filesystem::path> decodedPaths(const QByteArray& list, std::string_view machine) {
     // The comments of text/uri-list and the "copy" or "cut" of the desktops' own lists are no file
     // URLs and go the way of web links.
     std::vector<std::filesystem::path> paths;
-    for (const std::string_view line : lines(withoutTrailingNul(viewOf(list)))) {
-        if (auto path = decodedPath(line)) paths.push_back(std::move(*path));
+    for (const std::string_view line : lines(withoutTrailingNul(asText(list)))) {
+        if (auto path = decodedPath(line, machine)) paths.push_back(std::move(*path));
     }
     return paths;
 }
 
 std::string decodedText(const QByteArray& bytes, TextCoding coding) {
-    const std::string_view text = withoutTrailingNul(viewOf(bytes));
+    const std::string_view text = withoutTrailingNul(asText(bytes));
     return coding == TextCoding::latin1 ? utf8FromLatin1(text) : validUtf8(text);
 }
 

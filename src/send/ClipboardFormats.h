@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// Rules on the formats in which programs of this desktop offer what was copied: which of them
@@ -20,16 +21,20 @@ struct TextFormat {
     bool operator==(const TextFormat&) const = default;
 };
 
-/// The best of the offered formats for what is asked, as its owner spells it.
-[[nodiscard]] std::optional<std::string> fileList(const std::vector<std::string>& offered);
+// Which of the offered formats stand for what is asked, as their owner spells them.
+
+/// The best first.
+[[nodiscard]] std::vector<std::string> fileLists(const std::vector<std::string>& offered);
 [[nodiscard]] std::optional<TextFormat> text(const std::vector<std::string>& offered);
 [[nodiscard]] std::optional<std::string> png(const std::vector<std::string>& offered);
-/// An image to be converted to PNG; TIFF before all others.
-[[nodiscard]] std::optional<std::string> otherBitmap(const std::vector<std::string>& offered);
+/// Images to be converted to PNG, the best first, which is TIFF.
+[[nodiscard]] std::vector<std::string> otherBitmaps(const std::vector<std::string>& offered);
 
-/// The files of this machine that a list names, in its order. A path may hold any byte but NUL; the
-/// slash at a folder's end is dropped. Other URLs and what is no URL are left out.
-[[nodiscard]] std::vector<std::filesystem::path> decodedPaths(const QByteArray& list);
+/// The files of this machine, which bears the name `machine`, that a list names, in its order. A
+/// path may hold any byte but NUL; the slash at a folder's end is dropped. Other URLs and what is
+/// no URL are left out.
+[[nodiscard]] std::vector<std::filesystem::path> decodedPaths(const QByteArray& list,
+                                                              std::string_view machine);
 
 /// Valid UTF-8, without the NUL that some owners end a text with; whatever is not valid has become
 /// U+FFFD.

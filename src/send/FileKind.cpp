@@ -32,4 +32,8 @@ FileKind fileKind(const std::filesystem::path& path) {
     return row == rows.end() ? plainFile : row->kind;
 }
 
+std::filesystem::path lastComponent(const std::filesystem::path& path) {
+    return path.has_filename() ? path.filename() : path;
+}
+
 } // namespace quillon

@@ -18,4 +18,7 @@ struct FileKind {
 /// heic), else a plain file.
 [[nodiscard]] FileKind fileKind(const std::filesystem::path& path);
 
+/// The name of the file or folder; "/" for the root folder.
+[[nodiscard]] std::filesystem::path lastComponent(const std::filesystem::path& path);
+
 } // namespace quillon

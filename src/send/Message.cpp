@@ -1,11 +1,17 @@
 #include "send/Message.h"
 
+#include <algorithm>
+
 namespace quillon {
 
 std::vector<std::string> textMessages(std::string_view text) {
+    std::vector<std::string_view> pieces = chunks(text, messageLimit);
+    if (std::ranges::any_of(pieces, hasVisibleText)) {
+        std::erase_if(pieces, [](std::string_view piece) { return !hasVisibleText(piece); });
+    }
     std::vector<std::string> messages;
-    for (const std::string_view chunk : chunks(text, messageLimit)) {
-        if (trimmed(chunk).empty()) continue;
+    messages.reserve(pieces.size());
+    for (const std::string_view chunk : pieces) {
         messages.push_back("<pre>" + escapedHtml(chunk) + "</pre>");
     }
     return messages;
@@ -18,7 +24,7 @@ std::optional<std::string> caption(const std::optional<std::string>& text) {
 }
 
 std::string textTitle(std::string_view text) {
-    return std::string{firstCharacters(firstLine(text), titleLength)};
+    return std::string{prefix(firstLine(text), titleLimit)};
 }
 
 } // namespace quillon

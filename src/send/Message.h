@@ -2,7 +2,6 @@
 
 #include "base/Text.h"
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,11 +14,13 @@ namespace quillon {
 inline constexpr TextLimit messageLimit{.characters = 3900, .codePoints = 4096};
 /// The Bot API's limit for captions is 1,024 code points.
 inline constexpr TextLimit captionLimit{.characters = 1024, .codePoints = 1024};
-/// How long a title in the history may be, in user-perceived characters.
-inline constexpr std::size_t titleLength = 60;
+/// How long a title in the history may be. No writing needs as many code points; a text made to
+/// annoy, with endless accents on one letter, does.
+inline constexpr TextLimit titleLimit{.characters = 60, .codePoints = 2000};
 
 /// The messages that carry a copied text, in order: each chunk as preformatted HTML. A chunk of
-/// blanks alone is left out, since the Bot API refuses a message without visible text.
+/// blanks alone is left out, since the Bot API refuses a message without visible text; not so where
+/// all are, for then Telegram is to say it.
 [[nodiscard]] std::vector<std::string> textMessages(std::string_view text);
 
 /// The caption made of the text copied with an image; none when it is blank.

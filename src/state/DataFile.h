@@ -12,6 +12,6 @@ inline constexpr std::string_view historyFile = "history.json";
 inline constexpr std::string_view eventsFile = "events.json";
 
 /// None of those files comes near this size, in bytes; a larger one is not ours and not read.
-inline constexpr qint64 maximumDataFileSize = 16'000'000;
+inline constexpr qint64 maximumDataFileSize = 4'000'000;
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #include "state/Sent.h"
 
 #include "base/Json.h"
+#include "base/Uuid.h"
 
 #include <algorithm>
 
@@ -10,10 +11,6 @@ namespace {
 
 /// 2001-01-01 00:00:00 UTC.
 constexpr Date referenceDate{std::chrono::sys_days{std::chrono::year{2001} / 1 / 1}};
-
-std::string uuidText(const QUuid& id) {
-    return id.toString(QUuid::WithoutBraces).toUpper().toStdString();
-}
 
 /// The UUID in its 36-character form, in either case; none for anything else.
 std::optional<QUuid> uuidFromText(const std::string& text) {

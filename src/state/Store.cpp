@@ -1,5 +1,6 @@
 #include "state/Store.h"
 
+#include "base/Bytes.h"
 #include "platform/FileSystem.h"
 #include "platform/Platform.h"
 #include "state/DataFile.h"
@@ -17,10 +18,6 @@ std::optional<QByteArray> readDataFile(const Platform& platform, std::string_vie
     FileReading reading = platform.files.read(platform.dataFolder / file, maximumDataFileSize);
     if (reading.outcome != FileReading::Outcome::read) return std::nullopt;
     return std::move(reading.bytes);
-}
-
-std::string_view view(const QByteArray& bytes) {
-    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
 } // namespace
@@ -42,10 +39,10 @@ Store::Store(Platform& platform, Analytics& analytics, Banner& banner)
 void Store::load() {
     platform_.files.createFolder(platform_.dataFolder);
     if (const auto bytes = readDataFile(platform_, configFile)) {
-        config_ = decodeConfig(view(*bytes)).value_or(Config{});
+        config_ = decodeConfig(asText(*bytes)).value_or(Config{});
     }
     if (const auto bytes = readDataFile(platform_, historyFile)) {
-        history_ = decodeHistory(view(*bytes));
+        history_ = decodeHistory(asText(*bytes));
     }
 }
 

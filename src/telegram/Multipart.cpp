@@ -1,8 +1,7 @@
 #include "telegram/Multipart.h"
 
 #include "base/Text.h"
-
-#include <QUuid>
+#include "base/Uuid.h"
 
 #include <algorithm>
 
@@ -25,20 +24,23 @@ std::string safeFilename(const std::string& filename) {
 } // namespace
 
 std::string makeBoundary() {
-    const QString uuid = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
-    return "qln-" + uuid.toStdString();
+    return "qln-" + uuidText(QUuid::createUuid());
 }
 
 MultipartBody encodeMultipart(const Json& params, const Upload& upload,
                               const std::string& boundary) {
     std::string head;
+    const auto openPart = [&head, &boundary](const std::string& name) {
+        head.append("--").append(boundary);
+        head.append("\r\nContent-Disposition: form-data; name=\"").append(name).append("\"");
+    };
     for (const auto& [key, value] : params.items()) {
-        head += "--" + boundary + "\r\nContent-Disposition: form-data; name=\"" + key +
-                "\"\r\n\r\n" + plainText(value) + "\r\n";
+        openPart(key);
+        head.append("\r\n\r\n").append(plainText(value)).append("\r\n");
     }
-    head += "--" + boundary + "\r\nContent-Disposition: form-data; name=\"" + upload.field +
-            "\"; filename=\"" + safeFilename(upload.filename) +
-            "\"\r\nContent-Type: " + upload.mime + "\r\n\r\n";
+    openPart(upload.field);
+    head.append("; filename=\"").append(safeFilename(upload.filename)).append("\"\r\n");
+    head.append("Content-Type: ").append(upload.mime).append("\r\n\r\n");
     const std::string tail = "\r\n--" + boundary + "--\r\n";
     return {
         .contentType = "multipart/form-data; boundary=" + boundary,

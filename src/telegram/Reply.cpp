@@ -1,5 +1,7 @@
 #include "telegram/Reply.h"
 
+#include "base/Bytes.h"
+
 namespace quillon {
 
 namespace {
@@ -23,8 +25,7 @@ std::optional<std::int64_t> retryAfter(const Json& envelope) {
 } // namespace
 
 Verdict judge(const HttpReply& reply) {
-    std::optional<Json> envelope =
-        parseJson({reply.body.constData(), static_cast<std::size_t>(reply.body.size())});
+    std::optional<Json> envelope = parseJson(asText(reply.body));
     if (!envelope || !envelope->is_object()) return judgeWithoutEnvelope(reply.status);
 
     if (isTrue(*envelope, "ok")) {

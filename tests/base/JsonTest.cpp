@@ -33,6 +33,19 @@ TEST(Json, RefusesDeepNestingWithoutBuildingIt) {
     EXPECT_EQ(parseJson(objects), std::nullopt);
 }
 
+TEST(Json, RefusesObjectsOfTooManyKeys) {
+    const auto objectOf = [](int keys) {
+        std::string object = "{";
+        for (int key = 0; key < keys; ++key) {
+            object += (key > 0 ? ",\"" : "\"") + std::to_string(key) + "\":{\"a\":[{}]}";
+        }
+        return object + "}";
+    };
+    EXPECT_TRUE(parseJson("[" + objectOf(1000) + "," + objectOf(1000) + "]"));
+    EXPECT_EQ(parseJson("[[" + objectOf(1001) + "]]"), std::nullopt);
+    EXPECT_EQ(parseJson(objectOf(500'000)), std::nullopt);
+}
+
 TEST(Json, WritesCompactUtf8InTheOrderGiven) {
     EXPECT_EQ(writeJson({{"z", "Grüße 📝"}, {"a", {1, true, nullptr}}}),
               R"({"z":"Grüße 📝","a":[1,true,null]})");

@@ -29,6 +29,10 @@ std::vector<std::size_t> sizes(const std::vector<std::string_view>& pieces) {
     return all;
 }
 
+std::string_view firstCharacters(std::string_view text, std::size_t count) {
+    return prefix(text, {.characters = count, .codePoints = 1000});
+}
+
 constexpr TextLimit roomy{.characters = 3900, .codePoints = 1'000'000};
 
 } // namespace
@@ -49,6 +53,12 @@ TEST(Text, FindsTheFirstLineThatIsNotEmpty) {
     EXPECT_EQ(firstLine("   \nx"), "   ") << "blank is not empty";
     EXPECT_EQ(firstLine("\n\n"), "\n\n") << "no such line: the whole text";
     EXPECT_EQ(firstLine("no end"), "no end");
+}
+
+TEST(Text, TellsWhetherAnythingCanBeSeen) {
+    EXPECT_FALSE(hasVisibleText(" \t\u200B\u200E\uFEFF\u00AD\u2800\u3164\uFE0F\x01\n"));
+    EXPECT_TRUE(hasVisibleText("\u200B."));
+    EXPECT_TRUE(hasVisibleText("\xFF")) << "it is sent as U+FFFD";
 }
 
 TEST(Text, RepairsInvalidUtf8AndNothingElse) {
