@@ -1,14 +1,18 @@
 #include "cli/Commands.h"
 
-#include "base/Json.h"
+#include "base/Text.h"
 #include "cli/Reports.h"
 #include "cli/SpokenBanner.h"
 #include "cli/Terminal.h"
+#include "platform/Clock.h"
 #include "platform/Platform.h"
 #include "state/Store.h"
 
+#include <QCoroFuture>
+
 #include <chrono>
 #include <map>
+#include <memory>
 
 namespace quillon {
 
@@ -19,14 +23,17 @@ using namespace std::chrono_literals;
 /// A shorter send shows no progress.
 constexpr std::chrono::milliseconds progressPatience = 700ms;
 
-QCoro::Task<int> send(CommandContext context) {
+QCoro::Task<int> send(CommandContext context, bool /*json*/) {
     const std::size_t before = context.store.history().size();
-    Terminal::Progress progress{progressPatience};
+    // Shared, since the transport may tell its last figures when the send is over.
+    const auto progress = std::make_shared<Terminal::Progress>();
     context.store.setSendProgress(
-        [&progress](qint64 sent, qint64 total) { progress.show(sent, total); });
+        [progress](qint64 sent, qint64 total) { progress->update(sent, total); });
+    const auto shown =
+        context.platform.clock.after(progressPatience, [progress] { progress->show(); });
     co_await context.store.sendClipboard("command");
     context.store.setSendProgress({});
-    progress.clear();
+    progress->end();
 
     const std::vector<Sent>& history = context.store.history();
     const auto added = static_cast<std::ptrdiff_t>(history.size() - before);
@@ -44,23 +51,25 @@ QCoro::Task<int> send(CommandContext context) {
     co_return code;
 }
 
-QCoro::Task<int> connect(CommandContext context) {
-    const auto token = Terminal::readSecret("Bot token: ");
-    const std::string name = co_await context.store.connectBot(token.value_or(""));
-    if (!context.platform.secrets.exists(botTokenItem())) {
+QCoro::Task<int> connect(CommandContext context, bool /*json*/) {
+    const std::string token = Terminal::readSecret("Bot token: ").value_or("");
+    const std::string name = co_await context.store.connectBot(token);
+    // The next command can only have it from there.
+    const std::optional<std::string> kept = co_await context.platform.secrets.read(botTokenItem());
+    if (kept != trimmed(token)) {
         throw TelegramError{"The bot answers, but no keyring could keep its token."};
     }
     Terminal::print("Connected to " + name);
     co_return exitDone;
 }
 
-QCoro::Task<int> findGroup(CommandContext context) {
+QCoro::Task<int> findGroup(CommandContext context, bool /*json*/) {
     co_await context.store.findGroup();
     Terminal::print("Found “" + context.store.config().chatTitle.value_or("your group") + "”");
     co_return exitDone;
 }
 
-QCoro::Task<int> createTopics(CommandContext context) {
+QCoro::Task<int> createTopics(CommandContext context, bool /*json*/) {
     co_await context.store.createTopics();
     for (const Topic& topic : context.store.config().topics) {
         Terminal::print(topic.name);
@@ -68,28 +77,31 @@ QCoro::Task<int> createTopics(CommandContext context) {
     co_return exitDone;
 }
 
-QCoro::Task<int> renameTopics(CommandContext context) {
+QCoro::Task<int> renameTopics(CommandContext context, bool /*json*/) {
     co_await context.store.renameTopics();
     co_return exitDone;
 }
 
-QCoro::Task<int> forget(CommandContext context) {
+QCoro::Task<int> forget(CommandContext context, bool /*json*/) {
     co_await context.store.forgetBot();
+    if (context.platform.secrets.exists(botTokenItem())) {
+        throw TelegramError{"The keyring still holds the bot's token. Unlock it and try again."};
+    }
     co_return exitDone;
 }
 
-int status(const CommandContext& context, bool json) {
+QCoro::Task<int> status(CommandContext context, bool json) {
     Terminal::printText(json ? statusJson(context.store) : statusText(context.store));
-    return exitDone;
+    co_return exitDone;
 }
 
-int history(const CommandContext& context, bool json) {
+QCoro::Task<int> history(CommandContext context, bool json) {
     const std::vector<Sent>& entries = context.store.history();
     Terminal::printText(json ? historyJson(entries) : historyText(entries));
-    return exitDone;
+    co_return exitDone;
 }
 
-using Action = QCoro::Task<int> (*)(CommandContext);
+using Action = QCoro::Task<int> (*)(CommandContext, bool json);
 
 const std::map<Command, Action> actions{
     {Command::send, send},
@@ -98,19 +110,20 @@ const std::map<Command, Action> actions{
     {Command::createTopics, createTopics},
     {Command::renameTopics, renameTopics},
     {Command::forget, forget},
+    {Command::status, status},
+    {Command::history, history},
 };
 
 } // namespace
 
 QCoro::Task<int> runCommand(Invocation invocation, CommandContext context) {
-    if (invocation.command == Command::status) co_return status(context, invocation.json);
-    if (invocation.command == Command::history) co_return history(context, invocation.json);
-    const auto action = actions.find(invocation.command);
-    if (action == actions.end()) co_return exitUsage;
+    const Action action = actions.at(invocation.command);
     try {
-        co_return co_await action->second(context);
-    } catch (const TelegramError& error) {
-        Terminal::printError(error.message);
+        co_return co_await action(context, invocation.json);
+    } catch (const std::exception& error) {
+        // A TelegramError says the sentence for the user; anything else, such as memory running
+        // out, at least does not pass in silence.
+        Terminal::printError(error.what());
         co_return exitFailed;
     }
 }

@@ -8,7 +8,9 @@
 #include "desktop/HUD.h"
 #include "desktop/HUDPanel.h"
 #include "platform/EmptyPasteboard.h"
+#include "platform/FileSystem.h"
 #include "platform/Sleep.h"
+#include "platform/linux/FolderLock.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/X11Compositor.h"
 #include "platform/linux/X11Pasteboard.h"
@@ -29,14 +31,19 @@ QCoro::Task<> untilHidden(const HUD& hud, Clock& clock) {
     }
 }
 
+bool onlyReads(Command command) {
+    return command == Command::status || command == Command::history;
+}
+
 QCoro::Task<> runToExit(Invocation invocation, CommandContext context) {
     const int code = co_await runCommand(invocation, context);
     QCoreApplication::exit(code);
 }
 
 QCoro::Task<> sendToExit(Invocation invocation, CommandContext context, const HUD& hud,
-                         Detach& detach) {
+                         FolderLock& lock, Detach& detach) {
     const int code = co_await runCommand(invocation, context);
+    lock.release();
     if (hud.panel() != nullptr && hud.panel()->isVisible()) detach.release(code);
     co_await untilHidden(hud, context.platform.clock);
     QCoreApplication::exit(code);
@@ -62,6 +69,12 @@ int Session::run(Invocation invocation, Detach& detach) {
 
     LinuxPlatform services{std::move(pasteboard)};
     Platform& platform = services.platform();
+    platform.files.createFolder(platform.dataFolder);
+    auto lock = FolderLock::take(platform.dataFolder, FolderLock::IfHeld::giveUp);
+    if (!lock) {
+        Terminal::printError("Another send is still running.");
+        return exitFailed;
+    }
     Analytics analytics{platform};
     const X11Compositor compositor;
     Store* settings = nullptr;
@@ -71,7 +84,7 @@ int Session::run(Invocation invocation, Detach& detach) {
     settings = &store;
 
     QTimer::singleShot(0, &store, [&] {
-        sendToExit(invocation, {platform, store, banner}, hud, detach);
+        sendToExit(invocation, {platform, store, banner}, hud, *lock, detach);
     });
     return QApplication::exec();
 }
@@ -83,6 +96,11 @@ int Session::run(Invocation invocation) {
     QCoreApplication application{argc, argv};
     LinuxPlatform services{std::make_unique<EmptyPasteboard>()};
     Platform& platform = services.platform();
+    platform.files.createFolder(platform.dataFolder);
+    std::optional<FolderLock> lock;
+    if (!onlyReads(invocation.command)) {
+        lock.emplace(*FolderLock::take(platform.dataFolder, FolderLock::IfHeld::wait));
+    }
     Analytics analytics{platform};
     SpokenBanner banner{nullptr};
     Store store{platform, analytics, banner};

@@ -105,24 +105,28 @@ std::optional<std::string> readSecret(std::string_view prompt) {
     return read ? std::optional{line} : std::nullopt;
 }
 
-Progress::Progress(std::chrono::milliseconds patience)
-    : from_{std::chrono::steady_clock::now() + patience},
-      terminal_{isatty(STDERR_FILENO) != 0} {}
+Progress::Progress() : terminal_{isatty(STDERR_FILENO) != 0} {}
 
-Progress::~Progress() {
-    clear();
+void Progress::update(qint64 sent, qint64 total) {
+    sent_ = sent;
+    total_ = total;
+    if (state_ == State::shown) draw();
 }
 
-void Progress::show(qint64 sent, qint64 total) {
-    if (!terminal_ || std::chrono::steady_clock::now() < from_) return;
-    std::cerr << clearLine << "Sending… " << megabytes(sent) << " of " << megabytes(total) << " MB"
-              << std::flush;
-    shown_ = true;
+void Progress::show() {
+    if (!terminal_ || state_ != State::waiting) return;
+    state_ = State::shown;
+    draw();
 }
 
-void Progress::clear() {
-    if (shown_) std::cerr << clearLine << std::flush;
-    shown_ = false;
+void Progress::end() {
+    if (state_ == State::shown) std::cerr << clearLine << std::flush;
+    state_ = State::ended;
+}
+
+void Progress::draw() const {
+    std::cerr << clearLine << "Sending… " << megabytes(sent_) << " of " << megabytes(total_)
+              << " MB" << std::flush;
 }
 
 } // namespace quillon::Terminal

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,23 +24,27 @@ void printErrorText(std::string_view text);
 /// when nothing comes.
 [[nodiscard]] std::optional<std::string> readSecret(std::string_view prompt);
 
-/// Shows how much of an upload has gone out, on a terminal alone and after a first while.
+/// One line on a terminal that tells how much of an upload has gone out; nothing elsewhere.
 class Progress {
 public:
-    explicit Progress(std::chrono::milliseconds patience);
-    ~Progress();
-    Progress(const Progress&) = delete;
-    Progress& operator=(const Progress&) = delete;
+    Progress();
 
-    /// Sizes in bytes.
-    void show(qint64 sent, qint64 total);
-    /// Takes the line away again.
-    void clear();
+    /// Sizes in bytes. Remembered until the line is shown.
+    void update(qint64 sent, qint64 total);
+    /// Shows the line from now on.
+    void show();
+    /// Takes the line away for good.
+    void end();
 
 private:
-    std::chrono::steady_clock::time_point from_;
+    enum class State { waiting, shown, ended };
+
+    void draw() const;
+
     bool terminal_;
-    bool shown_ = false;
+    State state_ = State::waiting;
+    qint64 sent_ = 0;
+    qint64 total_ = 0;
 };
 
 } // namespace quillon::Terminal

@@ -47,8 +47,11 @@ Sent makeEntry(const Clock& clock, std::string_view symbol, std::string title, s
             .error = std::nullopt};
 }
 
-std::string failureReason(const std::string& message) {
-    return message.starts_with(unreachable) ? "no_internet" : "telegram_error";
+/// The item, which a request failed to deliver.
+Store::Item failed(Store::Item item, const std::string& message) {
+    item.first.error = message;
+    item.second.reason = message.starts_with(unreachable) ? "no_internet" : "telegram_error";
+    return item;
 }
 
 std::string imageFilename(const Clock& clock) {
@@ -101,6 +104,7 @@ QCoro::Task<> Store::sendClipboard(std::string via) {
     }
 
     publish(busy_, true);
+    const auto idle = qScopeGuard([this] { publish(busy_, false); });
     std::unique_ptr<Clock::Timer> sending = platform_.clock.after(patience, [this] {
         // Whoever wants no banners would be left with this one, since no other would replace it.
         if (config_.showBanner) banner_.show("Sending…", "arrow.up.circle", true, true);
@@ -117,7 +121,6 @@ QCoro::Task<> Store::sendClipboard(std::string via) {
     }
     sending.reset();
     finishSend(std::move(items), via);
-    publish(busy_, false);
 }
 
 void Store::refuseToSend() {
@@ -162,7 +165,8 @@ QCoro::Task<Store::Item> Store::sendText(std::string text, Telegram tg, std::int
         Json params = addressed(chat, topic);
         params["parse_mode"] = "HTML";
         params["text"] = message;
-        if (!co_await delivered(tg, "sendMessage", std::move(params), std::nullopt, item)) break;
+        const auto failure = co_await failureOf(tg, "sendMessage", std::move(params), std::nullopt);
+        if (failure) co_return failed(std::move(item), *failure);
     }
     co_return item;
 }
@@ -180,16 +184,16 @@ QCoro::Task<Store::Item> Store::sendImage(QByteArray png, std::optional<std::str
                   .filename = imageFilename(platform_.clock),
                   .data = std::move(png),
                   .mime = "image/png"};
-    co_await delivered(tg, asDocument ? "sendDocument" : "sendPhoto", std::move(params),
-                       std::move(upload), item);
-    co_return item;
+    const std::string method = asDocument ? "sendDocument" : "sendPhoto";
+    const auto failure = co_await failureOf(tg, method, std::move(params), std::move(upload));
+    co_return failure ? failed(std::move(item), *failure) : item;
 }
 
 QCoro::Task<Store::Item> Store::sendFile(std::filesystem::path path, Telegram tg,
                                          std::int64_t chat) {
     const FileKind kind = fileKind(path);
     const Topic topic = topicFor(kind.topic);
-    const std::string name = path.filename().native();
+    const std::string name = lastComponent(path).native();
     const std::string title = validUtf8(name);
     const QFuture<FileReading> pending = QtConcurrent::run(
         [&files = platform_.files, path] { return files.read(path, maximumFileSize); });
@@ -207,20 +211,19 @@ QCoro::Task<Store::Item> Store::sendFile(std::filesystem::path path, Telegram tg
                   .filename = name,
                   .data = std::move(reading.bytes),
                   .mime = "application/octet-stream"};
-    co_await delivered(tg, "sendDocument", std::move(params), std::move(upload), item);
-    co_return item;
+    const auto failure =
+        co_await failureOf(tg, "sendDocument", std::move(params), std::move(upload));
+    co_return failure ? failed(std::move(item), *failure) : item;
 }
 
-QCoro::Task<bool> Store::delivered(Telegram tg, std::string method, Json params,
-                                   std::optional<Upload> upload, Item& item) {
+QCoro::Task<std::optional<std::string>>
+Store::failureOf(Telegram tg, std::string method, Json params, std::optional<Upload> upload) {
     try {
         co_await tg.call(std::move(method), std::move(params), std::move(upload), sendProgress_);
-        co_return true;
     } catch (const TelegramError& error) {
-        item.first.error = error.message;
-        item.second.reason = failureReason(error.message);
-        co_return false;
+        co_return error.message;
     }
+    co_return std::nullopt;
 }
 
 } // namespace quillon

@@ -21,6 +21,7 @@ QCoro::Task<std::string> Store::connectBot(std::string pasted) {
     // it refuses, the token lives on in memory for this run.
     const QFuture<bool> saved = platform_.secrets.save(botTokenItem(), token);
     cachedToken_ = token;
+    ++tokenChanges_;
     publish(tokenSaved_, true);
     changeConfig([&name](Config& config) { config.botName = name; });
     analytics_.track("setup_step", {{"step", "bot_connected"}});
@@ -31,6 +32,7 @@ QCoro::Task<std::string> Store::connectBot(std::string pasted) {
 QCoro::Task<> Store::forgetBot() {
     const QFuture<void> removed = platform_.secrets.remove(botTokenItem());
     cachedToken_.reset();
+    ++tokenChanges_;
     publish(tokenSaved_, false);
     changeConfig([](Config& config) {
         config.chatId.reset();

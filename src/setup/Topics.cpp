@@ -27,19 +27,10 @@ QCoro::Task<> editTopic(Telegram tg, std::int64_t chat, std::int64_t thread, std
     }
 }
 
-/// Whether the thread still is a topic of the group.
-QCoro::Task<bool> topicExists(Telegram tg, std::int64_t chat, std::int64_t thread,
-                              std::string name) {
-    try {
-        co_await editTopic(tg, chat, thread, name);
-    } catch (const TelegramError&) {
-        co_return false;
-    }
-    co_return true;
-}
+using TopicThreads = std::map<std::string, std::int64_t>;
 
 /// The topics that exist in the group as far as Telegram still tells; empty when it does not.
-QCoro::Task<std::map<std::string, std::int64_t>> knownTopics(Telegram tg, std::int64_t chat) {
+QCoro::Task<TopicThreads> knownTopics(Telegram tg, std::int64_t chat) {
     Json params{{"allowed_updates", Json::array({"message"})}};
     Json updates;
     try {
@@ -48,6 +39,19 @@ QCoro::Task<std::map<std::string, std::int64_t>> knownTopics(Telegram tg, std::i
         co_return {};
     }
     co_return topicThreads(updates, chat);
+}
+
+/// The thread that is known by the name, when it still is a topic of the group.
+QCoro::Task<std::optional<std::int64_t>> existingThread(Telegram tg, std::int64_t chat,
+                                                        TopicThreads known, std::string name) {
+    const auto found = known.find(name);
+    if (found == known.end()) co_return std::nullopt;
+    try {
+        co_await editTopic(tg, chat, found->second, name);
+    } catch (const TelegramError&) {
+        co_return std::nullopt;
+    }
+    co_return found->second;
 }
 
 /// Creates the topic and gives its thread id, absent when the reply has none.
@@ -73,7 +77,7 @@ QCoro::Task<> Store::createTopics() {
     const std::optional<Telegram> tg = co_await telegram();
     if (!tg || !config_.chatId) throw TelegramError{"Find your group first."};
     const std::int64_t chat = *config_.chatId;
-    const std::map<std::string, std::int64_t> known = co_await knownTopics(*tg, chat);
+    const TopicThreads known = co_await knownTopics(*tg, chat);
 
     const auto storeThread = [this](std::size_t index, std::optional<std::int64_t> thread) {
         changeConfig([&](Config& config) {
@@ -85,13 +89,12 @@ QCoro::Task<> Store::createTopics() {
     for (std::size_t index = 0; index < config_.topics.size(); ++index) {
         const Topic topic = config_.topics[index];
         if (topic.threadId) continue;
-        const auto found = known.find(topic.name);
-        if (found != known.end() && co_await topicExists(*tg, chat, found->second, topic.name)) {
-            storeThread(index, found->second);
-            continue;
+        std::optional<std::int64_t> thread = co_await existingThread(*tg, chat, known, topic.name);
+        if (!thread) {
+            thread = co_await createTopic(*tg, chat, topic);
+            created = true;
         }
-        storeThread(index, co_await createTopic(*tg, chat, topic));
-        created = true;
+        storeThread(index, thread);
     }
     analytics_.track("setup_step", {{"step", created ? "topics_created" : "topics_reused"}});
     if (!created) co_return;

@@ -95,9 +95,10 @@ Topic Store::topicFor(std::string_view key) const {
 
 QCoro::Task<std::optional<Telegram>> Store::telegram() {
     if (!cachedToken_) {
+        const int changes = tokenChanges_;
         std::optional<std::string> stored = co_await platform_.secrets.read(botTokenItem());
-        // Connecting may have stored a token meanwhile; that one is newer.
-        if (!cachedToken_) cachedToken_ = std::move(stored);
+        // What the user has connected or forgotten meanwhile is newer than what was read.
+        if (changes == tokenChanges_) cachedToken_ = std::move(stored);
     }
     if (!cachedToken_) co_return std::nullopt;
     co_return telegramFor(*cachedToken_);

@@ -47,6 +47,9 @@ public:
         bool operator==(const SendInfo&) const = default;
     };
 
+    /// What sending one item came to.
+    using Item = std::pair<Sent, SendInfo>;
+
     /// Creates the data folder and loads settings and history from it. What cannot be read has its
     /// default; nothing is written. Asks the keyring whether a token is stored.
     Store(Platform& platform, Analytics& analytics, Banner& banner);
@@ -96,8 +99,6 @@ Q_SIGNALS:
     void objectWillChange();
 
 private:
-    using Item = std::pair<Sent, SendInfo>;
-
     void load();
     void save(std::string_view file, const std::string& content) const;
     void saveHistory() const;
@@ -117,9 +118,9 @@ private:
                                               Telegram tg, std::int64_t chat);
     [[nodiscard]] QCoro::Task<Item> sendFile(std::filesystem::path path, Telegram tg,
                                              std::int64_t chat);
-    /// Makes one call for the item; a failure goes into the item, which must outlive the call.
-    [[nodiscard]] QCoro::Task<bool> delivered(Telegram tg, std::string method, Json params,
-                                              std::optional<Upload> upload, Item& item);
+    /// Makes one call; gives what went wrong.
+    [[nodiscard]] QCoro::Task<std::optional<std::string>>
+    failureOf(Telegram tg, std::string method, Json params, std::optional<Upload> upload);
     void refuseToSend();
     void finishSend(std::vector<Item> items, const std::string& via);
     void reportOutcome(const std::vector<Sent>& entries);
@@ -139,6 +140,8 @@ private:
     /// A send has begun but is not yet busy: it still asks the keyring or reads the clipboard.
     bool preparing_ = false;
     std::optional<std::string> cachedToken_;
+    /// Grows whenever the user connects or forgets a bot.
+    int tokenChanges_ = 0;
     SendProgress sendProgress_;
 };
 

@@ -7,6 +7,7 @@
 #include "telegram/Url.h"
 
 #include <QCoroFuture>
+#include <QtConcurrentRun>
 
 #include <chrono>
 
@@ -36,6 +37,14 @@ HttpRequest makeRequest(const std::string& url, const Json& params,
     return request;
 }
 
+/// Replies are small; one that is not is read off the main thread.
+QCoro::Task<Verdict> judged(HttpReply reply) {
+    constexpr qsizetype small = 100'000;
+    if (reply.body.size() <= small) co_return judge(reply);
+    const QFuture<Verdict> pending = QtConcurrent::run(judge, reply);
+    co_return co_await pending;
+}
+
 } // namespace
 
 Telegram::Telegram(std::string token, std::string api, HttpTransport& http, Clock& clock)
@@ -59,7 +68,7 @@ QCoro::Task<Json> Telegram::call(std::string method, Json params, std::optional<
         if (!reply) {
             throw TelegramError{std::string{unreachable} + ". Check your internet connection."};
         }
-        Verdict verdict = judge(*reply);
+        Verdict verdict = co_await judged(*reply);
         if (auto* success = std::get_if<Success>(&verdict)) co_return std::move(success->result);
         if (auto* refusal = std::get_if<Refusal>(&verdict)) {
             throw TelegramError{std::move(refusal->message)};

@@ -161,12 +161,17 @@ TEST_F(EndToEnd, SendsTwiceAtATime) {
     setUp();
     const auto picture = file("a.txt", "a");
     clipboard.copyFiles({"file://" + picture});
+    sandbox::Fault slow = fault(sandbox::FaultKind::delay);
+    slow.delay = std::chrono::seconds{2};
+    phone.failNext(slow);
     const auto first = quillon.start({"send"});
     const auto second = quillon.start({"send"});
-    EXPECT_EQ(Program::finish(*first).code, 0);
-    EXPECT_EQ(Program::finish(*second).code, 0);
-    EXPECT_THAT(messages("📎 Files"), SizeIs(2));
-    EXPECT_THAT(Json::parse(quillon.run({"history", "--json"}).out), testing::Not(IsEmpty()));
+    const auto one = Program::finish(*first);
+    const auto other = Program::finish(*second);
+    EXPECT_EQ(one.code + other.code, 1) << "one sends, the other is turned away";
+    EXPECT_EQ(one.err + other.err, "Another send is still running.\n");
+    EXPECT_THAT(messages("📎 Files"), SizeIs(1));
+    EXPECT_THAT(Json::parse(quillon.run({"history", "--json"}).out), SizeIs(1));
 }
 
 } // namespace quillon::test

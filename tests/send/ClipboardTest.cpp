@@ -135,8 +135,8 @@ TEST(ClipboardFormats, PrefersTheFormatThatKeepsTextExactly) {
     EXPECT_EQ(ClipboardFormats::text(Names{"TARGETS", "STRING"}),
               (TextFormat{"STRING", TextCoding::latin1}));
     EXPECT_EQ(ClipboardFormats::text(Names{"text/html", "TARGETS"}), std::nullopt);
-    EXPECT_EQ(ClipboardFormats::otherBitmap(Names{"image/jpeg", "image/bmp", "image/tiff"}),
-              "image/tiff");
+    EXPECT_EQ(ClipboardFormats::otherBitmaps(Names{"image/jpeg", "image/bmp", "image/tiff"}),
+              (Names{"image/tiff", "image/bmp", "image/jpeg"}));
 }
 
 TEST(ClipboardFormats, DecodesListsOfLocalFiles) {
@@ -145,7 +145,8 @@ TEST(ClipboardFormats, DecodesListsOfLocalFiles) {
         {"# files\r\nfile:///a\r\n\r\n#file:///b\r\nfile:///c\r\n", {"/a", "/c"}},
         {"copy\nfile:///a\nfile:///b", {"/a", "/b"}},
         {"cut\nfile:///a\n\0"s, {"/a"}},
-        {"file://localhost/a\nFILE://LOCALHOST/b\nfile:/c", {"/a", "/b", "/c"}},
+        {"file://localhost/a\nFILE://LOCALHOST/b\nfile:/c\nfile://desk/d",
+         {"/a", "/b", "/c", "/d"}},
         {"file://server/a\nfile://localhosts/b\nhttp://localhost/c\nfile:d\n/e\nfile://", {}},
         {"file:///%ff%FE%e4%C3%A9", {"/\xff\xfe\xe4\xc3\xa9"}},
         {"file:///100%\nfile:///%zz%4\nfile:///a+b#c?d", {"/100%", "/%zz%4", "/a+b#c?d"}},
@@ -153,7 +154,7 @@ TEST(ClipboardFormats, DecodesListsOfLocalFiles) {
         {"file:///folder/\nfile:///", {"/folder", "/"}},
     };
     for (const auto& [list, paths] : cases) {
-        const auto decoded = ClipboardFormats::decodedPaths(bytes(list));
+        const auto decoded = ClipboardFormats::decodedPaths(bytes(list), "Desk");
         ASSERT_EQ(decoded.size(), paths.size()) << list;
         for (std::size_t i = 0; i < paths.size(); ++i) {
             EXPECT_EQ(decoded[i].native(), paths[i].native()); // "/a" == "//a" as paths
