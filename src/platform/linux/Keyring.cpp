@@ -1,8 +1,8 @@
 #include "platform/linux/Keyring.h"
 
-#include <cstdlib>
+#include "platform/linux/Environment.h"
+
 #include <filesystem>
-#include <string_view>
 
 namespace quillon {
 
@@ -37,12 +37,11 @@ using Value = std::unique_ptr<SecretValue, decltype(&secret_value_unref)>;
 /// Whether a session bus is there already. GLib would start one otherwise, whose keyring nobody but
 /// this program could see.
 bool hasSessionBus() {
-    const char* address = std::getenv("DBUS_SESSION_BUS_ADDRESS");
-    if (address && *address) return !std::string_view{address}.starts_with("autolaunch:");
-    const char* folder = std::getenv("XDG_RUNTIME_DIR");
+    if (const auto address = environment("DBUS_SESSION_BUS_ADDRESS"))
+        return !address->starts_with("autolaunch:");
+    const auto folder = environment("XDG_RUNTIME_DIR");
     std::error_code ignored;
-    return folder && *folder &&
-           std::filesystem::is_socket(std::filesystem::path{folder} / "bus", ignored);
+    return folder && std::filesystem::is_socket(std::filesystem::path{*folder} / "bus", ignored);
 }
 
 } // namespace
