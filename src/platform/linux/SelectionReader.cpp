@@ -160,7 +160,8 @@ std::optional<SelectionReader::Property> SelectionReader::receivePieces(qsizetyp
     if (announced > limit) return {};
     Property whole;
     whole.bytes.reserve(announced);
-    while (waitFor([this] { return newValue_; })) {
+    const auto end = std::chrono::steady_clock::now() + transferLimit;
+    while (std::chrono::steady_clock::now() < end && waitFor([this] { return newValue_; })) {
         const auto piece = takeProperty(limit);
         if (!piece) return {};
         if (piece->type == XCB_ATOM_NONE) continue; // deleted again: not a piece
