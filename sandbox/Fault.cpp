@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <stdexcept>
 #include <utility>
 
@@ -11,22 +12,90 @@ namespace quillon::sandbox {
 
 namespace {
 
-constexpr std::array<std::pair<FaultKind, std::string_view>, 14> names{{
-    {FaultKind::closeAtAccept, "close-at-accept"},
-    {FaultKind::cutBeforeBody, "cut-before-body"},
-    {FaultKind::cutAfterBody, "cut-after-body"},
-    {FaultKind::cutReply, "cut-reply"},
-    {FaultKind::delay, "delay"},
-    {FaultKind::trickle, "trickle"},
-    {FaultKind::hang, "hang"},
-    {FaultKind::html502, "html-502"},
-    {FaultKind::empty, "empty"},
-    {FaultKind::truncatedJson, "truncated-json"},
-    {FaultKind::jsonList, "json-list"},
-    {FaultKind::hugeReply, "huge-reply"},
-    {FaultKind::retryAfter, "retry-after"},
-    {FaultKind::answer, "answer"},
-}};
+using Setter = void (*)(Fault& fault, const Json& value);
+
+struct Field {
+    std::string_view name;
+    std::string_view meaning;
+    Setter set;
+};
+
+constexpr std::array fields{
+    Field{"count", "how many calls it meets (default: 1)",
+          [](Fault& fault, const Json& value) { fault.count = value.get<int>(); }},
+    Field{"method", R"(only calls of this method; "events" for usage events)",
+          [](Fault& fault, const Json& value) { fault.method = value.get<std::string>(); }},
+    Field{"delay_ms", "milliseconds (default: 500)",
+          [](Fault& fault, const Json& value) {
+              fault.delay = std::chrono::milliseconds{value.get<std::int64_t>()};
+          }},
+    Field{"status", "the HTTP status (default: 200)",
+          [](Fault& fault, const Json& value) { fault.status = value.get<int>(); }},
+    Field{"retry_after", "seconds (default: 1)",
+          [](Fault& fault, const Json& value) { fault.retryAfter = value.get<int>(); }},
+    Field{"body", "the reply's text, or JSON to be sent as it is",
+          [](Fault& fault, const Json& value) {
+              fault.body = value.is_string() ? value.get<std::string>() : dumped(value);
+          }},
+};
+
+struct Kind {
+    FaultKind kind;
+    std::string_view name;
+    std::string_view meaning;
+    std::array<std::string_view, 4> fields{"count", "method"};
+
+    [[nodiscard]] bool takes(std::string_view field) const {
+        return std::find(fields.begin(), fields.end(), field) != fields.end();
+    }
+};
+
+constexpr std::array kinds{
+    Kind{FaultKind::closeAtAccept, "close-at-accept", "a new connection is reset", {"count"}},
+    Kind{FaultKind::cutBeforeBody, "cut-before-body", "reset once the header is read"},
+    Kind{FaultKind::cutAfterBody, "cut-after-body", "closed once the request is read"},
+    Kind{FaultKind::cutReply, "cut-reply", "carried out; closed in the middle of the reply"},
+    Kind{
+        FaultKind::delay, "delay", "carried out; the reply waits", {"count", "method", "delay_ms"}},
+    Kind{FaultKind::trickle,
+         "trickle",
+         "carried out; the reply comes in pieces",
+         {"count", "method", "delay_ms"}},
+    Kind{FaultKind::hang, "hang", "never answered"},
+    Kind{FaultKind::html502, "html-502", "a gateway's HTML error page"},
+    Kind{FaultKind::empty, "empty", "a reply without a body", {"count", "method", "status"}},
+    Kind{FaultKind::truncatedJson, "truncated-json", "JSON that stops in the middle"},
+    Kind{FaultKind::jsonList, "json-list", "a JSON list instead of an object"},
+    Kind{FaultKind::hugeReply, "huge-reply", "a valid reply of 24 MB"},
+    Kind{FaultKind::retryAfter,
+         "retry-after",
+         "429, too many requests",
+         {"count", "method", "retry_after"}},
+    Kind{FaultKind::answer, "answer", "a reply as given", {"count", "method", "status", "body"}},
+};
+
+const Kind& kindNamed(const std::string& name) {
+    const auto* const found = std::find_if(kinds.begin(), kinds.end(),
+                                           [&](const Kind& kind) { return kind.name == name; });
+    if (found == kinds.end()) throw std::invalid_argument{"unknown fault kind \"" + name + '"'};
+    return *found;
+}
+
+void setField(Fault& fault, const Kind& kind, const std::string& name, const Json& value) {
+    const auto* const found = std::find_if(fields.begin(), fields.end(),
+                                           [&](const Field& field) { return field.name == name; });
+    if (found == fields.end() || !kind.takes(name)) {
+        throw std::invalid_argument{"the fault kind \"" + std::string{kind.name} +
+                                    "\" has no field \"" + name + '"'};
+    }
+    found->set(fault, value);
+}
+
+std::string helpLine(std::string_view name, std::string_view meaning) {
+    constexpr std::size_t column = 18;
+    return "  " + std::string{name} + std::string(column - name.size(), ' ') +
+           std::string{meaning} + '\n';
+}
 
 constexpr std::string_view gatewayPage =
     "<html>\r\n<head><title>502 Bad Gateway</title></head>\r\n<body>\r\n"
@@ -53,28 +122,35 @@ HttpReply floodReply(int seconds) {
 } // namespace
 
 Fault Fault::fromJson(const Json& json) {
-    const std::string kind = json.value("kind", std::string{});
-    const auto* const found = std::find_if(names.begin(), names.end(),
-                                           [&](const auto& entry) { return entry.second == kind; });
-    if (found == names.end()) throw std::invalid_argument{"unknown fault kind"};
+    const Kind& kind = kindNamed(json.value("kind", std::string{}));
     Fault fault;
-    fault.kind = found->first;
-    fault.count = json.value("count", fault.count);
-    fault.method = json.value("method", fault.method);
-    fault.delay = std::chrono::milliseconds{json.value("delay_ms", fault.delay.count())};
-    fault.status = json.value("status", fault.status);
-    fault.retryAfter = json.value("retry_after", fault.retryAfter);
-    if (json.contains("body")) {
-        fault.body =
-            json["body"].is_string() ? json["body"].get<std::string>() : dumped(json["body"]);
+    fault.kind = kind.kind;
+    for (const auto& [name, value] : json.items()) {
+        if (name != "kind") setField(fault, kind, name, value);
     }
     return fault;
 }
 
+std::string Fault::help() {
+    std::string text = "kind:\n";
+    for (const Kind& kind : kinds) {
+        std::string taken;
+        for (const Field& field : fields) {
+            if (kind.takes(field.name))
+                taken += (taken.empty() ? "" : ", ") + std::string{field.name};
+        }
+        text += helpLine(kind.name, std::string{kind.meaning} + " [" + taken + ']');
+    }
+    text += "and the fields in brackets:\n";
+    for (const Field& field : fields)
+        text += helpLine(field.name, field.meaning);
+    return text;
+}
+
 std::string Fault::name() const {
     const auto* const found = std::find_if(
-        names.begin(), names.end(), [this](const auto& entry) { return entry.first == kind; });
-    return std::string{found->second};
+        kinds.begin(), kinds.end(), [this](const Kind& entry) { return entry.kind == kind; });
+    return std::string{found->name};
 }
 
 std::optional<HttpReply> Fault::reply() const {

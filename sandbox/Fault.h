@@ -43,8 +43,12 @@ struct Fault {
 
     /// From what POST /sandbox/fail takes, for example
     /// {"kind":"retry-after","count":2,"method":"sendMessage","retry_after":3}. Throws
-    /// std::invalid_argument for an unknown kind.
+    /// std::invalid_argument, which names it, for an unknown kind or a field that the kind does not
+    /// take.
     static Fault fromJson(const Json& json);
+
+    /// The kinds and the fields that each takes, one per line, for people to read.
+    static std::string help();
 
     /// The kind's name as fromJson reads it.
     std::string name() const;

@@ -44,14 +44,15 @@ public:
 
     FormattedText read() {
         while (position_ < html_.size()) {
-            if (html_[position_] == '&')
+            if (html_[position_] == '&') {
                 text_ += characterReference();
-            else if (html_[position_] != '<')
+            } else if (html_[position_] != '<') {
                 text_ += html_[position_++];
-            else if (at(position_ + 1) == '/')
+            } else if (at(position_ + 1) == '/') {
                 readEndTag();
-            else
+            } else {
                 readStartTag();
+            }
         }
         if (!open_.empty()) {
             throw EntityError{"Can't find end tag corresponding to start tag \"" +
@@ -176,10 +177,11 @@ private:
         }
         ++position_;
         while (position_ < html_.size() && html_[position_] != quote) {
-            if (html_[position_] == '&')
+            if (html_[position_] == '&') {
                 value += characterReference();
-            else
+            } else {
                 value += html_[position_++];
+            }
         }
         if (position_ < html_.size()) ++position_;
         return value;

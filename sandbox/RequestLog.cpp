@@ -53,16 +53,18 @@ Json RequestRecord::parameter(std::string_view name) const {
 
 Json toJson(const RequestRecord& record) {
     Json parameters = Json::array();
-    for (const Parameter& parameter : record.parameters.values)
+    for (const Parameter& parameter : record.parameters.values) {
         parameters.push_back(
             {{"name", parameter.name}, {"type", typeName(parameter)}, {"value", parameter.value}});
+    }
     Json files = Json::array();
-    for (const UploadedFile& file : record.parameters.files)
+    for (const UploadedFile& file : record.parameters.files) {
         files.push_back({{"field", file.field},
                          {"filename", file.filename},
                          {"mime", file.mime},
                          {"size", file.size},
                          {"sha256", file.sha256.get()}});
+    }
     const auto time = record.time.time_since_epoch();
     return {{"connection", record.connection},
             {"time_ms", std::chrono::duration_cast<std::chrono::milliseconds>(time).count()},

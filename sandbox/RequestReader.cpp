@@ -17,7 +17,7 @@ namespace {
 
 namespace http = boost::beast::http;
 
-constexpr std::size_t readAhead = 64 * 1024;
+constexpr std::size_t readAhead = std::size_t{64} * 1024;
 
 std::string text(boost::beast::string_view view) {
     return {view.data(), view.size()};

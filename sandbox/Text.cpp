@@ -97,10 +97,11 @@ std::string cleaned(std::string_view text) {
     for (std::size_t start = 0; const auto codePoint = nextCodePoint(text, position);
          start = position) {
         if (within(droppedRanges, *codePoint)) continue;
-        if (*codePoint < U' ' && *codePoint != U'\n')
+        if (*codePoint < U' ' && *codePoint != U'\n') {
             result += ' ';
-        else
+        } else {
             result += text.substr(start, position - start);
+        }
     }
     return result;
 }

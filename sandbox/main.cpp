@@ -17,7 +17,7 @@ namespace {
 
 using namespace quillon::sandbox;
 
-constexpr const char* usage = R"(Usage: quillon-sandbox [OPTION]…
+const std::string usage = R"(Usage: quillon-sandbox [OPTION]…
 A local stand-in for the Telegram Bot API.
 
   --port N            listen on 127.0.0.1:N (default: any free port)
@@ -36,6 +36,9 @@ A local stand-in for the Telegram Bot API.
 
 Pages for scripts, under /sandbox/: GET view, view.json, requests, events; POST fail, fail/clear,
 requests/clear, says, group, group/change, group/migrate, topics/delete, bot, events/status.
+
+POST /sandbox/fail lets the next calls fail, for example with
+{"kind":"retry-after","count":2,"method":"sendMessage","retry_after":3}. It takes
 )";
 
 struct Arguments {
@@ -141,7 +144,7 @@ int main(int argc, char** argv) {
     try {
         const Arguments arguments = parse({argv + 1, argv + argc});
         if (arguments.help) {
-            std::fputs(usage, stdout);
+            std::fputs((usage + Fault::help()).c_str(), stdout);
         } else {
             serve(arguments, signals);
         }

@@ -18,7 +18,8 @@ struct KeychainItem {
 };
 
 /// The user's keyring. No operation reports a failure: what cannot be done is none, false or
-/// nothing. Each gives up after 5 seconds, unless the user is being asked to unlock the keyring.
+/// nothing. Each gives up 5 seconds after its turn has come or the user, who may take any time, has
+/// answered the question to unlock or create a keyring.
 class SecretStore {
 public:
     virtual ~SecretStore() = default;

@@ -104,6 +104,29 @@ TEST(LibsecretStoreTest, GivesUpOnAServiceThatDoesNotAnswer) {
     EXPECT_LT(Clock::now() - begin, 5900ms);
 }
 
+/// A service that cannot be searched may hold the item all the same. Every answer comes in time,
+/// but all of them together do not.
+TEST(LibsecretStoreTest, ChangesNothingWithoutASearchAndTakesFiveSecondsInAll) {
+    ScriptedSecretService::Answers answers{
+        {"GetAll", "(@a{sv} {'Locked': <false>},)"},
+        {"ReadAlias", "(objectpath '/org/freedesktop/secrets/collection/login',)"},
+        {"OpenSession", "(<''>, objectpath '/org/freedesktop/secrets/session/s1')"}};
+    const auto expectNoChange = [&](std::chrono::milliseconds slowness, auto least, auto most) {
+        SessionBus bus;
+        const ScriptedSecretService service{bus, answers, slowness};
+        LibsecretStore store;
+        const auto begin = Clock::now();
+        EXPECT_FALSE(await(store.save(token, "value")));
+        EXPECT_GE(Clock::now() - begin, least);
+        EXPECT_LT(Clock::now() - begin, most);
+        EXPECT_TRUE(service.wasAsked("SearchItems"));
+        EXPECT_FALSE(service.wasAsked("OpenSession"));
+    };
+    expectNoChange(1s, 4900ms, 5600ms);
+    answers["SearchItems"] = "";
+    expectNoChange(0s, 0s, 1s);
+}
+
 TEST(LibsecretStoreTest, WaitsForTheUserForAsLongAsItTakes) {
     SessionBus bus;
     const ScriptedSecretService service{
@@ -114,10 +137,10 @@ TEST(LibsecretStoreTest, WaitsForTheUserForAsLongAsItTakes) {
          {"Prompt", "()"}}};
     auto store = std::make_unique<LibsecretStore>();
     EXPECT_TRUE(store->exists(token));
-    EXPECT_FALSE(service.hasPrompted());
+    EXPECT_FALSE(service.wasAsked("Prompt"));
     const auto reading = store->read(token);
     const auto saving = store->save(token, "value");
-    EXPECT_TRUE(waitUntil([&] { return service.hasPrompted(); }));
+    EXPECT_TRUE(waitUntil([&] { return service.wasAsked("Prompt"); }));
     EXPECT_FALSE(waitUntil([&] { return reading.isFinished(); }, 5500ms));
 
     const auto begin = Clock::now();

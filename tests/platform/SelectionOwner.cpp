@@ -1,21 +1,17 @@
 #include "platform/SelectionOwner.h"
 
+#include "platform/linux/X11Connection.h"
+
 #include <poll.h>
 
-#include <cstdlib>
-#include <memory>
 #include <utility>
 
 namespace quillon::test {
 
 namespace {
 
-struct Free {
-    void operator()(void* pointer) const { std::free(pointer); } // NOLINT
-};
-
-std::unique_ptr<xcb_generic_event_t, Free> nextEvent(xcb_connection_t* connection) {
-    return std::unique_ptr<xcb_generic_event_t, Free>{xcb_poll_for_event(connection)};
+XcbPointer<xcb_generic_event_t> nextEvent(xcb_connection_t* connection) {
+    return XcbPointer<xcb_generic_event_t>{xcb_poll_for_event(connection)};
 }
 
 void awaitInput(xcb_connection_t* connection) {
@@ -131,15 +127,11 @@ bool SelectionOwner::waitUntilTaken(const Request& request) {
 }
 
 xcb_atom_t SelectionOwner::atom(const std::string& text) {
-    const auto cookie =
-        xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(text.size()), text.data());
-    const std::unique_ptr<xcb_intern_atom_reply_t, Free> reply{
-        xcb_intern_atom_reply(connection_, cookie, nullptr)};
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+    return internAtom(connection_, text);
 }
 
 std::string SelectionOwner::name(xcb_atom_t value) {
-    const std::unique_ptr<xcb_get_atom_name_reply_t, Free> reply{
+    const XcbPointer<xcb_get_atom_name_reply_t> reply{
         xcb_get_atom_name_reply(connection_, xcb_get_atom_name(connection_, value), nullptr)};
     if (!reply) return {};
     return {xcb_get_atom_name_name(reply.get()), reply->name_len};

@@ -4,6 +4,8 @@
 
 #include <QFile>
 
+#include <thread>
+
 namespace quillon::test {
 
 namespace {
@@ -34,6 +36,17 @@ bool hasOwner(GDBusConnection* bus, const char* name) {
     g_variant_get(answer, "(b)", &owned);
     g_variant_unref(answer);
     return owned;
+}
+
+GDBusMessage* replyTo(GDBusMessage* call, const std::string& answer) {
+    if (answer.empty()) {
+        return g_dbus_message_new_method_error_literal(call, "org.freedesktop.DBus.Error.Failed",
+                                                       "no");
+    }
+    GDBusMessage* reply = g_dbus_message_new_method_reply(call);
+    g_dbus_message_set_body(reply,
+                            g_variant_parse(nullptr, answer.c_str(), nullptr, nullptr, nullptr));
+    return reply;
 }
 
 } // namespace
@@ -90,9 +103,11 @@ GlibPointer<GDBusConnection> SessionBus::connect() const {
         g_dbus_connection_new_for_address_sync(address_.c_str(), flags, nullptr, nullptr, nullptr)};
 }
 
-ScriptedSecretService::ScriptedSecretService(const SessionBus& bus, Answers answers)
+ScriptedSecretService::ScriptedSecretService(const SessionBus& bus, Answers answers,
+                                             std::chrono::milliseconds slowness)
     : connection_{bus.connect()},
-      answers_{std::move(answers)} {
+      answers_{std::move(answers)},
+      slowness_{slowness} {
     const auto filter = [](GDBusConnection*, GDBusMessage* message, gboolean incoming,
                            gpointer self) {
         const bool call =
@@ -111,17 +126,24 @@ ScriptedSecretService::~ScriptedSecretService() {
     g_dbus_connection_remove_filter(connection_.get(), filter_);
 }
 
+bool ScriptedSecretService::wasAsked(const std::string& method) const {
+    const std::lock_guard lock{mutex_};
+    return asked_.contains(method);
+}
+
 GDBusMessage* ScriptedSecretService::take(GDBusMessage* message) {
     const std::string method = g_dbus_message_get_member(message);
+    {
+        const std::lock_guard lock{mutex_};
+        asked_.insert(method);
+    }
     if (const auto found = answers_.find(method); found != answers_.end()) {
-        GDBusMessage* reply = g_dbus_message_new_method_reply(message);
-        g_dbus_message_set_body(
-            reply, g_variant_parse(nullptr, found->second.c_str(), nullptr, nullptr, nullptr));
+        std::this_thread::sleep_for(slowness_);
+        GDBusMessage* reply = replyTo(message, found->second);
         g_dbus_connection_send_message(connection_.get(), reply, G_DBUS_SEND_MESSAGE_FLAGS_NONE,
                                        nullptr, nullptr);
         g_object_unref(reply);
     }
-    if (method == "Prompt") prompted_ = true;
     g_object_unref(message);
     return nullptr;
 }

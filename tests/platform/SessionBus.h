@@ -5,8 +5,10 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <atomic>
+#include <chrono>
 #include <map>
+#include <mutex>
+#include <set>
 #include <string>
 
 namespace quillon::test {
@@ -36,27 +38,30 @@ private:
     std::string address_;
 };
 
-/// Stands in for the Secret Service and gives one fixed answer to each method; whoever calls a
-/// method without one waits for ever.
+/// Stands in for the Secret Service and gives one fixed answer to each method, as slowly as a test
+/// wants; whoever calls a method without one waits for ever.
 class ScriptedSecretService {
 public:
-    /// From method names to the answers in GVariant's text format.
+    /// From method names to the answers in GVariant's text format; an empty one is an error.
     using Answers = std::map<std::string, std::string>;
 
-    ScriptedSecretService(const SessionBus& bus, Answers answers);
+    ScriptedSecretService(const SessionBus& bus, Answers answers,
+                          std::chrono::milliseconds slowness = {});
     ScriptedSecretService(const ScriptedSecretService&) = delete;
     ScriptedSecretService& operator=(const ScriptedSecretService&) = delete;
     ~ScriptedSecretService();
 
-    /// Whether someone has called the method "Prompt", which is to ask the user.
-    [[nodiscard]] bool hasPrompted() const { return prompted_; }
+    /// Whether someone has called the method.
+    [[nodiscard]] bool wasAsked(const std::string& method) const;
 
 private:
     GDBusMessage* take(GDBusMessage* message);
 
     GlibPointer<GDBusConnection> connection_;
     Answers answers_;
-    std::atomic<bool> prompted_ = false;
+    std::chrono::milliseconds slowness_;
+    mutable std::mutex mutex_; ///< guards asked_
+    std::set<std::string> asked_;
     guint filter_ = 0;
 };
 

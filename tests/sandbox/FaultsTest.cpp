@@ -77,9 +77,25 @@ TEST_F(Faults, standInForReplies) {
     }
     sandbox.failNext(Fault::fromJson({{"kind", "huge-reply"}}));
     EXPECT_GT(client.call("getMe").text.size(), 20'000'000);
-    EXPECT_EQ(client.post("/sandbox/fail", "application/json", R"({"kind":"x"})").status, 400);
     for (const RequestRecord& record : sandbox.requests())
         EXPECT_EQ(record.connection, 1) << "none of these ends the connection";
+}
+
+TEST_F(Faults, areRefusedByNameWhereUnknown) {
+    const std::vector<std::pair<std::string, std::string>> cases{
+        {R"({"kind":"hangs"})", "hangs"},
+        {R"({"count":2})", R"(\"\")"},
+        {R"({"kind":"delay","delay":1})", R"(\"delay\" has no field \"delay\")"},
+        {R"({"kind":"hang","status":500})", "status"},
+        {R"({"kind":"close-at-accept","method":"getMe"})", "method"},
+        {R"({"kind":"hang","":1})", R"(\"\")"},
+    };
+    for (const auto& [fault, named] : cases) {
+        const Reply reply = client.post("/sandbox/fail", "application/json", fault);
+        EXPECT_EQ(reply.status, 400) << fault;
+        EXPECT_NE(reply.text.find(named), std::string::npos) << fault << reply.text;
+    }
+    EXPECT_EQ(client.call("getMe").status, 200) << "none of them was taken";
 }
 
 TEST_F(Faults, meetOnlyTheirMethod) {

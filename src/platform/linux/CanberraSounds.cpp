@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -13,8 +14,14 @@ namespace quillon {
 
 namespace {
 
-/// How long quitting waits for the sound server at most.
+using Clock = std::chrono::steady_clock;
+
+/// How long quitting waits for the sound server to be found, and for it to be left, at most.
 constexpr std::chrono::milliseconds closingLimit{200};
+
+/// How long quitting lets a sound go on that is with the sound server. Both together make no more
+/// than 2 seconds.
+constexpr std::chrono::milliseconds soundLimit{1800};
 
 /// Names of the freedesktop sound naming specification. A theme without "message-sent-instant" is
 /// searched for "message-sent" and "message".
@@ -62,12 +69,18 @@ public:
         std::thread{[self = shared_from_this()] { self->run(); }}.detach();
     }
 
-    /// A thread that hangs in the sound server is left behind.
+    /// What was asked for last is still played. A thread that hangs in the sound server is left
+    /// behind.
     void close() {
         std::unique_lock lock{mutex_};
+        const auto now = Clock::now();
         closing_ = true;
+        end_ = now + soundLimit;
         changed_.notify_all();
-        changed_.wait_for(lock, closingLimit, [this] { return !running_; });
+        changed_.wait_until(lock, now + closingLimit,
+                            [this] { return !running_ || sounding_ > 0; });
+        if (sounding_ > 0)
+            changed_.wait_until(lock, end_ + closingLimit, [this] { return !running_; });
     }
 
 private:
@@ -76,25 +89,51 @@ private:
         std::unique_lock lock{mutex_};
         for (;;) {
             changed_.wait(lock, [this] { return closing_ || next_; });
-            if (closing_) break;
+            if (!next_) break;
             const char* event = eventOf(*next_);
             next_.reset();
+            if (!context) continue;
+            ++sounding_;
+            changed_.notify_all();
             lock.unlock();
-            if (context) ca_context_play(context, 0, CA_PROP_EVENT_ID, event, nullptr);
+            if (!start(context, event)) finished();
             lock.lock();
         }
+        changed_.wait_until(lock, end_, [this] { return sounding_ == 0; });
         lock.unlock();
+        // Calls back for the sounds that it cuts off.
         if (context) ca_context_destroy(context);
         lock.lock();
         running_ = false;
         changed_.notify_all();
     }
 
+    /// False when the sound is not played, which calls nobody back.
+    bool start(ca_context* context, const char* event) {
+        ca_proplist* properties = nullptr;
+        if (ca_proplist_create(&properties) != CA_SUCCESS) return false;
+        ca_proplist_sets(properties, CA_PROP_EVENT_ID, event);
+        const auto callBack = [](ca_context*, std::uint32_t, int, void* self) {
+            static_cast<Player*>(self)->finished();
+        };
+        const int result = ca_context_play_full(context, 0, properties, callBack, this);
+        ca_proplist_destroy(properties);
+        return result == CA_SUCCESS;
+    }
+
+    void finished() {
+        const std::lock_guard lock{mutex_};
+        --sounding_;
+        changed_.notify_all();
+    }
+
     std::mutex mutex_;
     std::condition_variable changed_;
     std::optional<Sound> next_;
+    int sounding_ = 0; ///< sounds that the server has or is being given
     bool running_ = false;
     bool closing_ = false;
+    Clock::time_point end_; ///< once closing: when sounds are cut off
 };
 
 CanberraSounds::CanberraSounds() : player_{std::make_shared<Player>()} {}

@@ -11,6 +11,9 @@ namespace quillon {
 class CanberraSounds final : public Sounds {
 public:
     CanberraSounds();
+
+    /// Lets a sound that was asked for come to its end, which takes at most 2 seconds; 200 ms where
+    /// there is no sound server.
     ~CanberraSounds() override;
 
     void play(Sound sound) override;

@@ -1,9 +1,10 @@
 #include "platform/linux/CurlTransfer.h"
 
+#include "platform/linux/Environment.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 
 namespace quillon {
@@ -13,22 +14,16 @@ namespace {
 /// How much libcurl asks of the body at once, in bytes.
 constexpr long uploadBufferSize = 512L * 1024;
 
-/// What the environment variable says; null where it is unset or empty.
-const char* environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value && *value ? value : nullptr;
-}
-
 void trustCertificates(CURL* handle, const std::filesystem::path& certificates) {
     if (!certificates.empty()) {
         curl_easy_setopt(handle, CURLOPT_CAINFO, certificates.c_str());
         curl_easy_setopt(handle, CURLOPT_CAPATH, nullptr);
         return;
     }
-    if (const char* file = environment("SSL_CERT_FILE"))
-        curl_easy_setopt(handle, CURLOPT_CAINFO, file);
-    if (const char* folder = environment("SSL_CERT_DIR"))
-        curl_easy_setopt(handle, CURLOPT_CAPATH, folder);
+    if (const auto file = environment("SSL_CERT_FILE"))
+        curl_easy_setopt(handle, CURLOPT_CAINFO, file->c_str());
+    if (const auto folder = environment("SSL_CERT_DIR"))
+        curl_easy_setopt(handle, CURLOPT_CAPATH, folder->c_str());
 }
 
 } // namespace

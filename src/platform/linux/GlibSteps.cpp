@@ -1,5 +1,8 @@
 #include "platform/linux/GlibSteps.h"
 
+#include <algorithm>
+#include <cstdint>
+
 namespace quillon {
 
 namespace {
@@ -7,6 +10,13 @@ namespace {
 /// How long a cancelled operation may take to call back before it is left to itself: one that waits
 /// for a hanging service to close its window would never do so.
 constexpr std::chrono::milliseconds graceAfterCancelling{300};
+
+/// Rounded up, so that the deadline has passed once the time is over.
+guint millisecondsUntil(GlibSteps::Time deadline) {
+    const auto left = deadline - std::chrono::steady_clock::now();
+    const auto rounded = std::chrono::ceil<std::chrono::milliseconds>(left).count();
+    return static_cast<guint>(std::max<std::int64_t>(rounded, 0));
+}
 
 } // namespace
 
@@ -30,26 +40,24 @@ GlibSteps::~GlibSteps() {
     g_main_context_unref(context_);
 }
 
-GlibPointer<GAsyncResult> GlibSteps::await(std::optional<std::chrono::milliseconds> limit,
-                                           const Start& start) {
-    if (stopping_) return {};
+GlibPointer<GAsyncResult> GlibSteps::await(std::optional<Time> deadline, const Start& start) {
+    if (stopping_ || (deadline && std::chrono::steady_clock::now() >= *deadline)) return {};
     const auto answer = std::make_shared<Answer>();
     const GlibPointer<GCancellable> cancellable{g_cancellable_new()};
     start(cancellable.get(), &Answer::arrive, new std::shared_ptr<Answer>{answer});
-    iterate(*answer, limit, false);
+    iterate(*answer, deadline, false);
     if (!answer->result) {
         g_cancellable_cancel(cancellable.get());
-        iterate(*answer, graceAfterCancelling, true);
+        iterate(*answer, std::chrono::steady_clock::now() + graceAfterCancelling, true);
     }
     return std::move(answer->result);
 }
 
-void GlibSteps::iterate(const Answer& answer, std::optional<std::chrono::milliseconds> limit,
-                        bool evenWhenStopped) {
+void GlibSteps::iterate(const Answer& answer, std::optional<Time> deadline, bool evenWhenStopped) {
     bool expired = false;
     GSource* timer = nullptr;
-    if (limit) {
-        timer = g_timeout_source_new(static_cast<guint>(limit->count()));
+    if (deadline) {
+        timer = g_timeout_source_new(millisecondsUntil(*deadline));
         const auto expire = [](gpointer flag) -> gboolean {
             *static_cast<bool*>(flag) = true;
             return G_SOURCE_REMOVE;

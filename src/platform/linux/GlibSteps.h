@@ -18,10 +18,11 @@ struct GlibUnref {
 template <typename T>
 using GlibPointer = std::unique_ptr<T, GlibUnref>;
 
-/// Runs asynchronous operations of GLib one after another on the thread that made it, each with a
-/// time limit of its own, until another thread stops them all.
+/// Runs asynchronous operations of GLib one after another on the thread that made it, each up to
+/// a deadline, until another thread stops them all.
 class GlibSteps {
 public:
+    using Time = std::chrono::steady_clock::time_point;
     /// Begins an operation; the three arguments are to be passed on to it.
     using Start = std::function<void(GCancellable*, GAsyncReadyCallback, gpointer)>;
 
@@ -31,9 +32,9 @@ public:
     ~GlibSteps();
 
     /// Waits until the operation has called back, and gives what its finish function wants; null
-    /// when it took longer than the limit or the steps were stopped. No limit: waits for ever.
-    GlibPointer<GAsyncResult> await(std::optional<std::chrono::milliseconds> limit,
-                                    const Start& start);
+    /// when the deadline passed or the steps were stopped; past a deadline nothing is begun. No
+    /// deadline: waits for ever.
+    GlibPointer<GAsyncResult> await(std::optional<Time> deadline, const Start& start);
 
     /// Lets objects that were released finish their cleaning up, which GLib puts off to the context
     /// that they were made in.
@@ -44,8 +45,7 @@ public:
 
 private:
     struct Answer;
-    void iterate(const Answer& answer, std::optional<std::chrono::milliseconds> limit,
-                 bool evenWhenStopped);
+    void iterate(const Answer& answer, std::optional<Time> deadline, bool evenWhenStopped);
 
     GMainContext* context_;
     std::atomic<bool> stopping_ = false;

@@ -1,14 +1,14 @@
 #include "platform/linux/Keyring.h"
 
-#include <cstdlib>
+#include "platform/linux/Environment.h"
+
 #include <filesystem>
-#include <string_view>
 
 namespace quillon {
 
 namespace {
 
-constexpr std::chrono::milliseconds stepLimit{std::chrono::seconds{5}};
+constexpr std::chrono::seconds visitLimit{5};
 
 /// How items are described. The schema's name is not looked at when searching, so that an item that
 /// another program made with the same attributes is the same item.
@@ -37,67 +37,84 @@ using Value = std::unique_ptr<SecretValue, decltype(&secret_value_unref)>;
 /// Whether a session bus is there already. GLib would start one otherwise, whose keyring nobody but
 /// this program could see.
 bool hasSessionBus() {
-    const char* address = std::getenv("DBUS_SESSION_BUS_ADDRESS");
-    if (address && *address) return !std::string_view{address}.starts_with("autolaunch:");
-    const char* folder = std::getenv("XDG_RUNTIME_DIR");
+    if (const auto address = environment("DBUS_SESSION_BUS_ADDRESS"))
+        return !address->starts_with("autolaunch:");
+    const auto folder = environment("XDG_RUNTIME_DIR");
     std::error_code ignored;
-    return folder && *folder &&
-           std::filesystem::is_socket(std::filesystem::path{folder} / "bus", ignored);
+    return folder && std::filesystem::is_socket(std::filesystem::path{*folder} / "bus", ignored);
 }
 
 } // namespace
 
+Keyring::Keyring(GlibSteps& steps)
+    : steps_{steps},
+      deadline_{std::chrono::steady_clock::now() + visitLimit} {}
+
+GlibPointer<GAsyncResult> Keyring::ask(const GlibSteps::Start& start) {
+    return steps_.await(deadline_, start);
+}
+
+GlibPointer<GAsyncResult> Keyring::askUser(const GlibSteps::Start& start) {
+    if (std::chrono::steady_clock::now() >= deadline_) return {};
+    auto answer = steps_.await(std::nullopt, start);
+    deadline_ = std::chrono::steady_clock::now() + visitLimit;
+    return answer;
+}
+
 bool Keyring::open() {
     if (!hasSessionBus()) return false;
-    auto answer =
-        steps_.await(stepLimit, [](auto... end) { g_bus_get(G_BUS_TYPE_SESSION, end...); });
+    auto answer = ask([](auto... end) { g_bus_get(G_BUS_TYPE_SESSION, end...); });
     if (!answer) return false;
     const GlibPointer<GDBusConnection> bus{g_bus_get_finish(answer.get(), nullptr)};
     if (!bus) return false;
     // GLib would end the program together with the session bus.
     g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
 
-    answer = steps_.await(stepLimit, [](auto... end) {
+    answer = ask([](auto... end) {
         secret_service_open(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_NONE, end...);
     });
     if (answer) service_.reset(secret_service_open_finish(answer.get(), nullptr));
     return service_ != nullptr;
 }
 
-Keyring::Items Keyring::search(const KeychainItem& item, SecretSearchFlags flags) {
+std::optional<Keyring::Items> Keyring::search(const KeychainItem& item, SecretSearchFlags flags) {
     const Attributes attributes = attributesOf(item);
-    const auto answer = steps_.await(stepLimit, [&](auto... end) {
+    const auto answer = ask([&](auto... end) {
         secret_service_search(service_.get(), &schema(), attributes.get(), flags, end...);
     });
-    if (!answer) return {};
-    return Items{secret_service_search_finish(service_.get(), answer.get(), nullptr)};
+    if (!answer) return std::nullopt;
+    GError* error = nullptr;
+    Items found{secret_service_search_finish(service_.get(), answer.get(), &error)};
+    if (!error) return found;
+    g_error_free(error);
+    return std::nullopt;
 }
 
 bool Keyring::unlock(gpointer object) {
     GList objects{object, nullptr, nullptr};
-    const auto answer = steps_.await(std::nullopt, [&](auto... end) {
-        secret_service_unlock(service_.get(), &objects, end...);
-    });
+    const auto answer =
+        askUser([&](auto... end) { secret_service_unlock(service_.get(), &objects, end...); });
     if (!answer) return false;
     return secret_service_unlock_finish(service_.get(), answer.get(), nullptr, nullptr) > 0;
 }
 
 bool Keyring::load(SecretItem* item) {
     if (secret_item_get_locked(item) && !unlock(item)) return false;
-    const auto answer =
-        steps_.await(stepLimit, [&](auto... end) { secret_item_load_secret(item, end...); });
+    const auto answer = ask([&](auto... end) { secret_item_load_secret(item, end...); });
     return answer && secret_item_load_secret_finish(item, answer.get(), nullptr);
 }
 
 bool Keyring::exists(const KeychainItem& item) {
-    return open() && search(item, SECRET_SEARCH_NONE) != nullptr;
+    if (!open()) return false;
+    const auto found = search(item, SECRET_SEARCH_NONE);
+    return found && *found;
 }
 
 std::optional<std::string> Keyring::read(const KeychainItem& item) {
     if (!open()) return std::nullopt;
-    const Items found = search(item, SECRET_SEARCH_NONE);
-    if (!found) return std::nullopt;
-    auto* first = SECRET_ITEM(found->data);
+    const auto found = search(item, SECRET_SEARCH_NONE);
+    if (!found || !*found) return std::nullopt;
+    auto* first = SECRET_ITEM((*found)->data);
     if (!load(first)) return std::nullopt;
     const Value value{secret_item_get_secret(first), &secret_value_unref};
     if (!value) return std::nullopt;
@@ -107,19 +124,18 @@ std::optional<std::string> Keyring::read(const KeychainItem& item) {
     return std::string{bytes, length};
 }
 
+bool Keyring::removeOne(SecretItem* item) {
+    if (secret_item_get_locked(item) && !unlock(item)) return false;
+    const auto answer = ask([&](auto... end) { secret_item_delete(item, end...); });
+    return answer && secret_item_delete_finish(item, answer.get(), nullptr);
+}
+
 bool Keyring::removeAll(const KeychainItem& item) {
-    const Items found = search(item, SECRET_SEARCH_ALL);
+    const auto found = search(item, SECRET_SEARCH_ALL);
+    if (!found) return false;
     bool all = true;
-    for (const GList* link = found.get(); link; link = link->next) {
-        auto* each = SECRET_ITEM(link->data);
-        if (secret_item_get_locked(each) && !unlock(each)) {
-            all = false;
-            continue;
-        }
-        const auto answer =
-            steps_.await(stepLimit, [&](auto... end) { secret_item_delete(each, end...); });
-        all = answer && secret_item_delete_finish(each, answer.get(), nullptr) && all;
-    }
+    for (const GList* link = found->get(); link; link = link->next)
+        all = removeOne(SECRET_ITEM(link->data)) && all;
     return all;
 }
 
@@ -129,7 +145,7 @@ void Keyring::remove(const KeychainItem& item) {
 
 Keyring::DefaultCollection Keyring::prepareDefaultCollection() {
     using enum DefaultCollection;
-    const auto answer = steps_.await(stepLimit, [&](auto... end) {
+    const auto answer = ask([&](auto... end) {
         secret_collection_for_alias(service_.get(), SECRET_COLLECTION_DEFAULT,
                                     SECRET_COLLECTION_NONE, end...);
     });
@@ -151,17 +167,17 @@ bool Keyring::save(const KeychainItem& item, const std::string& value) {
     const DefaultCollection collection = prepareDefaultCollection();
     if (collection == DefaultCollection::unusable || !removeAll(item)) return false;
 
-    // Storing makes a missing collection, for which the user is asked for a password.
-    std::optional<std::chrono::milliseconds> limit;
-    if (collection == DefaultCollection::unlocked) limit = stepLimit;
     const Attributes attributes = attributesOf(item);
     const Value secret{
         secret_value_new(value.data(), static_cast<gssize>(value.size()), "text/plain"),
         &secret_value_unref};
-    const auto answer = steps_.await(limit, [&](auto... end) {
+    const auto store = [&](auto... end) {
         secret_service_store(service_.get(), &schema(), attributes.get(), SECRET_COLLECTION_DEFAULT,
                              item.label.c_str(), secret.get(), end...);
-    });
+    };
+    // Storing makes a missing collection, for which the user is asked for a password.
+    const bool missing = collection == DefaultCollection::missing;
+    const auto answer = missing ? askUser(store) : ask(store);
     return answer && secret_service_store_finish(service_.get(), answer.get(), nullptr);
 }
 

@@ -7,11 +7,13 @@
 
 namespace quillon {
 
-/// One visit to the Secret Service. Each step waits 5 seconds at most for the service's answer;
-/// only the steps that ask the user to unlock or create a keyring wait for as long as it takes.
+/// One visit to the Secret Service, which gives up 5 seconds after it began. Only the steps that
+/// ask the user to unlock or create a keyring wait for as long as it takes, and what follows them
+/// has 5 seconds anew.
 class Keyring {
 public:
-    explicit Keyring(GlibSteps& steps) : steps_{steps} {}
+    /// The visit begins.
+    explicit Keyring(GlibSteps& steps);
 
     bool save(const KeychainItem& item, const std::string& value);
     std::optional<std::string> read(const KeychainItem& item);
@@ -25,15 +27,21 @@ private:
     enum class DefaultCollection { unlocked, missing, unusable };
     using Items = std::unique_ptr<GList, FreeObjects>;
 
+    GlibPointer<GAsyncResult> ask(const GlibSteps::Start& start);
+    GlibPointer<GAsyncResult> askUser(const GlibSteps::Start& start);
+
     /// False when there is no session bus or nothing there that keeps secrets.
     bool open();
-    Items search(const KeychainItem& item, SecretSearchFlags flags);
+    /// Null stands for no items, none for a search that did not succeed.
+    std::optional<Items> search(const KeychainItem& item, SecretSearchFlags flags);
     bool unlock(gpointer object);
     bool load(SecretItem* item);
+    bool removeOne(SecretItem* item);
     bool removeAll(const KeychainItem& item);
     DefaultCollection prepareDefaultCollection();
 
     GlibSteps& steps_;
+    GlibSteps::Time deadline_;
     GlibPointer<SecretService> service_;
 };
 

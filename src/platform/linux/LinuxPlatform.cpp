@@ -1,20 +1,12 @@
 #include "platform/linux/LinuxPlatform.h"
 
-#include <cstdlib>
-#include <optional>
-#include <string>
+#include "platform/linux/Environment.h"
 
 namespace quillon {
 
 namespace {
 
 constexpr const char* telegramsBotApi = "https://api.telegram.org";
-
-std::optional<std::string> environment(const char* name) {
-    const char* value = std::getenv(name);
-    if (!value || !*value) return std::nullopt;
-    return value;
-}
 
 std::optional<std::string> otherBotApi() {
     auto api = environment("QUILLON_BOT_API");

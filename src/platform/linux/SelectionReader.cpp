@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstring>
 #include <span>
-#include <string_view>
 #include <utility>
 
 namespace quillon {
@@ -18,14 +17,6 @@ constexpr qsizetype maximumTargets = 4096;
 /// Windows kept for late answers. Destroyed too soon, they would end owners that take every X error
 /// for fatal.
 constexpr std::size_t maximumRetired = 8;
-
-xcb_atom_t internNow(xcb_connection_t* connection, std::string_view name) {
-    const auto cookie =
-        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
-    const XcbPointer<xcb_intern_atom_reply_t> reply{
-        xcb_intern_atom_reply(connection, cookie, nullptr)};
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
 
 std::span<const char> valueOf(const xcb_get_property_reply_t& reply) {
     return {static_cast<const char*>(xcb_get_property_value(&reply)),
@@ -46,11 +37,11 @@ SelectionReader::SelectionReader(X11Connection& connection, std::function<void()
     : connection_{connection},
       ownerChanged_{std::move(ownerChanged)} {
     if (!selectEvents()) return;
-    clipboard_ = internNow(connection_.get(), "CLIPBOARD");
-    targets_ = internNow(connection_.get(), "TARGETS");
-    incr_ = internNow(connection_.get(), "INCR");
-    utf8String_ = internNow(connection_.get(), "UTF8_STRING");
-    property_ = internNow(connection_.get(), "QUILLON_CLIPBOARD");
+    clipboard_ = internAtom(connection_.get(), "CLIPBOARD");
+    targets_ = internAtom(connection_.get(), "TARGETS");
+    incr_ = internAtom(connection_.get(), "INCR");
+    utf8String_ = internAtom(connection_.get(), "UTF8_STRING");
+    property_ = internAtom(connection_.get(), "QUILLON_CLIPBOARD");
     constexpr auto every = XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
                            XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
                            XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
@@ -169,7 +160,8 @@ std::optional<SelectionReader::Property> SelectionReader::receivePieces(qsizetyp
     if (announced > limit) return {};
     Property whole;
     whole.bytes.reserve(announced);
-    while (waitFor([this] { return newValue_; })) {
+    const auto end = std::chrono::steady_clock::now() + transferLimit;
+    while (std::chrono::steady_clock::now() < end && waitFor([this] { return newValue_; })) {
         const auto piece = takeProperty(limit);
         if (!piece) return {};
         if (piece->type == XCB_ATOM_NONE) continue; // deleted again: not a piece

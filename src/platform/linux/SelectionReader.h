@@ -23,6 +23,8 @@ public:
     /// How long nothing may come from the owner before a question is given up. Each piece of a
     /// large answer starts it anew.
     static constexpr std::chrono::milliseconds patience{1000};
+    /// How long after the beginning of a large answer the last wait for a piece may begin.
+    static constexpr std::chrono::seconds transferLimit{30};
     /// A larger answer counts as none, in bytes.
     static constexpr qsizetype maximumSize = qsizetype{256} * 1024 * 1024;
 

@@ -30,6 +30,14 @@ int millisecondsUntil(std::optional<X11Connection::Time> deadline) {
 
 } // namespace
 
+xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name) {
+    const auto cookie =
+        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const XcbPointer<xcb_intern_atom_reply_t> reply{
+        xcb_intern_atom_reply(connection, cookie, nullptr)};
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
 std::unique_ptr<X11Connection> X11Connection::open(const char* display) {
     int screen = 0;
     xcb_connection_t* connection = xcb_connect(display, &screen); // never null

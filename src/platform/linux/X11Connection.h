@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 namespace quillon {
 
@@ -16,6 +17,10 @@ struct FreeDeleter {
 /// An event or a reply, which xcb allocates with malloc.
 template <typename T>
 using XcbPointer = std::unique_ptr<T, FreeDeleter>;
+
+/// The atom of this name, which is made where there is none yet. Waits for the server;
+/// XCB_ATOM_NONE when that is gone.
+[[nodiscard]] xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name);
 
 /// A connection to the X server of its own, used by one thread that sleeps until the server has
 /// sent something or another thread rings. A server that dies makes it dead and never ends the
