@@ -25,8 +25,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
+bool isVisible(const HUD& hud) {
+    return hud.panel() != nullptr && hud.panel()->isVisible();
+}
+
 QCoro::Task<> untilHidden(const HUD& hud, Clock& clock) {
-    while (hud.panel() != nullptr && hud.panel()->isVisible()) {
+    while (isVisible(hud)) {
         co_await sleep(clock, 50ms);
     }
 }
@@ -44,7 +48,8 @@ QCoro::Task<> sendToExit(Invocation invocation, CommandContext context, const HU
                          FolderLock& lock, Detach& detach) {
     const int code = co_await runCommand(invocation, context);
     lock.release();
-    if (hud.panel() != nullptr && hud.panel()->isVisible()) detach.release(code);
+    // What is still to be seen or heard is no reason to keep the terminal.
+    if (isVisible(hud) || context.store.config().playSound) detach.release(code);
     co_await untilHidden(hud, context.platform.clock);
     QCoreApplication::exit(code);
 }

@@ -10,7 +10,8 @@ class Detach;
 /// has one session at the most.
 class Session {
 public:
-    /// `detach` is told when the command is done but its banner still shows.
+    /// `detach` is told when the command is done but its banner still shows or its sound still
+    /// plays.
     static int run(Invocation invocation, Detach& detach);
     /// For commands that show nothing but text.
     static int run(Invocation invocation);
