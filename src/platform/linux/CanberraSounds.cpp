@@ -23,7 +23,7 @@ constexpr std::chrono::milliseconds closingLimit{200};
 /// than 2 seconds.
 constexpr std::chrono::milliseconds soundLimit{1800};
 
-/// Names of the freedesktop sound naming specification. A theme without "message-sent-instant" is
+/// Names as freedesktop.org lists them for sound themes. A theme without "message-sent-instant" is
 /// searched for "message-sent" and "message".
 const char* eventOf(Sound sound) {
     return sound == Sound::pop ? "message-sent-instant" : "dialog-error";

@@ -21,7 +21,7 @@ CurlTransportOptions transportOptions() {
     return options;
 }
 
-/// As the XDG base directory specification has it, which ignores relative paths.
+/// Where freedesktop.org puts data of users; a relative path counts as none there.
 std::filesystem::path dataFolder() {
     const std::filesystem::path data = environment("XDG_DATA_HOME").value_or("");
     if (data.is_absolute()) return data / "Quillon";
