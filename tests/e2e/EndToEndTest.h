@@ -5,6 +5,7 @@
 #include "support/Await.h"
 #include "support/Faults.h"
 
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -14,6 +15,16 @@
 namespace quillon::test {
 
 using sandbox::Json;
+
+/// A picture of 40 by 30 pixels in a format such as "png", made by another program.
+inline QByteArray converted(const std::string& format) {
+    QProcess convert;
+    convert.start(QStringLiteral("convert"),
+                  {QStringLiteral("-size"), QStringLiteral("40x30"), QStringLiteral("xc:orange"),
+                   QString::fromStdString(format) + QStringLiteral(":-")});
+    EXPECT_TRUE(convert.waitForFinished());
+    return convert.readAllStandardOutput();
+}
 
 /// A user with a desktop, a phone and the program.
 class EndToEnd : public testing::Test {

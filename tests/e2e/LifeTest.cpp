@@ -19,16 +19,6 @@ constexpr const char* notSetUp = "Bot:      not connected\n"
                                  "Shortcut: ⌃⌥V\n"
                                  "Ready:    no\n";
 
-/// A picture made by another program.
-QByteArray converted(const std::string& format) {
-    QProcess convert;
-    convert.start(QStringLiteral("convert"),
-                  {QStringLiteral("-size"), QStringLiteral("40x30"), QStringLiteral("xc:orange"),
-                   QString::fromStdString(format) + QStringLiteral(":-")});
-    EXPECT_TRUE(convert.waitForFinished());
-    return convert.readAllStandardOutput();
-}
-
 void expectRun(const Finished& run, int code, const std::string& out, const std::string& err) {
     EXPECT_EQ(run.code, code);
     EXPECT_EQ(run.out, out);
