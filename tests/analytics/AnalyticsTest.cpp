@@ -5,7 +5,6 @@
 using namespace quillon;
 using namespace quillon::test;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 TEST(Analytics, WritesEachEventAtOnce) {
     World world;

@@ -23,6 +23,7 @@ std::string repeated(std::string_view piece, std::size_t count) {
 
 std::vector<std::size_t> sizes(const std::vector<std::string_view>& pieces) {
     std::vector<std::size_t> all;
+    all.reserve(pieces.size());
     for (const std::string_view piece : pieces) {
         all.push_back(piece.size());
     }

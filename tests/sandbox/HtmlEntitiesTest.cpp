@@ -41,10 +41,10 @@ TEST(HtmlEntities, refuseWithTheByteOffset) {
         {"<a href=\"x", "Unclosed start tag at byte offset 0"},
         {"ab</b>", "Unexpected end tag at byte offset 2"},
         {"<b>x", "Can't find end tag corresponding to start tag \"b\""},
-        {"<b>x</i>", "Unmatched end tag at byte offset 4, expected \"</b>\", found \"</i>\""},
+        {"<b>x</i>", R"(Unmatched end tag at byte offset 4, expected "</b>", found "</i>")"},
         {"<b>x</b", "Unclosed end tag at byte offset 4"},
         {"<span class=\"x\">a</span>",
-         "Tag \"span\" must have class \"tg-spoiler\" at byte offset 0"},
+         R"(Tag "span" must have class "tg-spoiler" at byte offset 0)"},
         {"<b x>y</b>", "Expected equal sign in declaration of an attribute of the tag \"b\" at "
                        "byte offset 0"},
     };

@@ -15,7 +15,7 @@ std::string whole(const std::string& header, const std::string& content) {
 } // namespace
 
 TEST(Multipart, keepsNamesAndBytesAsTheyCame) {
-    const std::string bytes = std::string{"\0\r\n--a\r\n\r\n--", 13} + "\xFF\r";
+    const std::string bytes = std::string{"\0\r\n--a\r\n\r\n--", 12} + "\xFF\r";
     const std::string body =
         "--b\r\n" + name + "\r\n\r\n\r\n--b\r\n" + name +
         "; filename=\"a\\ é\xFF'.txt\"\r\nContent-Type: text/plain; charset=x" + "\r\n\r\n" +
@@ -49,7 +49,7 @@ TEST(Multipart, refusesMalformedBodies) {
         whole(name + "; name=\"m\"", "x"),
         whole(name + "\r\n" + name, "x"),
         whole(name + " stray", "x"),
-        whole(name + "; filename=\"a\"b\"", "x"),
+        whole(name + R"(; filename="a"b")", "x"),
         whole(name + "; filename=\"a", "x"),
         whole(name + "; filename=\"a\r\nX-Injected: b\"", "x"),
         whole(name + "; filename=\"a\nb\"", "x"),

@@ -56,12 +56,12 @@ TEST(Config, ReadsLenientlyWhereItMay) {
 
 TEST(Config, FailsAsAWholeWhereItMust) {
     for (const char* record :
-         {"", "[]", "null", "{\"chatId\":1.5}", "{\"chatId\":\"1\"}", "{\"chatId\":true}",
-          "{\"chatId\":9223372036854775808}", "{\"chatTitle\":7}", "{\"botName\":false}",
-          "{\"playSound\":\"yes\"}", "{\"showBanner\":1}", "{\"topics\":{}}", "{\"topics\":[7]}",
-          "{\"topics\":[{\"key\":\"k\",\"name\":\"n\"}]}",
-          "{\"topics\":[{\"key\":\"k\",\"name\":null,\"color\":1}]}",
-          "{\"topics\":[{\"key\":\"k\",\"name\":\"n\",\"color\":1,\"threadId\":\"7\"}]}"}) {
+         {"", "[]", "null", R"({"chatId":1.5})", R"({"chatId":"1"})", R"({"chatId":true})",
+          R"({"chatId":9223372036854775808})", R"({"chatTitle":7})", R"({"botName":false})",
+          R"({"playSound":"yes"})", R"({"showBanner":1})", R"({"topics":{}})", R"({"topics":[7]})",
+          R"({"topics":[{"key":"k","name":"n"}]})",
+          R"({"topics":[{"key":"k","name":null,"color":1}]})",
+          R"({"topics":[{"key":"k","name":"n","color":1,"threadId":"7"}]})"}) {
         EXPECT_EQ(decodeConfig(record), std::nullopt) << record;
     }
 }
@@ -96,14 +96,15 @@ TEST(Sent, IsReadAllOrNothing) {
     EXPECT_EQ(history.front().error, std::nullopt);
     const std::pair<const char*, const char*> faults[] = {{"a1b2c3d4-0000", "{1b2c3d4-0000"},
                                                           {"a1b2c3d4-", "a1b2c3d4"},
-                                                          {"\"date\":5", "\"date\":\"5\""},
-                                                          {"\"date\":5,", ""},
-                                                          {"\"topic\":\"p\",", ""},
-                                                          {"\"error\":null", "\"error\":7"},
-                                                          {"\"title\":\"t\"", "\"title\":null"}};
+                                                          {R"("date":5)", R"("date":"5")"},
+                                                          {R"("date":5,)", ""},
+                                                          {R"("topic":"p",)", ""},
+                                                          {R"("error":null)", R"("error":7)"},
+                                                          {R"("title":"t")", R"("title":null)"}};
+    const std::string before = "[" + good + ",";
     for (const auto& [from, to] : faults) {
         std::string bad = good;
         bad.replace(bad.find(from), std::string_view{from}.size(), to);
-        EXPECT_TRUE(decodeHistory("[" + good + "," + bad + "]").empty()) << bad;
+        EXPECT_TRUE(decodeHistory(before + bad + "]").empty()) << bad;
     }
 }

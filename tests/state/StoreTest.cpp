@@ -42,9 +42,8 @@ TEST(Store, AnnouncesBeforeItChanges) {
 TEST(Store, StartsFromTheDefaultsWhateverLiesInItsFiles) {
     World world;
     const std::string nested(5'000'000, '[');
-    for (const std::string& garbage :
-         {std::string{"{\"playSound\":\"x\"}"}, std::string{"\xFF\xFE"}, nested,
-          std::string{"{\"chatId\":1"}}) {
+    for (const std::string& garbage : {std::string{R"({"playSound":"x"})"}, std::string{"\xFF\xFE"},
+                                       nested, std::string{R"({"chatId":1)"}}) {
         world.setContent("config.json", garbage);
         world.setContent("history.json", garbage);
         world.restart();
