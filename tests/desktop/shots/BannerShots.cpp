@@ -2,7 +2,7 @@
 // and then, for each banner, "good", "bad" or "sticky" and its text; one follows the other by a
 // second.
 #include "desktop/HUD.h"
-#include "platform/Clock.h"
+#include "platform/linux/QtClock.h"
 #include "platform/linux/X11Compositor.h"
 
 #include <QApplication>
@@ -14,26 +14,6 @@
 namespace {
 
 using namespace quillon;
-
-class WallClock : public Clock {
-public:
-    [[nodiscard]] Time now() const override { return std::chrono::system_clock::now(); }
-
-    [[nodiscard]] std::unique_ptr<Timer> after(std::chrono::milliseconds delay,
-                                               std::function<void()> action) override {
-        auto timer = std::make_unique<Single>();
-        timer->timer.setSingleShot(true);
-        timer->timer.setTimerType(Qt::PreciseTimer);
-        timer->timer.callOnTimeout(std::move(action));
-        timer->timer.start(delay);
-        return timer;
-    }
-
-private:
-    struct Single : Timer {
-        QTimer timer;
-    };
-};
 
 BannerPosition positionNamed(const QString& name) {
     if (name == QLatin1String{"middle"}) return BannerPosition::middle;
@@ -49,7 +29,7 @@ int main(int argc, char** argv) {
         std::fputs("usage: banner_shots top|middle|bottom (good|bad|sticky TEXT)...\n", stderr);
         return 2;
     }
-    WallClock clock;
+    QtClock clock;
     const X11Compositor compositor;
     HUD hud{clock, compositor, [&] { return positionNamed(arguments[1]); }};
     for (qsizetype i = 2; i < arguments.size(); i += 2) {
