@@ -152,6 +152,10 @@ size_t CurlTransfer::readBody(char* target, size_t /*one*/, size_t count, void* 
 int CurlTransfer::seekBody(void* self, curl_off_t offset, int origin) {
     auto& transfer = *static_cast<CurlTransfer*>(self);
     if (origin != SEEK_SET || offset < 0 || offset > transfer.total_) return CURL_SEEKFUNC_FAIL;
+    // libcurl goes back to the start to repeat a request whose kept connection broke. One that went
+    // out whole may have been carried out, and a message must not arrive twice.
+    const bool wentOut = transfer.piece_ == static_cast<qsizetype>(transfer.request_.body.size());
+    if (wentOut) return CURL_SEEKFUNC_FAIL;
     transfer.piece_ = 0;
     transfer.offset_ = static_cast<qsizetype>(offset);
     for (const QByteArray& piece : transfer.request_.body) {
