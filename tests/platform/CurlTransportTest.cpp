@@ -67,17 +67,16 @@ TEST_F(CurlTransportTest, SendsPiecesAsOneBodyAndKeepsTheConnection) {
 }
 
 TEST_F(CurlTransportTest, SendsNothingTwiceThatMayHaveArrived) {
-    std::atomic<int> requests = 0;
+    std::atomic<int> arrived = 0;
     RawServer server{[&](Connection& connection) {
-        connection.request();
-        ++requests;
+        if (connection.request().ends_with("a message")) ++arrived;
         connection.reply(200, "reply");
         // The next request on this connection is taken, and perhaps carried out, but not answered.
-        if (!connection.request().empty()) ++requests;
+        if (connection.request().ends_with("a message")) ++arrived;
     }};
     ASSERT_TRUE(post(server.url()));
     EXPECT_EQ(await(transport->post(requestTo(server.url(), {"a message"}))), std::nullopt);
-    EXPECT_EQ(requests, 2);
+    EXPECT_EQ(arrived, 1);
     EXPECT_TRUE(post(server.url())) << "the next one has a connection of its own";
 }
 
