@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QTimer>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace {
