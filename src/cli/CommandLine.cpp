@@ -1,67 +1,111 @@
 #include "cli/CommandLine.h"
 
 #include <algorithm>
-#include <array>
 
 namespace quillon {
 
 namespace {
 
+using Words = std::vector<std::string_view>;
+
 struct Row {
     std::string_view name;
     Command command;
-    bool answersJson;
+    /// What may follow the command.
+    Words arguments;
+    bool needsArgument;
     std::string_view purpose;
 };
 
-constexpr std::array rows{
-    Row{"send", Command::send, false, "send what is on the clipboard"},
-    Row{"connect", Command::connect, false,
-        "connect your bot; reads its token from standard input"},
-    Row{"find-group", Command::findGroup, false, "find the group in which you wrote to the bot"},
-    Row{"create-topics", Command::createTopics, false,
-        "create the four topics, or find them again"},
-    Row{"rename-topics", Command::renameTopics, false, "give the topics the names set here"},
-    Row{"forget", Command::forget, false, "forget the bot, the group and the topics"},
-    Row{"status", Command::status, true, "tell what is set up"},
-    Row{"history", Command::history, true, "list what was sent, newest first"},
-    Row{"--help", Command::help, false, "print this"},
-    Row{"--version", Command::version, false, "print the version"},
-};
+const std::vector<Row>& rows() {
+    static const Words json{"--json"};
+    static const std::vector<Row> rows{
+        {"send", Command::send, {}, false, "send what is on the clipboard"},
+        {"connect",
+         Command::connect,
+         {},
+         false,
+         "connect your bot; reads its token from standard input"},
+        {"find-group",
+         Command::findGroup,
+         {},
+         false,
+         "find the group in which you wrote to the bot"},
+        {"create-topics",
+         Command::createTopics,
+         {},
+         false,
+         "create the four topics, or find them again"},
+        {"rename-topics", Command::renameTopics, {}, false, "give the topics the names set here"},
+        {"forget", Command::forget, {}, false, "forget the bot, the group and the topics"},
+        {"status", Command::status, json, false, "tell what is set up"},
+        {"history", Command::history, json, false, "list what was sent, newest first"},
+        {"launch-at-login",
+         Command::launchAtLogin,
+         {"on", "off", "status"},
+         true,
+         "open Quillon at login, or do not"},
+        {"check-for-updates",
+         Command::checkForUpdates,
+         {"--install"},
+         false,
+         "tell whether there is a newer version; install it"},
+        {"uninstall", Command::uninstall, {"--yes"}, true, "remove Quillon and all it has stored"},
+        {"--help", Command::help, {}, false, "print this"},
+        {"--version", Command::version, {}, false, "print the version"},
+    };
+    return rows;
+}
 
-constexpr std::string_view jsonOption = "--json";
-constexpr std::size_t nameWidth = 18;
+/// The row of the word that is a command, when there is just one.
+const Row* commandAmong(const std::vector<std::string>& words) {
+    const Row* found = nullptr;
+    for (const std::string& word : words) {
+        const auto row = std::ranges::find(rows(), word, &Row::name);
+        if (row == rows().end()) continue;
+        if (found) return nullptr;
+        found = &*row;
+    }
+    return found;
+}
+
+/// "launch-at-login on|off|status", "status [--json]"
+std::string usage(const Row& row) {
+    std::string words;
+    for (const std::string_view argument : row.arguments) {
+        if (!words.empty()) words += '|';
+        words += argument;
+    }
+    if (words.empty()) return std::string{row.name};
+    return std::string{row.name} + (row.needsArgument ? " " + words : " [" + words + "]");
+}
+
+constexpr std::size_t usageWidth = 29;
 
 } // namespace
 
 std::optional<Invocation> parseCommandLine(const std::vector<std::string>& arguments) {
-    std::optional<Invocation> invocation;
-    bool json = false;
-    bool answersJson = false;
-    for (const std::string& argument : arguments) {
-        if (argument == jsonOption) {
-            json = true;
-            continue;
-        }
-        const auto row = std::ranges::find(rows, argument, &Row::name);
-        if (row == rows.end() || invocation) return std::nullopt;
-        invocation = Invocation{.command = row->command};
-        answersJson = row->answersJson;
+    const Row* row = commandAmong(arguments);
+    if (!row || arguments.size() > 2) return std::nullopt;
+    Invocation invocation{.command = row->command, .argument = {}};
+    for (const std::string& word : arguments) {
+        if (word == row->name) continue;
+        if (std::ranges::find(row->arguments, word) == row->arguments.end()) return std::nullopt;
+        invocation.argument = word;
     }
-    if (!invocation || (json && !answersJson)) return std::nullopt;
-    invocation->json = json;
+    if (row->needsArgument && invocation.argument.empty()) return std::nullopt;
     return invocation;
 }
 
 std::string helpText() {
     std::string text =
         "Quillon sends what you copy to your phone, through your own Telegram bot.\n\n"
-        "Usage: quillon COMMAND\n\n";
-    for (const Row& row : rows) {
-        std::string name{row.name};
-        if (row.answersJson) name += " [--json]";
-        name.resize(std::max(nameWidth, name.size()), ' ');
-        text += "  " + name + "  " + std::string{row.purpose} + "\n";
+        "Usage: quillon [COMMAND]\n\n"
+        "Without a command it stays, and sends whenever you press its shortcut.\n\n";
+    for (const Row& row : rows()) {
+        std::string words = usage(row);
+        words.resize(std::max(usageWidth, words.size()), ' ');
+        text += "  " + words + "  " + std::string{row.purpose} + "\n";
     }
     return text + "\nExit status: 0 done, 1 failed, 2 the command line was not understood.\n";
 }

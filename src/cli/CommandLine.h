@@ -17,6 +17,9 @@ enum class Command {
     forget,
     status,
     history,
+    launchAtLogin,
+    checkForUpdates,
+    uninstall,
     help,
     version
 };
@@ -24,9 +27,11 @@ enum class Command {
 /// A command line that was understood.
 struct Invocation {
     Command command = Command::help;
-    /// The answer is wanted as JSON.
-    bool json = false;
+    /// What follows the command, one of the words it takes; empty for nothing.
+    std::string argument;
 
+    /// The answer is wanted as JSON.
+    [[nodiscard]] bool json() const { return argument == "--json"; }
     bool operator==(const Invocation&) const = default;
 };
 

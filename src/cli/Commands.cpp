@@ -23,7 +23,7 @@ using namespace std::chrono_literals;
 /// A shorter send shows no progress.
 constexpr std::chrono::milliseconds progressPatience = 700ms;
 
-QCoro::Task<int> send(CommandContext context, bool /*json*/) {
+QCoro::Task<int> send(CommandContext context, Invocation /*invocation*/) {
     const std::size_t before = context.store.history().size();
     // Shared, since the transport may tell its last figures when the send is over.
     const auto progress = std::make_shared<Terminal::Progress>();
@@ -51,7 +51,7 @@ QCoro::Task<int> send(CommandContext context, bool /*json*/) {
     co_return code;
 }
 
-QCoro::Task<int> connect(CommandContext context, bool /*json*/) {
+QCoro::Task<int> connect(CommandContext context, Invocation /*invocation*/) {
     const std::string token = Terminal::readSecret("Bot token: ").value_or("");
     const std::string name = co_await context.store.connectBot(token);
     // The next command can only have it from there.
@@ -63,13 +63,13 @@ QCoro::Task<int> connect(CommandContext context, bool /*json*/) {
     co_return exitDone;
 }
 
-QCoro::Task<int> findGroup(CommandContext context, bool /*json*/) {
+QCoro::Task<int> findGroup(CommandContext context, Invocation /*invocation*/) {
     co_await context.store.findGroup();
     Terminal::print("Found “" + context.store.config().chatTitle.value_or("your group") + "”");
     co_return exitDone;
 }
 
-QCoro::Task<int> createTopics(CommandContext context, bool /*json*/) {
+QCoro::Task<int> createTopics(CommandContext context, Invocation /*invocation*/) {
     co_await context.store.createTopics();
     for (const Topic& topic : context.store.config().topics) {
         Terminal::print(topic.name);
@@ -77,12 +77,12 @@ QCoro::Task<int> createTopics(CommandContext context, bool /*json*/) {
     co_return exitDone;
 }
 
-QCoro::Task<int> renameTopics(CommandContext context, bool /*json*/) {
+QCoro::Task<int> renameTopics(CommandContext context, Invocation /*invocation*/) {
     co_await context.store.renameTopics();
     co_return exitDone;
 }
 
-QCoro::Task<int> forget(CommandContext context, bool /*json*/) {
+QCoro::Task<int> forget(CommandContext context, Invocation /*invocation*/) {
     co_await context.store.forgetBot();
     if (context.platform.secrets.exists(botTokenItem())) {
         throw TelegramError{"The keyring still holds the bot's token. Unlock it and try again."};
@@ -90,18 +90,33 @@ QCoro::Task<int> forget(CommandContext context, bool /*json*/) {
     co_return exitDone;
 }
 
-QCoro::Task<int> status(CommandContext context, bool json) {
-    Terminal::printText(json ? statusJson(context.store) : statusText(context.store));
+QCoro::Task<int> status(CommandContext context, Invocation invocation) {
+    Terminal::printText(invocation.json() ? statusJson(context.store) : statusText(context.store));
     co_return exitDone;
 }
 
-QCoro::Task<int> history(CommandContext context, bool json) {
+QCoro::Task<int> history(CommandContext context, Invocation invocation) {
     const std::vector<Sent>& entries = context.store.history();
-    Terminal::printText(json ? historyJson(entries) : historyText(entries));
+    Terminal::printText(invocation.json() ? historyJson(entries) : historyText(entries));
     co_return exitDone;
 }
 
-using Action = QCoro::Task<int> (*)(CommandContext, bool json);
+QCoro::Task<int> launchAtLogin(CommandContext /*context*/, Invocation /*invocation*/) {
+    throw TelegramError{"Not there yet."};
+    co_return exitFailed;
+}
+
+QCoro::Task<int> checkForUpdates(CommandContext /*context*/, Invocation /*invocation*/) {
+    throw TelegramError{"Not there yet."};
+    co_return exitFailed;
+}
+
+QCoro::Task<int> uninstall(CommandContext /*context*/, Invocation /*invocation*/) {
+    throw TelegramError{"Not there yet."};
+    co_return exitFailed;
+}
+
+using Action = QCoro::Task<int> (*)(CommandContext, Invocation);
 
 const std::map<Command, Action> actions{
     {Command::send, send},
@@ -112,6 +127,9 @@ const std::map<Command, Action> actions{
     {Command::forget, forget},
     {Command::status, status},
     {Command::history, history},
+    {Command::launchAtLogin, launchAtLogin},
+    {Command::checkForUpdates, checkForUpdates},
+    {Command::uninstall, uninstall},
 };
 
 } // namespace
@@ -119,7 +137,7 @@ const std::map<Command, Action> actions{
 QCoro::Task<int> runCommand(Invocation invocation, CommandContext context) {
     const Action action = actions.at(invocation.command);
     try {
-        co_return co_await action(context, invocation.json);
+        co_return co_await action(context, invocation);
     } catch (const std::exception& error) {
         // A TelegramError says the sentence for the user; anything else, such as memory running
         // out, at least does not pass in silence.

@@ -8,6 +8,7 @@
 
 namespace quillon {
 
+class Analytics;
 class Store;
 struct Platform;
 class SpokenBanner;
@@ -15,6 +16,7 @@ class SpokenBanner;
 /// What a command works on; all of it outlives the command.
 struct CommandContext {
     Platform& platform;
+    Analytics& analytics;
     Store& store;
     /// The banner that the store shows.
     SpokenBanner& banner;

@@ -89,7 +89,7 @@ int Session::run(Invocation invocation, Detach& detach) {
     settings = &store;
 
     QTimer::singleShot(0, &store, [&] {
-        sendToExit(invocation, {platform, store, banner}, hud, *lock, detach);
+        sendToExit(invocation, {platform, analytics, store, banner}, hud, *lock, detach);
     });
     return QApplication::exec();
 }
@@ -110,7 +110,9 @@ int Session::run(Invocation invocation) {
     SpokenBanner banner{nullptr};
     Store store{platform, analytics, banner};
 
-    QTimer::singleShot(0, &store, [&] { runToExit(invocation, {platform, store, banner}); });
+    QTimer::singleShot(0, &store, [&] {
+        runToExit(invocation, {platform, analytics, store, banner});
+    });
     return QCoreApplication::exec();
 }
 

@@ -7,13 +7,24 @@
 using namespace quillon;
 
 TEST(CommandLine, UnderstandsOneCommandAndItsOption) {
-    EXPECT_EQ(parseCommandLine({"send"}), (Invocation{Command::send, false}));
-    EXPECT_EQ(parseCommandLine({"--json", "status"}), (Invocation{Command::status, true}));
-    EXPECT_EQ(parseCommandLine({"history", "--json"}), (Invocation{Command::history, true}));
-    EXPECT_EQ(parseCommandLine({"--version"}), (Invocation{Command::version, false}));
-    const std::vector<std::vector<std::string>> misunderstood{
-        {},  {"--json"}, {"send", "--json"}, {"send", "status"}, {"Send"}, {"connect", "1:token"},
-        {""}};
+    EXPECT_EQ(parseCommandLine({"send"}), (Invocation{Command::send, ""}));
+    EXPECT_EQ(parseCommandLine({"--json", "status"}), (Invocation{Command::status, "--json"}));
+    EXPECT_EQ(parseCommandLine({"history", "--json"}), (Invocation{Command::history, "--json"}));
+    EXPECT_EQ(parseCommandLine({"launch-at-login", "off"}),
+              (Invocation{Command::launchAtLogin, "off"}));
+    EXPECT_EQ(parseCommandLine({"check-for-updates"}), (Invocation{Command::checkForUpdates, ""}));
+    const std::vector<std::vector<std::string>> misunderstood{{},
+                                                              {""},
+                                                              {"--json"},
+                                                              {"send", "--json"},
+                                                              {"send", "status"},
+                                                              {"send", "send"},
+                                                              {"Send"},
+                                                              {"connect", "1:token"},
+                                                              {"launch-at-login"},
+                                                              {"launch-at-login", "on", "off"},
+                                                              {"launch-at-login", "--yes"},
+                                                              {"uninstall"}};
     for (const auto& arguments : misunderstood) {
         EXPECT_EQ(parseCommandLine(arguments), std::nullopt) << testing::PrintToString(arguments);
     }

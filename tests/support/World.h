@@ -7,8 +7,10 @@
 #include "platform/Sounds.h"
 #include "platform/linux/CurlTransport.h"
 #include "platform/linux/PosixFileSystem.h"
+#include "platform/linux/PosixFileTree.h"
 #include "state/Store.h"
 #include "support/FakeClock.h"
+#include "support/FakeDesktop.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeSecrets.h"
 
@@ -45,19 +47,40 @@ public:
     void play(Sound sound) override { played.push_back(sound); }
 };
 
-/// A computer for one store: real files in a folder of its own, real HTTP, and a clock, clipboard,
-/// keyring, banner and sounds that the test commands.
+/// A computer for one store: real files in folders of its own, real HTTP, and a clock, clipboard,
+/// keyring, preferences, desktop, banner and sounds that the test commands.
 struct World {
     /// `botApi` is the base address of a stand-in.
     explicit World(std::string botApi = "http://127.0.0.1:9")
-        : platform{clock,
-                   files,
-                   http,
-                   pasteboard,
-                   secrets,
-                   sounds,
-                   std::filesystem::path{folder.path().toStdString()} / "share" / "Quillon",
-                   std::move(botApi)} {
+        : platform{.clock = clock,
+                   .files = files,
+                   .http = http,
+                   .pasteboard = pasteboard,
+                   .secrets = secrets,
+                   .sounds = sounds,
+                   .defaults = defaults,
+                   .hotKeys = hotKeys,
+                   .loginItem = loginItem,
+                   .trees = trees,
+                   .workspace = workspace,
+                   .bundle = {.url = home() / "Downloads/Quillon.app",
+                              .executable = home() / "Downloads/Quillon.app/Contents/Linux/quillon",
+                              .info = {{"CFBundleIdentifier", "dev.vostrel.quillon"},
+                                       {"CFBundleShortVersionString", "1.0"},
+                                       {"CFBundleVersion", "1.0"}}},
+                   .folders = {.home = home(),
+                               .data = home() / "share",
+                               .cache = home() / "cache",
+                               .state = home() / "state",
+                               .config = home() / "config",
+                               .applications = home() / "root/Applications"},
+                   .system = {.version = "6.1.0",
+                              .locale = "de_AT",
+                              .productName = "Desk 3 (2023)",
+                              .hardwareModel = "x86_64"},
+                   .dataFolder = home() / "share/Quillon",
+                   .botApi = std::move(botApi),
+                   .server = {}} {
         restart();
     }
 
@@ -68,6 +91,8 @@ struct World {
         store = std::make_unique<Store>(platform, *analytics, banner);
     }
 
+    /// The home folder, which holds everything else.
+    [[nodiscard]] std::filesystem::path home() const { return folder.path().toStdString(); }
     [[nodiscard]] std::filesystem::path path(std::string_view file) const {
         return platform.dataFolder / file;
     }
@@ -95,6 +120,11 @@ struct World {
     FakePasteboard pasteboard;
     FakeSecrets secrets;
     FakeSounds sounds;
+    FakeDefaults defaults;
+    FakeHotKeys hotKeys;
+    FakeLoginItem loginItem;
+    PosixFileTree trees;
+    FakeWorkspace workspace;
     FakeBanner banner;
     Platform platform;
     std::unique_ptr<Analytics> analytics;

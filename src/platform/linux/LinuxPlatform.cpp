@@ -1,39 +1,61 @@
 #include "platform/linux/LinuxPlatform.h"
 
 #include "platform/linux/Environment.h"
+#include "platform/linux/LinuxBundle.h"
+#include "platform/linux/LinuxFolders.h"
+#include "platform/linux/LinuxSystemInfo.h"
 
 namespace quillon {
 
 namespace {
 
+constexpr const char* botApiVariable = "QUILLON_BOT_API";
+constexpr const char* serverVariable = "QUILLON_SERVER";
+
 constexpr const char* telegramsBotApi = "https://api.telegram.org";
 
-std::optional<std::string> otherBotApi() {
-    auto api = environment("QUILLON_BOT_API");
-    while (api && api->ends_with('/'))
-        api->pop_back();
-    return api;
+/// The base address in the variable, else the usual one, without slashes at the end.
+std::string baseAddress(const char* variable, const char* usual) {
+    std::string address = environment(variable).value_or(usual);
+    while (address.ends_with('/'))
+        address.pop_back();
+    return address;
 }
 
 CurlTransportOptions transportOptions() {
     CurlTransportOptions options;
-    options.allowHttp = otherBotApi().has_value();
+    options.allowHttp = environment(botApiVariable) || environment(serverVariable);
     return options;
-}
-
-/// Where freedesktop.org puts data of users; a relative path counts as none there.
-std::filesystem::path dataFolder() {
-    const std::filesystem::path data = environment("XDG_DATA_HOME").value_or("");
-    if (data.is_absolute()) return data / "Quillon";
-    return std::filesystem::path{environment("HOME").value_or("/")} / ".local/share/Quillon";
 }
 
 } // namespace
 
-LinuxPlatform::LinuxPlatform(std::unique_ptr<Pasteboard> pasteboard)
-    : http_{transportOptions()},
+LinuxPlatform::LinuxPlatform(std::unique_ptr<Pasteboard> pasteboard,
+                             std::unique_ptr<HotKeys> hotKeys)
+    : bundle_{runningBundle()},
+      folders_{linuxFolders()},
+      http_{transportOptions()},
       pasteboard_{std::move(pasteboard)},
-      platform_{clock_,   files_,  http_,        *pasteboard_,
-                secrets_, sounds_, dataFolder(), otherBotApi().value_or(telegramsBotApi)} {}
+      defaults_{folders_.config / (QUILLON_IDENTIFIER ".ini")},
+      hotKeys_{std::move(hotKeys)},
+      loginItem_{folders_, bundle_.executable},
+      workspace_{folders_},
+      platform_{.clock = clock_,
+                .files = files_,
+                .http = http_,
+                .pasteboard = *pasteboard_,
+                .secrets = secrets_,
+                .sounds = sounds_,
+                .defaults = defaults_,
+                .hotKeys = *hotKeys_,
+                .loginItem = loginItem_,
+                .trees = trees_,
+                .workspace = workspace_,
+                .bundle = bundle_,
+                .folders = folders_,
+                .system = linuxSystemInfo(),
+                .dataFolder = folders_.data / "Quillon",
+                .botApi = baseAddress(botApiVariable, telegramsBotApi),
+                .server = baseAddress(serverVariable, QUILLON_MAKERS_SERVER)} {}
 
 } // namespace quillon

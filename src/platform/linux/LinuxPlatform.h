@@ -1,12 +1,17 @@
 #pragma once
 
+#include "platform/HotKeys.h"
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
 #include "platform/linux/CanberraSounds.h"
 #include "platform/linux/CurlTransport.h"
 #include "platform/linux/LibsecretStore.h"
+#include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/PosixFileSystem.h"
+#include "platform/linux/PosixFileTree.h"
 #include "platform/linux/QtClock.h"
+#include "platform/linux/QtUserDefaults.h"
+#include "platform/linux/XdgLoginItem.h"
 
 #include <memory>
 
@@ -15,18 +20,27 @@ namespace quillon {
 /// The services of a Linux desktop, as the environment describes it.
 class LinuxPlatform {
 public:
-    /// QUILLON_BOT_API, when set, names another Bot API server, which may speak plain http.
-    explicit LinuxPlatform(std::unique_ptr<Pasteboard> pasteboard);
+    /// QUILLON_BOT_API, when set, names another Bot API server, and QUILLON_SERVER another makers'
+    /// server; both may speak plain http.
+    explicit LinuxPlatform(std::unique_ptr<Pasteboard> pasteboard,
+                           std::unique_ptr<HotKeys> hotKeys = std::make_unique<NoHotKeys>());
 
     [[nodiscard]] Platform& platform() { return platform_; }
 
 private:
+    Bundle bundle_;
+    Folders folders_;
     QtClock clock_;
     PosixFileSystem files_;
     CurlTransport http_;
     std::unique_ptr<Pasteboard> pasteboard_;
     LibsecretStore secrets_;
     CanberraSounds sounds_;
+    QtUserDefaults defaults_;
+    std::unique_ptr<HotKeys> hotKeys_;
+    XdgLoginItem loginItem_;
+    PosixFileTree trees_;
+    LinuxWorkspace workspace_;
     Platform platform_;
 };
 

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/Folders.h"
+
+#include <filesystem>
+
+namespace quillon {
+
+/// Writes the entry with which desktops list the application, so that it starts this application
+/// folder's program. A failure is ignored.
+void writeApplicationEntry(const Folders& folders, const std::filesystem::path& application);
+/// Removes that entry.
+void removeApplicationEntry(const Folders& folders);
+
+} // namespace quillon

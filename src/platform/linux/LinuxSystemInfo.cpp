@@ -1,0 +1,51 @@
+#include "platform/linux/LinuxSystemInfo.h"
+
+#include "platform/linux/PosixFileSystem.h"
+
+#include <QLocale>
+
+#include <array>
+#include <cstdio>
+
+#include <sys/utsname.h>
+
+namespace quillon {
+
+namespace {
+
+/// Longer than any product name, in bytes.
+constexpr qint64 maximumNameSize = 4096;
+
+/// The firmware's tables on PCs, then the device tree of most other machines.
+constexpr std::array productNameFiles{"/sys/class/dmi/id/product_name",
+                                      "/sys/firmware/devicetree/base/model"};
+
+/// "6.1.0-18-amd64" gives "6.1.0".
+std::string threeNumbers(const char* release) {
+    unsigned major = 0;
+    unsigned minor = 0;
+    unsigned patch = 0;
+    // What is missing stays 0. NOLINTNEXTLINE(cert-err34-c)
+    std::sscanf(release, "%u.%u.%u", &major, &minor, &patch);
+    return std::to_string(major) + '.' + std::to_string(minor) + '.' + std::to_string(patch);
+}
+
+} // namespace
+
+SystemInfo linuxSystemInfo() {
+    utsname kernel{};
+    ::uname(&kernel);
+    SystemInfo info{.version = threeNumbers(kernel.release),
+                    .locale = QLocale::system().name().toStdString(),
+                    .productName = {},
+                    .hardwareModel = kernel.machine};
+    for (const char* file : productNameFiles) {
+        const FileReading reading = PosixFileSystem{}.read(file, maximumNameSize);
+        if (reading.outcome != FileReading::Outcome::read) continue;
+        info.productName = reading.bytes;
+        break;
+    }
+    return info;
+}
+
+} // namespace quillon

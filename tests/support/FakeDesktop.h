@@ -1,0 +1,123 @@
+#pragma once
+
+#include "platform/HotKeys.h"
+#include "platform/LoginItem.h"
+#include "platform/UserDefaults.h"
+#include "platform/Workspace.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace quillon::test {
+
+/// Preferences in memory.
+class FakeDefaults : public UserDefaults {
+public:
+    std::map<std::string, std::string, std::less<>> values;
+
+    [[nodiscard]] std::optional<std::string> text(std::string_view key) const override {
+        const auto found = values.find(key);
+        return found == values.end() ? std::nullopt : std::optional{found->second};
+    }
+    void setText(std::string_view key, std::string_view value) override {
+        values[std::string{key}] = value;
+    }
+    [[nodiscard]] std::optional<bool> flag(std::string_view key) const override {
+        const auto stored = text(key);
+        return stored ? std::optional{*stored == "true"} : std::nullopt;
+    }
+    void setFlag(std::string_view key, bool value) override {
+        setText(key, value ? "true" : "false");
+    }
+    void remove(std::string_view key) override { values.erase(std::string{key}); }
+    void removeAll() override { values.clear(); }
+};
+
+/// A keyboard that the test presses, with keys that others may hold.
+class FakeHotKeys : public HotKeys {
+public:
+    std::set<PhysicalKey> takenByOthers;
+    std::multiset<PhysicalKey> registered;
+    int handlersInstalled = 0;
+
+    void press(PhysicalKey key) const {
+        if (registered.contains(key) && handler_) handler_();
+    }
+
+    void installHandler(std::function<void()> handler) override {
+        ++handlersInstalled;
+        handler_ = std::move(handler);
+    }
+    [[nodiscard]] std::unique_ptr<Registration> registerHotKey(PhysicalKey key) override {
+        // Like the real ones, refuses what this process itself holds.
+        if (takenByOthers.contains(key) || registered.contains(key)) return nullptr;
+        registered.insert(key);
+        return std::make_unique<FakeRegistration>(*this, key);
+    }
+
+private:
+    class FakeRegistration : public Registration {
+    public:
+        FakeRegistration(FakeHotKeys& owner, PhysicalKey key) : owner_{owner}, key_{key} {}
+        ~FakeRegistration() override { owner_.registered.extract(key_); }
+
+    private:
+        FakeHotKeys& owner_;
+        PhysicalKey key_;
+    };
+
+    std::function<void()> handler_;
+};
+
+/// A login item in memory, which can refuse.
+class FakeLoginItem : public LoginItem {
+public:
+    Status current = Status::notRegistered;
+    Status afterRegistering = Status::enabled;
+    bool refuses = false;
+    std::filesystem::path followed;
+
+    [[nodiscard]] Status status() const override { return current; }
+    bool registerItem() override {
+        if (!refuses) current = afterRegistering;
+        return !refuses;
+    }
+    bool unregisterItem() override {
+        if (!refuses) current = Status::notRegistered;
+        return !refuses;
+    }
+    void follow(const std::filesystem::path& executable) override { followed = executable; }
+};
+
+/// A desktop that does as it is told and remembers it.
+class FakeWorkspace : public Workspace {
+public:
+    std::vector<std::filesystem::path> running;
+    bool trashWorks = true;
+    /// What happened, in order: "trash PATH", "list PATH", "exit 0"...
+    std::vector<std::string> log;
+
+    [[nodiscard]] std::vector<std::filesystem::path>
+    runningApplications(std::string_view /*identifier*/) const override {
+        return running;
+    }
+    [[nodiscard]] QFuture<bool> trash(std::filesystem::path path) override {
+        log.push_back("trash " + path.native());
+        if (trashWorks) std::filesystem::remove_all(path);
+        return QtFuture::makeReadyFuture(trashWorks);
+    }
+    void listApplication(const std::filesystem::path& application) override {
+        log.push_back("list " + application.native());
+    }
+    void unlistApplication() override { log.emplace_back("unlist"); }
+    void activate() override { log.emplace_back("activate"); }
+    void openAfterExit(const std::filesystem::path& application) override {
+        log.push_back("open " + application.native());
+    }
+    void terminate() override { log.emplace_back("terminate"); }
+    void exitNow(int status) override { log.push_back("exit " + std::to_string(status)); }
+};
+
+} // namespace quillon::test
