@@ -29,7 +29,7 @@ void expectRun(const Finished& run, int code, const std::string& out, const std:
 
 TEST_F(EndToEnd, UnderstandsItsCommandLine) {
     const Finished help = quillon.run({"--help"});
-    EXPECT_THAT(help.out, HasSubstr("Usage: quillon COMMAND\n"));
+    EXPECT_THAT(help.out, HasSubstr("Usage: quillon [COMMAND]\n"));
     expectRun(help, 0, help.out, "");
     EXPECT_THAT(quillon.run({"--version"}).out, MatchesRegex("quillon [0-9]+\\.[0-9]+\\.[0-9]+\n"));
     const std::vector<std::vector<std::string>> mistakes{
