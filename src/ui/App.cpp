@@ -1,6 +1,7 @@
 #include "ui/App.h"
 
 #include "analytics/Analytics.h"
+#include "cli/SpokenBanner.h"
 #include "desktop/HUD.h"
 #include "platform/EmptyPasteboard.h"
 #include "platform/FileSystem.h"
@@ -12,6 +13,7 @@
 #include "platform/linux/X11Compositor.h"
 #include "platform/linux/X11Pasteboard.h"
 #include "state/Store.h"
+#include "ui/CommandService.h"
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -23,7 +25,8 @@ namespace quillon {
 
 namespace {
 
-constexpr int exitFailed = 1;
+/// Longer than a command takes, unless the network makes it wait.
+constexpr std::chrono::milliseconds lockPatience{5000};
 
 int failed(const char* reason) {
     std::cerr << reason << std::endl;
@@ -53,17 +56,25 @@ int App::run() {
     LinuxPlatform services{std::move(pasteboard)};
     Platform& platform = services.platform();
     platform.files.createFolder(platform.dataFolder);
-    const auto lock = FolderLock::take(platform.dataFolder);
+    const auto quit = [&platform] { platform.workspace.terminate(); };
+    // First the name, then the lock: who finds no name may have the lock for a moment, and who
+    // finds the name hands its command over.
+    CommandService service{quit};
+    if (service.publish() == CommandService::Publication::takenByAnother)
+        return failed(FolderLock::heldMessage);
+    const auto lock = FolderLock::take(platform.dataFolder, lockPatience);
     if (!lock) return failed(FolderLock::heldMessage);
 
     Analytics analytics{platform};
     const X11Compositor compositor;
     Store* settings = nullptr;
     HUD hud{platform.clock, compositor, [&settings] { return settings->config().bannerPosition; }};
-    Store store{platform, analytics, hud};
+    SpokenBanner banner{&hud};
+    Store store{platform, analytics, banner};
     settings = &store;
 
-    const QuitSignals signals{[&] { platform.workspace.terminate(); }};
+    service.serve({platform, analytics, store, banner, nullptr});
+    const QuitSignals signals{quit};
     QTimer::singleShot(0, &store, loadFont);
     return QApplication::exec();
 }
