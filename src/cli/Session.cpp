@@ -25,6 +25,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
+/// Longer than another command takes, unless the network makes it wait.
+constexpr std::chrono::milliseconds lockPatience = 5s;
+
 bool isVisible(const HUD& hud) {
     return hud.panel() != nullptr && hud.panel()->isVisible();
 }
@@ -75,9 +78,9 @@ int Session::run(Invocation invocation, Detach& detach) {
     LinuxPlatform services{std::move(pasteboard)};
     Platform& platform = services.platform();
     platform.files.createFolder(platform.dataFolder);
-    auto lock = FolderLock::take(platform.dataFolder, FolderLock::IfHeld::giveUp);
+    auto lock = FolderLock::take(platform.dataFolder);
     if (!lock) {
-        Terminal::printError("Another send is still running.");
+        Terminal::printError(FolderLock::heldMessage);
         return exitFailed;
     }
     Analytics analytics{platform};
@@ -102,9 +105,12 @@ int Session::run(Invocation invocation) {
     LinuxPlatform services{std::make_unique<EmptyPasteboard>()};
     Platform& platform = services.platform();
     platform.files.createFolder(platform.dataFolder);
-    std::optional<FolderLock> lock;
-    if (!onlyReads(invocation.command)) {
-        lock.emplace(*FolderLock::take(platform.dataFolder, FolderLock::IfHeld::wait));
+    const bool reads = onlyReads(invocation.command);
+    const auto lock =
+        reads ? std::optional<FolderLock>{} : FolderLock::take(platform.dataFolder, lockPatience);
+    if (!lock && !reads) {
+        Terminal::printError(FolderLock::heldMessage);
+        return exitFailed;
     }
     Analytics analytics{platform};
     SpokenBanner banner{nullptr};
