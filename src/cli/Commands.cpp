@@ -5,11 +5,13 @@
 #include "cli/RemoteProgram.h"
 #include "cli/Reports.h"
 #include "cli/SpokenBanner.h"
+#include "platform/LoginItem.h"
 #include "platform/Platform.h"
 #include "state/Store.h"
 
 #include <QCoroFuture>
 
+#include <array>
 #include <map>
 #include <memory>
 
@@ -97,9 +99,24 @@ QCoro::Task<int> history(CommandContext context, Invocation invocation) {
     co_return exitDone;
 }
 
-QCoro::Task<int> launchAtLogin(CommandContext /*context*/, Invocation /*invocation*/) {
-    throw TelegramError{"Not there yet."};
-    co_return exitFailed;
+/// In the order of LoginItem::Status.
+constexpr std::array loginStatusTexts{
+    "off", "on", "switched off in the desktop's settings",
+    "on, but what it would open is not there: switch it on again"};
+
+QCoro::Task<int> launchAtLogin(CommandContext context, Invocation invocation) {
+    const LoginItem& item = context.platform.loginItem;
+    if (invocation.argument == "status") {
+        context.console->print(loginStatusTexts.at(static_cast<std::size_t>(item.status())));
+        co_return exitDone;
+    }
+    const bool on = invocation.argument == "on";
+    context.store.setLaunchAtLogin(on);
+    if (item.status() != (on ? LoginItem::Status::enabled : LoginItem::Status::notRegistered)) {
+        throw TelegramError{on ? "Quillon could not be set to open at login."
+                               : "Quillon could not be kept from opening at login."};
+    }
+    co_return exitDone;
 }
 
 QCoro::Task<int> checkForUpdates(CommandContext /*context*/, Invocation /*invocation*/) {

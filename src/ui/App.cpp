@@ -11,6 +11,7 @@
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/QuitSignals.h"
 #include "platform/linux/X11Compositor.h"
+#include "platform/linux/X11HotKeys.h"
 #include "platform/linux/X11Pasteboard.h"
 #include "state/Store.h"
 #include "ui/CommandService.h"
@@ -40,6 +41,21 @@ void loadFont() {
         QFontMetrics{QApplication::font()}.horizontalAdvance(QLatin1Char('Q'));
 }
 
+void startUp(Platform& platform, Analytics& analytics, Store& store) {
+    platform.loginItem.follow(platform.bundle.executable);
+    analytics.start();
+    if (!store.started()) {
+        store.setStarted();
+        store.registerShortcut();
+    }
+    if (store.shortcutTaken()) {
+        std::cerr << keysText(store.config().shortcut)
+                  << " is already used by another app. Pick another shortcut in Settings."
+                  << std::endl;
+    }
+    loadFont();
+}
+
 } // namespace
 
 int App::run() {
@@ -53,7 +69,9 @@ int App::run() {
     QApplication application{argc, argv};
     QApplication::setQuitOnLastWindowClosed(false);
 
-    LinuxPlatform services{std::move(pasteboard)};
+    std::unique_ptr<HotKeys> hotKeys = X11HotKeys::open(nullptr);
+    if (!hotKeys) hotKeys = std::make_unique<NoHotKeys>();
+    LinuxPlatform services{std::move(pasteboard), std::move(hotKeys)};
     Platform& platform = services.platform();
     platform.files.createFolder(platform.dataFolder);
     const auto quit = [&platform] { platform.workspace.terminate(); };
@@ -75,7 +93,9 @@ int App::run() {
 
     service.serve({platform, analytics, store, banner, nullptr});
     const QuitSignals signals{quit};
-    QTimer::singleShot(0, &store, loadFont);
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &store,
+                     [&analytics] { analytics.flushBeforeQuit(); });
+    QTimer::singleShot(0, &store, [&] { startUp(platform, analytics, store); });
     return QApplication::exec();
 }
 
