@@ -3,6 +3,7 @@
 #include "cli/Session.h"
 #include "cli/Terminal.h"
 #include "platform/linux/Hardening.h"
+#include "platform/linux/LinuxBundle.h"
 #include "ui/App.h"
 
 #include <csignal>
@@ -23,7 +24,7 @@ int main(int argc, char** argv) {
         Terminal::printText(helpText());
         return exitDone;
     case Command::version:
-        Terminal::print("quillon " QUILLON_VERSION);
+        Terminal::print("quillon " + runningBundle().shortVersion());
         return exitDone;
     case Command::send:
         return Detach::run([&](Detach& detach) { return Session::run(*invocation, detach); });

@@ -97,6 +97,22 @@ std::optional<Invocation> parseCommandLine(const std::vector<std::string>& argum
     return std::nullopt;
 }
 
+std::string_view commandName(Command command) {
+    return std::ranges::find(rows(), command, &Row::command)->name;
+}
+
+bool worksOnState(Command command) {
+    switch (command) {
+    case Command::checkForUpdates:
+    case Command::uninstall:
+    case Command::help:
+    case Command::version:
+        return false;
+    default:
+        return true;
+    }
+}
+
 std::string helpText() {
     std::string text =
         "Quillon sends what you copy to your phone, through your own Telegram bot.\n\n"

@@ -3,8 +3,9 @@
 #include "analytics/Analytics.h"
 #include "cli/Commands.h"
 #include "cli/Detach.h"
+#include "cli/RemoteProgram.h"
 #include "cli/SpokenBanner.h"
-#include "cli/Terminal.h"
+#include "cli/TerminalConsole.h"
 #include "desktop/HUD.h"
 #include "desktop/HUDPanel.h"
 #include "platform/EmptyPasteboard.h"
@@ -61,6 +62,7 @@ QCoro::Task<> sendToExit(Invocation invocation, CommandContext context, const HU
 } // namespace
 
 int Session::run(Invocation invocation, Detach& detach) {
+    if (const auto code = RemoteProgram::run(invocation)) return *code;
     std::unique_ptr<Pasteboard> pasteboard = X11Pasteboard::open(nullptr);
     if (!pasteboard) {
         Terminal::printError("There is no clipboard to read: no X server answers.");
@@ -89,16 +91,18 @@ int Session::run(Invocation invocation, Detach& detach) {
     Store* settings = nullptr;
     HUD hud{platform.clock, compositor, [&settings] { return settings->config().bannerPosition; }};
     SpokenBanner banner{&hud};
+    const auto console = std::make_shared<TerminalConsole>();
     Store store{platform, analytics, banner};
     settings = &store;
 
     QTimer::singleShot(0, &store, [&] {
-        sendToExit(invocation, {platform, analytics, store, banner}, hud, *lock, detach);
+        sendToExit(invocation, {platform, analytics, store, banner, console}, hud, *lock, detach);
     });
     return QApplication::exec();
 }
 
 int Session::run(Invocation invocation) {
+    if (const auto code = RemoteProgram::run(invocation)) return *code;
     int argc = 1;
     char name[] = "quillon";
     char* argv[] = {name, nullptr};
@@ -115,10 +119,11 @@ int Session::run(Invocation invocation) {
     }
     Analytics analytics{platform};
     SpokenBanner banner{nullptr};
+    const auto console = std::make_shared<TerminalConsole>();
     Store store{platform, analytics, banner};
 
     QTimer::singleShot(0, &store, [&] {
-        runToExit(invocation, {platform, analytics, store, banner});
+        runToExit(invocation, {platform, analytics, store, banner, console});
     });
     return QCoreApplication::exec();
 }

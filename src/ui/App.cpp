@@ -1,6 +1,7 @@
 #include "ui/App.h"
 
 #include "analytics/Analytics.h"
+#include "cli/SpokenBanner.h"
 #include "desktop/HUD.h"
 #include "platform/EmptyPasteboard.h"
 #include "platform/FileSystem.h"
@@ -10,8 +11,10 @@
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/QuitSignals.h"
 #include "platform/linux/X11Compositor.h"
+#include "platform/linux/X11HotKeys.h"
 #include "platform/linux/X11Pasteboard.h"
 #include "state/Store.h"
+#include "ui/CommandService.h"
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -23,7 +26,8 @@ namespace quillon {
 
 namespace {
 
-constexpr int exitFailed = 1;
+/// Longer than a command takes, unless the network makes it wait.
+constexpr std::chrono::milliseconds lockPatience{5000};
 
 int failed(const char* reason) {
     std::cerr << reason << std::endl;
@@ -35,6 +39,21 @@ int failed(const char* reason) {
 void loadFont() {
     [[maybe_unused]] const int width =
         QFontMetrics{QApplication::font()}.horizontalAdvance(QLatin1Char('Q'));
+}
+
+void startUp(Platform& platform, Analytics& analytics, Store& store) {
+    platform.loginItem.follow(platform.bundle.executable);
+    analytics.start();
+    if (!store.started()) {
+        store.setStarted();
+        store.registerShortcut();
+    }
+    if (store.shortcutTaken()) {
+        std::cerr << keysText(store.config().shortcut)
+                  << " is already used by another app. Pick another shortcut in Settings."
+                  << std::endl;
+    }
+    loadFont();
 }
 
 } // namespace
@@ -50,21 +69,33 @@ int App::run() {
     QApplication application{argc, argv};
     QApplication::setQuitOnLastWindowClosed(false);
 
-    LinuxPlatform services{std::move(pasteboard)};
+    std::unique_ptr<HotKeys> hotKeys = X11HotKeys::open(nullptr);
+    if (!hotKeys) hotKeys = std::make_unique<NoHotKeys>();
+    LinuxPlatform services{std::move(pasteboard), std::move(hotKeys)};
     Platform& platform = services.platform();
     platform.files.createFolder(platform.dataFolder);
-    const auto lock = FolderLock::take(platform.dataFolder);
+    const auto quit = [&platform] { platform.workspace.terminate(); };
+    // First the name, then the lock: who finds no name may have the lock for a moment, and who
+    // finds the name hands its command over.
+    CommandService service{quit};
+    if (service.publish() == CommandService::Publication::takenByAnother)
+        return failed(FolderLock::heldMessage);
+    const auto lock = FolderLock::take(platform.dataFolder, lockPatience);
     if (!lock) return failed(FolderLock::heldMessage);
 
     Analytics analytics{platform};
     const X11Compositor compositor;
     Store* settings = nullptr;
     HUD hud{platform.clock, compositor, [&settings] { return settings->config().bannerPosition; }};
-    Store store{platform, analytics, hud};
+    SpokenBanner banner{&hud};
+    Store store{platform, analytics, banner};
     settings = &store;
 
-    const QuitSignals signals{[&] { platform.workspace.terminate(); }};
-    QTimer::singleShot(0, &store, loadFont);
+    service.serve({platform, analytics, store, banner, nullptr});
+    const QuitSignals signals{quit};
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &store,
+                     [&analytics] { analytics.flushBeforeQuit(); });
+    QTimer::singleShot(0, &store, [&] { startUp(platform, analytics, store); });
     return QApplication::exec();
 }
 

@@ -137,4 +137,28 @@ TEST_F(HotKey, LeavesAKeyToWhoeverHasIt) {
     startAndWait(keyV);
 }
 
+TEST_F(EndToEnd, HandsCommandsToTheProgramThatRuns) {
+    const auto program = quillon.start({});
+    EXPECT_TRUE(waitUntil(Program::hasName));
+    EXPECT_EQ(quillon.run({}).code, 1) << "one is enough";
+    const auto expectOutput = [&](const std::vector<std::string>& arguments,
+                                  const std::string& expected, const std::string& input = {}) {
+        EXPECT_EQ(quillon.run(arguments, input).out, expected) << arguments.front();
+    };
+    expectOutput({"connect"}, "Connected to quillon_demo_bot\n", std::string{token} + "\nmore");
+    phone.userSays(group, "hi");
+    expectOutput({"find-group"}, "Found “Family”\n");
+    expectOutput({"create-topics"}, "📝 Notes & text\n📸 Images\n📎 Files\n🎬 Videos\n");
+    EXPECT_EQ(Json::parse(quillon.run({"status", "--json"}).out)["ready"], true);
+    EXPECT_EQ(quillon.run({"send"}).err, "The clipboard is empty\n");
+    clipboard.copyText("a");
+    // It would wait for the data folder, and then fail, if it were to do it itself.
+    expectOutput({"send"}, "sent\t📝 Notes & text\ta\n");
+    EXPECT_EQ(quillon.run({"rename-topics"}).code, 0);
+    EXPECT_EQ(Program::processes().size(), 1) << "no other shows the banner";
+    program->terminate();
+    EXPECT_EQ(Program::finish(*program).code, 0);
+    EXPECT_THAT(quillon.run({"history"}).out, HasSubstr("\ta\n")) << "and what it did stays";
+}
+
 } // namespace quillon::test

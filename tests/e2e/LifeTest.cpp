@@ -159,7 +159,8 @@ TEST_F(EndToEnd, SendsTwiceAtATime) {
     const auto one = Program::finish(*first);
     const auto other = Program::finish(*second);
     EXPECT_EQ(one.code + other.code, 1) << "one sends, the other is turned away";
-    EXPECT_EQ(one.err + other.err, "Another Quillon is at work. Quit it, or wait until it is done.\n");
+    EXPECT_EQ(one.err + other.err,
+              "Another Quillon is at work. Quit it, or wait until it is done.\n");
     EXPECT_THAT(messages("📎 Files"), SizeIs(1));
     EXPECT_THAT(Json::parse(quillon.run({"history", "--json"}).out), SizeIs(1));
 }
