@@ -39,8 +39,9 @@ QCoro::Task<> untilHidden(const HUD& hud, Clock& clock) {
     }
 }
 
-bool onlyReads(Command command) {
-    return command == Command::status || command == Command::history;
+bool onlyReads(const Invocation& invocation) {
+    return invocation.command == Command::status || invocation.command == Command::history ||
+           (invocation.command == Command::launchAtLogin && invocation.argument == "status");
 }
 
 QCoro::Task<> runToExit(Invocation invocation, CommandContext context) {
@@ -109,7 +110,7 @@ int Session::run(Invocation invocation) {
     LinuxPlatform services{std::make_unique<EmptyPasteboard>()};
     Platform& platform = services.platform();
     platform.files.createFolder(platform.dataFolder);
-    const bool reads = onlyReads(invocation.command);
+    const bool reads = onlyReads(invocation);
     const auto lock =
         reads ? std::optional<FolderLock>{} : FolderLock::take(platform.dataFolder, lockPatience);
     if (!lock && !reads) {
