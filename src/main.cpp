@@ -4,6 +4,7 @@
 #include "cli/Terminal.h"
 #include "platform/linux/Hardening.h"
 #include "platform/linux/LinuxBundle.h"
+#include "ui/App.h"
 
 #include <csignal>
 
@@ -12,6 +13,7 @@ int main(int argc, char** argv) {
     keepOutOfCoreDumps();
     std::signal(SIGPIPE, SIG_IGN);
 
+    if (argc == 1) return App::run();
     const auto invocation = parseCommandLine({argv + 1, argv + argc});
     if (!invocation) {
         Terminal::printErrorText(helpText());

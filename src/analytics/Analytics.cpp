@@ -41,6 +41,11 @@ std::optional<std::string_view> Analytics::sizeBucket(std::int64_t bytes) {
     return std::nullopt;
 }
 
+void Analytics::stopPersisting() {
+    persist_ = false;
+    timer_.reset(); // a heartbeat would write the preferences anew
+}
+
 const EventQueue& Analytics::queue() {
     return loadedQueue();
 }

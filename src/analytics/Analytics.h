@@ -1,8 +1,13 @@
 #pragma once
 
 #include "analytics/EventQueue.h"
+#include "platform/Clock.h"
 
+#include <QCoroTask>
+
+#include <chrono>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,8 +16,9 @@ namespace quillon {
 
 struct Platform;
 
-/// Records anonymous usage events in a queue on disk. Never what was copied: a send is described by
-/// kind, count, outcome and a coarse size alone. Errors are dropped. Main thread only.
+/// Records anonymous usage events in a queue on disk, and delivers them to the makers' server where
+/// there is one. Never what was copied: a send is described by kind, count, outcome and a coarse
+/// size alone. Errors are dropped. Main thread only.
 class Analytics {
 public:
     explicit Analytics(const Platform& platform);
@@ -23,19 +29,49 @@ public:
     /// The bucket of an item's size in bytes; none from 50,000,000 bytes.
     [[nodiscard]] static std::optional<std::string_view> sizeBucket(std::int64_t bytes);
 
-    /// Ends all recording for good, before the application's data is removed.
-    void stopPersisting() { persist_ = false; }
+    /// Ends all recording and delivery for good, before the application's data is removed.
+    void stopPersisting();
+
+    /// Records that the application was opened, and from then on a heartbeat every minute and a
+    /// delivery every quarter of an hour, the first after a minute. Does nothing the second time.
+    void start();
+
+    /// Records "daily_active" unless that was done on this day of the user's time zone.
+    void heartbeat();
+
+    /// Delivers the queue in batches, until it is empty or a batch fails, which stays queued. Does
+    /// nothing while a delivery is under way. The task need not be kept.
+    QCoro::Task<> flushNow();
+
+    /// Delivers one last batch, and blocks for at most 3 seconds. A delivery under way is waited
+    /// for first, within these: its events are not sent again if they arrive.
+    void flushBeforeQuit();
 
     /// The events not yet delivered; read from disk on first use.
     [[nodiscard]] const EventQueue& queue();
 
 private:
+    struct Batch;
+
     EventQueue& loadedQueue();
     void save();
+
+    void armTimer();
+    void tick();
+    [[nodiscard]] bool canDeliver();
+    /// Sends the front of the queue. An empty `accept` leaves that header out.
+    [[nodiscard]] Batch post(std::string accept, std::chrono::seconds timeout);
+    /// Takes a batch that was answered out of the queue, if it was delivered; tells whether it was.
+    bool settle(const Batch& batch);
 
     const Platform& platform_;
     std::optional<EventQueue> queue_;
     bool persist_ = true;
+    std::unique_ptr<Clock::Timer> timer_;
+    /// When the last delivery started.
+    std::optional<Clock::Time> lastFlush_;
+    /// What flushNow() waits for.
+    std::shared_ptr<Batch> inFlight_;
 };
 
 } // namespace quillon

@@ -9,43 +9,33 @@ EventQueue EventQueue::decode(std::string_view bytes) {
     if (!array || !array->is_array()) return {};
     EventQueue queue;
     for (const Json& element : *array) {
-        std::optional<Event> event = Event::fromJson(element);
+        const std::optional<Event> event = Event::fromJson(element);
         if (!event) return {};
-        queue.append(std::move(*event));
+        queue.append(*event);
     }
     return queue;
 }
 
-std::string EventQueue::encode() const {
+std::string EventQueue::encode(std::size_t count) const {
     std::string array;
     array.reserve(jsonSize_ + entries_.size() + 2);
-    for (const Entry& entry : entries_) {
+    for (std::size_t index = 0; index < std::min(count, entries_.size()); ++index) {
         array += array.empty() ? '[' : ',';
-        array += entry.json;
+        array += entries_[index];
     }
     return array.empty() ? "[]" : array + ']';
 }
 
-void EventQueue::append(Event event) {
-    std::string json = writeJson(event.toJson());
-    jsonSize_ += json.size();
-    entries_.push_back({.event = std::move(event), .json = std::move(json)});
+void EventQueue::append(const Event& event) {
+    jsonSize_ += entries_.emplace_back(writeJson(event.toJson())).size();
     if (entries_.size() > limit) removeFirst(entries_.size() - limit);
 }
 
 void EventQueue::removeFirst(std::size_t count) {
     for (count = std::min(count, entries_.size()); count > 0; --count) {
-        jsonSize_ -= entries_.front().json.size();
+        jsonSize_ -= entries_.front().size();
         entries_.pop_front();
     }
-}
-
-std::vector<Event> EventQueue::first(std::size_t count) const {
-    std::vector<Event> events;
-    for (std::size_t index = 0; index < std::min(count, entries_.size()); ++index) {
-        events.push_back(entries_[index].event);
-    }
-    return events;
 }
 
 } // namespace quillon

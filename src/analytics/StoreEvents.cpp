@@ -53,6 +53,10 @@ void Store::trackSettings(const Config& old) {
     }
 }
 
+void Store::trackLaunchAtLogin(bool opens) {
+    analytics_.track("settings_changed", {{"setting", "launch_at_login"}, {"value", opens}});
+}
+
 void Store::trackSend(const std::vector<SendInfo>& items, const std::string& via) {
     if (items.empty()) return;
     const bool ok =

@@ -70,6 +70,13 @@ std::string_view trimmedSpaces(std::string_view text) {
     return trimmedOf(text, isSpace);
 }
 
+std::string_view trimmedControls(std::string_view text) {
+    return trimmedOf(text, [](UChar32 codePoint) {
+        const int category = u_charType(codePoint);
+        return category == U_CONTROL_CHAR || category == U_FORMAT_CHAR;
+    });
+}
+
 std::string_view firstLine(std::string_view text) {
     std::size_t begin = 0;
     for (std::size_t offset = 0; offset < text.size();) {

@@ -15,6 +15,9 @@ namespace quillon {
 /// Without spaces and tabs (category Zs and U+0009, no line breaks) at both ends.
 [[nodiscard]] std::string_view trimmedSpaces(std::string_view text);
 
+/// Without control and format characters (categories Cc and Cf, line breaks included) at both ends.
+[[nodiscard]] std::string_view trimmedControls(std::string_view text);
+
 /// The first non-empty line, untrimmed; the whole text when every line is empty. Lines end at
 /// U+000A to U+000D, U+0085, U+2028 and U+2029.
 [[nodiscard]] std::string_view firstLine(std::string_view text);

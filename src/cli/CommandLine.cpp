@@ -57,16 +57,20 @@ const std::vector<Row>& rows() {
     return rows;
 }
 
-/// The row of the word that is a command, when there is just one.
-const Row* commandAmong(const std::vector<std::string>& words) {
-    const Row* found = nullptr;
-    for (const std::string& word : words) {
-        const auto row = std::ranges::find(rows(), word, &Row::name);
-        if (row == rows().end()) continue;
-        if (found) return nullptr;
-        found = &*row;
+/// The command of this word with the others as what follows it; none where they make no such
+/// command.
+std::optional<Invocation> commandAt(std::size_t place, const std::vector<std::string>& words) {
+    const auto row = std::ranges::find(rows(), words[place], &Row::name);
+    if (row == rows().end()) return std::nullopt;
+    Invocation invocation{.command = row->command, .argument = {}};
+    for (std::size_t other = 0; other < words.size(); ++other) {
+        if (other == place) continue;
+        if (std::ranges::find(row->arguments, words[other]) == row->arguments.end())
+            return std::nullopt;
+        invocation.argument = words[other];
     }
-    return found;
+    if (row->needsArgument && invocation.argument.empty()) return std::nullopt;
+    return invocation;
 }
 
 /// "launch-at-login on|off|status", "status [--json]"
@@ -85,16 +89,28 @@ constexpr std::size_t usageWidth = 29;
 } // namespace
 
 std::optional<Invocation> parseCommandLine(const std::vector<std::string>& arguments) {
-    const Row* row = commandAmong(arguments);
-    if (!row || arguments.size() > 2) return std::nullopt;
-    Invocation invocation{.command = row->command, .argument = {}};
-    for (const std::string& word : arguments) {
-        if (word == row->name) continue;
-        if (std::ranges::find(row->arguments, word) == row->arguments.end()) return std::nullopt;
-        invocation.argument = word;
+    if (arguments.size() > 2) return std::nullopt;
+    // What follows one command may be the name of another.
+    for (std::size_t place = 0; place < arguments.size(); ++place) {
+        if (auto invocation = commandAt(place, arguments)) return invocation;
     }
-    if (row->needsArgument && invocation.argument.empty()) return std::nullopt;
-    return invocation;
+    return std::nullopt;
+}
+
+std::string_view commandName(Command command) {
+    return std::ranges::find(rows(), command, &Row::command)->name;
+}
+
+bool worksOnState(Command command) {
+    switch (command) {
+    case Command::checkForUpdates:
+    case Command::uninstall:
+    case Command::help:
+    case Command::version:
+        return false;
+    default:
+        return true;
+    }
 }
 
 std::string helpText() {

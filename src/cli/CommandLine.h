@@ -41,6 +41,12 @@ enum ExitCode { exitDone = 0, exitFailed = 1, exitUsage = 2 };
 /// Reads the arguments after the program's name; none when they make no command.
 [[nodiscard]] std::optional<Invocation> parseCommandLine(const std::vector<std::string>& arguments);
 
+/// The word that makes the command.
+[[nodiscard]] std::string_view commandName(Command command);
+
+/// Whether the command works on the program's state, which a program that runs has in its hands.
+[[nodiscard]] bool worksOnState(Command command);
+
 /// What --help prints.
 [[nodiscard]] std::string helpText();
 

@@ -1,18 +1,19 @@
 #include "cli/Commands.h"
 
 #include "base/Text.h"
+#include "cli/Console.h"
+#include "cli/RemoteProgram.h"
 #include "cli/Reports.h"
 #include "cli/SpokenBanner.h"
-#include "cli/Terminal.h"
 #include "cli/TerminalAlerts.h"
 #include "maintenance/Uninstaller.h"
-#include "platform/Clock.h"
+#include "platform/LoginItem.h"
 #include "platform/Platform.h"
 #include "state/Store.h"
 
 #include <QCoroFuture>
 
-#include <chrono>
+#include <array>
 #include <map>
 #include <memory>
 
@@ -20,61 +21,57 @@ namespace quillon {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-/// A shorter send shows no progress.
-constexpr std::chrono::milliseconds progressPatience = 700ms;
-
 QCoro::Task<int> send(CommandContext context, Invocation /*invocation*/) {
     const std::size_t before = context.store.history().size();
-    // Shared, since the transport may tell its last figures when the send is over.
-    const auto progress = std::make_shared<Terminal::Progress>();
-    context.store.setSendProgress(
-        [progress](qint64 sent, qint64 total) { progress->update(sent, total); });
-    const auto shown =
-        context.platform.clock.after(progressPatience, [progress] { progress->show(); });
+    context.banner.forget();
+    context.store.setSendProgress([console = context.console](qint64 sent, qint64 total) {
+        console->uploading(sent, total);
+    });
     co_await context.store.sendClipboard("command");
     context.store.setSendProgress({});
-    progress->end();
+    context.console->uploaded();
 
     const std::vector<Sent>& history = context.store.history();
     const auto added = static_cast<std::ptrdiff_t>(history.size() - before);
-    // Nothing was sent at all: the banner told why.
-    if (added == 0) throw TelegramError{context.banner.problem().value_or("Nothing was sent.")};
+    // Nothing was sent at all: the banner told why, unless the shortcut came first.
+    if (added == 0) {
+        throw TelegramError{context.banner.problem().value_or("Another send is still running.")};
+    }
 
     int code = exitDone;
     // The newest entry stands first, the items were sent in the opposite order.
     for (auto entry = history.rend() - added; entry != history.rend(); ++entry) {
-        Terminal::print(sendLine(*entry));
+        context.console->print(sendLine(*entry));
         if (!entry->error) continue;
-        Terminal::printError(*entry->error);
+        context.console->printError(*entry->error);
         code = exitFailed;
     }
     co_return code;
 }
 
 QCoro::Task<int> connect(CommandContext context, Invocation /*invocation*/) {
-    const std::string token = Terminal::readSecret("Bot token: ").value_or("");
+    const std::string token = context.console->readSecret(RemoteProgram::tokenPrompt).value_or("");
     const std::string name = co_await context.store.connectBot(token);
     // The next command can only have it from there.
     const std::optional<std::string> kept = co_await context.platform.secrets.read(botTokenItem());
     if (kept != trimmed(token)) {
         throw TelegramError{"The bot answers, but no keyring could keep its token."};
     }
-    Terminal::print("Connected to " + name);
+    context.console->print("Connected to " + name);
     co_return exitDone;
 }
 
 QCoro::Task<int> findGroup(CommandContext context, Invocation /*invocation*/) {
     co_await context.store.findGroup();
-    Terminal::print("Found “" + context.store.config().chatTitle.value_or("your group") + "”");
+    context.console->print("Found “" + context.store.config().chatTitle.value_or("your group") +
+                           "”");
     co_return exitDone;
 }
 
 QCoro::Task<int> createTopics(CommandContext context, Invocation /*invocation*/) {
     co_await context.store.createTopics();
     for (const Topic& topic : context.store.config().topics) {
-        Terminal::print(topic.name);
+        context.console->print(topic.name);
     }
     co_return exitDone;
 }
@@ -93,19 +90,35 @@ QCoro::Task<int> forget(CommandContext context, Invocation /*invocation*/) {
 }
 
 QCoro::Task<int> status(CommandContext context, Invocation invocation) {
-    Terminal::printText(invocation.json() ? statusJson(context.store) : statusText(context.store));
+    context.console->printText(invocation.json() ? statusJson(context.store)
+                                                 : statusText(context.store));
     co_return exitDone;
 }
 
 QCoro::Task<int> history(CommandContext context, Invocation invocation) {
     const std::vector<Sent>& entries = context.store.history();
-    Terminal::printText(invocation.json() ? historyJson(entries) : historyText(entries));
+    context.console->printText(invocation.json() ? historyJson(entries) : historyText(entries));
     co_return exitDone;
 }
 
-QCoro::Task<int> launchAtLogin(CommandContext /*context*/, Invocation /*invocation*/) {
-    throw TelegramError{"Not there yet."};
-    co_return exitFailed;
+/// In the order of LoginItem::Status.
+constexpr std::array loginStatusTexts{
+    "off", "on", "switched off in the desktop's settings",
+    "on, but what it would open is not there: switch it on again"};
+
+QCoro::Task<int> launchAtLogin(CommandContext context, Invocation invocation) {
+    const LoginItem& item = context.platform.loginItem;
+    if (invocation.argument == "status") {
+        context.console->print(loginStatusTexts.at(static_cast<std::size_t>(item.status())));
+        co_return exitDone;
+    }
+    const bool on = invocation.argument == "on";
+    context.store.setLaunchAtLogin(on);
+    if (item.status() != (on ? LoginItem::Status::enabled : LoginItem::Status::notRegistered)) {
+        throw TelegramError{on ? "Quillon could not be set to open at login."
+                               : "Quillon could not be kept from opening at login."};
+    }
+    co_return exitDone;
 }
 
 QCoro::Task<int> checkForUpdates(CommandContext /*context*/, Invocation /*invocation*/) {
@@ -116,8 +129,10 @@ QCoro::Task<int> checkForUpdates(CommandContext /*context*/, Invocation /*invoca
 QCoro::Task<int> uninstall(CommandContext context, Invocation /*invocation*/) {
     TerminalAlerts alerts;
     Uninstaller uninstaller{context.platform, context.store, context.analytics, alerts};
-    co_await uninstaller.run(
-        [] { Terminal::print("Quillon and all it has stored are gone; the app is in the Trash"); });
+    const std::function<void()> tell = [console = context.console] {
+        console->print("Quillon and all it has stored are gone; the app is in the Trash");
+    };
+    co_await uninstaller.run(tell);
     // The process has ended.
     co_return exitDone;
 }
@@ -147,7 +162,7 @@ QCoro::Task<int> runCommand(Invocation invocation, CommandContext context) {
     } catch (const std::exception& error) {
         // A TelegramError says the sentence for the user; anything else, such as memory running
         // out, at least does not pass in silence.
-        Terminal::printError(error.what());
+        context.console->printError(error.what());
         co_return exitFailed;
     }
 }

@@ -3,8 +3,9 @@
 #include "analytics/Analytics.h"
 #include "cli/Commands.h"
 #include "cli/Detach.h"
+#include "cli/RemoteProgram.h"
 #include "cli/SpokenBanner.h"
-#include "cli/Terminal.h"
+#include "cli/TerminalConsole.h"
 #include "desktop/HUD.h"
 #include "desktop/HUDPanel.h"
 #include "platform/EmptyPasteboard.h"
@@ -25,6 +26,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
+/// Longer than another command takes, unless the network makes it wait.
+constexpr std::chrono::milliseconds lockPatience = 5s;
+
 bool isVisible(const HUD& hud) {
     return hud.panel() != nullptr && hud.panel()->isVisible();
 }
@@ -35,8 +39,9 @@ QCoro::Task<> untilHidden(const HUD& hud, Clock& clock) {
     }
 }
 
-bool onlyReads(Command command) {
-    return command == Command::status || command == Command::history;
+bool onlyReads(const Invocation& invocation) {
+    return invocation.command == Command::status || invocation.command == Command::history ||
+           (invocation.command == Command::launchAtLogin && invocation.argument == "status");
 }
 
 QCoro::Task<> runToExit(Invocation invocation, CommandContext context) {
@@ -57,6 +62,7 @@ QCoro::Task<> sendToExit(Invocation invocation, CommandContext context, const HU
 } // namespace
 
 int Session::run(Invocation invocation, Detach& detach) {
+    if (const auto code = RemoteProgram::run(invocation)) return *code;
     std::unique_ptr<Pasteboard> pasteboard = X11Pasteboard::open(nullptr);
     if (!pasteboard) {
         Terminal::printError("There is no clipboard to read: no X server answers.");
@@ -75,9 +81,9 @@ int Session::run(Invocation invocation, Detach& detach) {
     LinuxPlatform services{std::move(pasteboard)};
     Platform& platform = services.platform();
     platform.files.createFolder(platform.dataFolder);
-    auto lock = FolderLock::take(platform.dataFolder, FolderLock::IfHeld::giveUp);
+    auto lock = FolderLock::take(platform.dataFolder);
     if (!lock) {
-        Terminal::printError("Another send is still running.");
+        Terminal::printError(FolderLock::heldMessage);
         return exitFailed;
     }
     Analytics analytics{platform};
@@ -85,16 +91,18 @@ int Session::run(Invocation invocation, Detach& detach) {
     Store* settings = nullptr;
     HUD hud{platform.clock, compositor, [&settings] { return settings->config().bannerPosition; }};
     SpokenBanner banner{&hud};
+    const auto console = std::make_shared<TerminalConsole>();
     Store store{platform, analytics, banner};
     settings = &store;
 
     QTimer::singleShot(0, &store, [&] {
-        sendToExit(invocation, {platform, analytics, store, banner}, hud, *lock, detach);
+        sendToExit(invocation, {platform, analytics, store, banner, console}, hud, *lock, detach);
     });
     return QApplication::exec();
 }
 
 int Session::run(Invocation invocation) {
+    if (const auto code = RemoteProgram::run(invocation)) return *code;
     int argc = 1;
     char name[] = "quillon";
     char* argv[] = {name, nullptr};
@@ -102,16 +110,20 @@ int Session::run(Invocation invocation) {
     LinuxPlatform services{std::make_unique<EmptyPasteboard>()};
     Platform& platform = services.platform();
     platform.files.createFolder(platform.dataFolder);
-    std::optional<FolderLock> lock;
-    if (!onlyReads(invocation.command)) {
-        lock.emplace(*FolderLock::take(platform.dataFolder, FolderLock::IfHeld::wait));
+    const bool reads = onlyReads(invocation);
+    const auto lock =
+        reads ? std::optional<FolderLock>{} : FolderLock::take(platform.dataFolder, lockPatience);
+    if (!lock && !reads) {
+        Terminal::printError(FolderLock::heldMessage);
+        return exitFailed;
     }
     Analytics analytics{platform};
     SpokenBanner banner{nullptr};
+    const auto console = std::make_shared<TerminalConsole>();
     Store store{platform, analytics, banner};
 
     QTimer::singleShot(0, &store, [&] {
-        runToExit(invocation, {platform, analytics, store, banner});
+        runToExit(invocation, {platform, analytics, store, banner, console});
     });
     return QCoreApplication::exec();
 }

@@ -6,8 +6,8 @@ namespace quillon {
 
 class Detach;
 
-/// Builds the program's objects for one command, carries it out and gives the exit code. A process
-/// has one session at the most.
+/// Carries out one command and gives its exit code: has the program do it that runs already, else
+/// builds the program's objects for it. A process has one session at the most.
 class Session {
 public:
     /// `detach` is told when the command is done but its banner still shows or its sound still

@@ -8,7 +8,7 @@
 namespace quillon {
 
 /// Passes banners on to the one on screen, where there is a screen, and remembers the last bad news
-/// for the terminal.
+/// for a command.
 class SpokenBanner : public Banner {
 public:
     /// `onScreen` may be null.
@@ -16,6 +16,8 @@ public:
 
     void show(std::string text, std::string symbol, bool ok, bool sticky) override;
 
+    /// Forgets the last banner.
+    void forget() { problem_.reset(); }
     /// The text of the last banner, when that told of a problem.
     [[nodiscard]] const std::optional<std::string>& problem() const { return problem_; }
 

@@ -16,6 +16,7 @@ namespace quillon {
 struct HttpRequest {
     /// May hold the bot token: nothing prints, logs or throws it.
     std::string url;
+    /// One with an empty value is left out, even where the transport would add it by itself.
     std::vector<std::pair<std::string, std::string>> headers;
     /// Sent one after another as one body; the bytes are shared, never copied.
     std::vector<QByteArray> body;

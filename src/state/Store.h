@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,6 +22,7 @@ namespace quillon {
 
 class Analytics;
 class Banner;
+class Hotkey;
 struct Platform;
 
 /// The bot token's place in the keyring, the only place where it persists.
@@ -71,10 +73,25 @@ public:
     /// Connected, with a bot token: sending can work.
     [[nodiscard]] bool isReady() const;
 
+    /// Another program has the shortcut, so that it does not work.
+    [[nodiscard]] bool shortcutTaken() const { return shortcutTaken_; }
+    /// Whether start-up has registered the shortcut, which it does once.
+    [[nodiscard]] bool started() const { return started_; }
+    void setStarted() { started_ = true; }
+    /// Whether the program opens when the user logs in; asks the desktop each time.
+    [[nodiscard]] bool launchAtLogin() const;
+
     /// Ends all writing for good, before the application's data is removed.
     void stopPersisting() { persist_ = false; }
     /// Whoever wants to show how far an upload has come; told on the main thread.
     void setSendProgress(SendProgress progress) { sendProgress_ = std::move(progress); }
+
+    /// Makes the shortcut of the settings the one that sends, and tells by shortcutTaken() whether
+    /// that worked.
+    void registerShortcut();
+    /// Has the desktop open the program at login, or no longer. A failure passes in silence:
+    /// launchAtLogin() tells what it came to.
+    void setLaunchAtLogin(bool opens);
 
     /// Sends what is on the clipboard. `via` names the trigger for the usage events: "shortcut",
     /// "button" or "command". Reports by banner, sound and history; never throws. Ignored while
@@ -128,6 +145,7 @@ private:
     /// Hooks that turn changes and sends into usage events.
     void trackSettings(const Config& old);
     void trackSend(const std::vector<SendInfo>& items, const std::string& via);
+    void trackLaunchAtLogin(bool opens);
 
     Platform& platform_;
     Analytics& analytics_;
@@ -143,6 +161,10 @@ private:
     /// Grows whenever the user connects or forgets a bot.
     int tokenChanges_ = 0;
     SendProgress sendProgress_;
+    /// Shared only because it is not known here how to delete one.
+    std::shared_ptr<Hotkey> hotkey_;
+    bool shortcutTaken_ = false;
+    bool started_ = false;
 };
 
 } // namespace quillon

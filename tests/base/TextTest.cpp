@@ -44,6 +44,7 @@ TEST(Text, TrimsTheWhiteSpaceItSays) {
     EXPECT_EQ(trimmed("\u200Bx"), "\u200Bx") << "a zero-width space is no white space";
     EXPECT_EQ(trimmedSpaces("\u00A0\t x \u3000"), "x");
     EXPECT_EQ(trimmedSpaces("\n x \n"), "\n x \n") << "line breaks stay";
+    EXPECT_EQ(trimmedControls("\n\uFEFF x\n"), " x") << "spaces stay";
     EXPECT_EQ(trimmed("\xFF \xFF"), "\xFF \xFF") << "invalid bytes are no space";
 }
 

@@ -12,6 +12,8 @@ TEST(CommandLine, UnderstandsOneCommandAndItsOption) {
     EXPECT_EQ(parseCommandLine({"history", "--json"}), (Invocation{Command::history, "--json"}));
     EXPECT_EQ(parseCommandLine({"launch-at-login", "off"}),
               (Invocation{Command::launchAtLogin, "off"}));
+    EXPECT_EQ(parseCommandLine({"launch-at-login", "status"}),
+              (Invocation{Command::launchAtLogin, "status"}));
     EXPECT_EQ(parseCommandLine({"check-for-updates"}), (Invocation{Command::checkForUpdates, ""}));
     const std::vector<std::vector<std::string>> misunderstood{{},
                                                               {""},

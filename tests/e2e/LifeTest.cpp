@@ -33,7 +33,7 @@ TEST_F(EndToEnd, UnderstandsItsCommandLine) {
     expectRun(help, 0, help.out, "");
     EXPECT_THAT(quillon.run({"--version"}).out, MatchesRegex("quillon [0-9]+\\.[0-9]+\\.[0-9]+\n"));
     const std::vector<std::vector<std::string>> mistakes{
-        {}, {"sned"}, {""}, {"send", "--json"}, {"status", "history"}, {"connect", token}};
+        {"sned"}, {""}, {"send", "--json"}, {"status", "history"}, {"connect", token}};
     for (const auto& mistake : mistakes)
         expectRun(quillon.run(mistake), 2, "", help.out);
     EXPECT_THAT(phone.requests(), IsEmpty());
@@ -159,7 +159,8 @@ TEST_F(EndToEnd, SendsTwiceAtATime) {
     const auto one = Program::finish(*first);
     const auto other = Program::finish(*second);
     EXPECT_EQ(one.code + other.code, 1) << "one sends, the other is turned away";
-    EXPECT_EQ(one.err + other.err, "Another send is still running.\n");
+    EXPECT_EQ(one.err + other.err,
+              "Another Quillon is at work. Quit it, or wait until it is done.\n");
     EXPECT_THAT(messages("📎 Files"), SizeIs(1));
     EXPECT_THAT(Json::parse(quillon.run({"history", "--json"}).out), SizeIs(1));
 }

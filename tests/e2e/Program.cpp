@@ -2,6 +2,8 @@
 
 #include "support/Await.h"
 
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -127,6 +129,11 @@ std::vector<int> Program::processes() {
         if (number && commandLine(id).starts_with(wanted)) found.push_back(id);
     }
     return found;
+}
+
+bool Program::hasName() {
+    return QDBusConnection::sessionBus().interface()->isServiceRegistered(
+        QStringLiteral("dev.vostrel.quillon"));
 }
 
 void Copier::copy(const std::string& format, const QByteArray& content) {

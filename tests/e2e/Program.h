@@ -45,6 +45,9 @@ public:
     /// All processes of the program, by id.
     [[nodiscard]] static std::vector<int> processes();
 
+    /// Whether a program of the session takes commands.
+    [[nodiscard]] static bool hasName();
+
     QProcessEnvironment environment;
 };
 

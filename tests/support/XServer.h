@@ -14,13 +14,14 @@ namespace quillon::test {
 /// An X server without a screen, on a free display, for as long as the object lives.
 class XServer {
 public:
-    XServer() {
+    explicit XServer(const QStringList& options = {}) {
         // A test program that crashes leaves no server behind.
         process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
         process_.setStandardErrorFile(QProcess::nullDevice());
-        process_.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1"),
-                                                QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-                                                QStringLiteral("-noreset")});
+        const QStringList usual{QStringLiteral("-displayfd"), QStringLiteral("1"),
+                                QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+                                QStringLiteral("-noreset")};
+        process_.start(QStringLiteral("Xvfb"), usual + options);
         while (!process_.canReadLine() && process_.waitForReadyRead(20'000)) {
         }
         display_ = ":" + process_.readLine().trimmed();

@@ -40,9 +40,9 @@ bool CurlTransfer::setHeaders() {
     // A server that knows "Expect" would make each upload wait for one more round trip.
     std::vector<std::string> lines{"Expect:"};
     for (const auto& [name, value] : request_.headers) {
-        std::string& line = lines.emplace_back(name);
-        // libcurl takes "Name:" as an order to leave the header out, "Name;" as an empty header.
-        value.empty() ? line.append(";") : line.append(": ").append(value);
+        // libcurl takes "Name:" as an order to leave the header out, its own "Accept" included.
+        std::string& line = lines.emplace_back(name).append(":");
+        if (!value.empty()) line.append(" ").append(value);
     }
     for (const std::string& line : lines) {
         curl_slist* longer = curl_slist_append(headers_.get(), line.c_str());

@@ -6,6 +6,9 @@
 
 namespace quillon {
 
+/// The file name of the program's desktop entries.
+inline constexpr const char* desktopEntryName = "dev.vostrel.quillon.desktop";
+
 /// Writes the entry with which desktops list the application, so that it starts this application
 /// folder's program. A failure is ignored.
 void writeApplicationEntry(const Folders& folders, const std::filesystem::path& application);

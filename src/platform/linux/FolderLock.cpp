@@ -1,6 +1,7 @@
 #include "platform/linux/FolderLock.h"
 
 #include <cerrno>
+#include <thread>
 #include <utility>
 
 #include <fcntl.h>
@@ -9,14 +10,23 @@
 
 namespace quillon {
 
-std::optional<FolderLock> FolderLock::take(const std::filesystem::path& folder, IfHeld ifHeld) {
+namespace {
+
+constexpr std::chrono::milliseconds retryInterval{20};
+
+} // namespace
+
+std::optional<FolderLock> FolderLock::take(const std::filesystem::path& folder,
+                                           std::chrono::milliseconds patience) {
     FolderLock lock{open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
-    const int operation = ifHeld == IfHeld::wait ? LOCK_EX : LOCK_EX | LOCK_NB;
-    int result = 0;
-    do {
-        result = flock(lock.descriptor_, operation);
-    } while (result != 0 && errno == EINTR);
-    if (result != 0 && errno == EWOULDBLOCK) return std::nullopt;
+    // Asked again and again, since flock itself knows no time-out.
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (flock(lock.descriptor_, LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EINTR) continue;
+        if (errno != EWOULDBLOCK) break;
+        if (std::chrono::steady_clock::now() >= end) return std::nullopt;
+        std::this_thread::sleep_for(retryInterval);
+    }
     return lock;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 
@@ -9,11 +10,13 @@ namespace quillon {
 /// however that ends. Where the file system knows no locks, every process has its own way.
 class FolderLock {
 public:
-    enum class IfHeld { wait, giveUp };
+    /// What to tell whoever was turned away.
+    static constexpr const char* heldMessage =
+        "Another Quillon is at work. Quit it, or wait until it is done.";
 
-    /// None when another process holds the folder and this one is not to wait.
+    /// Waits for at most `patience`; none when another process holds the folder for longer.
     [[nodiscard]] static std::optional<FolderLock> take(const std::filesystem::path& folder,
-                                                        IfHeld ifHeld);
+                                                        std::chrono::milliseconds patience = {});
     FolderLock(FolderLock&& other) noexcept;
     FolderLock(const FolderLock&) = delete;
     FolderLock& operator=(const FolderLock&) = delete;

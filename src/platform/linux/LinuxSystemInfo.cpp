@@ -38,7 +38,7 @@ SystemInfo linuxSystemInfo() {
     SystemInfo info{.version = threeNumbers(kernel.release),
                     .locale = QLocale::system().name().toStdString(),
                     .productName = {},
-                    .hardwareModel = kernel.machine};
+                    .hardwareModel = kernel.sysname};
     for (const char* file : productNameFiles) {
         const FileReading reading = PosixFileSystem{}.read(file, maximumNameSize);
         if (reading.outcome != FileReading::Outcome::read) continue;

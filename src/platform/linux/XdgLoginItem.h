@@ -7,11 +7,12 @@
 
 namespace quillon {
 
-/// Opening at login through an XDG autostart entry.
+/// Opening at login through an entry in the user's autostart folder, as freedesktop.org's Desktop
+/// Application Autostart Specification has it. The user and the desktop may edit the entry.
 class XdgLoginItem final : public LoginItem {
 public:
     /// `executable` is the program where it is now.
-    XdgLoginItem(Folders folders, std::filesystem::path executable);
+    XdgLoginItem(const Folders& folders, std::filesystem::path executable);
 
     [[nodiscard]] Status status() const override;
     bool registerItem() override;
@@ -19,7 +20,7 @@ public:
     void follow(const std::filesystem::path& executable) override;
 
 private:
-    Folders folders_;
+    std::filesystem::path file_;
     std::filesystem::path executable_;
 };
 

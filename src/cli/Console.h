@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <QtGlobal>
+
+namespace quillon {
+
+/// What a command says and asks, wherever whoever gave it sits.
+class Console {
+public:
+    virtual ~Console() = default;
+
+    /// One line of output or of error output.
+    virtual void print(std::string_view line) = 0;
+    virtual void printError(std::string_view line) = 0;
+    /// Text with line breaks of its own.
+    virtual void printText(std::string_view text) = 0;
+
+    /// What was typed, or else came on standard input, for `prompt`, without being shown; none when
+    /// nothing came.
+    [[nodiscard]] virtual std::optional<std::string> readSecret(std::string_view prompt) = 0;
+
+    /// How far an upload has come, in bytes. May still come when the upload is over.
+    virtual void uploading(qint64 sent, qint64 total) = 0;
+    virtual void uploaded() = 0;
+};
+
+} // namespace quillon

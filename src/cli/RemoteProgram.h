@@ -1,0 +1,25 @@
+#pragma once
+
+#include "cli/CommandLine.h"
+
+#include <optional>
+
+namespace quillon {
+
+/// The program that runs already, as the session bus leads to it.
+namespace RemoteProgram {
+
+inline constexpr const char* busName = "dev.vostrel.quillon";
+inline constexpr const char* objectPath = "/dev/vostrel/quillon";
+inline constexpr const char* interfaceName = "dev.vostrel.quillon";
+
+/// The prompt with which a command asks for the bot's token.
+inline constexpr const char* tokenPrompt = "Bot token: ";
+
+/// Has the running program carry out the command, prints what it says and gives the exit code. None
+/// when no program runs, or when the command is one that this process has to carry out itself.
+[[nodiscard]] std::optional<int> run(const Invocation& invocation);
+
+} // namespace RemoteProgram
+
+} // namespace quillon

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "cli/Console.h"
+#include "cli/Terminal.h"
+
+#include <memory>
+
+namespace quillon {
+
+/// The console of this process: standard input and output.
+class TerminalConsole final : public Console {
+public:
+    void print(std::string_view line) override { Terminal::print(line); }
+    void printError(std::string_view line) override { Terminal::printError(line); }
+    void printText(std::string_view text) override { Terminal::printText(text); }
+    [[nodiscard]] std::optional<std::string> readSecret(std::string_view prompt) override {
+        return Terminal::readSecret(prompt);
+    }
+    /// Shows a line of progress once an upload has taken 0.7 s.
+    void uploading(qint64 sent, qint64 total) override;
+    void uploaded() override { progress_->end(); }
+
+private:
+    /// Shared with the timer that shows it.
+    std::shared_ptr<Terminal::Progress> progress_ = std::make_shared<Terminal::Progress>();
+    bool begun_ = false;
+};
+
+} // namespace quillon

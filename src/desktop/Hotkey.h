@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/HotKeys.h"
+#include "state/ShortcutChoice.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+namespace quillon {
+
+/// The one combination of keys that does something wherever the user is. Main thread only; it
+/// lives no longer than the hot keys that it is made of.
+class Hotkey : public QObject {
+public:
+    explicit Hotkey(HotKeys& hotKeys) : hotKeys_{hotKeys} {}
+
+    /// Makes the choice the combination in place of the one before, which works no longer even when
+    /// this is refused, and has `action` called each time it is pressed, from the event loop.
+    /// False when the combination was refused.
+    [[nodiscard]] bool registerChoice(ShortcutChoice choice, std::function<void()> action);
+
+private:
+    void installHandler();
+    void act() const;
+
+    HotKeys& hotKeys_;
+    std::unique_ptr<HotKeys::Registration> ref_;
+    std::function<void()> action_;
+    bool handlerInstalled_ = false;
+};
+
+} // namespace quillon

@@ -1,0 +1,121 @@
+#include "ui/CommandService.h"
+
+#include "cli/Console.h"
+#include "cli/RemoteProgram.h"
+#include "cli/Terminal.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+
+#include <array>
+#include <utility>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quillon {
+
+namespace {
+
+/// More than any token has, in bytes.
+constexpr std::size_t maximumInput = 4096;
+
+/// The first line of a file; anything but a regular file, which never makes its reader wait, has
+/// none.
+std::optional<std::string> firstLine(const QDBusUnixFileDescriptor& file) {
+    struct stat status {};
+    if (::fstat(file.fileDescriptor(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    std::array<char, maximumInput> bytes{};
+    const ssize_t count = ::pread(file.fileDescriptor(), bytes.data(), bytes.size(), 0);
+    if (count <= 0) return std::nullopt;
+    const std::string text{bytes.data(), static_cast<std::size_t>(count)};
+    return text.substr(0, text.find('\n'));
+}
+
+/// Remembers what a command says, for the process that handed it over.
+class DistantConsole final : public Console {
+public:
+    DistantConsole(QDBusUnixFileDescriptor input, std::function<void(qint64, qint64)> progress)
+        : input_{std::move(input)},
+          progress_{std::move(progress)} {}
+
+    std::string output;
+    std::string errors;
+
+    void print(std::string_view line) override { output += Terminal::harmless(line) + '\n'; }
+    void printError(std::string_view line) override { errors += Terminal::harmless(line) + '\n'; }
+    void printText(std::string_view text) override { output += text; }
+    [[nodiscard]] std::optional<std::string> readSecret(std::string_view /*prompt*/) override {
+        return firstLine(input_);
+    }
+    void uploading(qint64 sent, qint64 total) override {
+        if (progress_) progress_(sent, total);
+    }
+    void uploaded() override { progress_ = {}; }
+
+private:
+    QDBusUnixFileDescriptor input_;
+    std::function<void(qint64, qint64)> progress_;
+};
+
+} // namespace
+
+CommandService::CommandService(std::function<void()> quit) : quit_{std::move(quit)} {}
+
+CommandService::Publication CommandService::publish() {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) return Publication::noBus;
+    // First the object: whoever sees the name may call at once.
+    bus.registerObject(QLatin1String{RemoteProgram::objectPath}, this,
+                       QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
+    if (bus.registerService(QLatin1String{RemoteProgram::busName})) return Publication::done;
+    return bus.interface()->isServiceRegistered(QLatin1String{RemoteProgram::busName})
+               ? Publication::takenByAnother
+               : Publication::noBus;
+}
+
+void CommandService::serve(CommandContext context) {
+    context_.emplace(std::move(context));
+    work();
+}
+
+int CommandService::Run(const QString& command, const QString& argument,
+                        const QDBusUnixFileDescriptor& input, QString& /*output*/,
+                        QString& /*errors*/) {
+    std::vector<std::string> words{command.toStdString()};
+    if (!argument.isEmpty()) words.push_back(argument.toStdString());
+    const auto invocation = parseCommandLine(words);
+    if (!invocation || !worksOnState(invocation->command)) {
+        sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("That is no command."));
+        return exitUsage;
+    }
+    setDelayedReply(true);
+    calls_.push_back({.invocation = *invocation, .input = input, .message = message()});
+    work();
+    return exitDone;
+}
+
+void CommandService::Quit() {
+    quit_();
+}
+
+QCoro::Task<> CommandService::work() {
+    if (!context_ || working_) co_return;
+    working_ = true;
+    while (!calls_.empty()) {
+        const Call call = std::move(calls_.front());
+        calls_.pop_front();
+        const auto console = std::make_shared<DistantConsole>(
+            call.input, [this](qint64 sent, qint64 total) { Q_EMIT Progress(sent, total); });
+        CommandContext context = *context_;
+        context.console = console;
+        const int code = co_await runCommand(call.invocation, context);
+        QDBusConnection::sessionBus().send(
+            call.message.createReply({code, QString::fromStdString(console->output),
+                                      QString::fromStdString(console->errors)}));
+    }
+    working_ = false;
+}
+
+} // namespace quillon

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "cli/Commands.h"
+
+#include <QDBusContext>
+#include <QDBusMessage>
+#include <QDBusUnixFileDescriptor>
+#include <QObject>
+
+#include <deque>
+#include <functional>
+#include <optional>
+
+namespace quillon {
+
+/// Carries out, one after another, the commands that other processes of the program hand over on
+/// the session bus. The name on the bus also makes this program the session's only one.
+class CommandService : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "dev.vostrel.quillon")
+
+public:
+    enum class Publication {
+        done,
+        takenByAnother, ///< another program of the session has the name
+        noBus,
+    };
+
+    explicit CommandService(std::function<void()> quit);
+
+    /// Takes the name. Commands wait from now on.
+    [[nodiscard]] Publication publish();
+    /// Carries out what waits and what comes. The context's console is not used: each command has
+    /// one of its own.
+    void serve(CommandContext context);
+
+public Q_SLOTS:
+    /// A command with its argument, as the command line takes them, and with what it reads from
+    /// standard input. Gives the exit code, and what went to standard output and standard error.
+    int Run(const QString& command, const QString& argument, const QDBusUnixFileDescriptor& input,
+            QString& output, QString& errors);
+    void Quit();
+
+Q_SIGNALS:
+    /// How many bytes of the command's upload have gone out.
+    void Progress(qlonglong sent, qlonglong total);
+
+private:
+    struct Call {
+        Invocation invocation;
+        QDBusUnixFileDescriptor input;
+        QDBusMessage message;
+    };
+
+    QCoro::Task<> work();
+
+    std::optional<CommandContext> context_;
+    std::function<void()> quit_;
+    std::deque<Call> calls_;
+    bool working_ = false;
+};
+
+} // namespace quillon

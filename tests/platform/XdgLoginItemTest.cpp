@@ -1,0 +1,180 @@
+#include "platform/linux/XdgLoginItem.h"
+
+#include "platform/linux/DesktopEntries.h"
+#include "platform/linux/DesktopEntry.h"
+#include "platform/linux/PosixFileSystem.h"
+
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+#include <sys/stat.h>
+
+namespace quillon::test {
+
+namespace {
+
+using std::filesystem::path;
+using testing::HasSubstr;
+using testing::Not;
+
+class XdgLoginItemTest : public testing::Test {
+protected:
+    [[nodiscard]] std::string content() const { return read(file); }
+    [[nodiscard]] std::string read(const path& name) const {
+        return files.read(name, 1'000'000).bytes.toStdString();
+    }
+    void write(const std::string& text) const {
+        files.createFolder(file.parent_path());
+        files.write(file, QByteArray::fromStdString(text));
+    }
+    /// A program that can be started.
+    [[nodiscard]] path program(const std::string& name) const {
+        const path made = home / name;
+        files.createFolder(made.parent_path());
+        files.write(made, {});
+        std::filesystem::permissions(made, std::filesystem::perms::owner_all);
+        return made;
+    }
+
+    QTemporaryDir folder;
+    PosixFileSystem files;
+    const path home = folder.path().toStdString();
+    const Folders folders{.home = home,
+                          .data = home / "data",
+                          .cache = home / "cache",
+                          .state = home / "state",
+                          .config = home / "config"};
+    const path file = home / "config/autostart/dev.vostrel.quillon.desktop";
+};
+
+} // namespace
+
+TEST_F(XdgLoginItemTest, StartsAProgramOfAnyNameThatAnEntryCanHold) {
+    struct Case {
+        const char* name;
+        const char* exec; ///< behind the home folder; null when refused
+    };
+    constexpr Case cases[]{
+        {"quillon", "quillon"},
+        {"my apps/100 %u", R"(my apps/100 %%u")"},
+        {"50%", "50%%"},
+        {R"(a"b`c$d)", R"(a\\"b\\`c\\$d")"},
+        {R"(back\slash)", R"(back\\\\slash")"},
+        {R"(back\\n)", R"(back\\\\\\\\n")"},
+        {"it's (new)", "it's (new)\""},
+        {"caf\xc3\xa9", "caf\xc3\xa9"},
+        {"caf\xe9", nullptr},
+        {"two\nlines", nullptr},
+        {"a=b", nullptr},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.name);
+        const path executable = program(each.name);
+        XdgLoginItem item{folders, executable};
+        EXPECT_EQ(item.registerItem(), each.exec != nullptr);
+        if (each.exec) {
+            const std::string quote = std::string_view{each.exec}.ends_with('"') ? "\"" : "";
+            EXPECT_THAT(content(),
+                        HasSubstr("\nExec=" + quote + home.native() + "/" + each.exec + "\n"));
+            EXPECT_EQ(item.status(), LoginItem::Status::enabled);
+            std::filesystem::remove(executable);
+            EXPECT_EQ(item.status(), LoginItem::Status::notFound);
+        }
+        EXPECT_TRUE(item.unregisterItem());
+        EXPECT_EQ(item.status(), LoginItem::Status::notRegistered);
+        std::filesystem::remove(executable);
+    }
+    EXPECT_FALSE((XdgLoginItem{folders, "quillon"}.registerItem()));
+}
+
+TEST_F(XdgLoginItemTest, UnderstandsWhatOthersHaveWritten) {
+    using enum LoginItem::Status;
+    const std::string exec = "Exec=" + program("quillon").native() + "\n";
+    const std::string start = "[Desktop Entry]\n";
+    const std::pair<std::string, LoginItem::Status> cases[]{
+        {start + exec, enabled},
+        {start + "Exec = \"" + home.native() + "/quillon\" --quiet %U\r\n", enabled},
+        {start + "Exec=sh -c true\n", enabled},
+        {start + "Exec=no-such-program-anywhere\n", notFound},
+        {start + "Exec=" + home.native() + "\n", notFound},
+        {start + "Exec=\"" + home.native() + "/quillon\n", notFound},
+        {start + "Exec=\n", notFound},
+        {start, notFound},
+        {start + exec + "Hidden=true\r\n", requiresApproval},
+        {start + exec + "Hidden=false\n#Hidden=true\nHidden[de]=true\n", enabled},
+        {start + exec + "X-GNOME-Autostart-enabled = false", requiresApproval},
+        {start + exec + "X-GNOME-Autostart-enabled=true\n[Other]\nHidden=true\n", enabled},
+        {"[Other]\nHidden=true\n" + start + exec, enabled},
+        {start + "Hidden=true\n", requiresApproval},
+        {std::string(1000, '\0') + "\n[\n=\n", notFound},
+        {"", notFound},
+        {start + exec + std::string(200'000, '#'), notRegistered},
+    };
+    const XdgLoginItem item{folders, "/nowhere"};
+    for (const auto& [text, status] : cases) {
+        write(text);
+        EXPECT_EQ(item.status(), status) << text.substr(0, 300);
+    }
+}
+
+TEST_F(XdgLoginItemTest, ChangesAnEntryNoMoreThanItMust) {
+    const std::string before = "# mine\r\n[Desktop Entry]\r\nName=Q\r\nName[de]=K\r\n"
+                               "Exec=/old %U\r\nTryExec=/old\r\nHidden=true\r\n\r\n"
+                               "[Desktop Action x]\r\nExec=/other\r\n";
+    const path executable = program("new place");
+    XdgLoginItem item{folders, "/nowhere"};
+    item.follow(executable);
+    EXPECT_FALSE(std::filesystem::exists(file));
+    write(before);
+    item.follow(executable);
+    const std::string name = home.native() + "/new place";
+    std::string after = "# mine\r\n[Desktop Entry]\r\nName=Q\r\nName[de]=K\r\n"
+                        "Exec=\"" +
+                        name + "\"\r\nTryExec=" + name +
+                        "\r\nHidden=true\r\n\r\n"
+                        "[Desktop Action x]\r\nExec=/other\r\n";
+    EXPECT_EQ(content(), after);
+    EXPECT_EQ(item.status(), LoginItem::Status::requiresApproval);
+    EXPECT_TRUE(item.registerItem());
+    EXPECT_EQ(content(), after.erase(after.find("Hidden=true\r\n"), 13));
+    EXPECT_EQ(item.status(), LoginItem::Status::enabled);
+
+    write("[Desktop Entry]\nName=Q\n\n[Other]\n");
+    item.follow(executable);
+    EXPECT_EQ(content(), "[Desktop Entry]\nName=Q\nExec=\"" + name + "\"\n\n[Other]\n");
+    for (const char* unusable : {"", "Hidden=true\n", "[Desktop Entry]\n"}) {
+        write(unusable);
+        EXPECT_TRUE(item.registerItem());
+        EXPECT_EQ(item.status(), LoginItem::Status::enabled) << unusable;
+    }
+}
+
+TEST_F(XdgLoginItemTest, LeavesAloneWhatIsNoFile) {
+    XdgLoginItem item{folders, program("quillon")};
+    files.createFolder(file.parent_path());
+    ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0);
+    EXPECT_EQ(item.status(), LoginItem::Status::notRegistered);
+    EXPECT_FALSE(item.registerItem());
+    EXPECT_TRUE(item.unregisterItem());
+    files.createFolder(file);
+    EXPECT_EQ(item.status(), LoginItem::Status::notRegistered);
+    EXPECT_FALSE(item.registerItem());
+    EXPECT_FALSE(item.unregisterItem());
+}
+
+TEST_F(XdgLoginItemTest, ListsTheApplicationWithTheIconItHas) {
+    const path entry = home / "data/applications/dev.vostrel.quillon.desktop";
+    const path application = home / "My Apps/Quillon.app";
+    writeApplicationEntry(folders, application);
+    EXPECT_THAT(read(entry), HasSubstr("\nIcon=dev.vostrel.quillon\n"));
+    const path icon = program("My Apps/Quillon.app/Contents/Resources/dev.vostrel.quillon.svg");
+    writeApplicationEntry(folders, application);
+    EXPECT_THAT(read(entry), HasSubstr("\nIcon=" + icon.native() + "\n"));
+    EXPECT_THAT(read(entry),
+                HasSubstr("\nExec=\"" + application.native() + "/Contents/Linux/quillon\"\n"));
+    removeApplicationEntry(folders);
+    EXPECT_FALSE(std::filesystem::exists(entry));
+}
+
+} // namespace quillon::test
