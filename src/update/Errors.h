@@ -15,6 +15,7 @@ enum UpdateFailureCode {
     updateDownloadFailed = 2102,
     updateLengthWrong = 2103,
     updateSignatureWrong = 2104,
+    updateDownloadNotStored = 2105,
     updateArchiveDamaged = 3000,
     updateArchiveAbsolutePath = 3001,
     updateArchiveParentPath = 3002,
@@ -27,16 +28,14 @@ enum UpdateFailureCode {
     updateOtherVersion = 3102,
     updateNotNewer = 3103,
     updateDoesNotRun = 3104,
-    updateDiskFull = 4000,
-    updateExchangeImpossible = 4000,
     updateInstalling = 4001,
 };
 
 /// The error of this UpdateErrorCode or UpdateFailureCode, with its sentence for the user.
 [[nodiscard]] UpdateError updateError(int code);
 
-/// The error of a system call that changes files where the application lies: its sentence tells
-/// what stood in the way, its code is one of UpdateErrorCode.
+/// The error of a system call that changes files where the application lies, by its errno: the code
+/// is one of UpdateErrorCode, and the sentence tells what stood in the way.
 [[nodiscard]] UpdateError fileError(int systemError);
 
 } // namespace quillon

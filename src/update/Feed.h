@@ -23,13 +23,16 @@ struct FeedItem {
     std::string minimumSystemVersion;
     /// The archive; allowed as isAllowedUrl has it.
     std::string url;
-    /// Of the archive, in bytes; more than 0.
+    /// Of the archive, in bytes; from 1 to maximumArchiveSize.
     qint64 length = 0;
     /// Of all the archive's bytes.
     Signature signature{};
 
     bool operator==(const FeedItem&) const = default;
 };
+
+/// The largest archive that is fetched, in bytes.
+inline constexpr qint64 maximumArchiveSize = 500'000'000;
 
 /// A feed with more items than this is refused.
 inline constexpr std::size_t maximumFeedItems = 10'000;
