@@ -5,6 +5,7 @@
 #include "desktop/HUD.h"
 #include "maintenance/AppMover.h"
 #include "maintenance/MessageBoxAlerts.h"
+#include "maintenance/Updater.h"
 #include "platform/FileSystem.h"
 #include "platform/LoginItem.h"
 #include "platform/UserDefaults.h"
@@ -17,6 +18,8 @@
 #include "platform/linux/X11Pasteboard.h"
 #include "state/Store.h"
 #include "ui/CommandService.h"
+#include "update/BundleUpdater.h"
+#include "update/windows/UpdateWindows.h"
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -44,13 +47,15 @@ void loadFont() {
 }
 
 /// In the order that the parts need each other: a program that moves itself starts nothing here.
-QCoro::Task<> startUp(Platform& platform, AppMover& mover, Analytics& analytics, Store& store) {
+QCoro::Task<> startUp(Platform& platform, AppMover& mover, Analytics& analytics, Updater& updater,
+                      Store& store) {
     if (mover.shouldAsk() && !platform.defaults.flag(AppMover::declinedKey).value_or(false)) {
         const bool moved = co_await mover.ask();
         if (moved) co_return;
     }
     platform.loginItem.follow(platform.bundle.executable);
     analytics.start();
+    updater.start();
     if (!store.started()) {
         store.setStarted();
         store.registerShortcut();
@@ -101,10 +106,18 @@ int App::run() {
     service.serve({platform, analytics, store, banner, nullptr});
     MessageBoxAlerts alerts;
     AppMover mover{platform, alerts};
+    UpdateWindows updateWindows;
+    Updater updater{
+        platform,
+        analytics,
+        {.makeFramework = [&] { return std::make_unique<BundleUpdater>(platform, updateWindows); },
+         .shouldAskToMove = [&] { return mover.shouldAsk(); },
+         .askToMove = [&] { return mover.ask(); },
+         .log = {}}};
     const QuitSignals signals{quit};
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &store,
                      [&analytics] { analytics.flushBeforeQuit(); });
-    QTimer::singleShot(0, &store, [&] { startUp(platform, mover, analytics, store); });
+    QTimer::singleShot(0, &store, [&] { startUp(platform, mover, analytics, updater, store); });
     return QApplication::exec();
 }
 
