@@ -5,6 +5,8 @@
 #include "cli/RemoteProgram.h"
 #include "cli/Reports.h"
 #include "cli/SpokenBanner.h"
+#include "cli/TerminalAlerts.h"
+#include "maintenance/Uninstaller.h"
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
 #include "state/Store.h"
@@ -124,9 +126,15 @@ QCoro::Task<int> checkForUpdates(CommandContext /*context*/, Invocation /*invoca
     co_return exitFailed;
 }
 
-QCoro::Task<int> uninstall(CommandContext /*context*/, Invocation /*invocation*/) {
-    throw TelegramError{"Not there yet."};
-    co_return exitFailed;
+QCoro::Task<int> uninstall(CommandContext context, Invocation /*invocation*/) {
+    TerminalAlerts alerts;
+    Uninstaller uninstaller{context.platform, context.store, context.analytics, alerts};
+    const std::function<void()> tell = [console = context.console] {
+        console->print("Quillon and all it has stored are gone; the app is in the Trash");
+    };
+    co_await uninstaller.run(tell);
+    // The process has ended.
+    co_return exitDone;
 }
 
 using Action = QCoro::Task<int> (*)(CommandContext, Invocation);

@@ -3,9 +3,11 @@
 #include "analytics/Analytics.h"
 #include "cli/SpokenBanner.h"
 #include "desktop/HUD.h"
-#include "platform/EmptyPasteboard.h"
+#include "maintenance/AppMover.h"
+#include "maintenance/MessageBoxAlerts.h"
 #include "platform/FileSystem.h"
 #include "platform/LoginItem.h"
+#include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 #include "platform/linux/FolderLock.h"
 #include "platform/linux/LinuxPlatform.h"
@@ -41,7 +43,12 @@ void loadFont() {
         QFontMetrics{QApplication::font()}.horizontalAdvance(QLatin1Char('Q'));
 }
 
-void startUp(Platform& platform, Analytics& analytics, Store& store) {
+/// In the order that the parts need each other: a program that moves itself starts nothing here.
+QCoro::Task<> startUp(Platform& platform, AppMover& mover, Analytics& analytics, Store& store) {
+    if (mover.shouldAsk() && !platform.defaults.flag(AppMover::declinedKey).value_or(false)) {
+        const bool moved = co_await mover.ask();
+        if (moved) co_return;
+    }
     platform.loginItem.follow(platform.bundle.executable);
     analytics.start();
     if (!store.started()) {
@@ -92,10 +99,12 @@ int App::run() {
     settings = &store;
 
     service.serve({platform, analytics, store, banner, nullptr});
+    MessageBoxAlerts alerts;
+    AppMover mover{platform, alerts};
     const QuitSignals signals{quit};
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &store,
                      [&analytics] { analytics.flushBeforeQuit(); });
-    QTimer::singleShot(0, &store, [&] { startUp(platform, analytics, store); });
+    QTimer::singleShot(0, &store, [&] { startUp(platform, mover, analytics, store); });
     return QApplication::exec();
 }
 

@@ -60,6 +60,8 @@ protected:
     }
 
     void TearDown() override {
+        if (program) program->terminate();
+        if (program) program->waitForFinished();
         window.kill();
         window.waitForFinished();
         runTool("setxkbmap", "us");
@@ -79,6 +81,7 @@ protected:
         EXPECT_TRUE(waitUntil(heard));
         waitUntil([&] { return false; }, 500ms); // for a press it has heard late
         seen = notes();
+        window.readAllStandardOutput(); // which has the presses that came too early
     }
 
     void expectSends(std::size_t count, const std::string& what) {
@@ -113,9 +116,9 @@ TEST_F(HotKey, SendsFromAnyWindowWhateverTheLayout) {
 
     press(keyP);
     expectSends(0, "another key");
-    const std::string others = window.readAllStandardOutput().toStdString();
-    EXPECT_THAT(others, HasSubstr("keycode 33")) << "which goes to the window";
-    EXPECT_THAT(others, testing::Not(HasSubstr("keycode 55")));
+    const QByteArray others = window.readAllStandardOutput();
+    EXPECT_TRUE(others.contains("keycode 33")) << "it goes to the window";
+    EXPECT_FALSE(others.contains("keycode 55")) << "the window hears the shortcut as well";
 }
 
 TEST_F(HotKey, LeavesAKeyToWhoeverHasIt) {

@@ -16,7 +16,8 @@ using std::filesystem::path;
 /// A property list of ours has 1 KB; a larger file than this, in bytes, is none.
 constexpr qint64 maximumPropertyListSize = 1'000'000;
 
-/// The application folder that has this program; none when it lies elsewhere.
+} // namespace
+
 std::optional<path> applicationFolder(const path& program) {
     const path inside{bundleProgram};
     path folder = program;
@@ -25,8 +26,6 @@ std::optional<path> applicationFolder(const path& program) {
     if (folder.extension() != ".app" || folder / inside != program) return std::nullopt;
     return folder;
 }
-
-} // namespace
 
 std::map<std::string, std::string, std::less<>> parsePropertyList(const QByteArray& xml) {
     std::map<std::string, std::string, std::less<>> values;

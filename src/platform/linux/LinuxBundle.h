@@ -11,6 +11,10 @@ inline constexpr const char* bundleProgram = "Contents/Linux/quillon";
 /// Where it has its property list.
 inline constexpr const char* bundlePropertyList = "Contents/Info.plist";
 
+/// The application folder that has this program; none when it lies elsewhere.
+[[nodiscard]] std::optional<std::filesystem::path>
+applicationFolder(const std::filesystem::path& program);
+
 /// The bundle of the running program. Outside an application folder it has the identifier and the
 /// version that the program was built with, and nothing else.
 [[nodiscard]] Bundle runningBundle();

@@ -1,11 +1,19 @@
 #include "platform/linux/LinuxWorkspace.h"
 
 #include "platform/linux/DesktopEntries.h"
+#include "platform/linux/LinuxBundle.h"
+#include "platform/linux/Relaunch.h"
+#include "platform/linux/RunningPrograms.h"
+#include "platform/linux/Trash.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTimer>
+#include <QWindow>
+#include <QtConcurrentRun>
 
 #include <cstdlib>
+#include <iostream>
 #include <utility>
 
 namespace quillon {
@@ -13,12 +21,17 @@ namespace quillon {
 LinuxWorkspace::LinuxWorkspace(Folders folders) : folders_{std::move(folders)} {}
 
 std::vector<std::filesystem::path>
-LinuxWorkspace::runningApplications(std::string_view /*identifier*/) const {
-    return {};
+LinuxWorkspace::runningApplications(std::string_view identifier) const {
+    std::vector<std::filesystem::path> applications;
+    for (const auto& program : runningPrograms()) {
+        const auto folder = applicationFolder(program);
+        if (folder && bundleAt(*folder).identifier() == identifier) applications.push_back(*folder);
+    }
+    return applications;
 }
 
-QFuture<bool> LinuxWorkspace::trash(std::filesystem::path /*path*/) {
-    return QtFuture::makeReadyFuture(false);
+QFuture<bool> LinuxWorkspace::trash(std::filesystem::path path) {
+    return QtConcurrent::run([path, data = folders_.data] { return moveToTrash(path, data); });
 }
 
 void LinuxWorkspace::listApplication(const std::filesystem::path& application) {
@@ -29,15 +42,25 @@ void LinuxWorkspace::unlistApplication() {
     removeApplicationEntry(folders_);
 }
 
-void LinuxWorkspace::activate() {}
+void LinuxWorkspace::activate() {
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return;
+    for (QWindow* window : QGuiApplication::topLevelWindows()) {
+        if (!window->isVisible() || (window->flags() & Qt::WindowDoesNotAcceptFocus)) continue;
+        window->raise();
+        window->requestActivate();
+    }
+}
 
-void LinuxWorkspace::openAfterExit(const std::filesystem::path& /*application*/) {}
+void LinuxWorkspace::openAfterExit(const std::filesystem::path& application) {
+    quillon::openAfterExit(application);
+}
 
 void LinuxWorkspace::terminate() {
     QTimer::singleShot(0, QCoreApplication::instance(), [] { QCoreApplication::quit(); });
 }
 
 void LinuxWorkspace::exitNow(int status) {
+    std::cout.flush();
     std::_Exit(status);
 }
 

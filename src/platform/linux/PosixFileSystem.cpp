@@ -1,5 +1,7 @@
 #include "platform/linux/PosixFileSystem.h"
 
+#include "platform/linux/Descriptor.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,7 +13,6 @@
 #include <cstdlib>
 #include <optional>
 #include <string>
-#include <utility>
 
 namespace quillon {
 
@@ -24,36 +25,6 @@ constexpr mode_t ownersFolder = S_IRWXU;
 
 /// How much is asked for beyond the size a file claims to have, in bytes.
 constexpr size_t probeSize = 4096;
-
-/// Repeats a system call for as long as a signal interrupts it.
-template <typename Call>
-auto uninterrupted(Call call) {
-    auto result = call();
-    while (result == -1 && errno == EINTR)
-        result = call();
-    return result;
-}
-
-/// An open file, closed with its owner.
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_{number} {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() { close(); }
-
-    [[nodiscard]] int number() const { return number_; }
-    [[nodiscard]] bool isOpen() const { return number_ >= 0; }
-
-    /// False when the system could not write what it had taken. Linux closes even when interrupted.
-    bool close() {
-        const int number = std::exchange(number_, -1);
-        return number < 0 || ::close(number) == 0 || errno == EINTR;
-    }
-
-private:
-    int number_;
-};
 
 FileReading failed(FileReading::Outcome outcome, qint64 size = 0) {
     FileReading reading;

@@ -1,0 +1,94 @@
+#include "maintenance/Uninstaller.h"
+
+#include "analytics/Analytics.h"
+#include "maintenance/Alerts.h"
+#include "platform/FileTree.h"
+#include "platform/LoginItem.h"
+#include "platform/Platform.h"
+#include "platform/SecretStore.h"
+#include "platform/UserDefaults.h"
+#include "platform/Workspace.h"
+#include "state/Store.h"
+
+#include <QCoroFuture>
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+using std::filesystem::path;
+
+constexpr const char* fixedIdentifier = "dev.vostrel.quillon";
+
+/// What an identifier is made of (reverse domain name, ASCII).
+bool belongsInIdentifier(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '.' ||
+           c == '-';
+}
+
+/// Whether the identifier can only ever be a name of our own within a folder: a single word might
+/// be somebody else's.
+bool isSafe(const std::string& identifier) {
+    return std::ranges::all_of(identifier, belongsInIdentifier) &&
+           identifier.find('.') != std::string::npos &&
+           identifier.find("..") == std::string::npos && !identifier.starts_with('.') &&
+           !identifier.ends_with('.');
+}
+
+Alert applicationStays() {
+    return {.warning = false,
+            .message = "Quillon is cleaned up",
+            .informativeText = "It couldn't move itself to the Trash. Drag Quillon from "
+                               "Applications to the Trash to finish.",
+            .buttons = {"OK"}};
+}
+
+} // namespace
+
+/// Part of the names of what is removed, so an odd one gives way to the fixed one.
+std::string Uninstaller::identifier() const {
+    std::string named = platform_.bundle.identifier();
+    return isSafe(named) ? named : fixedIdentifier;
+}
+
+std::array<path, 6> Uninstaller::folders() const {
+    const Folders& folders = platform_.folders;
+    const std::string id = identifier();
+    return {folders.data / "Quillon",
+            folders.cache / id,
+            folders.cache / "HTTPStorages" / id,
+            folders.cache / "HTTPStorages" / (id + ".binarycookies"),
+            folders.data / "WebKit" / id,
+            folders.state / (id + ".savedState")};
+}
+
+QCoro::Task<bool> Uninstaller::trashApplication() {
+    // An executable alone belongs to a package or to whoever built it.
+    if (!platform_.bundle.isApplication()) co_return false;
+    co_return co_await platform_.workspace.trash(platform_.bundle.url);
+}
+
+QCoro::Task<> Uninstaller::run(std::function<void()> onTrashed) {
+    store_.stopPersisting();
+    analytics_.stopPersisting();
+    KeychainItem token = botTokenItem();
+    co_await platform_.secrets.remove(std::move(token));
+    platform_.loginItem.unregisterItem();
+    for (const path& folder : folders())
+        co_await platform_.trees.remove(folder);
+    platform_.defaults.removeAll();
+    platform_.workspace.unlistApplication();
+    const bool trashed = co_await trashApplication();
+    if (trashed) {
+        if (onTrashed) onTrashed();
+    } else {
+        platform_.workspace.activate();
+        Alert alert = applicationStays();
+        co_await alerts_.show(std::move(alert));
+    }
+    platform_.workspace.exitNow(0);
+}
+
+} // namespace quillon
