@@ -10,7 +10,8 @@ namespace quillon {
 namespace {
 
 QCoro::Task<> send(QPointer<Store> store) {
-    if (store) co_await store->sendClipboard("shortcut");
+    if (!store) co_return;
+    co_await store->sendClipboard("shortcut");
 }
 
 } // namespace

@@ -16,7 +16,6 @@ namespace {
 
 using std::filesystem::path;
 using testing::HasSubstr;
-using testing::Not;
 
 class XdgLoginItemTest : public testing::Test {
 protected:
@@ -30,7 +29,7 @@ protected:
     }
     /// A program that can be started.
     [[nodiscard]] path program(const std::string& name) const {
-        const path made = home / name;
+        path made = home / name;
         files.createFolder(made.parent_path());
         files.write(made, {});
         std::filesystem::permissions(made, std::filesystem::perms::owner_all);

@@ -56,7 +56,7 @@ std::optional<xcb_keycode_t> codeNamed(std::string_view name, const Names& names
 std::uint16_t modifierWith(xcb_keysym_t symbol, const Modifiers& modifiers, const Symbols& symbols,
                            xcb_keycode_t firstCode) {
     const std::span codes{xcb_get_modifier_mapping_keycodes(modifiers.get()),
-                          8U * modifiers->keycodes_per_modifier};
+                          std::size_t{8} * modifiers->keycodes_per_modifier};
     const std::span all{xcb_get_keyboard_mapping_keysyms(symbols.get()), symbols->length};
     const std::size_t perCode = symbols->keysyms_per_keycode;
     for (std::size_t place = 0; place < codes.size(); ++place) {
