@@ -4,6 +4,7 @@
 #include "cli/Terminal.h"
 #include "platform/linux/Hardening.h"
 #include "platform/linux/LinuxBundle.h"
+#include "platform/linux/RunningPrograms.h"
 #include "ui/App.h"
 
 #include <csignal>
@@ -13,7 +14,10 @@ int main(int argc, char** argv) {
     keepOutOfCoreDumps();
     std::signal(SIGPIPE, SIG_IGN);
 
-    if (argc == 1) return App::run();
+    if (argc == 1) {
+        runByAbsolutePath(argv);
+        return App::run();
+    }
     const auto invocation = parseCommandLine({argv + 1, argv + argc});
     if (!invocation) {
         Terminal::printErrorText(helpText());

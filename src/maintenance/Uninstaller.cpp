@@ -76,8 +76,9 @@ QCoro::Task<> Uninstaller::run(std::function<void()> onTrashed) {
     KeychainItem token = botTokenItem();
     co_await platform_.secrets.remove(std::move(token));
     platform_.loginItem.unregisterItem();
-    for (const path& folder : folders())
+    for (const path& folder : folders()) {
         co_await platform_.trees.remove(folder);
+    }
     platform_.defaults.removeAll();
     platform_.workspace.unlistApplication();
     const bool trashed = co_await trashApplication();

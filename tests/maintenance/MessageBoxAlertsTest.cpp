@@ -16,9 +16,10 @@ const Alert question{.warning = true,
                      .buttons = {"Move", "Later", "Not now"}};
 
 QMessageBox* box() {
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (auto* found = qobject_cast<QMessageBox*>(window); found && found->isVisible())
-            return found;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        auto* found = qobject_cast<QMessageBox*>(window);
+        if (found && found->isVisible()) return found;
+    }
     return nullptr;
 }
 

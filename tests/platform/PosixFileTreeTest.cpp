@@ -82,7 +82,7 @@ protected:
 
     /// An application folder with all that a folder may hold.
     path makeApplication() const {
-        const path app = root / "A b.app";
+        path app = root / "A b.app";
         fs::create_directories(app / "Contents/sealed");
         write(app / "Contents/quillon", std::string(1'100'000, 'q'));
         fs::permissions(app / "Contents/quillon", fs::perms{04751});

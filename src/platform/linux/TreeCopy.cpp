@@ -127,9 +127,8 @@ bool TreeCopy::copyFile(Place from, const path& name) {
         return false;
     if (status.st_nlink > 1) {
         const auto [first, isNew] = linked_.try_emplace(identity(status), name);
-        if (!isNew)
-            return ::linkat(root_.folder, first->second.c_str(), root_.folder, name.c_str(), 0) ==
-                   0;
+        const char* other = first->second.c_str();
+        if (!isNew) return ::linkat(root_.folder, other, root_.folder, name.c_str(), 0) == 0;
     }
     constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     Descriptor target{::openat(root_.folder, name.c_str(), flags, ownersFile)};
