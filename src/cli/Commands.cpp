@@ -4,6 +4,7 @@
 #include "cli/Reports.h"
 #include "cli/SpokenBanner.h"
 #include "cli/Terminal.h"
+#include "cli/UpdateCheckCommand.h"
 #include "platform/Clock.h"
 #include "platform/Platform.h"
 #include "state/Store.h"
@@ -106,9 +107,8 @@ QCoro::Task<int> launchAtLogin(CommandContext /*context*/, Invocation /*invocati
     co_return exitFailed;
 }
 
-QCoro::Task<int> checkForUpdates(CommandContext /*context*/, Invocation /*invocation*/) {
-    throw TelegramError{"Not there yet."};
-    co_return exitFailed;
+QCoro::Task<int> checkForUpdates(CommandContext context, Invocation invocation) {
+    return runUpdateCheck(context, invocation.argument == "--install");
 }
 
 QCoro::Task<int> uninstall(CommandContext /*context*/, Invocation /*invocation*/) {
