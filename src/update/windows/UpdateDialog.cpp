@@ -2,6 +2,7 @@
 
 #include "artwork/Brand.h"
 #include "artwork/Mark.h"
+#include "artwork/Palette.h"
 
 #include <QDesktopServices>
 #include <QHBoxLayout>
@@ -29,6 +30,8 @@ constexpr int columnGap = 16;
 constexpr double titleScale = 1.15;
 constexpr int highestMessage = 220;
 constexpr int lowestNotes = 160;
+/// Of 255.
+constexpr int darkLightness = 128;
 
 class MarkView : public QWidget {
 public:
@@ -150,6 +153,9 @@ QPushButton* UpdateDialog::addButton(const QString& text, Place place,
 
 void UpdateDialog::leave() {
     hide();
+    // The buttons hold the answers that are being waited for: those must not wait for the deletion.
+    for (QPushButton* button : findChildren<QPushButton*>())
+        disconnect(button, nullptr, this, nullptr);
     deleteLater();
 }
 
@@ -159,6 +165,11 @@ void UpdateDialog::reject() {
 
 QWidget* makeTextView(const QString& html, const QString& accessibleName) {
     auto* view = new TextView;
+    // Not every dark theme has a colour for links, and the usual blue is lost on it.
+    if (view->palette().color(QPalette::Base).lightness() < darkLightness) {
+        view->document()->setDefaultStyleSheet(
+            QStringLiteral("a { color: %1 }").arg(Palette::blue.name()));
+    }
     view->setHtml(html);
     view->setMinimumHeight(lowestNotes);
     view->setAccessibleName(accessibleName);
