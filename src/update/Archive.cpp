@@ -129,9 +129,10 @@ private:
     int objectionTo(archive_entry* entry, const path& relative) {
         if (++entries_ > limits_.entries) return updateArchiveTooLarge;
         if (goesThroughLink(relative)) return updateArchiveLink;
+        const mode_t type = archive_entry_filetype(entry);
+        if (type != AE_IFDIR && !files_.insert(relative).second) return updateArchiveDamaged;
         if (const char* target = archive_entry_hardlink(entry))
             return redirectHardLink(entry, target);
-        const mode_t type = archive_entry_filetype(entry);
         if (type == AE_IFLNK) return objectionToLink(entry, relative);
         if (type != AE_IFREG && type != AE_IFDIR) return updateArchiveSpecialFile;
         if (archive_entry_perm(entry) & privileges) return updateArchivePrivileges;
@@ -195,18 +196,16 @@ private:
         return std::nullopt;
     }
 
-    /// What the disk refused. A file that is there already comes twice in the archive.
-    UpdateError writeError() const {
-        const int error = archive_errno(writer_.get());
-        return error == EEXIST ? updateError(updateArchiveDamaged) : fileError(error);
-    }
+    /// What the disk refused.
+    UpdateError writeError() const { return fileError(archive_errno(writer_.get())); }
 
     path folder_;
     UnpackLimits limits_;
     const std::stop_token& stop_;
     std::unique_ptr<archive, FreeReader> reader_{archive_read_new()};
     std::unique_ptr<archive, FreeWriter> writer_{archive_write_disk_new()};
-    /// The symbolic links made so far, relative to the folder.
+    /// What was made so far, relative to the folder: all but folders, and the symbolic links alone.
+    std::set<path> files_;
     std::set<path> links_;
     int entries_ = 0;
     qint64 announced_ = 0;

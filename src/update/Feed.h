@@ -14,15 +14,15 @@ namespace quillon {
 /// One version that the update feed offers.
 struct FeedItem {
     /// What versions are compared by: the bundle's "CFBundleVersion".
-    std::string version;
+    std::string version{};
     /// What the user knows it as: the bundle's "CFBundleShortVersionString".
-    std::string shortVersion;
+    std::string shortVersion{};
     /// Plain text or HTML from outside: whoever shows it loads nothing that it names.
-    std::string notes;
+    std::string notes{};
     /// The least SystemInfo::version; empty when any will do.
-    std::string minimumSystemVersion;
+    std::string minimumSystemVersion{};
     /// The archive; allowed as isAllowedUrl has it.
-    std::string url;
+    std::string url{};
     /// Of the archive, in bytes; from 1 to maximumArchiveSize.
     qint64 length = 0;
     /// Of all the archive's bytes.

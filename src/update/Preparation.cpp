@@ -90,31 +90,41 @@ int objectionTo(const FeedItem& item, const Bundle& running) {
     return 0;
 }
 
-/// Passes progress on for as long as its owner lives.
+/// Passes progress on for as long as its owner lives. What the transport still has to say of the
+/// download once that is over comes too late.
 class ProgressReport {
 public:
-    explicit ProgressReport(std::function<void(UpdateProgress)> listener)
-        : listener_{std::make_shared<Listener>(std::move(listener))} {}
+    ProgressReport(std::function<void(UpdateProgress)> listener, qint64 length)
+        : state_{std::make_shared<State>()} {
+        state_->listener = std::move(listener);
+        state_->progress.total = length;
+    }
 
-    [[nodiscard]] std::function<void(qint64, qint64)> ofDownload(qint64 length) const {
-        return [listener = std::weak_ptr{listener_}, length](qint64 received, qint64 /*total*/) {
-            const auto alive = listener.lock();
-            if (alive) tell(*alive, UpdateProgress::Stage::downloading, received, length);
+    [[nodiscard]] std::function<void(qint64, qint64)> ofDownload() const {
+        return [weak = std::weak_ptr{state_}](qint64 received, qint64 /*total*/) {
+            const auto state = weak.lock();
+            if (!state || state->progress.stage != UpdateProgress::Stage::downloading) return;
+            state->progress.received = received;
+            tell(*state);
         };
     }
-    void unpacking(qint64 length) const {
-        tell(*listener_, UpdateProgress::Stage::unpacking, length, length);
+    void unpacking() const {
+        state_->progress.stage = UpdateProgress::Stage::unpacking;
+        state_->progress.received = state_->progress.total;
+        tell(*state_);
     }
 
 private:
-    using Listener = std::function<void(UpdateProgress)>;
+    struct State {
+        std::function<void(UpdateProgress)> listener;
+        UpdateProgress progress;
+    };
 
-    static void tell(const Listener& listener, UpdateProgress::Stage stage, qint64 received,
-                     qint64 total) {
-        if (listener) listener({.stage = stage, .received = received, .total = total});
+    static void tell(const State& state) {
+        if (state.listener) state.listener(state.progress);
     }
 
-    std::shared_ptr<Listener> listener_;
+    std::shared_ptr<State> state_;
 };
 
 /// Downloads and checks what `delivery` describes.
@@ -123,13 +133,13 @@ QCoro::Task<Prepared> deliver(Platform& platform, Delivery delivery, ProgressRep
     download.url = delivery.item.url;
     download.file = delivery.archive;
     download.maximumSize = delivery.item.length;
-    download.progress = report.ofDownload(delivery.item.length);
+    download.progress = report.ofDownload();
     download.stop = delivery.stop;
     const QFuture<DownloadOutcome> downloading = platform.http.download(std::move(download));
     const DownloadOutcome outcome = co_await downloading;
     if (const auto error = downloadError(outcome)) co_return *error;
 
-    report.unpacking(delivery.item.length);
+    report.unpacking();
     const QFuture<Prepared> preparing = QtConcurrent::run(stage, std::move(delivery));
     co_return co_await preparing;
 }
@@ -166,13 +176,13 @@ QCoro::Task<Prepared> prepareUpdate(Platform& platform, FeedItem item,
     const PrivateFolder downloads{*cache, downloadPrefix};
     if (!downloads.isOpen()) co_return updateError(updateDownloadNotStored);
 
+    const ProgressReport report{std::move(progress), item.length};
     Delivery delivery{.running = running,
                       .item = std::move(item),
                       .key = parsePublicKey(running.text(publicKeyName).value_or("")).value(),
                       .archive = downloads.path() / "archive",
                       .staging = staging.folder->path(),
                       .stop = std::move(stop)};
-    const ProgressReport report{std::move(progress)};
     QCoro::Task<Prepared> delivering = deliver(platform, std::move(delivery), report);
     Prepared prepared = co_await delivering;
 

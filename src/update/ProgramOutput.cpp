@@ -3,7 +3,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
-#include <sys/pidfd.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -106,7 +106,8 @@ std::optional<std::string> programOutput(const std::filesystem::path& program,
     if (process == 0) return std::nullopt;
 
     auto output = readAll(reading, deadline);
-    const Descriptor handle{::pidfd_open(process, 0)};
+    // The C library of Debian 12 has this call, but not for C++.
+    const Descriptor handle{static_cast<int>(::syscall(SYS_pidfd_open, process, 0))};
     const bool ended = output && awaitReadable(handle, deadline);
     // Its children must not stay either.
     ::kill(-process, SIGKILL);

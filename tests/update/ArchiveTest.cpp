@@ -1,0 +1,175 @@
+#include "update/Archive.h"
+#include "support/Await.h"
+#include "update/Errors.h"
+#include "update/Makers.h"
+#include "update/PrivateFolder.h"
+#include "update/SmallDisk.h"
+
+#include <gmock/gmock.h>
+
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+#include <fstream>
+
+namespace quillon::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ArchiveTest : public testing::Test {
+protected:
+    ArchiveTest() {
+        fs::create_directories(folder);
+        writeFile(root / "victim", "untouched");
+    }
+
+    std::optional<UpdateError> unpacked(const std::string& bytes, UnpackLimits limits = {}) {
+        writeFile(root / "archive", bytes);
+        return unpack(root / "archive", folder, limits);
+    }
+    static mode_t mode(const fs::path& file) {
+        struct stat status {};
+        EXPECT_EQ(::lstat(file.c_str(), &status), 0) << file;
+        return status.st_mode & 07777;
+    }
+
+    QTemporaryDir temporary;
+    fs::path root = temporary.path().toStdString();
+    fs::path folder = root / "outer/folder";
+};
+
+TEST_F(ArchiveTest, KeepsModesTimesAndLinks) {
+    ::umask(077);
+    const std::vector<Entry> entries{
+        {.path = "./", .mode = 0777, .type = AE_IFDIR},
+        {.path = "./a.app/", .mode = 0555, .type = AE_IFDIR},
+        {.path = "./a.app//über/program", .content = "program", .mode = 0755},
+        {.path = "a.app/empty", .mode = 0604},
+        link("a.app/über/up", "../../a.app/./empty"),
+        link("a.app/chain", "über/up"),
+        hardLink("a.app/second", "./a.app/über/program"),
+    };
+    for (const char* filter : {static_cast<const char*>(nullptr), "gzip", "xz", "zstd"}) {
+        SCOPED_TRACE(filter ? filter : "none");
+        removeTree(folder);
+        fs::create_directory(folder);
+        ASSERT_EQ(unpacked(archiveOf(entries, filter)), std::nullopt);
+        const fs::path app = folder / "a.app";
+        EXPECT_EQ(mode(folder), 0700U);
+        EXPECT_EQ(mode(app), 0555U);
+        EXPECT_EQ(mode(app / "über/program"), 0755U);
+        EXPECT_EQ(mode(app / "empty"), 0604U);
+        EXPECT_EQ(fs::read_symlink(app / "chain"), "über/up");
+        EXPECT_TRUE(fs::equivalent(app / "second", app / "über/program"));
+        EXPECT_EQ(fs::file_size(app / "second"), 7U);
+        struct stat status {};
+        ::stat(app.c_str(), &status);
+        EXPECT_EQ(status.st_mtime, 1'600'000'000);
+        EXPECT_EQ(status.st_uid, ::geteuid());
+    }
+    ::umask(022);
+}
+
+TEST_F(ArchiveTest, RefusesWhatDoesNotBelong) {
+    const auto file = [](const std::string& path, mode_t mode = 0644, mode_t type = AE_IFREG) {
+        return Entry{.path = path, .mode = mode, .type = type};
+    };
+    struct Case {
+        const char* what;
+        std::vector<Entry> entries;
+        int code;
+    };
+    const std::string victim = root / "victim";
+    const Case cases[]{
+        {"absolute path", {file(victim)}, updateArchiveAbsolutePath},
+        {"parent", {file("../../victim")}, updateArchiveParentPath},
+        {"parent further down", {file("a/b/../../../../victim")}, updateArchiveParentPath},
+        {"parent folder at the end", {file("a/..", 0755, AE_IFDIR)}, updateArchiveParentPath},
+        {"absolute link", {link("a", victim)}, updateArchiveLink},
+        {"link up and out", {link("a/b", "../../victim")}, updateArchiveLink},
+        {"link out through a name", {link("a", "b/../../victim")}, updateArchiveLink},
+        {"two links that lead out together",
+         {file("d/e/x"), link("d/e/f", "../.."), link("g", "d/e/f/../victim")},
+         updateArchiveLink},
+        {"file through a link", {link("a", "."), file("a/b")}, updateArchiveLink},
+        {"file in the place of a link", {file("x"), link("a", "x"), file("a")}, updateArchiveLink},
+        {"empty link", {link("a", "")}, updateArchiveLink},
+        {"hard link to an absolute path", {hardLink("a", victim)}, updateArchiveLink},
+        {"hard link up", {hardLink("a", "../../victim")}, updateArchiveLink},
+        {"hard link to a link", {link("a", "."), hardLink("b", "a")}, updateArchiveLink},
+        {"pipe", {file("a", 0644, AE_IFIFO)}, updateArchiveSpecialFile},
+        {"device", {file("a", 0644, AE_IFCHR)}, updateArchiveSpecialFile},
+        {"disk", {file("a", 0644, AE_IFBLK)}, updateArchiveSpecialFile},
+        {"set-uid", {file("a", 04755)}, updateArchivePrivileges},
+        {"set-gid folder", {file("a", 02755, AE_IFDIR)}, updateArchivePrivileges},
+        {"the same file twice", {file("a"), file("./a")}, updateArchiveDamaged},
+        {"hard link to nothing", {hardLink("a", "b")}, updateCopyFailed},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.what);
+        removeTree(folder);
+        fs::create_directory(folder);
+        EXPECT_EQ(unpacked(archiveOf(each.entries)), updateError(each.code));
+        EXPECT_THAT(namesIn(root), testing::UnorderedElementsAre("archive", "outer", "victim"));
+        EXPECT_THAT(namesIn(root / "outer"), testing::ElementsAre("folder"));
+        EXPECT_EQ(fs::file_size(victim), 9U);
+        EXPECT_EQ(fs::hard_link_count(victim), 1U);
+    }
+}
+
+TEST_F(ArchiveTest, StopsAtItsLimits) {
+    const auto onDisk = [&] {
+        std::uintmax_t sum = 0;
+        for (const auto& each : fs::recursive_directory_iterator{folder})
+            sum += each.is_regular_file() ? each.file_size() : 0;
+        return sum;
+    };
+    const std::string bomb = bombOf(100);
+    EXPECT_LT(bomb.size(), 10'000'000U);
+    EXPECT_EQ(unpacked(bomb, {.bytes = 150'000'000}), updateError(updateArchiveTooLarge));
+    EXPECT_LE(onDisk(), 150'000'000U);
+
+    const std::vector<Entry> three{{.path = "a"}, {.path = "b"}, link("c", "b")};
+    removeTree(folder);
+    fs::create_directory(folder);
+    EXPECT_EQ(unpacked(archiveOf(three), {.entries = 2}), updateError(updateArchiveTooLarge));
+    removeTree(folder);
+    fs::create_directory(folder);
+    EXPECT_EQ(unpacked(archiveOf(three), {.entries = 3}), std::nullopt);
+}
+
+TEST_F(ArchiveTest, RefusesDamage) {
+    const std::string whole =
+        archiveOf({{.path = "a", .content = std::string(100'000, 'x')}}, "xz");
+    std::string flipped = whole;
+    flipped[whole.size() / 2] = static_cast<char>(~flipped[whole.size() / 2]);
+    for (const std::string& bytes :
+         {std::string{"no archive"}, flipped, whole.substr(0, whole.size() / 2)}) {
+        removeTree(folder);
+        fs::create_directory(folder);
+        EXPECT_EQ(unpacked(bytes), updateError(updateArchiveDamaged)) << bytes.size();
+    }
+}
+
+TEST_F(ArchiveTest, TellsThatTheDiskIsFull) {
+    const SmallDisk disk{folder};
+    if (!disk.isMounted()) GTEST_SKIP() << "only root can mount a small disk";
+    const Entry half{.path = "a", .content = std::string(SmallDisk::size / 2 + 1, 'x')};
+    Entry rest = half;
+    rest.path = "b";
+    EXPECT_EQ(unpacked(archiveOf({half, rest})), fileError(ENOSPC));
+}
+
+TEST_F(ArchiveTest, StopsWhenAskedTo) {
+    std::stop_source source;
+    source.request_stop();
+    writeFile(root / "archive", archiveOf({{.path = "a"}}));
+    EXPECT_EQ(unpack(root / "archive", folder, {}, source.get_token()),
+              updateError(updateCancelled));
+    EXPECT_TRUE(fs::is_empty(folder));
+}
+
+} // namespace
+} // namespace quillon::test

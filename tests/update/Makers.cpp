@@ -1,0 +1,172 @@
+#include "update/Makers.h"
+
+#include "update/Archive.h"
+#include "update/ProgramOutput.h"
+
+#include <archive.h>
+#include <gtest/gtest.h>
+#include <sodium.h>
+#include <sys/stat.h>
+
+#include <fstream>
+#include <functional>
+
+namespace quillon::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+la_ssize_t append(archive* /*writer*/, void* target, const void* bytes, std::size_t size) {
+    static_cast<std::string*>(target)->append(static_cast<const char*>(bytes), size);
+    return static_cast<la_ssize_t>(size);
+}
+
+/// What `write` makes of a writer of this format and compression.
+std::string written(int format, const char* filter, const std::function<void(archive*)>& write) {
+    std::string bytes;
+    archive* writer = archive_write_new();
+    archive_write_set_format(writer, format);
+    if (filter) archive_write_add_filter_by_name(writer, filter);
+    archive_write_set_bytes_per_block(writer, 0);
+    EXPECT_EQ(archive_write_open(writer, &bytes, nullptr, append, nullptr), ARCHIVE_OK);
+    write(writer);
+    archive_write_free(writer);
+    return bytes;
+}
+
+void writeHeader(archive* writer, const Entry& each, la_int64_t size) {
+    archive_entry* entry = archive_entry_new();
+    archive_entry_set_pathname(entry, each.path.c_str());
+    archive_entry_set_perm(entry, each.mode);
+    if (each.type != 0) archive_entry_set_filetype(entry, each.type);
+    if (each.type == AE_IFREG) archive_entry_set_size(entry, size);
+    if (each.type == AE_IFLNK) archive_entry_set_symlink(entry, each.link.c_str());
+    if (each.type == 0) archive_entry_set_hardlink(entry, each.link.c_str());
+    archive_entry_set_mtime(entry, 1'600'000'000, 0);
+    EXPECT_EQ(archive_write_header(writer, entry), ARCHIVE_OK) << archive_error_string(writer);
+    archive_entry_free(entry);
+}
+
+} // namespace
+
+std::string archiveOf(const std::vector<Entry>& entries, const char* filter) {
+    return written(ARCHIVE_FORMAT_TAR_PAX_RESTRICTED, filter, [&](archive* writer) {
+        for (const Entry& each : entries) {
+            writeHeader(writer, each, static_cast<la_int64_t>(each.content.size()));
+            archive_write_data(writer, each.content.data(), each.content.size());
+        }
+    });
+}
+
+std::string bombOf(int count) {
+    // Compressed streams may follow each other, so the zeros need not be compressed twice.
+    const std::string zeros(100'000'256, '\0'); // a multiple of tar's blocks of 512 bytes
+    const auto compressed = [](const std::string& bytes) {
+        return written(ARCHIVE_FORMAT_RAW, "zstd", [&](archive* writer) {
+            writeHeader(writer, {.path = "raw"}, static_cast<la_int64_t>(bytes.size()));
+            archive_write_data(writer, bytes.data(), bytes.size());
+        });
+    };
+    const std::string charge = compressed(zeros);
+    std::string bomb;
+    for (int index = 0; index < count; ++index) {
+        const std::string header = written(ARCHIVE_FORMAT_TAR_USTAR, nullptr, [&](archive* writer) {
+            writeHeader(writer, {.path = "zeros" + std::to_string(index)},
+                        static_cast<la_int64_t>(zeros.size()));
+            archive_write_fail(writer);
+        });
+        bomb += compressed(header) + charge;
+    }
+    return bomb;
+}
+
+std::vector<Entry> application(const std::string& version, const std::string& identifier,
+                               const std::string& publicKey) {
+    const std::string list = "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>"
+                             "<key>CFBundleIdentifier</key><string>" +
+                             identifier +
+                             "</string>"
+                             "<key>CFBundleVersion</key><string>" +
+                             version +
+                             "</string>"
+                             "<key>CFBundleShortVersionString</key><string>" +
+                             version +
+                             "</string>"
+                             "<key>SUPublicEDKey</key><string>" +
+                             publicKey + "</string></dict></plist>";
+    return {
+        {.path = "Quillon.app/", .mode = 0755, .type = AE_IFDIR},
+        {.path = "Quillon.app/Contents/", .mode = 0755, .type = AE_IFDIR},
+        {.path = "Quillon.app/Contents/Linux/", .mode = 0755, .type = AE_IFDIR},
+        {.path = "Quillon.app/Contents/Resources/", .mode = 0755, .type = AE_IFDIR},
+        {.path = "Quillon.app/Contents/Info.plist", .content = list},
+        {.path = "Quillon.app/Contents/Linux/quillon",
+         .content = "#!/bin/sh\n[ \"$1\" = --version ] && echo quillon " + version + "\n",
+         .mode = 0755},
+        {.path = "Quillon.app/Contents/Resources/über.svg", .content = std::string(50'000, 'x')},
+        link("Quillon.app/Contents/Resources/icon", "../Resources/über.svg")};
+}
+
+Maker::Maker() {
+    EXPECT_GE(sodium_init(), 0);
+    crypto_sign_keypair(public_.data(), secret_.data());
+}
+
+std::string Maker::publicKey() const {
+    std::string text(sodium_base64_ENCODED_LEN(32, sodium_base64_VARIANT_ORIGINAL), '\0');
+    sodium_bin2base64(text.data(), text.size(), public_.data(), public_.size(),
+                      sodium_base64_VARIANT_ORIGINAL);
+    text.pop_back();
+    return text;
+}
+
+Signature Maker::sign(const std::string& bytes) const {
+    Signature signature{};
+    crypto_sign_detached(signature.data(), nullptr,
+                         reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size(),
+                         secret_.data());
+    return signature;
+}
+
+void writeFile(const fs::path& file, const std::string& content) {
+    std::ofstream{file, std::ios::binary} << content;
+}
+
+void place(const std::vector<Entry>& entries, const fs::path& folder) {
+    fs::create_directories(folder);
+    const fs::path archive = folder / "archive";
+    writeFile(archive, archiveOf(entries));
+    EXPECT_EQ(unpack(archive, folder), std::nullopt);
+    fs::remove(archive);
+}
+
+std::map<std::string, std::string> snapshot(const fs::path& folder) {
+    std::map<std::string, std::string> found;
+    for (const auto& each : fs::recursive_directory_iterator{folder}) {
+        struct stat status {};
+        ::lstat(each.path().c_str(), &status);
+        std::string& entry = found[each.path().lexically_relative(folder)];
+        entry = std::to_string(status.st_mode) + ' ' + std::to_string(status.st_mtime) + ' ';
+        if (each.is_symlink()) entry += fs::read_symlink(each.path());
+        if (!each.is_regular_file() || each.is_symlink()) continue;
+        std::ifstream file{each.path(), std::ios::binary};
+        entry.append(std::istreambuf_iterator<char>{file}, {});
+    }
+    return found;
+}
+
+std::vector<std::string> namesIn(const fs::path& folder) {
+    std::vector<std::string> names;
+    for (const auto& each : fs::directory_iterator{folder})
+        names.push_back(each.path().filename());
+    return names;
+}
+
+std::string versionOf(const fs::path& bundle) {
+    const auto output =
+        programOutput(bundle / "Contents/Linux/quillon", "--version", std::chrono::seconds{10});
+    return output && output->starts_with("quillon ") ? output->substr(8, output->size() - 9) : "";
+}
+
+} // namespace quillon::test

@@ -1,0 +1,362 @@
+#include "platform/linux/LinuxBundle.h"
+#include "support/Await.h"
+#include "support/RawServer.h"
+#include "support/World.h"
+#include "update/Errors.h"
+#include "update/Makers.h"
+#include "update/Preparation.h"
+#include "update/SmallDisk.h"
+
+#include <gmock/gmock.h>
+
+#include <QProcess>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <random>
+
+namespace quillon::test {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using Prepared = std::variant<PreparedUpdate, UpdateError>;
+
+/// Version 1.0 on a disk, its makers, and a server that offers what the test wants.
+class UpdateTest : public testing::Test {
+protected:
+    UpdateTest() {
+        place(application("1.0", "dev.vostrel.quillon", maker.publicKey()), applications);
+        world.platform.bundle = bundleAt(bundle);
+    }
+
+    void offer(const std::string& bytes) {
+        archive = bytes;
+        item = {.version = "1.1",
+                .shortVersion = "1.1",
+                .url = server.url("/archive"),
+                .length = static_cast<qint64>(bytes.size()),
+                .signature = maker.sign(bytes)};
+    }
+    Prepared prepare() { return await(prepareUpdate(world.platform, item, {}, {})); }
+    UpdateError refusal() {
+        const auto prepared = prepare();
+        const auto* error = std::get_if<UpdateError>(&prepared);
+        return error ? *error : UpdateError{};
+    }
+    /// What lies beside the application and in the cache.
+    std::vector<std::string> leftovers() const {
+        std::vector<std::string> names = namesIn(world.home() / "cache/dev.vostrel.quillon");
+        for (const std::string& name : namesIn(applications)) {
+            if (name != "Quillon.app") names.push_back(name);
+        }
+        return names;
+    }
+
+    World world;
+    fs::path applications = world.home() / "Downloads";
+    fs::path bundle = applications / "Quillon.app";
+    Maker maker;
+    FeedItem item;
+    std::string archive;
+    std::function<void(RawServer::Connection&)> serve = [&](RawServer::Connection& connection) {
+        connection.reply(200, archive);
+    };
+    RawServer server{[&](RawServer::Connection& connection) {
+        if (!connection.request().empty()) serve(connection);
+    }};
+};
+
+TEST_F(UpdateTest, PutsTheNewVersionInThePlaceOfTheOld) {
+    offer(archiveOf(application("1.1")));
+    std::vector<UpdateProgress> told;
+    const auto before = snapshot(bundle);
+    auto prepared = await(prepareUpdate(
+        world.platform, item, [&](UpdateProgress progress) { told.push_back(progress); }, {}));
+    ASSERT_TRUE(std::holds_alternative<PreparedUpdate>(prepared))
+        << std::get<UpdateError>(prepared).description;
+    EXPECT_EQ(snapshot(bundle), before);
+    ASSERT_THAT(told, Not(IsEmpty()));
+    const qint64 length = item.length;
+    EXPECT_EQ(told.back(), (UpdateProgress{UpdateProgress::Stage::unpacking, length, length}));
+
+    // A folder that another process still has its hands on is not for this one to remove.
+    removeLeftovers(world.platform.bundle, world.platform.folders);
+    EXPECT_EQ(install(std::get<PreparedUpdate>(prepared)), std::nullopt);
+    EXPECT_EQ(versionOf(bundle), "1.1");
+    EXPECT_EQ(install(std::get<PreparedUpdate>(prepared)), updateError(updateNotNewer));
+    const fs::path kept = std::get<PreparedUpdate>(prepared).staged;
+    prepared = UpdateError{};
+    EXPECT_EQ(snapshot(kept), before) << "the old one is kept";
+    removeLeftovers(bundleAt(bundle), world.platform.folders);
+    EXPECT_THAT(leftovers(), IsEmpty());
+    EXPECT_EQ(versionOf(bundle), "1.1");
+}
+
+TEST_F(UpdateTest, RefusesEveryAttackAndChangesNothing) {
+    const std::string good = archiveOf(application("1.1"));
+    const auto with = [](const Entry& more) {
+        auto entries = application("1.1");
+        entries.push_back(more);
+        return archiveOf(entries);
+    };
+    const auto program = [](const std::string& script, mode_t mode = 0755) {
+        auto entries = application("1.1");
+        entries[programEntry].content = script;
+        entries[programEntry].mode = mode;
+        return archiveOf(entries);
+    };
+    const auto cut = [&](RawServer::Connection& connection) {
+        connection.send("HTTP/1.1 200 OK\r\nContent-Length: " + std::to_string(archive.size()) +
+                        "\r\n\r\n" + archive.substr(0, archive.size() / 2));
+    };
+    const auto cutUnannounced = [&](RawServer::Connection& connection) {
+        connection.send("HTTP/1.1 200 OK\r\n\r\n" + archive.substr(0, archive.size() - 1));
+    };
+    struct Case {
+        const char* what;
+        std::string archive;
+        int code;
+        std::function<void()> change = [] {};
+    };
+    const std::string inside = "Quillon.app/x";
+    const Case cases[]{
+        {"another maker's signature", good, updateSignatureWrong,
+         [&] { item.signature = Maker{}.sign(good); }},
+        {"the signature of another archive", good, updateSignatureWrong,
+         [&] { item.signature = maker.sign(archiveOf(application("1.2"))); }},
+        {"one byte more, and a length to match", good + '\0', updateSignatureWrong,
+         [&] { item.signature = maker.sign(good); }},
+        {"longer than announced", good, updateLengthWrong, [&] { --item.length; }},
+        {"shorter than announced", good, updateLengthWrong, [&] { ++item.length; }},
+        {"truncated download", good, updateDownloadFailed, [&] { serve = cut; }},
+        {"truncated without a length", good, updateLengthWrong, [&] { serve = cutUnannounced; }},
+        {"an error page", good, updateDownloadFailed,
+         [&] { serve = [](auto& connection) { connection.reply(404, "gone"); }; }},
+        {"plain http from elsewhere", good, updateNotAllowed,
+         [&] { item.url = "http://192.0.2.1/archive"; }},
+        {"the same version", archiveOf(application("1.0")), updateNotNewer,
+         [&] { item.version = item.shortVersion = "1.0.0"; }},
+        {"an older version", archiveOf(application("0.9")), updateNotNewer,
+         [&] { item.version = item.shortVersion = "0.9"; }},
+        {"an older version than announced", archiveOf(application("0.9")), updateOtherVersion},
+        {"another identifier", archiveOf(application("1.1", "dev.vostrel.quill")),
+         updateOtherApplication},
+        {"no identifier", archiveOf(application("1.1", "")), updateOtherApplication},
+        {"a second application", with({.path = "Other.app/Contents/x"}), updateNoApplication},
+        {"a file beside the application", with({.path = ".hidden"}), updateNoApplication},
+        {"a link instead of an application",
+         archiveOf({{.path = "x/Contents/Info.plist"}, link("Quillon.app", "x")}),
+         updateNoApplication},
+        {"a program that tells another version", program("#!/bin/sh\necho quillon 1.0\n"),
+         updateDoesNotRun},
+        {"a program that fails", program("#!/bin/sh\necho quillon 1.1; exit 1\n"),
+         updateDoesNotRun},
+        {"a program that may not run", program("#!/bin/sh\necho quillon 1.1\n", 0644),
+         updateDoesNotRun},
+        {"a path with ..", with({.path = "Quillon.app/../../x"}), updateArchiveParentPath},
+        {"an absolute path", with({.path = "/tmp/x"}), updateArchiveAbsolutePath},
+        {"an absolute link", with(link(inside, "/etc/passwd")), updateArchiveLink},
+        {"a set-uid file", with({.path = inside, .mode = 04755}), updateArchivePrivileges},
+        {"a device", with({.path = inside, .type = AE_IFCHR}), updateArchiveSpecialFile},
+        {"a bomb of 10 GB", bombOf(100), updateArchiveTooLarge},
+        {"no archive", "no archive", updateArchiveDamaged},
+    };
+    const auto before = snapshot(bundle);
+    std::map<int, std::string> sentences;
+    const auto usual = serve;
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.what);
+        serve = usual;
+        offer(each.archive);
+        each.change();
+        const UpdateError error = refusal();
+        EXPECT_EQ(error, updateError(each.code));
+        EXPECT_FALSE(error.description.empty());
+        sentences[error.code] = error.description;
+        EXPECT_TRUE(snapshot(bundle) == before);
+        EXPECT_EQ(versionOf(bundle), "1.0");
+        EXPECT_THAT(leftovers(), IsEmpty());
+    }
+    std::set<std::string> different;
+    for (const auto& [code, sentence] : sentences)
+        different.insert(sentence);
+    EXPECT_EQ(different.size(), sentences.size());
+
+    offer(good);
+    world.platform.bundle.info.erase("SUPublicEDKey");
+    EXPECT_EQ(refusal(), updateError(updateKeyMissing));
+}
+
+TEST_F(UpdateTest, StopsInTheMiddleOfADownload) {
+    offer(std::string(3'000'000, 'x'));
+    serve = [&](RawServer::Connection& connection) {
+        connection.send("HTTP/1.1 200 OK\r\nContent-Length: 3000000\r\n\r\nxxx");
+        connection.awaitEnd();
+    };
+    std::stop_source source;
+    const auto prepared = await(prepareUpdate(
+        world.platform, item, [&](UpdateProgress) { source.request_stop(); }, source.get_token()));
+    EXPECT_EQ(std::get<UpdateError>(prepared), updateError(updateCancelled));
+    EXPECT_THAT(leftovers(), IsEmpty());
+}
+
+TEST_F(UpdateTest, FetchesFeeds) {
+    const auto fetched = [&](const std::string& url) {
+        const auto result = await(fetchFeed(world.platform, url));
+        const auto* error = std::get_if<UpdateError>(&result);
+        return error ? error->code : 0;
+    };
+    archive = "<rss/>";
+    EXPECT_EQ(fetched(server.url()), 0);
+    archive = "<rss>";
+    EXPECT_EQ(fetched(server.url()), updateFeedBroken);
+    serve = [](RawServer::Connection& connection) { connection.reply(500, "<rss/>"); };
+    EXPECT_EQ(fetched(server.url()), updateFeedUnreachable);
+    EXPECT_EQ(fetched("http://192.0.2.1/"), updateFeedNotAllowed);
+}
+
+TEST_F(UpdateTest, ObjectsToThePlace) {
+    EXPECT_EQ(objectionToUpdating(bundle), std::nullopt);
+    EXPECT_EQ(objectionToUpdating("/private/AppTranslocation/X/d/Quillon.app").value().code, 1005);
+    EXPECT_EQ(objectionToUpdating("/proc/sys/Quillon.app").has_value(), true);
+    const SmallDisk disk{applications, MS_RDONLY};
+    if (!disk.isMounted()) GTEST_SKIP() << "only root can mount a disk";
+    offer(archiveOf(application("1.1")));
+    EXPECT_EQ(refusal().code, 1003);
+}
+
+TEST_F(UpdateTest, ObjectsToAFolderOfOthers) {
+    if (::geteuid() == 0) {
+        // Root may do anything, so somebody else has to ask.
+        ::chmod(world.home().c_str(), 0755);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            const bool changed = ::setresuid(65534, 65534, 65534) == 0;
+            const auto error = objectionToUpdating(bundle);
+            ::_exit(changed && error && error->code == 4012 ? 0 : 1);
+        }
+        int status = -1;
+        ::waitpid(child, &status, 0);
+        EXPECT_EQ(status, 0);
+        return;
+    }
+    ::chmod(applications.c_str(), 0555);
+    EXPECT_EQ(makeStaging(bundle).error.value().code, 4012);
+    ::chmod(applications.c_str(), 0755);
+}
+
+TEST_F(UpdateTest, SurvivesAFullDisk) {
+    offer(archiveOf(application("1.1")));
+    const SmallDisk disk{applications};
+    if (!disk.isMounted()) GTEST_SKIP() << "only root can mount a small disk";
+    place(application("1.0", "dev.vostrel.quillon", maker.publicKey()), applications);
+    writeFile(applications / "filling", std::string(SmallDisk::size - 110'000, 'x'));
+    const auto before = snapshot(bundle);
+    EXPECT_EQ(refusal(), fileError(ENOSPC));
+    EXPECT_EQ(snapshot(bundle), before);
+    EXPECT_EQ(leftovers(), std::vector<std::string>{"filling"});
+
+    fs::remove(applications / "filling");
+    const fs::path cache = world.home() / "cache";
+    const SmallDisk small{cache};
+    writeFile(cache / "filling", std::string(SmallDisk::size, 'x'));
+    EXPECT_EQ(refusal(), fileError(ENOSPC));
+    EXPECT_THAT(leftovers(), IsEmpty());
+}
+
+TEST_F(UpdateTest, InstallsOneAtATime) {
+    offer(archiveOf(application("1.1")));
+    const auto first = prepare();
+    const auto second = prepare();
+    ASSERT_TRUE(std::holds_alternative<PreparedUpdate>(second));
+    const int held = ::open(bundle.c_str(), O_RDONLY | O_CLOEXEC);
+    ASSERT_EQ(::flock(held, LOCK_EX), 0);
+    EXPECT_EQ(install(std::get<PreparedUpdate>(first)), updateError(updateInstalling));
+    EXPECT_EQ(versionOf(bundle), "1.0");
+    ::close(held);
+    EXPECT_EQ(install(std::get<PreparedUpdate>(first)), std::nullopt);
+    EXPECT_EQ(install(std::get<PreparedUpdate>(second)), updateError(updateNotNewer));
+}
+
+TEST_F(UpdateTest, DoesNotWaitForAProgramThatHangs) {
+    auto entries = application("1.1");
+    entries[programEntry].content = "#!/bin/sh\necho quillon 1.1\nsleep 60 &\nsleep 60\n";
+    const fs::path folder = world.home() / "staged";
+    place(entries, folder);
+    offer("x");
+    const auto begin = std::chrono::steady_clock::now();
+    const auto staged = checkStaged(folder, world.platform.bundle, item, 200ms);
+    EXPECT_EQ(staged.error, updateError(updateDoesNotRun));
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, 5s);
+}
+
+TEST_F(UpdateTest, RemovesNothingButItsOwnLeftovers) {
+    const fs::path outside = world.home() / "outside";
+    writeFile(outside, "outside");
+    const fs::path left = applications / ".Quillon-update-abcdef";
+    place({{.path = "deep/closed/", .mode = 0, .type = AE_IFDIR}, {.path = "deep/x"}}, left);
+    fs::create_symlink(outside, left / "out");
+    fs::create_directory_symlink(world.home(), applications / ".Quillon-update-link00");
+    fs::create_directory(applications / ".Quillon-update-longer00");
+    writeFile(applications / ".Quillon-update-afile0", "a file");
+    fs::create_directories(world.home() / "cache/dev.vostrel.quillon/update-123456/x");
+    removeLeftovers(world.platform.bundle, world.platform.folders);
+    EXPECT_THAT(leftovers(),
+                testing::UnorderedElementsAre(".Quillon-update-link00", ".Quillon-update-longer00",
+                                              ".Quillon-update-afile0"));
+    EXPECT_TRUE(fs::exists(outside));
+}
+
+TEST_F(UpdateTest, LeavesOneWorkingVersionWhenKilled) {
+    auto entries = application("1.1");
+    for (int index = 0; index < 40; ++index)
+        entries.push_back({.path = "Quillon.app/Contents/Resources/" + std::to_string(index),
+                           .content = std::string(20'000, 'x')});
+    const fs::path file = world.home() / "archive";
+    writeFile(file, archiveOf(entries));
+    QProcess installer;
+    const auto start = [&] {
+        fs::remove_all(bundle);
+        place(application("1.0"), applications);
+        installer.start(
+            QStringLiteral(UPDATE_INSTALLER),
+            {QString::fromStdString(bundle), QString::fromStdString(file), QStringLiteral("1.1")});
+        EXPECT_TRUE(installer.waitForStarted());
+        return std::chrono::steady_clock::now();
+    };
+    auto begin = start();
+    const auto old = snapshot(bundle);
+    ASSERT_TRUE(installer.waitForFinished());
+    const std::chrono::nanoseconds whole = std::chrono::steady_clock::now() - begin;
+    ASSERT_EQ(installer.exitCode(), 0);
+    const auto fresh = snapshot(bundle);
+    ASSERT_EQ(versionOf(bundle), "1.1");
+    removeLeftovers(world.platform.bundle, world.platform.folders);
+
+    std::mt19937 random{std::random_device{}()};
+    std::uniform_int_distribution<std::int64_t> moment{0, whole.count()};
+    for (int round = 0; round < 20; ++round) {
+        const std::chrono::nanoseconds limit{moment(random)};
+        SCOPED_TRACE(limit.count());
+        begin = start();
+        std::this_thread::sleep_until(begin + limit);
+        installer.kill();
+        ASSERT_TRUE(installer.waitForFinished());
+        const auto after = snapshot(bundle);
+        EXPECT_TRUE(after == old || after == fresh);
+        EXPECT_EQ(versionOf(bundle), after == old ? "1.0" : "1.1");
+        removeLeftovers(world.platform.bundle, world.platform.folders);
+        EXPECT_THAT(namesIn(applications), ElementsAre("Quillon.app"));
+    }
+}
+
+} // namespace
+} // namespace quillon::test
