@@ -6,6 +6,7 @@
 #include "cli/Reports.h"
 #include "cli/SpokenBanner.h"
 #include "cli/TerminalAlerts.h"
+#include "cli/UpdateCheckCommand.h"
 #include "maintenance/Uninstaller.h"
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
@@ -121,9 +122,8 @@ QCoro::Task<int> launchAtLogin(CommandContext context, Invocation invocation) {
     co_return exitDone;
 }
 
-QCoro::Task<int> checkForUpdates(CommandContext /*context*/, Invocation /*invocation*/) {
-    throw TelegramError{"Not there yet."};
-    co_return exitFailed;
+QCoro::Task<int> checkForUpdates(CommandContext context, Invocation invocation) {
+    return runUpdateCheck(context, invocation.argument == "--install");
 }
 
 QCoro::Task<int> uninstall(CommandContext context, Invocation /*invocation*/) {

@@ -105,10 +105,10 @@ std::optional<std::string> readSecret(std::string_view prompt) {
     return read ? std::optional{line} : std::nullopt;
 }
 
-Progress::Progress() : terminal_{isatty(STDERR_FILENO) != 0} {}
+Progress::Progress(std::string_view what) : what_{what}, terminal_{isatty(STDERR_FILENO) != 0} {}
 
-void Progress::update(qint64 sent, qint64 total) {
-    sent_ = sent;
+void Progress::update(qint64 done, qint64 total) {
+    done_ = done;
     total_ = total;
     if (state_ == State::shown) draw();
 }
@@ -125,7 +125,7 @@ void Progress::end() {
 }
 
 void Progress::draw() const {
-    std::cerr << clearLine << "Sending… " << megabytes(sent_) << " of " << megabytes(total_)
+    std::cerr << clearLine << what_ << ' ' << megabytes(done_) << " of " << megabytes(total_)
               << " MB" << std::flush;
 }
 

@@ -24,13 +24,14 @@ void printErrorText(std::string_view text);
 /// when nothing comes.
 [[nodiscard]] std::optional<std::string> readSecret(std::string_view prompt);
 
-/// One line on a terminal that tells how much of an upload has gone out; nothing elsewhere.
+/// One line on a terminal that tells how much of a transfer is done; nothing elsewhere.
 class Progress {
 public:
-    Progress();
+    /// `what` is on its way, as in "Sending…".
+    explicit Progress(std::string_view what = "Sending…");
 
     /// Sizes in bytes. Remembered until the line is shown.
-    void update(qint64 sent, qint64 total);
+    void update(qint64 done, qint64 total);
     /// Shows the line from now on.
     void show();
     /// Takes the line away for good.
@@ -41,9 +42,10 @@ private:
 
     void draw() const;
 
+    std::string what_;
     bool terminal_;
     State state_ = State::waiting;
-    qint64 sent_ = 0;
+    qint64 done_ = 0;
     qint64 total_ = 0;
 };
 

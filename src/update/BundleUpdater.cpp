@@ -25,7 +25,6 @@ using std::chrono::seconds;
 
 constexpr std::string_view feedKey = "SUFeedURL";
 constexpr std::string_view publicKeyKey = "SUPublicEDKey";
-constexpr std::string_view buildKey = "CFBundleVersion";
 constexpr std::string_view automaticKey = "SUEnableAutomaticChecks";
 constexpr std::string_view launchedBeforeKey = "SUHasLaunchedBefore";
 /// Seconds since 1970-01-01 UTC.
@@ -176,11 +175,12 @@ QCoro::Task<> BundleUpdater::lookForUpdate(UpdateCheck check) {
     const std::string skipped =
         background ? platform_.defaults.text(skippedKey).value_or("") : std::string{};
     const Bundle& bundle = platform_.bundle;
-    const FeedItem* newest = newestUpdate(std::get<std::vector<FeedItem>>(feed),
-                                          bundle.text(buildKey).value_or(bundle.shortVersion()),
-                                          platform_.system.version, skipped);
+    const FeedItem* newest =
+        newestUpdate(std::get<std::vector<FeedItem>>(feed), comparedVersion(bundle),
+                     platform_.system.version, skipped);
     if (newest) {
-        co_await offer(*newest, background);
+        FeedItem item = *newest;
+        co_await offer(std::move(item), background);
     } else if (!background) {
         driver_.showUpToDate(bundle.shortVersion());
     }
@@ -200,11 +200,6 @@ QCoro::Task<> BundleUpdater::offer(FeedItem item, bool gently) {
 
 QCoro::Task<> BundleUpdater::prepare(FeedItem item) {
     enter(Phase::working);
-    // Told before megabytes have come for nothing.
-    if (const auto objection = objectionToUpdating(platform_.bundle.url)) {
-        fail(*objection);
-        co_return;
-    }
     stop_ = std::stop_source{};
     driver_.showPreparing(item.shortVersion, stop_);
     std::function<void(UpdateProgress)> progress = [this](UpdateProgress news) {

@@ -1,1 +1,343 @@
-namespace {}
+#include "update/BundleUpdater.h"
+
+#include "support/Await.h"
+#include "support/World.h"
+#include "update/Errors.h"
+#include "update/UpdateSource.h"
+#include "update/UpdateUserDriver.h"
+
+#include <QThreadPool>
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+namespace quillon::test {
+
+namespace {
+
+using namespace std::chrono_literals;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// A user who has made up their mind, or takes their time.
+class FakeUser : public UpdateUserDriver {
+public:
+    std::vector<std::string> seen;
+    /// Absent as long as the user does not answer.
+    std::optional<bool> permission;
+    std::optional<UpdateChoice> choice = UpdateChoice::later;
+    InstallTime time = InstallTime::onQuit;
+    bool cancels = false;
+
+    [[nodiscard]] QFuture<bool> askPermission() override {
+        seen.emplace_back("permission?");
+        return answer(permission, permissionLater_);
+    }
+    void showChecking(std::stop_source cancel) override {
+        seen.emplace_back("checking");
+        if (cancels) cancel.request_stop();
+    }
+    void showUpToDate(std::string version) override { seen.push_back("up to date " + version); }
+    [[nodiscard]] QFuture<UpdateChoice> showUpdate(UpdateOffer offer) override {
+        seen.push_back("update " + offer.installedVersion + " " + offer.version + " " +
+                       offer.notes + (offer.gently ? " gently" : ""));
+        return answer(choice, choiceLater_);
+    }
+    void showPreparing(std::string version, std::stop_source cancel) override {
+        seen.push_back("preparing " + version);
+        if (cancels) cancel.request_stop();
+    }
+    void showProgress(UpdateProgress progress) override { last = progress; }
+    [[nodiscard]] QFuture<InstallTime> showReady(std::string version) override {
+        seen.push_back("ready " + version);
+        return QtFuture::makeReadyFuture(time);
+    }
+    void showInstalled(std::string version) override { seen.push_back("installed " + version); }
+    void showError(UpdateError error) override {
+        seen.push_back("error " + std::to_string(error.code));
+    }
+    void comeForward() override { seen.emplace_back("forward"); }
+    void dismiss() override { seen.emplace_back("dismiss"); }
+
+    /// What the user has seen since the last time.
+    std::vector<std::string> news() { return std::exchange(seen, {}); }
+    void choose(UpdateChoice now) {
+        choiceLater_.addResult(now);
+        choiceLater_.finish();
+    }
+
+    UpdateProgress last;
+
+private:
+    template <typename T>
+    QFuture<T> answer(std::optional<T> now, QPromise<T>& later) {
+        if (now) return QtFuture::makeReadyFuture(*now);
+        later = QPromise<T>{};
+        later.start();
+        return later.future();
+    }
+
+    QPromise<bool> permissionLater_;
+    QPromise<UpdateChoice> choiceLater_;
+};
+
+/// Remembers what it was told.
+class FakeDelegate : public UpdaterDelegate {
+public:
+    std::vector<UpdateCheck> checks;
+    std::vector<int> errors;
+    int showings = 0;
+
+    bool mayPerformUpdateCheck(UpdateCheck check) override {
+        checks.push_back(check);
+        return true;
+    }
+    void didAbortWithError(const UpdateError& error) override { errors.push_back(error.code); }
+    bool willInstallUpdateOnQuit() override { return false; }
+    bool supportsGentleScheduledUpdateReminders() override { return true; }
+    void willHandleShowingUpdate() override { ++showings; }
+};
+
+struct BundleUpdaterTest : testing::Test {
+    BundleUpdaterTest() : source{world.home() / "makers"} {
+        writeApplication(world.platform.bundle.url, "1.0");
+        world.platform.bundle.info["SUFeedURL"] = source.feedUrl();
+        world.platform.bundle.info["SUPublicEDKey"] = source.publicKey();
+        source.publish("1.1");
+        launch();
+    }
+    ~BundleUpdaterTest() override {
+        updater.reset();
+        QThreadPool::globalInstance()->waitForDone();
+    }
+
+    void launch() {
+        updater = std::make_unique<BundleUpdater>(world.platform, user);
+        EXPECT_EQ(updater->start(delegate), std::nullopt);
+        updater->observeCanCheck([this](bool can) { canCheck.push_back(can); });
+    }
+    /// Checks as the user does, until that has come to its end.
+    std::vector<std::string> checkNow() {
+        await(updater->check(UpdateCheck::byUser));
+        return user.news();
+    }
+    /// Lets the time pass, in which a check may run to its end.
+    std::vector<std::string> pass(std::chrono::milliseconds time) {
+        world.clock.advance(time);
+        EXPECT_TRUE(waitUntil([this] { return canCheck.back(); }));
+        return user.news();
+    }
+    /// How many checks there were since the last time.
+    std::size_t checks() { return std::exchange(delegate.checks, {}).size(); }
+    void quit() { QMetaObject::invokeMethod(qApp, "aboutToQuit"); }
+    [[nodiscard]] std::string installed() const {
+        std::ifstream program{world.platform.bundle.executable};
+        return {std::istreambuf_iterator{program}, {}};
+    }
+
+    World world;
+    UpdateSource source;
+    FakeUser user;
+    FakeDelegate delegate;
+    std::vector<bool> canCheck;
+    std::unique_ptr<BundleUpdater> updater;
+};
+
+const std::string oldProgram = "#!/bin/sh\necho quillon 1.0\n";
+const std::string newProgram = "#!/bin/sh\necho quillon 1.1\n";
+
+} // namespace
+
+TEST_F(BundleUpdaterTest, StartsOnlyWithASecureFeedAndAKey) {
+    struct Case {
+        std::string feed;
+        std::string key;
+        int code;
+    };
+    const std::string key = source.publicKey();
+    const Case cases[] = {
+        {"", key, updateFeedNotAllowed},
+        {"http://example.com/feed.xml", key, updateFeedNotAllowed},
+        {"file:///etc/passwd", key, updateFeedNotAllowed},
+        {"https://example.com/feed.xml", "", updateKeyMissing},
+        {"https://example.com/feed.xml", key + "A", updateKeyMissing},
+    };
+    for (const Case& each : cases) {
+        world.platform.bundle.info["SUFeedURL"] = each.feed;
+        world.platform.bundle.info["SUPublicEDKey"] = each.key;
+        BundleUpdater other{world.platform, user};
+        const auto error = other.start(delegate);
+        ASSERT_TRUE(error) << each.feed;
+        EXPECT_EQ(error->code, each.code) << each.feed;
+        EXPECT_FALSE(error->description.empty());
+        await(other.check(UpdateCheck::byUser)); // and stays off
+        EXPECT_THAT(user.seen, IsEmpty());
+    }
+}
+
+TEST_F(BundleUpdaterTest, InstallsAtOnceAndRelaunches) {
+    user.choice = UpdateChoice::install;
+    user.time = InstallTime::nowAndRelaunch;
+    EXPECT_THAT(checkNow(), ElementsAre("checking", "update 1.0 1.1 What is new", "preparing 1.1",
+                                        "ready 1.1"));
+    EXPECT_EQ(installed(), newProgram);
+    EXPECT_EQ(user.last.stage, UpdateProgress::Stage::unpacking);
+    EXPECT_THAT(world.workspace.log,
+                ElementsAre("open " + world.platform.bundle.url.native(), "terminate"));
+    EXPECT_THAT(delegate.checks, ElementsAre(UpdateCheck::byUser));
+    EXPECT_EQ(delegate.showings, 1);
+    EXPECT_THAT(delegate.errors, IsEmpty());
+    // At the start; while it checks, but not while it asks; while it downloads; while it installs.
+    EXPECT_THAT(canCheck, ElementsAre(true, false, true, false, true, false, true));
+    quit(); // which must not put the old version back
+    EXPECT_EQ(installed(), newProgram);
+}
+
+TEST_F(BundleUpdaterTest, InstallsOnQuitAndUntilThenOffersToDoSoNow) {
+    user.choice = UpdateChoice::install;
+    checkNow();
+    EXPECT_EQ(installed(), oldProgram);
+    EXPECT_THAT(checkNow(), ElementsAre("ready 1.1"));
+    world.defaults.setFlag("SUEnableAutomaticChecks", true);
+    updater->setAutomaticallyChecksForUpdates(true);
+    EXPECT_THAT(pass(48h), IsEmpty());
+    quit();
+    EXPECT_EQ(installed(), newProgram);
+    EXPECT_THAT(world.workspace.log, IsEmpty());
+    EXPECT_EQ(checks(), 1U);
+}
+
+TEST_F(BundleUpdaterTest, InstallsWithoutEndingTheProgram) {
+    user.choice = UpdateChoice::install;
+    user.time = InstallTime::now;
+    EXPECT_THAT(checkNow(), Contains("installed 1.1"));
+    EXPECT_EQ(installed(), newProgram);
+    EXPECT_THAT(world.workspace.log, IsEmpty());
+}
+
+TEST_F(BundleUpdaterTest, AsksOnceAtTheSecondLaunchAndThenChecksDaily) {
+    EXPECT_THAT(pass(72h), IsEmpty()); // the first launch
+    user.permission = true;
+    launch();
+    EXPECT_THAT(user.news(), ElementsAre("permission?"));
+    EXPECT_TRUE(updater->automaticallyChecksForUpdates());
+    source.publish("1.0");
+    pass(10s);
+    EXPECT_THAT(delegate.checks, ElementsAre(UpdateCheck::inBackground));
+    checks();
+    launch(); // neither the question nor the check again
+    pass(86'399s);
+    EXPECT_EQ(checks(), 0U);
+    EXPECT_THAT(pass(1s), IsEmpty());
+    EXPECT_EQ(checks(), 1U);
+    for (int day = 1; day <= 3; ++day) {
+        pass(24h);
+        EXPECT_EQ(checks(), 1U) << day;
+    }
+    EXPECT_THAT(checkNow(), ElementsAre("checking", "up to date 1.0"));
+    pass(24h - 1s); // a check by hand counts too
+    EXPECT_EQ(checks(), 1U);
+
+    updater->setAutomaticallyChecksForUpdates(false);
+    pass(72h);
+    launch();
+    pass(72h);
+    EXPECT_EQ(checks(), 0U);
+    EXPECT_THAT(user.news(), IsEmpty());
+}
+
+TEST_F(BundleUpdaterTest, NeverChecksByItselfForAUserWhoDoesNotWantIt) {
+    user.permission = false;
+    launch();
+    launch();
+    EXPECT_THAT(pass(72h), ElementsAre("permission?"));
+    EXPECT_EQ(checks(), 0U);
+}
+
+TEST_F(BundleUpdaterTest, ChecksOnceWhenTheClockHasJumped) {
+    updater->setAutomaticallyChecksForUpdates(true);
+    source.publish("1.0");
+    pass(10s);
+    EXPECT_EQ(checks(), 1U);
+    for (const std::chrono::hours jump : {-2h, 24h * 365 * 20, -24h * 365 * 20}) {
+        world.clock.jump(jump);
+        pass(3h);
+        EXPECT_EQ(checks(), 1U) << jump.count();
+    }
+    for (const char* last : {"", "soon", "-1", "99999999999999999999"}) {
+        world.defaults.setText("SULastCheckTime", last);
+        pass(3h);
+        EXPECT_EQ(checks(), 1U) << last;
+    }
+}
+
+TEST_F(BundleUpdaterTest, TellsOfASkippedVersionOnlyWhoAsks) {
+    updater->setAutomaticallyChecksForUpdates(true);
+    user.choice = UpdateChoice::skip;
+    EXPECT_THAT(pass(10s), ElementsAre("update 1.0 1.1 What is new gently"));
+    EXPECT_THAT(pass(24h), IsEmpty());
+    user.choice = UpdateChoice::later;
+    EXPECT_THAT(checkNow(), ElementsAre("checking", "update 1.0 1.1 What is new"));
+    EXPECT_THAT(pass(24h), IsEmpty());
+    source.publish("1.2");
+    EXPECT_THAT(pass(24h), ElementsAre("update 1.0 1.2 What is new gently"));
+    EXPECT_THAT(pass(24h), ElementsAre("update 1.0 1.2 What is new gently")); // it was "later"
+    EXPECT_EQ(delegate.showings, 4);
+}
+
+TEST_F(BundleUpdaterTest, BringsAnOpenQuestionForwardInsteadOfCheckingAgain) {
+    user.choice.reset();
+    updater->checkForUpdates();
+    EXPECT_FALSE(canCheck.back());
+    updater->checkForUpdates(); // does nothing now
+    ASSERT_TRUE(waitUntil([this] { return canCheck.back(); }));
+    user.news();
+    updater->checkForUpdates();
+    updater->setAutomaticallyChecksForUpdates(true);
+    world.clock.advance(48h);
+    EXPECT_THAT(user.news(), ElementsAre("forward"));
+    EXPECT_EQ(checks(), 1U);
+    user.choose(UpdateChoice::later);
+    user.choice = UpdateChoice::later;
+    EXPECT_TRUE(waitUntil([this] {
+        updater->checkForUpdates();
+        return user.news() != std::vector<std::string>{"forward"};
+    }));
+    ASSERT_TRUE(waitUntil([this] { return canCheck.back(); }));
+}
+
+TEST_F(BundleUpdaterTest, ShowsAFailureOnlyToWhoAsked) {
+    source.takeOffline(true);
+    EXPECT_THAT(checkNow(), ElementsAre("checking", "error 2002"));
+    updater->setAutomaticallyChecksForUpdates(true);
+    EXPECT_THAT(pass(24h), IsEmpty());
+    EXPECT_THAT(delegate.errors, ElementsAre(2002, 2002));
+
+    source.takeOffline(false);
+    source.signWrongly();
+    source.publish("1.1");
+    user.choice = UpdateChoice::install;
+    EXPECT_THAT(pass(24h),
+                ElementsAre("update 1.0 1.1 What is new gently", "preparing 1.1", "error 2104"));
+    EXPECT_EQ(delegate.errors.back(), 2104);
+    quit();
+    EXPECT_EQ(installed(), oldProgram);
+}
+
+TEST_F(BundleUpdaterTest, EndsWithoutAWordWhenTheUserCancels) {
+    user.choice = UpdateChoice::install;
+    user.cancels = true;
+    EXPECT_THAT(checkNow(), ElementsAre("checking"));
+    // In the background nothing shows that could be cancelled, until the user installs.
+    source.stallArchives(true);
+    updater->setAutomaticallyChecksForUpdates(true);
+    EXPECT_THAT(pass(24h),
+                ElementsAre("update 1.0 1.1 What is new gently", "preparing 1.1", "dismiss"));
+    EXPECT_THAT(delegate.errors, IsEmpty());
+    EXPECT_EQ(installed(), oldProgram);
+    EXPECT_TRUE(canCheck.back());
+}
+
+} // namespace quillon::test

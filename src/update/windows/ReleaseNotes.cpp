@@ -61,7 +61,7 @@ private:
 
 QString releaseNotesHtml(const std::string& notes) {
     const QString text = QString::fromStdString(notes).left(maximumNotes).trimmed();
-    if (!Qt::mightBeRichText(text)) return Qt::convertFromPlainText(text);
+    if (!Qt::mightBeRichText(text)) return Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
     static const QRegularExpression tag{
         QStringLiteral(R"(<(/?)([A-Za-z][A-Za-z0-9]*)((?:[^<>"']|"[^"]*"|'[^']*')*)>)")};
     const QString html = withoutHidden(text);

@@ -2,6 +2,7 @@
 
 #include "artwork/Brand.h"
 #include "artwork/Mark.h"
+#include "artwork/Palette.h"
 
 #include <QDesktopServices>
 #include <QHBoxLayout>
@@ -10,6 +11,8 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QTextBrowser>
+#include <QTextDocument>
+#include <QTextOption>
 #include <QUrl>
 
 #include <algorithm>
@@ -27,6 +30,8 @@ constexpr int columnGap = 16;
 constexpr double titleScale = 1.15;
 constexpr int highestMessage = 220;
 constexpr int lowestNotes = 160;
+/// Of 255.
+constexpr int darkLightness = 128;
 
 class MarkView : public QWidget {
 public:
@@ -54,6 +59,20 @@ protected:
     /// Whatever a document names stays where it is.
     QVariant loadResource(int /*type*/, const QUrl& /*name*/) override { return QImage{}; }
 };
+
+/// How high the view must be to show all of the text. A document of its own tells: the view's takes
+/// the width and the font of what is on screen, which the view is not yet.
+int heightOf(const QString& text, const TextView& view) {
+    view.ensurePolished();
+    QTextDocument document{text};
+    document.setDocumentMargin(0);
+    document.setDefaultFont(view.font());
+    QTextOption option;
+    option.setWrapMode(view.wordWrapMode());
+    document.setDefaultTextOption(option);
+    document.setTextWidth(UpdateDialog::textWidth);
+    return static_cast<int>(std::ceil(document.size().height()));
+}
 
 QLabel* makeLabel() {
     auto* label = new QLabel;
@@ -83,6 +102,7 @@ UpdateDialog::UpdateDialog(const QString& title, const QString& text)
     column_->setSpacing(gap);
     column_->addWidget(title_);
     column_->addWidget(text_);
+    column_->addStretch(0); // keeps the texts together where there is room to spare
     auto* body = new QHBoxLayout;
     body->setSpacing(columnGap);
     body->addWidget(new MarkView, 0, Qt::AlignTop);
@@ -104,7 +124,7 @@ void UpdateDialog::setTexts(const QString& title, const QString& text) {
 }
 
 void UpdateDialog::addContent(QWidget* content, int stretch) {
-    column_->addWidget(content, stretch);
+    column_->insertWidget(column_->count() - 1, content, stretch);
 }
 
 QPushButton* UpdateDialog::addButton(const QString& text, Place place,
@@ -133,6 +153,9 @@ QPushButton* UpdateDialog::addButton(const QString& text, Place place,
 
 void UpdateDialog::leave() {
     hide();
+    // The buttons hold the answers that are being waited for: those must not wait for the deletion.
+    for (QPushButton* button : findChildren<QPushButton*>())
+        disconnect(button, nullptr, this, nullptr);
     deleteLater();
 }
 
@@ -142,6 +165,11 @@ void UpdateDialog::reject() {
 
 QWidget* makeTextView(const QString& html, const QString& accessibleName) {
     auto* view = new TextView;
+    // Not every dark theme has a colour for links, and the usual blue is lost on it.
+    if (view->palette().color(QPalette::Base).lightness() < darkLightness) {
+        view->document()->setDefaultStyleSheet(
+            QStringLiteral("a { color: %1 }").arg(Palette::blue.name()));
+    }
     view->setHtml(html);
     view->setMinimumHeight(lowestNotes);
     view->setAccessibleName(accessibleName);
@@ -150,16 +178,15 @@ QWidget* makeTextView(const QString& html, const QString& accessibleName) {
 
 QWidget* makeMessageView(const QString& text) {
     auto* view = new TextView;
-    view->setPlainText(text);
     view->setFrameShape(QFrame::NoFrame);
     view->viewport()->setAutoFillBackground(false);
     view->document()->setDocumentMargin(0);
-    view->document()->setTextWidth(UpdateDialog::textWidth);
-    view->setFixedWidth(UpdateDialog::textWidth);
-    const int height = static_cast<int>(std::ceil(view->document()->size().height()));
-    view->setFixedHeight(std::min(height, highestMessage));
-    if (height <= highestMessage) view->setFocusPolicy(Qt::ClickFocus);
+    view->setPlainText(text);
     view->setAccessibleName(text);
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const int height = heightOf(text, *view);
+    if (height <= highestMessage) view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->setFixedSize(UpdateDialog::textWidth, std::min(height, highestMessage));
     return view;
 }
 

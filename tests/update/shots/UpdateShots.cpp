@@ -1,5 +1,5 @@
 // Shows one of the update windows on the real display, to be looked at and taken pictures of.
-// Arguments: the window's name and, where it takes one, a text.
+// Arguments: the window's name and, where it takes one, a text. DARK=1 gives dark colours.
 #include "update/windows/UpdateWindows.h"
 
 #include <QApplication>
@@ -56,6 +56,7 @@ const std::map<std::string, Show> shows{
 
 int main(int argc, char** argv) {
     const QApplication application{argc, argv};
+    if (qEnvironmentVariableIsSet("DARK")) QApplication::setPalette(QColor{45, 45, 48});
     const QStringList arguments = QApplication::arguments();
     const auto show = shows.find(arguments.value(1).toStdString());
     if (show == shows.end()) {

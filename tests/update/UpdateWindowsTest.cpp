@@ -1,0 +1,166 @@
+#include "update/windows/UpdateWindows.h"
+
+#include "support/Await.h"
+#include "support/RawServer.h"
+#include "update/windows/ReleaseNotes.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QTextBrowser>
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+/// The only window that shows.
+QWidget* shown() {
+    QWidget* found = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible()) continue;
+        EXPECT_EQ(found, nullptr) << "two windows at once";
+        found = window;
+    }
+    return found;
+}
+
+void press(const char* caption) {
+    for (auto* button : shown()->findChildren<QPushButton*>()) {
+        if (button->text() == QLatin1String{caption}) return button->click();
+    }
+    FAIL() << "no button " << caption;
+}
+
+void closeWindow() {
+    shown()->close();
+}
+
+void pressEscape() {
+    QTest::keyClick(shown(), Qt::Key_Escape);
+}
+
+void pressReturn() {
+    QTest::keyClick(shown(), Qt::Key_Return);
+}
+
+std::string texts(const QWidget* window) {
+    QString all;
+    for (const auto* label : window->findChildren<QLabel*>())
+        all += label->text() + QLatin1Char{'\n'};
+    return all.toStdString();
+}
+
+} // namespace
+
+TEST(UpdateWindows, GivesTheAnswerOfEachWayOutOfAWindow) {
+    using Way = std::function<void()>;
+    UpdateWindows windows;
+    const std::pair<Way, UpdateChoice> offers[] = {
+        {[] { press("Install"); }, UpdateChoice::install},
+        {pressReturn, UpdateChoice::install},
+        {[] { press("Later"); }, UpdateChoice::later},
+        {pressEscape, UpdateChoice::later},
+        {closeWindow, UpdateChoice::later},
+        {[&] { windows.dismiss(); }, UpdateChoice::later},
+        {[] { press("Skip this version"); }, UpdateChoice::skip},
+    };
+    for (const auto& [leave, choice] : offers) {
+        const auto answer = windows.showUpdate({"1.0", "1.1", "notes"});
+        EXPECT_FALSE(answer.isFinished());
+        leave();
+        EXPECT_EQ(await(answer), choice);
+        EXPECT_EQ(shown(), nullptr);
+    }
+    const std::pair<Way, InstallTime> ready[] = {
+        {[] { press("Install and Relaunch"); }, InstallTime::nowAndRelaunch},
+        {[] { press("Install on Quit"); }, InstallTime::onQuit},
+        {pressEscape, InstallTime::onQuit},
+    };
+    for (const auto& [leave, time] : ready) {
+        const auto answer = windows.showReady("1.1");
+        leave();
+        EXPECT_EQ(await(answer), time);
+    }
+    const std::pair<Way, bool> permissions[] = {
+        {pressReturn, true}, {[] { press("Don't Check"); }, false}, {closeWindow, false}};
+    for (const auto& [leave, granted] : permissions) {
+        const auto answer = windows.askPermission();
+        leave();
+        EXPECT_EQ(await(answer), granted);
+    }
+}
+
+TEST(UpdateWindows, AnswersForAUserWhoEndsTheProgram) {
+    auto windows = std::make_unique<UpdateWindows>();
+    const auto permission = windows->askPermission();
+    const auto choice = windows->showUpdate({"1.0", "1.1", ""});
+    windows.reset();
+    EXPECT_FALSE(await(permission));
+    EXPECT_EQ(await(choice), UpdateChoice::later);
+}
+
+TEST(UpdateWindows, FollowsADownloadThatOnlyItsUserCancels) {
+    UpdateWindows windows;
+    const std::stop_source cancel;
+    windows.showPreparing("1.1", cancel);
+    // More bytes than an int counts.
+    windows.showProgress({UpdateProgress::Stage::downloading, 3'000'000'000, 6'000'000'000});
+    EXPECT_THAT(texts(shown()), HasSubstr("3,000.0 of 6,000.0 MB"));
+    windows.showProgress({UpdateProgress::Stage::unpacking, 0, 0});
+    const auto ready = windows.showReady("1.1");
+    EXPECT_FALSE(cancel.stop_requested());
+    windows.showProgress({UpdateProgress::Stage::downloading, 1, 2}); // too late
+    EXPECT_THAT(texts(shown()), HasSubstr("Quillon 1.1 is ready to install"));
+    windows.showPreparing("1.1", cancel);
+    closeWindow();
+    EXPECT_TRUE(cancel.stop_requested());
+}
+
+TEST(UpdateWindows, LoadsNothingThatNotesName) {
+    RawServer server{[](RawServer::Connection& connection) { connection.awaitEnd(); }};
+    UpdateWindows windows;
+    const auto answer = windows.showUpdate(
+        {"1.0", "<b>1.1</b>" + std::string(10'000, 'x'),
+         "<p>New</p><img src='" + server.url("/a.png") + "'><link rel='stylesheet' href='" +
+             server.url("/a.css") + "'><p style='background-image:url(" + server.url("/b.png") +
+             ")'>Styled</p>"});
+    EXPECT_LE(shown()->width(), 800);
+    EXPECT_THAT(texts(shown()), HasSubstr("<b>1.1</b>")); // a version is no markup
+    const auto* view = shown()->findChild<QTextBrowser*>();
+    ASSERT_NE(view, nullptr);
+    EXPECT_TRUE(view->isReadOnly());
+    EXPECT_EQ(view->toPlainText(), QLatin1String{"New\nStyled"});
+    shown()->grab();
+    EXPECT_EQ(server.connections(), 0);
+}
+
+TEST(ReleaseNotes, KeepTheStructureOfATextAndNothingElse) {
+    const std::pair<std::string, std::string> cases[] = {
+        {"<h2 style='color:red'>New</h2>", "<h2>New</h2>"},
+        {"<UL><LI>a<LI>b</UL>", "<ul><li>a<li>b</ul>"},
+        {"a<script>if (1<2) f()</script><p>b</p>", "a<p>b</p>"},
+        {"<p>a<!-- <b> --></p>", "<p>a</p>"},
+        {"<p>a<img src=x onerror='>'>b</p>", "<p>ab</p>"},
+        {"<p>a</p><a href=\"https://example.com/a?b\" style=\"x\">c</a>",
+         "<p>a</p><a href=\"https://example.com/a?b\">c</a>"},
+        {"<p>a</p><a href='file:///etc/passwd'>c</a>", "<p>a</p><a>c</a>"},
+        {"<p>a</p><a href='javascript:x'>c</a>", "<p>a</p><a>c</a>"},
+        {"<p>a</p><ul", "<p>a</p>"},
+        {"<p>a</p><script>endless", "<p>a</p>"},
+    };
+    for (const auto& [notes, html] : cases)
+        EXPECT_EQ(releaseNotesHtml(notes).toStdString(), html) << notes;
+    EXPECT_THAT(releaseNotesHtml("1 < 2 & so\non").toStdString(), HasSubstr("1 &lt; 2 &amp; so"));
+    std::string deep = "<p>a</p>";
+    for (int i = 0; i < 1'000; ++i)
+        deep += "<ul><li>";
+    EXPECT_LT(releaseNotesHtml(deep).count(QLatin1String{"<ul>"}), 20);
+}
+
+} // namespace quillon::test
