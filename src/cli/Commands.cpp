@@ -129,8 +129,10 @@ QCoro::Task<int> checkForUpdates(CommandContext /*context*/, Invocation /*invoca
 QCoro::Task<int> uninstall(CommandContext context, Invocation /*invocation*/) {
     TerminalAlerts alerts;
     Uninstaller uninstaller{context.platform, context.store, context.analytics, alerts};
-    co_await uninstaller.run(
-        [] { context.console->print("Quillon and all it has stored are gone; the app is in the Trash"); });
+    const std::function<void()> tell = [console = context.console] {
+        console->print("Quillon and all it has stored are gone; the app is in the Trash");
+    };
+    co_await uninstaller.run(tell);
     // The process has ended.
     co_return exitDone;
 }

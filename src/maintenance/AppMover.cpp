@@ -109,7 +109,8 @@ bool AppMover::isRunning(const path& application) const {
 QCoro::Task<> AppMover::makeRoom(path destination) {
     if (!platform_.trees.exists(destination)) co_return;
     if (isRunning(destination)) throw MoveError{olderIsOpen};
-    if (!co_await platform_.workspace.trash(destination)) throw MoveError{olderStays};
+    const bool trashed = co_await platform_.workspace.trash(destination);
+    if (!trashed) throw MoveError{olderStays};
 }
 
 QCoro::Task<path> AppMover::move() {

@@ -80,7 +80,8 @@ QCoro::Task<> Uninstaller::run(std::function<void()> onTrashed) {
         co_await platform_.trees.remove(folder);
     platform_.defaults.removeAll();
     platform_.workspace.unlistApplication();
-    if (co_await trashApplication()) {
+    const bool trashed = co_await trashApplication();
+    if (trashed) {
         if (onTrashed) onTrashed();
     } else {
         platform_.workspace.activate();

@@ -4,15 +4,17 @@
 #include <QFuture>
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace quillon {
 
-/// One POST request.
+/// One request.
 struct HttpRequest {
     /// May hold the bot token: nothing prints, logs or throws it.
     std::string url;
@@ -32,6 +34,33 @@ struct HttpReply {
     QByteArray body;
 };
 
+/// One file to be fetched.
+struct HttpDownload {
+    std::string url;
+    /// Where the bytes go: a path where nothing is yet, in a folder of this user alone. The file is
+    /// for its owner alone (0600), and gone again when the download fails.
+    std::filesystem::path file;
+    /// What is larger has failed, in bytes.
+    qint64 maximumSize = 0;
+    /// How long nothing may move before the download has failed.
+    std::chrono::milliseconds inactivityTimeout{std::chrono::seconds{30}};
+    /// Told on the main thread, a few times a second, how many bytes have come; `total` is -1 where
+    /// the server does not say.
+    std::function<void(qint64 received, qint64 total)> progress;
+    /// A request to stop ends the download soon.
+    std::stop_token stop;
+};
+
+/// What a download came to.
+enum class DownloadOutcome {
+    done,
+    failed,     ///< no network, host not trusted, another status than 200, connection lost…
+    tooLarge,   ///< announced as or grown larger than the maximum
+    unwritable, ///< the file could not be made or written
+    diskFull,
+    stopped, ///< as was asked for
+};
+
 /// HTTP requests that run off the main thread.
 class HttpTransport {
 public:
@@ -44,6 +73,13 @@ public:
     /// trusted, nothing moved for the time-out, connection lost, reply too large.
     /// Redirects are replies. The future always finishes and is never cancelled.
     [[nodiscard]] virtual QFuture<std::optional<HttpReply>> post(HttpRequest request) = 0;
+
+    /// Like post, without the body, and following redirects to https. Plain http reaches this
+    /// machine itself, but no other unless that is allowed for all requests.
+    [[nodiscard]] virtual QFuture<std::optional<HttpReply>> get(HttpRequest request) = 0;
+
+    /// Fetches a file as get would. The future always finishes and is never cancelled.
+    [[nodiscard]] virtual QFuture<DownloadOutcome> download(HttpDownload download) = 0;
 };
 
 } // namespace quillon

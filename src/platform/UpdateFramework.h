@@ -38,7 +38,8 @@ public:
 
     /// A check is about to start; false stops it.
     virtual bool mayPerformUpdateCheck(UpdateCheck check) = 0;
-    /// A check or an installation has ended with an error, which the user has been shown.
+    /// A check or an installation has ended with an error. The user has been shown it, unless the
+    /// check was in the background.
     virtual void didAbortWithError(const UpdateError& error) = 0;
     /// An update will be installed when the program quits. True when the delegate takes over when.
     virtual bool willInstallUpdateOnQuit() = 0;

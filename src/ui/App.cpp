@@ -46,7 +46,8 @@ void loadFont() {
 /// In the order that the parts need each other: a program that moves itself starts nothing here.
 QCoro::Task<> startUp(Platform& platform, AppMover& mover, Analytics& analytics, Store& store) {
     if (mover.shouldAsk() && !platform.defaults.flag(AppMover::declinedKey).value_or(false)) {
-        if (co_await mover.ask()) co_return;
+        const bool moved = co_await mover.ask();
+        if (moved) co_return;
     }
     platform.loginItem.follow(platform.bundle.executable);
     analytics.start();

@@ -68,7 +68,7 @@ std::unique_ptr<QProcess> Program::start(const std::vector<std::string>& argumen
     auto process = std::make_unique<QProcess>();
     process->setProcessEnvironment(environment);
     process->setStandardInputFile(QProcess::nullDevice());
-    process->start(QStringLiteral(QUILLON), toList(arguments));
+    process->start(QString::fromStdString(executable), toList(arguments));
     EXPECT_TRUE(process->waitForStarted());
     return process;
 }
@@ -88,7 +88,7 @@ Finished Program::run(const std::vector<std::string>& arguments, const std::stri
     timer.start();
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(QUILLON), toList(arguments));
+    process.start(QString::fromStdString(executable), toList(arguments));
     process.write(input.data(), static_cast<qint64>(input.size()));
     process.closeWriteChannel();
     Finished run = finish(process);

@@ -49,6 +49,7 @@ public:
     [[nodiscard]] static bool hasName();
 
     QProcessEnvironment environment;
+    std::filesystem::path executable = QUILLON;
 };
 
 /// Puts content on the desktop's clipboard, and takes it away again.

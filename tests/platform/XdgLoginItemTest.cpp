@@ -74,9 +74,11 @@ TEST_F(XdgLoginItemTest, StartsAProgramOfAnyNameThatAnEntryCanHold) {
         XdgLoginItem item{folders, executable};
         EXPECT_EQ(item.registerItem(), each.exec != nullptr);
         if (each.exec) {
-            const std::string quote = std::string_view{each.exec}.ends_with('"') ? "\"" : "";
+            std::string start =
+                std::string_view{each.name}.find('%') != std::string_view::npos ? "env " : "";
+            if (std::string_view{each.exec}.ends_with('"')) start += '"';
             EXPECT_THAT(content(),
-                        HasSubstr("\nExec=" + quote + home.native() + "/" + each.exec + "\n"));
+                        HasSubstr("\nExec=" + start + home.native() + "/" + each.exec + "\n"));
             EXPECT_EQ(item.status(), LoginItem::Status::enabled);
             std::filesystem::remove(executable);
             EXPECT_EQ(item.status(), LoginItem::Status::notFound);
@@ -96,6 +98,9 @@ TEST_F(XdgLoginItemTest, UnderstandsWhatOthersHaveWritten) {
         {start + exec, enabled},
         {start + "Exec = \"" + home.native() + "/quillon\" --quiet %U\r\n", enabled},
         {start + "Exec=sh -c true\n", enabled},
+        {start + "Exec=env LANG=C sh\n", enabled},
+        {start + "Exec=env LANG=C\n", notFound},
+        {start + "Exec=env " + home.native() + "/other\n", notFound},
         {start + "Exec=no-such-program-anywhere\n", notFound},
         {start + "Exec=" + home.native() + "\n", notFound},
         {start + "Exec=\"" + home.native() + "/quillon\n", notFound},

@@ -2,31 +2,33 @@
 
 #include "platform/linux/CurlTransport.h"
 
-#include <QPromise>
-
 #include <curl/curl.h>
 
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <string>
 
 namespace quillon {
 
-/// One request on its way through libcurl, with the buffers libcurl reads from and writes to. Stays
-/// at its address, which libcurl knows.
+/// One request on its way through libcurl: what all of them have in common. Stays at its address,
+/// which libcurl knows.
 class CurlTransfer {
 public:
     using Moment = std::chrono::steady_clock::time_point;
 
-    /// `listener` is the number of whoever is told the progress; 0 when nobody is.
-    CurlTransfer(HttpRequest request, std::uint64_t listener);
+    /// How many bytes have gone the way that is reported.
+    struct Progress {
+        qint64 done = 0;
+        qint64 total = 0;
+    };
+
     CurlTransfer(const CurlTransfer&) = delete;
     CurlTransfer& operator=(const CurlTransfer&) = delete;
-    ~CurlTransfer() = default;
+    virtual ~CurlTransfer() = default;
 
+    /// The number of whoever is told the progress; 0 when nobody is.
     [[nodiscard]] std::uint64_t listener() const { return listener_; }
-    [[nodiscard]] qint64 total() const { return total_; }
-    [[nodiscard]] QFuture<std::optional<HttpReply>> future() const { return promise_.future(); }
 
     /// libcurl's handle of this transfer; null before it was prepared.
     [[nodiscard]] CURL* handle() const { return handle_.get(); }
@@ -37,39 +39,44 @@ public:
     /// Looks at the counters; tells when the transfer has failed if nothing moves from now on.
     Moment deadline(Moment now);
 
-    /// How many bytes of the body have gone out.
-    [[nodiscard]] qint64 sent() const;
+    [[nodiscard]] virtual Progress progress() const = 0;
 
-    /// Lets go of the request's bytes and finishes the future: with the reply when libcurl reports
-    /// success, else with none. The handle must be taken out of the multi handle afterwards.
-    void finish(CURLcode code);
+    /// Whether the transfer is no longer wanted.
+    [[nodiscard]] virtual bool isStopped() const { return false; }
+
+    /// Lets go of the request's bytes and finishes the future: with a success only when libcurl
+    /// reports one. The handle must be taken out of the multi handle afterwards.
+    virtual void finish(CURLcode code) = 0;
 
     /// When the progress was told last, and what was told.
     Moment toldAt;
     qint64 told = -1;
 
+protected:
+    CurlTransfer(std::string url, std::chrono::milliseconds inactivityTimeout,
+                 std::uint64_t listener);
+
+    /// Tells libcurl the particulars; false when it refuses them.
+    virtual bool describe(const CurlTransportOptions& options) = 0;
+
+    /// Makes it a GET that follows redirects, to https alone, and may be sent in plain http to this
+    /// machine itself.
+    void fetch(const CurlTransportOptions& options);
+
+    /// 0 when there was no reply.
+    [[nodiscard]] long status() const;
+
 private:
-    static size_t readBody(char* target, size_t size, size_t count, void* self);
-    static int seekBody(void* self, curl_off_t offset, int origin);
-    static size_t takeReply(char* bytes, size_t size, size_t count, void* self);
-    bool setHeaders();
+    [[nodiscard]] bool isToThisMachine() const;
     [[nodiscard]] std::uint64_t movement() const;
 
     struct FreeHandle {
         void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
     };
-    struct FreeList {
-        void operator()(curl_slist* list) const { curl_slist_free_all(list); }
-    };
 
-    HttpRequest request_;
+    std::string url_;
+    std::chrono::milliseconds inactivityTimeout_;
     std::uint64_t listener_;
-    qint64 total_ = 0;
-    qsizetype piece_ = 0;
-    qsizetype offset_ = 0;
-    HttpReply reply_;
-    QPromise<std::optional<HttpReply>> promise_;
-    std::unique_ptr<curl_slist, FreeList> headers_;
     std::unique_ptr<CURL, FreeHandle> handle_;
     std::uint64_t movement_ = 0;
     Moment movedAt_;

@@ -1,6 +1,7 @@
 #include "platform/linux/CurlTransport.h"
 
-#include "platform/linux/CurlTransfer.h"
+#include "platform/linux/CurlDownload.h"
+#include "platform/linux/CurlRequest.h"
 
 #include <QObject>
 
@@ -96,6 +97,11 @@ public:
         curl_multi_wakeup(multi_);
     }
 
+    /// Makes the thread look at its transfers. Thread-safe.
+    void wake() {
+        if (multi_) curl_multi_wakeup(multi_);
+    }
+
 private:
     using Transfers = std::vector<std::unique_ptr<CurlTransfer>>;
 
@@ -145,15 +151,15 @@ private:
         }
     }
 
-    /// Ends what has not moved for too long, tells progress, and gives how long there is nothing
-    /// more to do unless a connection stirs.
+    /// Ends what has not moved for too long or is no longer wanted, tells progress, and gives how
+    /// long there is nothing more to do unless a connection stirs.
     std::chrono::milliseconds attend() {
         const Moment now = std::chrono::steady_clock::now();
         Moment next = now + longestSleep;
         std::vector<CurlTransfer*> expired;
         for (const auto& transfer : running_) {
             const Moment deadline = transfer->deadline(now);
-            if (deadline <= now) expired.push_back(transfer.get());
+            if (deadline <= now || transfer->isStopped()) expired.push_back(transfer.get());
             next = std::min({next, deadline, tellProgress(*transfer, now)});
         }
         for (CurlTransfer* transfer : expired)
@@ -161,21 +167,24 @@ private:
         return std::chrono::ceil<std::chrono::milliseconds>(std::max(next - now, {}));
     }
 
-    /// Tells what has gone out, unless that was done a moment ago; gives when to come back.
+    /// Tells what has moved, unless that was done a moment ago; gives when to come back.
     Moment tellProgress(CurlTransfer& transfer, Moment now) {
-        const qint64 sent = transfer.sent();
-        if (transfer.listener() == 0 || sent == transfer.told) return Moment::max();
+        if (transfer.listener() == 0) return Moment::max();
+        const auto [done, total] = transfer.progress();
+        if (done == transfer.told) return Moment::max();
         const Moment due = transfer.toldAt + progressInterval;
         if (due > now) return due;
         transfer.toldAt = now;
-        transfer.told = sent;
-        listeners_.tell(transfer.listener(), sent, transfer.total(), false);
+        transfer.told = done;
+        listeners_.tell(transfer.listener(), done, total, false);
         return Moment::max();
     }
 
     void end(CurlTransfer& transfer, CURLcode code) {
-        if (transfer.listener() != 0)
-            listeners_.tell(transfer.listener(), transfer.sent(), transfer.total(), true);
+        if (transfer.listener() != 0) {
+            const auto [done, total] = transfer.progress();
+            listeners_.tell(transfer.listener(), done, total, true);
+        }
         transfer.finish(code);
         if (transfer.handle()) curl_multi_remove_handle(multi_, transfer.handle());
         std::erase_if(running_, [&](const auto& each) { return each.get() == &transfer; });
@@ -197,13 +206,34 @@ CurlTransport::CurlTransport(CurlTransportOptions options)
 
 CurlTransport::~CurlTransport() = default;
 
-QFuture<std::optional<HttpReply>> CurlTransport::post(HttpRequest request) {
-    std::uint64_t listener = 0;
-    if (request.progress) listener = listeners_->add(std::exchange(request.progress, nullptr));
-    auto transfer = std::make_unique<CurlTransfer>(std::move(request), listener);
+std::uint64_t CurlTransport::listen(std::function<void(qint64, qint64)>& progress) {
+    auto listener = std::exchange(progress, nullptr);
+    return listener ? listeners_->add(std::move(listener)) : 0;
+}
+
+template <typename Transfer>
+auto CurlTransport::start(std::unique_ptr<Transfer> transfer) {
     auto future = transfer->future();
     worker_->add(std::move(transfer));
     return future;
+}
+
+QFuture<std::optional<HttpReply>> CurlTransport::post(HttpRequest request) {
+    const std::uint64_t listener = listen(request.progress);
+    return start(
+        std::make_unique<CurlRequest>(CurlRequest::Method::post, std::move(request), listener));
+}
+
+QFuture<std::optional<HttpReply>> CurlTransport::get(HttpRequest request) {
+    const std::uint64_t listener = listen(request.progress);
+    return start(
+        std::make_unique<CurlRequest>(CurlRequest::Method::get, std::move(request), listener));
+}
+
+QFuture<DownloadOutcome> CurlTransport::download(HttpDownload download) {
+    const std::uint64_t listener = listen(download.progress);
+    return start(std::make_unique<CurlDownload>(std::move(download), listener,
+                                                [worker = worker_.get()] { worker->wake(); }));
 }
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 
 #include "platform/HttpTransport.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 
@@ -25,12 +26,20 @@ public:
     /// Ends what still runs: its futures finish with none, its progress is no longer told.
     ~CurlTransport() override;
 
-    /// To be called on the thread that made the transport, which is where progress is told.
+    /// All to be called on the thread that made the transport, which is where progress is told.
     [[nodiscard]] QFuture<std::optional<HttpReply>> post(HttpRequest request) override;
+    [[nodiscard]] QFuture<std::optional<HttpReply>> get(HttpRequest request) override;
+    [[nodiscard]] QFuture<DownloadOutcome> download(HttpDownload download) override;
 
 private:
     class ProgressListeners;
     class Worker;
+
+    /// Takes over who is told a progress; 0 when nobody is.
+    std::uint64_t listen(std::function<void(qint64, qint64)>& progress);
+    template <typename Transfer>
+    auto start(std::unique_ptr<Transfer> transfer);
+
     std::unique_ptr<ProgressListeners> listeners_;
     std::unique_ptr<Worker> worker_;
 };

@@ -9,6 +9,9 @@ namespace quillon {
 
 namespace {
 
+/// Sets variables and starts a program.
+constexpr std::string_view environmentProgram = "env";
+
 constexpr std::string_view mainGroup = "[Desktop Entry]";
 
 /// What may not stand in an argument of Exec outside quotes.
@@ -58,25 +61,27 @@ std::string unescaped(std::string_view value) {
     return text;
 }
 
-/// The first argument of a command line of Exec, without quotes and their escapes; none when its
+/// The arguments of a command line of Exec, without quotes and their escapes; none of them when its
 /// quotes do not end.
-std::optional<std::string> firstArgument(std::string_view command) {
-    std::string argument;
+std::vector<std::string> argumentsOf(std::string_view command) {
+    std::vector<std::string> arguments;
+    bool inArgument = false;
     bool inQuotes = false;
     for (std::size_t index = 0; index < command.size(); ++index) {
-        const char byte = command[index];
-        if (byte == '"') {
+        const bool escape = command[index] == '\\' && index + 1 < command.size();
+        const char byte = command[escape ? ++index : index];
+        if (!escape && !inQuotes && byte == ' ') {
+            inArgument = false;
+            continue;
+        }
+        if (!std::exchange(inArgument, true)) arguments.emplace_back();
+        if (!escape && byte == '"') {
             inQuotes = !inQuotes;
-        } else if (byte == '\\' && index + 1 < command.size()) {
-            argument += command[++index];
-        } else if (!inQuotes && byte == ' ') {
-            break;
         } else {
-            argument += byte;
+            arguments.back() += byte;
         }
     }
-    if (inQuotes) return std::nullopt;
-    return argument;
+    return inQuotes ? std::vector<std::string>{} : arguments;
 }
 
 } // namespace
@@ -153,7 +158,10 @@ DesktopEntry::program(const std::filesystem::path& executable) {
                           path.find('=') == std::string::npos &&
                           std::ranges::none_of(path, isControl);
     if (!nameable) return std::nullopt;
-    return Program{.exec = stringValue(asArgument(path)), .tryExec = stringValue(path)};
+    // GLib looks for a program in first place before it takes the doubled percent signs for single.
+    const bool needsStarter = path.find('%') != std::string::npos;
+    const std::string starter = needsStarter ? std::string{environmentProgram} + ' ' : "";
+    return Program{.exec = starter + stringValue(asArgument(path)), .tryExec = stringValue(path)};
 }
 
 std::string DesktopEntry::stringValue(std::string_view text) {
@@ -166,11 +174,18 @@ std::string DesktopEntry::stringValue(std::string_view text) {
 }
 
 std::optional<std::string> DesktopEntry::programOf(std::string_view exec) {
-    auto program = firstArgument(unescaped(exec));
-    if (!program || program->empty()) return std::nullopt;
-    for (std::size_t at = 0; (at = program->find("%%", at)) != std::string::npos; ++at)
-        program->erase(at, 1);
-    return program;
+    const std::vector<std::string> arguments = argumentsOf(unescaped(exec));
+    auto program = arguments.begin();
+    if (program != arguments.end() && *program == environmentProgram) {
+        program = std::find_if(program + 1, arguments.end(), [](const std::string& argument) {
+            return argument.find('=') == std::string::npos;
+        });
+    }
+    if (program == arguments.end() || program->empty()) return std::nullopt;
+    std::string name = *program;
+    for (std::size_t at = 0; (at = name.find("%%", at)) != std::string::npos; ++at)
+        name.erase(at, 1);
+    return name;
 }
 
 } // namespace quillon

@@ -25,7 +25,7 @@ constexpr mode_t ownersFolder = S_IRWXU;
 constexpr mode_t permissionBits = 07777;
 
 /// How much is handed to the system at once, in bytes.
-constexpr size_t portion = 8 << 20;
+constexpr size_t portion = 1 << 20;
 
 /// What identifies a file whatever its name.
 using FileId = std::pair<dev_t, ino_t>;

@@ -1,0 +1,223 @@
+#include "update/Archive.h"
+
+#include "update/Errors.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <memory>
+#include <set>
+#include <string>
+
+namespace quillon {
+
+namespace {
+
+using std::filesystem::path;
+
+/// How much of the archive is read at once, in bytes.
+constexpr std::size_t blockSize = 128 * 1024;
+
+constexpr mode_t privileges = S_ISUID | S_ISGID;
+
+/// A path of the archive without "." and doubled slashes; an error's code where it leads outside.
+struct EntryPath {
+    path relative;
+    int objection = 0;
+};
+
+EntryPath entryPath(const char* name) {
+    EntryPath result;
+    const path given{name ? name : ""};
+    if (given.empty()) result.objection = updateArchiveDamaged;
+    if (given.is_absolute()) result.objection = updateArchiveAbsolutePath;
+    for (const path& part : given) {
+        if (part == "..") result.objection = updateArchiveParentPath;
+        if (!part.empty() && part != ".") result.relative /= part;
+    }
+    return result;
+}
+
+/// Whether a symbolic link at `at` stays inside. Its parents are real folders, so that ".." at the
+/// front can be counted; after a name, which may be a link itself, it cannot.
+bool staysInside(const path& at, const path& target) {
+    if (target.empty() || target.is_absolute()) return false;
+    auto up = std::distance(at.begin(), at.end()) - 1;
+    bool named = false;
+    for (const path& part : target) {
+        if (part.empty() || part == ".") continue;
+        if (part != "..") {
+            named = true;
+        } else if (named || up-- == 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+struct FreeReader {
+    void operator()(archive* reader) const { archive_read_free(reader); }
+};
+struct FreeWriter {
+    void operator()(archive* writer) const { archive_write_free(writer); }
+};
+
+/// One archive on its way to one folder.
+class Unpacking {
+public:
+    Unpacking(const path& folder, UnpackLimits limits, const std::stop_token& stop)
+        : folder_{folder},
+          limits_{limits},
+          stop_{stop} {}
+
+    std::optional<UpdateError> run(const path& file) {
+        if (!open(file)) return updateError(updateArchiveDamaged);
+        for (;;) {
+            archive_entry* entry = nullptr;
+            const int result = archive_read_next_header(reader_.get(), &entry);
+            if (result == ARCHIVE_EOF) return finish();
+            // A warning is about what is not taken over anyway, such as an owner's name.
+            if (result < ARCHIVE_WARN) return updateError(updateArchiveDamaged);
+            if (auto error = unpack(entry)) return error;
+        }
+    }
+
+private:
+    bool open(const path& file) {
+        constexpr int flags = ARCHIVE_EXTRACT_PERM | ARCHIVE_EXTRACT_TIME |
+                              ARCHIVE_EXTRACT_NO_OVERWRITE | ARCHIVE_EXTRACT_SECURE_SYMLINKS |
+                              ARCHIVE_EXTRACT_SECURE_NODOTDOT;
+        archive* reader = reader_.get();
+        // The library refuses to write through any link, those above the folder included.
+        std::error_code error;
+        folder_ = std::filesystem::canonical(folder_, error);
+        return !error && reader && writer_ &&
+               archive_write_disk_set_options(writer_.get(), flags) == ARCHIVE_OK &&
+               archive_read_support_filter_gzip(reader) == ARCHIVE_OK &&
+               archive_read_support_filter_xz(reader) == ARCHIVE_OK &&
+               archive_read_support_filter_zstd(reader) == ARCHIVE_OK &&
+               archive_read_support_format_tar(reader) == ARCHIVE_OK &&
+               archive_read_open_filename(reader, file.c_str(), blockSize) == ARCHIVE_OK;
+    }
+
+    std::optional<UpdateError> unpack(archive_entry* entry) {
+        if (stop_.stop_requested()) return updateError(updateCancelled);
+        const auto [relative, objection] = entryPath(name(entry));
+        if (objection != 0) return updateError(objection);
+        // The folder itself is not the archive's to change.
+        if (relative.empty()) return std::nullopt;
+        if (const int reason = objectionTo(entry, relative)) return updateError(reason);
+        if (!hasRoom(entry)) return fileError(ENOSPC);
+        archive_entry_set_pathname(entry, (folder_ / relative).c_str());
+        if (archive_write_header(writer_.get(), entry) < ARCHIVE_WARN) return writeError();
+        if (auto error = copyData()) return error;
+        if (archive_write_finish_entry(writer_.get()) < ARCHIVE_WARN) return writeError();
+        return std::nullopt;
+    }
+
+    /// As stored; in UTF-8 where the process's character set cannot express it.
+    static const char* name(archive_entry* entry) {
+        const char* name = archive_entry_pathname(entry);
+        return name ? name : archive_entry_pathname_utf8(entry);
+    }
+
+    /// The code of what speaks against the entry; 0 when nothing does.
+    int objectionTo(archive_entry* entry, const path& relative) {
+        if (++entries_ > limits_.entries) return updateArchiveTooLarge;
+        if (goesThroughLink(relative)) return updateArchiveLink;
+        if (const char* target = archive_entry_hardlink(entry))
+            return redirectHardLink(entry, target);
+        const mode_t type = archive_entry_filetype(entry);
+        if (type == AE_IFLNK) return objectionToLink(entry, relative);
+        if (type != AE_IFREG && type != AE_IFDIR) return updateArchiveSpecialFile;
+        if (archive_entry_perm(entry) & privileges) return updateArchivePrivileges;
+        const la_int64_t size = type == AE_IFREG ? archive_entry_size(entry) : 0;
+        if (size < 0) return updateArchiveDamaged;
+        if (size > limits_.bytes - announced_) return updateArchiveTooLarge;
+        announced_ += size;
+        return 0;
+    }
+
+    bool goesThroughLink(const path& relative) const {
+        path above;
+        return std::any_of(relative.begin(), relative.end(),
+                           [&](const path& part) { return links_.contains(above /= part); });
+    }
+
+    int objectionToLink(archive_entry* entry, const path& relative) {
+        const char* target = archive_entry_symlink(entry);
+        if (!target || !staysInside(relative, target)) return updateArchiveLink;
+        links_.insert(relative);
+        return 0;
+    }
+
+    int redirectHardLink(archive_entry* entry, const char* target) {
+        const auto [relative, objection] = entryPath(target);
+        if (objection != 0 || relative.empty() || goesThroughLink(relative))
+            return updateArchiveLink;
+        archive_entry_set_hardlink(entry, (folder_ / relative).c_str());
+        // Only a name more: modes and bytes are those of the file it names.
+        archive_entry_unset_size(entry);
+        archive_entry_set_perm(entry, 0);
+        return 0;
+    }
+
+    bool hasRoom(archive_entry* entry) const {
+        struct statvfs disk {};
+        if (::statvfs(folder_.c_str(), &disk) != 0) return true;
+        const auto room = disk.f_bavail * disk.f_frsize;
+        return static_cast<fsblkcnt_t>(archive_entry_size(entry)) <= room;
+    }
+
+    std::optional<UpdateError> copyData() {
+        for (;;) {
+            const void* bytes = nullptr;
+            std::size_t size = 0;
+            la_int64_t offset = 0;
+            const int result = archive_read_data_block(reader_.get(), &bytes, &size, &offset);
+            if (result == ARCHIVE_EOF) return std::nullopt;
+            if (result < ARCHIVE_WARN) return updateError(updateArchiveDamaged);
+            if (stop_.stop_requested()) return updateError(updateCancelled);
+            written_ += static_cast<qint64>(size);
+            if (written_ > announced_) return updateError(updateArchiveDamaged);
+            if (archive_write_data_block(writer_.get(), bytes, size, offset) < ARCHIVE_WARN)
+                return writeError();
+        }
+    }
+
+    /// Folders get their modes and times last.
+    std::optional<UpdateError> finish() {
+        if (archive_write_close(writer_.get()) < ARCHIVE_WARN) return writeError();
+        return std::nullopt;
+    }
+
+    /// What the disk refused. A file that is there already comes twice in the archive.
+    UpdateError writeError() const {
+        const int error = archive_errno(writer_.get());
+        return error == EEXIST ? updateError(updateArchiveDamaged) : fileError(error);
+    }
+
+    path folder_;
+    UnpackLimits limits_;
+    const std::stop_token& stop_;
+    std::unique_ptr<archive, FreeReader> reader_{archive_read_new()};
+    std::unique_ptr<archive, FreeWriter> writer_{archive_write_disk_new()};
+    /// The symbolic links made so far, relative to the folder.
+    std::set<path> links_;
+    int entries_ = 0;
+    qint64 announced_ = 0;
+    qint64 written_ = 0;
+};
+
+} // namespace
+
+std::optional<UpdateError> unpack(const path& archive, const path& folder, UnpackLimits limits,
+                                  const std::stop_token& stop) {
+    return Unpacking{folder, limits, stop}.run(archive);
+}
+
+} // namespace quillon

@@ -1,0 +1,266 @@
+#include "update/BundleUpdater.h"
+
+#include "platform/Platform.h"
+#include "platform/UserDefaults.h"
+#include "platform/Workspace.h"
+#include "update/Errors.h"
+#include "update/Preparation.h"
+#include "update/UpdateUserDriver.h"
+
+#include <QCoreApplication>
+#include <QCoro/QCoroFuture>
+#include <QtConcurrentRun>
+
+#include <algorithm>
+#include <charconv>
+#include <tuple>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+using namespace std::chrono_literals;
+using std::chrono::seconds;
+
+constexpr std::string_view feedKey = "SUFeedURL";
+constexpr std::string_view publicKeyKey = "SUPublicEDKey";
+constexpr std::string_view buildKey = "CFBundleVersion";
+constexpr std::string_view automaticKey = "SUEnableAutomaticChecks";
+constexpr std::string_view launchedBeforeKey = "SUHasLaunchedBefore";
+/// Seconds since 1970-01-01 UTC.
+constexpr std::string_view lastCheckKey = "SULastCheckTime";
+/// The skipped version as versions are compared.
+constexpr std::string_view skippedKey = "SUSkippedVersion";
+
+constexpr seconds checkInterval{86'400};
+/// Lets the launch, and at login the network, come first.
+constexpr std::chrono::milliseconds launchPatience = 10s;
+/// Timers stand still while the machine sleeps and know nothing of a clock that is set: the time of
+/// day is looked at anew this often.
+constexpr std::chrono::milliseconds longestNap = 1h;
+
+seconds sinceEpoch(Clock::Time time) {
+    return std::chrono::floor<seconds>(time.time_since_epoch());
+}
+
+/// A time in seconds; none when the text is anything else.
+std::optional<seconds> parseSeconds(const std::string& text) {
+    seconds::rep value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+    return seconds{value};
+}
+
+} // namespace
+
+BundleUpdater::BundleUpdater(Platform& platform, UpdateUserDriver& driver, Schedule schedule)
+    : platform_{platform},
+      driver_{driver},
+      schedule_{schedule} {}
+
+BundleUpdater::~BundleUpdater() {
+    stop_.request_stop();
+}
+
+std::optional<UpdateError> BundleUpdater::start(UpdaterDelegate& delegate) {
+    feedUrl_ = platform_.bundle.text(feedKey).value_or("");
+    if (!isAllowedUrl(feedUrl_)) return updateError(updateFeedNotAllowed);
+    if (!parsePublicKey(platform_.bundle.text(publicKeyKey).value_or("")))
+        return updateError(updateKeyMissing);
+    delegate_ = &delegate;
+    QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &context_,
+                     [this] { finishOnQuit(); });
+    if (schedule_ == Schedule::none) return std::nullopt;
+    // Nobody waits for it, and the thread pool is waited for at the end of the process.
+    std::ignore = QtConcurrent::run(removeLeftovers, platform_.bundle, platform_.folders);
+    greetOrAskPermission();
+    schedule(std::clamp(untilNextCheck(), launchPatience, longestNap));
+    return std::nullopt;
+}
+
+void BundleUpdater::observeCanCheck(std::function<void(bool)> observer) {
+    observer_ = std::move(observer);
+    observer_(canCheck());
+}
+
+void BundleUpdater::enter(Phase phase) {
+    const bool before = canCheck();
+    phase_ = phase;
+    if (observer_ && canCheck() != before) observer_(canCheck());
+}
+
+// --- when ---------------------------------------------------------------------------------------
+
+bool BundleUpdater::automaticallyChecksForUpdates() const {
+    return platform_.defaults.flag(automaticKey).value_or(false);
+}
+
+void BundleUpdater::setAutomaticallyChecksForUpdates(bool automatically) {
+    platform_.defaults.setFlag(automaticKey, automatically);
+    schedule(std::clamp(untilNextCheck(), launchPatience, longestNap));
+}
+
+void BundleUpdater::greetOrAskPermission() {
+    if (platform_.defaults.flag(automaticKey)) return;
+    if (platform_.defaults.flag(launchedBeforeKey).value_or(false)) {
+        askPermission();
+    } else {
+        platform_.defaults.setFlag(launchedBeforeKey, true);
+    }
+}
+
+QCoro::Task<> BundleUpdater::askPermission() {
+    const bool granted = co_await driver_.askPermission();
+    setAutomaticallyChecksForUpdates(granted);
+}
+
+std::chrono::milliseconds BundleUpdater::untilNextCheck() const {
+    const auto now = sinceEpoch(platform_.clock.now());
+    const auto last = parseSeconds(platform_.defaults.text(lastCheckKey).value_or(""));
+    // A check that is still to come tells that the clock was wrong then or is now: check, which
+    // puts it right.
+    if (!last || *last < 0s || *last > now) return 0ms;
+    return std::max(0s, checkInterval - std::min(checkInterval, now - *last));
+}
+
+void BundleUpdater::schedule(std::chrono::milliseconds delay) {
+    timer_.reset();
+    if (!delegate_ || schedule_ == Schedule::none || !automaticallyChecksForUpdates()) return;
+    timer_ = platform_.clock.after(delay, [this] { tick(); });
+}
+
+void BundleUpdater::tick() {
+    const std::chrono::milliseconds wait = untilNextCheck();
+    schedule(wait > 0ms ? std::min(wait, longestNap) : longestNap);
+    if (wait == 0ms && phase_ == Phase::idle && !prepared_) check(UpdateCheck::inBackground);
+}
+
+// --- what ---------------------------------------------------------------------------------------
+
+void BundleUpdater::checkForUpdates() {
+    check(UpdateCheck::byUser);
+}
+
+QCoro::Task<> BundleUpdater::check(UpdateCheck check) {
+    if (!delegate_ || phase_ == Phase::working) co_return;
+    if (phase_ == Phase::waiting) {
+        driver_.comeForward();
+        co_return;
+    }
+    if (prepared_) {
+        co_await offerInstallation();
+    } else if (delegate_->mayPerformUpdateCheck(check)) {
+        co_await lookForUpdate(check);
+    }
+    enter(Phase::idle);
+}
+
+QCoro::Task<> BundleUpdater::lookForUpdate(UpdateCheck check) {
+    enter(Phase::working);
+    const bool background = check == UpdateCheck::inBackground;
+    platform_.defaults.setText(lastCheckKey,
+                               std::to_string(sinceEpoch(platform_.clock.now()).count()));
+    const std::stop_source cancel;
+    if (!background) driver_.showChecking(cancel);
+    const auto feed = co_await fetchFeed(platform_, feedUrl_);
+    if (cancel.stop_requested()) co_return;
+    if (const auto* error = std::get_if<UpdateError>(&feed)) {
+        if (background)
+            delegate_->didAbortWithError(*error);
+        else
+            fail(*error);
+        co_return;
+    }
+    // Whoever asks is told also of what was skipped.
+    const std::string skipped =
+        background ? platform_.defaults.text(skippedKey).value_or("") : std::string{};
+    const Bundle& bundle = platform_.bundle;
+    const FeedItem* newest = newestUpdate(std::get<std::vector<FeedItem>>(feed),
+                                          bundle.text(buildKey).value_or(bundle.shortVersion()),
+                                          platform_.system.version, skipped);
+    if (newest) {
+        co_await offer(*newest, background);
+    } else if (!background) {
+        driver_.showUpToDate(bundle.shortVersion());
+    }
+}
+
+QCoro::Task<> BundleUpdater::offer(FeedItem item, bool gently) {
+    UpdateOffer offered{.installedVersion = platform_.bundle.shortVersion(),
+                        .version = item.shortVersion,
+                        .notes = item.notes,
+                        .gently = gently && delegate_->supportsGentleScheduledUpdateReminders()};
+    delegate_->willHandleShowingUpdate();
+    enter(Phase::waiting);
+    const UpdateChoice choice = co_await driver_.showUpdate(std::move(offered));
+    if (choice == UpdateChoice::skip) platform_.defaults.setText(skippedKey, item.version);
+    if (choice == UpdateChoice::install) co_await prepare(std::move(item));
+}
+
+QCoro::Task<> BundleUpdater::prepare(FeedItem item) {
+    enter(Phase::working);
+    // Told before megabytes have come for nothing.
+    if (const auto objection = objectionToUpdating(platform_.bundle.url)) {
+        fail(*objection);
+        co_return;
+    }
+    stop_ = std::stop_source{};
+    driver_.showPreparing(item.shortVersion, stop_);
+    std::function<void(UpdateProgress)> progress = [this](UpdateProgress news) {
+        driver_.showProgress(news);
+    };
+    auto outcome =
+        co_await prepareUpdate(platform_, std::move(item), std::move(progress), stop_.get_token());
+    if (const auto* error = std::get_if<UpdateError>(&outcome)) {
+        if (error->code == updateCancelled)
+            driver_.dismiss();
+        else
+            fail(*error);
+        co_return;
+    }
+    prepared_ = std::get<PreparedUpdate>(std::move(outcome));
+    installsOnQuit_ = !delegate_->willInstallUpdateOnQuit();
+    co_await offerInstallation();
+}
+
+QCoro::Task<> BundleUpdater::offerInstallation() {
+    enter(Phase::waiting);
+    const InstallTime time = co_await driver_.showReady(prepared_->item.shortVersion);
+    if (time == InstallTime::onQuit) co_return;
+    enter(Phase::working);
+    installNow(time == InstallTime::nowAndRelaunch);
+}
+
+void BundleUpdater::installNow(bool relaunch) {
+    const std::string version = prepared_->item.shortVersion;
+    const auto error = install(*prepared_);
+    dropPrepared();
+    if (error) {
+        fail(*error);
+    } else if (relaunch) {
+        platform_.workspace.openAfterExit(platform_.bundle.url);
+        platform_.workspace.terminate();
+    } else {
+        driver_.showInstalled(version);
+    }
+}
+
+void BundleUpdater::finishOnQuit() {
+    stop_.request_stop();
+    if (!prepared_ || !installsOnQuit_) return;
+    if (const auto error = install(*prepared_)) delegate_->didAbortWithError(*error);
+    dropPrepared();
+}
+
+void BundleUpdater::fail(const UpdateError& error) {
+    driver_.showError(error);
+    delegate_->didAbortWithError(error);
+}
+
+void BundleUpdater::dropPrepared() {
+    // With the last copy goes a folder that may hold much.
+    std::ignore = QtConcurrent::run([update = std::exchange(prepared_, std::nullopt)] {});
+}
+
+} // namespace quillon

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/UpdateFramework.h"
+#include "update/Feed.h"
+#include "update/Installation.h"
+
+#include <QCoro/QCoroTask>
+#include <QObject>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <stop_token>
+#include <string>
+
+namespace quillon {
+
+struct Platform;
+class UpdateUserDriver;
+
+/// Keeps a running application folder up to date from the feed that its "SUFeedURL" names, with
+/// archives that the owner of its "SUPublicEDKey" has signed. Checks once a day where the user has
+/// agreed, which it asks for at the second launch, and whenever it is told to. Outlives its tasks.
+class BundleUpdater final : public UpdateFramework {
+public:
+    enum class Schedule {
+        daily, ///< as the user's preferences have it
+        none,  ///< checks only when told to, asks and cleans up nothing
+    };
+
+    BundleUpdater(Platform& platform, UpdateUserDriver& driver,
+                  Schedule schedule = Schedule::daily);
+    ~BundleUpdater() override;
+
+    /// Fails with updateFeedNotAllowed or updateKeyMissing when the bundle has no feed that may be
+    /// read or no key that is one.
+    [[nodiscard]] std::optional<UpdateError> start(UpdaterDelegate& delegate) override;
+    void observeCanCheck(std::function<void(bool)> observer) override;
+    void checkForUpdates() override;
+    [[nodiscard]] bool automaticallyChecksForUpdates() const override;
+    void setAutomaticallyChecksForUpdates(bool automatically) override;
+
+    /// Checks, and goes on as the user driver answers, to the end. When something shows already
+    /// that waits for an answer, brings that to the front; does nothing while a check cannot start.
+    QCoro::Task<> check(UpdateCheck check);
+
+private:
+    enum class Phase {
+        idle,
+        working, ///< checking, preparing or installing
+        waiting, ///< for the user's answer
+    };
+
+    void enter(Phase phase);
+    [[nodiscard]] bool canCheck() const { return phase_ != Phase::working; }
+
+    void greetOrAskPermission();
+    QCoro::Task<> askPermission();
+    [[nodiscard]] std::chrono::milliseconds untilNextCheck() const;
+    void schedule(std::chrono::milliseconds delay);
+    void tick();
+
+    [[nodiscard]] QCoro::Task<> lookForUpdate(UpdateCheck check);
+    [[nodiscard]] QCoro::Task<> offer(FeedItem item, bool gently);
+    [[nodiscard]] QCoro::Task<> prepare(FeedItem item);
+    [[nodiscard]] QCoro::Task<> offerInstallation();
+    void installNow(bool relaunch);
+    void finishOnQuit();
+    void fail(const UpdateError& error);
+    void dropPrepared();
+
+    Platform& platform_;
+    UpdateUserDriver& driver_;
+    Schedule schedule_;
+    UpdaterDelegate* delegate_ = nullptr;
+    std::string feedUrl_;
+    Phase phase_ = Phase::idle;
+    std::function<void(bool)> observer_;
+    std::unique_ptr<Clock::Timer> timer_;
+    /// Ends the preparation that runs.
+    std::stop_source stop_;
+    std::optional<PreparedUpdate> prepared_;
+    bool installsOnQuit_ = false;
+    /// Ends the connection to the application's quitting.
+    QObject context_;
+};
+
+} // namespace quillon

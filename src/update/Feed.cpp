@@ -1,0 +1,189 @@
+#include "update/Feed.h"
+
+#include "update/Version.h"
+
+#include <QUrl>
+#include <QXmlStreamReader>
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace quillon {
+
+namespace {
+
+constexpr QStringView ourNamespace = u"urn:dev.vostrel.quillon:update";
+
+/// Deeper XML is no feed of ours: an item's element is the fourth level, and notes that were not
+/// escaped may bring some more.
+constexpr int maximumDepth = 64;
+
+struct TextField {
+    QStringView nameSpace;
+    QStringView name;
+    std::string FeedItem::*field;
+};
+
+const std::array textFields{
+    TextField{ourNamespace, u"version", &FeedItem::version},
+    TextField{ourNamespace, u"shortVersion", &FeedItem::shortVersion},
+    TextField{ourNamespace, u"minimumSystemVersion", &FeedItem::minimumSystemVersion},
+    TextField{{}, u"description", &FeedItem::notes},
+};
+
+qint64 parseLength(const QString& text) {
+    const std::string digits = text.trimmed().toStdString();
+    qint64 length = 0;
+    const char* end = digits.data() + digits.size();
+    const auto result = std::from_chars(digits.data(), end, length);
+    return result.ec == std::errc{} && result.ptr == end ? length : 0;
+}
+
+/// Whether the item says all that it must.
+bool isUsable(const FeedItem& item) {
+    return !item.version.empty() && item.length > 0 && item.length <= maximumArchiveSize &&
+           item.signature != Signature{} && isAllowedUrl(item.url);
+}
+
+/// Reads one feed from its first element to its end.
+class FeedReader {
+public:
+    explicit FeedReader(const QByteArray& xml) : xml_{xml} { items_.emplace(); }
+
+    std::optional<std::vector<FeedItem>> read() {
+        // Which is where entities are declared; a document type of its own has nothing else to say.
+        while (!xml_.atEnd() && xml_.readNext() != QXmlStreamReader::StartElement) {
+            if (xml_.isDTD()) return std::nullopt;
+        }
+        if (xml_.name() != u"rss" || xml_.hasError()) return std::nullopt;
+        eachChild([this] {
+            if (!is({}, u"channel")) return skip();
+            eachChild([this] { is({}, u"item") ? readItem() : skip(); });
+        });
+        while (!xml_.atEnd())
+            xml_.readNext();
+        return xml_.hasError() ? std::nullopt : std::move(items_);
+    }
+
+private:
+    [[nodiscard]] bool is(QStringView nameSpace, QStringView name) const {
+        return xml_.namespaceUri() == nameSpace && xml_.name() == name;
+    }
+
+    /// Calls `action`, which consumes the element, for each child of the current element.
+    template <typename Action>
+    void eachChild(Action action) {
+        while (xml_.readNextStartElement())
+            action();
+    }
+
+    void readItem() {
+        if (items_->size() >= maximumFeedItems) return xml_.raiseError();
+        FeedItem item;
+        eachChild([&] { readField(item); });
+        if (item.shortVersion.empty()) item.shortVersion = item.version;
+        if (!xml_.hasError() && isUsable(item)) items_->push_back(std::move(item));
+    }
+
+    void readField(FeedItem& item) {
+        if (is({}, u"enclosure")) {
+            readEnclosure(item);
+            return skip();
+        }
+        for (const TextField& field : textFields) {
+            if (!is(field.nameSpace, field.name)) continue;
+            item.*field.field = text().trimmed().toStdString();
+            return;
+        }
+        skip();
+    }
+
+    void readEnclosure(FeedItem& item) {
+        const QXmlStreamAttributes attributes = xml_.attributes();
+        item.url = attributes.value(QStringLiteral("url")).trimmed().toString().toStdString();
+        item.length = parseLength(attributes.value(QStringLiteral("length")).toString());
+        const auto signature =
+            attributes.value(ourNamespace.toString(), QStringLiteral("edSignature"));
+        item.signature = parseSignature(signature.toString().toStdString()).value_or(Signature{});
+    }
+
+    /// The text of the current element and of all that is in it.
+    QString text() {
+        QString text;
+        walk([&] {
+            if (xml_.isCharacters()) text += xml_.text();
+        });
+        return text;
+    }
+
+    void skip() {
+        walk([] {});
+    }
+
+    /// Goes to the end of the current element, calling `action` for all that comes before.
+    template <typename Action>
+    void walk(Action action) {
+        for (int depth = 1; depth > 0 && !xml_.atEnd();) {
+            xml_.readNext();
+            if (xml_.isStartElement() && ++depth > maximumDepth) return xml_.raiseError();
+            if (xml_.isEndElement()) --depth;
+            if (depth > 0) action();
+        }
+    }
+
+    QXmlStreamReader xml_;
+    std::optional<std::vector<FeedItem>> items_;
+};
+
+/// Whether this is an address in 127.0.0.0/8; QUrl brings every way to write one into this form.
+bool isLoopback(const std::string& host) {
+    in_addr address{};
+    return ::inet_pton(AF_INET, host.c_str(), &address) == 1 &&
+           ntohl(address.s_addr) >> 24 == IN_LOOPBACKNET;
+}
+
+/// Bytes that no address has as they are, and that readers of addresses disagree about.
+bool isOrdinary(char byte) {
+    return byte > ' ' && byte < 0x7f && byte != '\\';
+}
+
+} // namespace
+
+std::optional<std::vector<FeedItem>> parseFeed(const QByteArray& xml) {
+    return FeedReader{xml}.read();
+}
+
+const FeedItem* newestUpdate(const std::vector<FeedItem>& items, std::string_view currentVersion,
+                             std::string_view systemVersion, std::string_view skippedVersion) {
+    const FeedItem* newest = nullptr;
+    for (const FeedItem& item : items) {
+        const std::string_view least = newest ? std::string_view{newest->version} : currentVersion;
+        if (compareVersions(item.version, least) <= 0) continue;
+        if (!skippedVersion.empty() && compareVersions(item.version, skippedVersion) <= 0) continue;
+        if (!item.minimumSystemVersion.empty() &&
+            compareVersions(systemVersion, item.minimumSystemVersion) < 0)
+            continue;
+        newest = &item;
+    }
+    return newest;
+}
+
+bool isAllowedUrl(std::string_view text) {
+    if (!std::all_of(text.begin(), text.end(), isOrdinary)) return false;
+    const QUrl url{QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size())),
+                   QUrl::StrictMode};
+    if (!url.isValid() || url.host().isEmpty()) return false;
+    // Even an empty user name ("https://@host") has no business here.
+    const std::string_view afterScheme = text.substr(text.find("//") + 2);
+    const std::string_view authority = afterScheme.substr(0, afterScheme.find_first_of("/?#"));
+    if (authority.find('@') != std::string_view::npos) return false;
+    if (url.scheme() == u"https") return true;
+    const std::string host = url.host().toStdString();
+    return url.scheme() == u"http" && (host == "localhost" || host == "::1" || isLoopback(host));
+}
+
+} // namespace quillon

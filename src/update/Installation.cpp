@@ -1,0 +1,203 @@
+#include "update/Installation.h"
+
+#include "platform/linux/LinuxBundle.h"
+#include "update/Errors.h"
+#include "update/ProgramOutput.h"
+#include "update/Version.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <system_error>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view translocationPart = "/AppTranslocation/";
+
+/// Exchanges two folders in one step; the errno when that fails, else 0.
+int exchange(const fs::path& left, const fs::path& right) {
+    const int result =
+        ::renameat2(AT_FDCWD, left.c_str(), AT_FDCWD, right.c_str(), RENAME_EXCHANGE);
+    return result == 0 ? 0 : errno;
+}
+
+int tryExchange(const fs::path& folder) {
+    const fs::path left = folder / "left";
+    const fs::path right = folder / "right";
+    int error = 0;
+    if (::mkdir(left.c_str(), S_IRWXU) != 0 || ::mkdir(right.c_str(), S_IRWXU) != 0) error = errno;
+    if (error == 0) error = exchange(left, right);
+    ::rmdir(left.c_str());
+    ::rmdir(right.c_str());
+    return error;
+}
+
+/// Whether everything of a file or folder is on the disk.
+bool flush(const fs::path& path, int flags) {
+    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | flags);
+    if (file < 0) return false;
+    const bool flushed = ::fsync(file) == 0;
+    ::close(file);
+    return flushed;
+}
+
+/// The lock on installing in the place of one application: on the folder that is there now.
+class InstallationLock {
+public:
+    explicit InstallationLock(const fs::path& bundle)
+        : file_{::open(bundle.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)} {
+        struct stat opened {};
+        struct stat named {};
+        if (file_ < 0 || ::fstat(file_, &opened) != 0) {
+            error_ = fileError(errno);
+        } else if (::flock(file_, LOCK_EX | LOCK_NB) != 0) {
+            error_ = errno == EWOULDBLOCK ? updateError(updateInstalling) : fileError(errno);
+        } else if (::lstat(bundle.c_str(), &named) != 0 || opened.st_ino != named.st_ino ||
+                   opened.st_dev != named.st_dev) {
+            // What was opened is no longer there: another process was quicker.
+            error_ = updateError(updateInstalling);
+        }
+    }
+    InstallationLock(const InstallationLock&) = delete;
+    InstallationLock& operator=(const InstallationLock&) = delete;
+    ~InstallationLock() {
+        if (file_ >= 0) ::close(file_);
+    }
+
+    [[nodiscard]] const std::optional<UpdateError>& error() const { return error_; }
+
+private:
+    int file_;
+    std::optional<UpdateError> error_;
+};
+
+/// The one application folder in `folder`; empty when there is none, or anything beside it.
+fs::path onlyApplication(const fs::path& folder) {
+    std::error_code error;
+    fs::path only;
+    for (fs::directory_iterator each{folder, error}, end; !error && each != end;
+         each.increment(error)) {
+        if (!only.empty()) return {};
+        only = each->path();
+    }
+    const bool isFolder = fs::symlink_status(only, error).type() == fs::file_type::directory;
+    return isFolder && only.extension() == ".app" ? only : fs::path{};
+}
+
+bool tellsVersion(const Bundle& bundle, const FeedItem& item, std::chrono::milliseconds timeout) {
+    std::error_code error;
+    const fs::file_status status = fs::symlink_status(bundle.executable, error);
+    if (error || status.type() != fs::file_type::regular) return false;
+    if ((status.permissions() & fs::perms::owner_exec) == fs::perms::none) return false;
+    return programOutput(bundle.executable, "--version", timeout) ==
+           "quillon " + item.shortVersion + "\n";
+}
+
+/// The code of what speaks against the new bundle; 0 when nothing does.
+int objectionTo(const Bundle& bundle, const Bundle& running, const FeedItem& item,
+                std::chrono::milliseconds timeout) {
+    if (bundle.identifier().empty() || bundle.identifier() != running.identifier())
+        return updateOtherApplication;
+    if (bundle.text("CFBundleVersion") != item.version ||
+        bundle.text("CFBundleShortVersionString") != item.shortVersion)
+        return updateOtherVersion;
+    if (compareVersions(item.version, comparedVersion(running)) <= 0) return updateNotNewer;
+    return tellsVersion(bundle, item, timeout) ? 0 : updateDoesNotRun;
+}
+
+} // namespace
+
+std::string comparedVersion(const Bundle& bundle) {
+    return bundle.text("CFBundleVersion").value_or(bundle.shortVersion());
+}
+
+std::optional<UpdateError> objectionToUpdating(const fs::path& bundle) {
+    if (bundle.native().find(translocationPart) != std::string::npos)
+        return updateError(updateWhileTranslocated);
+    struct statvfs disk {};
+    if (::statvfs(bundle.c_str(), &disk) == 0 && (disk.f_flag & ST_RDONLY) != 0)
+        return updateError(updateOnReadOnlyVolume);
+    // A folder that changes its parent is itself written to: it knows that parent as "..".
+    for (const fs::path& folder : {bundle.parent_path(), bundle}) {
+        if (::access(folder.c_str(), W_OK | X_OK) != 0) return fileError(errno);
+    }
+    return std::nullopt;
+}
+
+Staging makeStaging(const fs::path& bundle) {
+    Staging staging;
+    staging.error = objectionToUpdating(bundle);
+    if (staging.error) return staging;
+    auto folder = std::make_shared<PrivateFolder>(bundle.parent_path(), stagingPrefix);
+    if (!folder->isOpen()) {
+        staging.error = fileError(folder->error());
+    } else if (const int error = tryExchange(folder->path()); error != 0) {
+        staging.error = fileError(error);
+    } else {
+        staging.folder = std::move(folder);
+    }
+    return staging;
+}
+
+StagedBundle checkStaged(const fs::path& folder, const Bundle& running, const FeedItem& item,
+                         std::chrono::milliseconds timeout) {
+    StagedBundle staged;
+    staged.path = onlyApplication(folder);
+    const int code = staged.path.empty()
+                         ? updateNoApplication
+                         : objectionTo(bundleAt(staged.path), running, item, timeout);
+    if (code != 0) staged.error = updateError(code);
+    return staged;
+}
+
+bool flushTree(const fs::path& folder) {
+    std::error_code error;
+    for (fs::recursive_directory_iterator each{folder, error}, end; !error && each != end;
+         each.increment(error)) {
+        const fs::file_type type = each->symlink_status(error).type();
+        const bool isFile = type == fs::file_type::regular;
+        const bool isFolder = type == fs::file_type::directory;
+        if ((isFile || isFolder) && !flush(each->path(), isFolder ? O_DIRECTORY : 0)) return false;
+    }
+    return !error && flush(folder, O_DIRECTORY);
+}
+
+std::optional<UpdateError> install(const PreparedUpdate& update) {
+    const InstallationLock lock{update.bundle};
+    if (lock.error()) return lock.error();
+    const Bundle installed = bundleAt(update.bundle);
+    if (compareVersions(update.item.version, comparedVersion(installed)) <= 0)
+        return updateError(updateNotNewer);
+    if (const int error = exchange(update.staged, update.bundle); error != 0)
+        return fileError(error);
+    update.folder->keep();
+    // Makes the exchange last. It is done even where this fails.
+    flush(update.bundle.parent_path(), O_DIRECTORY);
+    flush(update.folder->path(), O_DIRECTORY);
+    return std::nullopt;
+}
+
+std::optional<fs::path> updateCache(const Bundle& bundle, const Folders& folders) {
+    const std::string identifier = bundle.identifier();
+    const bool isName = !identifier.empty() && identifier.front() != '.' &&
+                        identifier.find('/') == std::string::npos;
+    if (!isName || !folders.cache.is_absolute()) return std::nullopt;
+    return folders.cache / identifier;
+}
+
+void removeLeftovers(const Bundle& bundle, const Folders& folders) {
+    if (bundle.isApplication()) removeAbandoned(bundle.url.parent_path(), stagingPrefix);
+    if (const auto cache = updateCache(bundle, folders)) removeAbandoned(*cache, downloadPrefix);
+}
+
+} // namespace quillon

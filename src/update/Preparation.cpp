@@ -1,0 +1,191 @@
+#include "update/Preparation.h"
+
+#include "platform/FileSystem.h"
+#include "platform/HttpTransport.h"
+#include "update/Archive.h"
+#include "update/Errors.h"
+#include "update/Version.h"
+
+#include <QCoro/QCoroFuture>
+#include <QtConcurrentRun>
+
+#include <array>
+#include <memory>
+#include <system_error>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+using std::filesystem::path;
+
+constexpr std::string_view publicKeyName = "SUPublicEDKey";
+
+constexpr int statusOk = 200;
+
+/// The errors of downloads; "done" has none.
+struct Failure {
+    DownloadOutcome outcome;
+    int code;
+};
+constexpr std::array failures{
+    Failure{DownloadOutcome::failed, updateDownloadFailed},
+    Failure{DownloadOutcome::tooLarge, updateLengthWrong},
+    Failure{DownloadOutcome::unwritable, updateDownloadNotStored},
+    Failure{DownloadOutcome::stopped, updateCancelled},
+};
+
+std::optional<UpdateError> downloadError(DownloadOutcome outcome) {
+    if (outcome == DownloadOutcome::diskFull) return fileError(ENOSPC);
+    for (const Failure& failure : failures) {
+        if (failure.outcome == outcome) return updateError(failure.code);
+    }
+    return std::nullopt;
+}
+
+/// All that the check of a downloaded archive needs, for another thread.
+struct Delivery {
+    Bundle running;
+    FeedItem item;
+    PublicKey key{};
+    path archive;
+    path staging;
+    std::stop_token stop;
+};
+
+using Prepared = std::variant<PreparedUpdate, UpdateError>;
+
+/// What must hold before anything is unpacked.
+std::optional<UpdateError> objectionToArchive(const Delivery& delivery) {
+    std::error_code error;
+    const auto size = std::filesystem::file_size(delivery.archive, error);
+    if (error || size != static_cast<std::uintmax_t>(delivery.item.length))
+        return updateError(updateLengthWrong);
+    if (!isSigned(delivery.archive, delivery.item.signature, delivery.key))
+        return updateError(updateSignatureWrong);
+    return std::nullopt;
+}
+
+/// Leaves it to the caller to say who owns the folder.
+Prepared stage(const Delivery& delivery) {
+    const path& folder = delivery.staging;
+    if (auto error = objectionToArchive(delivery)) return std::move(*error);
+    if (auto error = unpack(delivery.archive, folder, {}, delivery.stop)) return std::move(*error);
+    StagedBundle staged = checkStaged(folder, delivery.running, delivery.item);
+    if (staged.error) return std::move(*staged.error);
+    if (!flushTree(folder)) return updateError(updateCopyFailed);
+    if (delivery.stop.stop_requested()) return updateError(updateCancelled);
+    return PreparedUpdate{.bundle = delivery.running.url,
+                          .staged = std::move(staged.path),
+                          .folder = {},
+                          .item = delivery.item};
+}
+
+/// What can be said against an item before anything is fetched; 0 when there is nothing.
+int objectionTo(const FeedItem& item, const Bundle& running) {
+    if (!parsePublicKey(running.text(publicKeyName).value_or(""))) return updateKeyMissing;
+    if (!isAllowedUrl(item.url)) return updateNotAllowed;
+    if (compareVersions(item.version, comparedVersion(running)) <= 0) return updateNotNewer;
+    return 0;
+}
+
+/// Passes progress on for as long as its owner lives.
+class ProgressReport {
+public:
+    explicit ProgressReport(std::function<void(UpdateProgress)> listener)
+        : listener_{std::make_shared<Listener>(std::move(listener))} {}
+
+    [[nodiscard]] std::function<void(qint64, qint64)> ofDownload(qint64 length) const {
+        return [listener = std::weak_ptr{listener_}, length](qint64 received, qint64 /*total*/) {
+            const auto alive = listener.lock();
+            if (alive) tell(*alive, UpdateProgress::Stage::downloading, received, length);
+        };
+    }
+    void unpacking(qint64 length) const {
+        tell(*listener_, UpdateProgress::Stage::unpacking, length, length);
+    }
+
+private:
+    using Listener = std::function<void(UpdateProgress)>;
+
+    static void tell(const Listener& listener, UpdateProgress::Stage stage, qint64 received,
+                     qint64 total) {
+        if (listener) listener({.stage = stage, .received = received, .total = total});
+    }
+
+    std::shared_ptr<Listener> listener_;
+};
+
+/// Downloads and checks what `delivery` describes.
+QCoro::Task<Prepared> deliver(Platform& platform, Delivery delivery, ProgressReport report) {
+    HttpDownload download;
+    download.url = delivery.item.url;
+    download.file = delivery.archive;
+    download.maximumSize = delivery.item.length;
+    download.progress = report.ofDownload(delivery.item.length);
+    download.stop = delivery.stop;
+    const QFuture<DownloadOutcome> downloading = platform.http.download(std::move(download));
+    const DownloadOutcome outcome = co_await downloading;
+    if (const auto error = downloadError(outcome)) co_return *error;
+
+    report.unpacking(delivery.item.length);
+    const QFuture<Prepared> preparing = QtConcurrent::run(stage, std::move(delivery));
+    co_return co_await preparing;
+}
+
+} // namespace
+
+QCoro::Task<std::variant<std::vector<FeedItem>, UpdateError>> fetchFeed(Platform& platform,
+                                                                        std::string url) {
+    if (!isAllowedUrl(url)) co_return updateError(updateFeedNotAllowed);
+    HttpRequest request;
+    request.url = std::move(url);
+    const QFuture<std::optional<HttpReply>> fetching = platform.http.get(std::move(request));
+    const std::optional<HttpReply> reply = co_await fetching;
+    if (!reply || reply->status != statusOk) co_return updateError(updateFeedUnreachable);
+    const QFuture<std::optional<std::vector<FeedItem>>> parsing =
+        QtConcurrent::run(parseFeed, reply->body);
+    std::optional<std::vector<FeedItem>> items = co_await parsing;
+    if (!items) co_return updateError(updateFeedBroken);
+    co_return std::move(*items);
+}
+
+QCoro::Task<Prepared> prepareUpdate(Platform& platform, FeedItem item,
+                                    std::function<void(UpdateProgress)> progress,
+                                    std::stop_token stop) {
+    const Bundle& running = platform.bundle;
+    if (const int code = objectionTo(item, running); code != 0) co_return updateError(code);
+
+    // Before the download, so that nothing is fetched in vain.
+    const Staging staging = makeStaging(running.url);
+    if (staging.error) co_return *staging.error;
+    const auto cache = updateCache(running, platform.folders);
+    if (!cache || !platform.files.createFolder(*cache))
+        co_return updateError(updateDownloadNotStored);
+    const PrivateFolder downloads{*cache, downloadPrefix};
+    if (!downloads.isOpen()) co_return updateError(updateDownloadNotStored);
+
+    Delivery delivery{.running = running,
+                      .item = std::move(item),
+                      .key = parsePublicKey(running.text(publicKeyName).value_or("")).value(),
+                      .archive = downloads.path() / "archive",
+                      .staging = staging.folder->path(),
+                      .stop = std::move(stop)};
+    const ProgressReport report{std::move(progress)};
+    QCoro::Task<Prepared> delivering = deliver(platform, std::move(delivery), report);
+    Prepared prepared = co_await delivering;
+
+    // The folders' owners would do this too, but here.
+    const QFuture<void> removing = QtConcurrent::run(removeTree, downloads.path());
+    co_await removing;
+    if (auto* update = std::get_if<PreparedUpdate>(&prepared)) {
+        update->folder = staging.folder;
+    } else {
+        const QFuture<void> undoing = QtConcurrent::run(removeTree, staging.folder->path());
+        co_await undoing;
+    }
+    co_return std::move(prepared);
+}
+
+} // namespace quillon

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/Platform.h"
+#include "platform/UpdateFramework.h"
+#include "update/Feed.h"
+#include "update/Installation.h"
+
+#include <QCoro/QCoroTask>
+
+#include <functional>
+#include <stop_token>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace quillon {
+
+/// How far the preparation of an update is.
+struct UpdateProgress {
+    enum class Stage { downloading, unpacking };
+    Stage stage = Stage::downloading;
+    /// Bytes of the archive.
+    qint64 received = 0;
+    qint64 total = 0;
+
+    bool operator==(const UpdateProgress&) const = default;
+};
+
+/// Fetches and reads the feed at this address.
+[[nodiscard]] QCoro::Task<std::variant<std::vector<FeedItem>, UpdateError>>
+fetchFeed(Platform& platform, std::string url);
+
+/// Downloads the item's archive into the cache folder, checks its length and its signature (against
+/// the running bundle's "SUPublicEDKey"), unpacks it beside the running bundle and checks what came
+/// out. Nothing stays on disk after an error. `progress` is called on the main thread, and no more
+/// once the task has ended. A request to stop ends it soon with updateCancelled. All long work runs
+/// off the main thread; `platform` outlives the task.
+[[nodiscard]] QCoro::Task<std::variant<PreparedUpdate, UpdateError>>
+prepareUpdate(Platform& platform, FeedItem item, std::function<void(UpdateProgress)> progress,
+              std::stop_token stop);
+
+} // namespace quillon

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "update/UpdateUserDriver.h"
+
+#include <QCoreApplication>
+#include <QPoint>
+#include <QPointer>
+
+#include <memory>
+#include <optional>
+
+class QProgressBar;
+
+namespace quillon {
+
+class UpdateDialog;
+
+/// Shows updates in small windows of their own, which block nothing.
+class UpdateWindows final : public UpdateUserDriver {
+    Q_DECLARE_TR_FUNCTIONS(quillon::UpdateWindows)
+
+public:
+    UpdateWindows() = default;
+    UpdateWindows(const UpdateWindows&) = delete;
+    UpdateWindows& operator=(const UpdateWindows&) = delete;
+    ~UpdateWindows() override;
+
+    [[nodiscard]] QFuture<bool> askPermission() override;
+    void showChecking(std::stop_source cancel) override;
+    void showUpToDate(std::string version) override;
+    [[nodiscard]] QFuture<UpdateChoice> showUpdate(UpdateOffer offer) override;
+    void showPreparing(std::string version, std::stop_source cancel) override;
+    void showProgress(UpdateProgress progress) override;
+    [[nodiscard]] QFuture<InstallTime> showReady(std::string version) override;
+    void showInstalled(std::string version) override;
+    void showError(UpdateError error) override;
+    void comeForward() override;
+    void dismiss() override;
+
+private:
+    /// Takes the place of what shows.
+    void present(UpdateDialog* dialog, bool gently = false);
+    void showMessage(const QString& title, const QString& text);
+
+    QPointer<UpdateDialog> current_;
+    QPointer<UpdateDialog> permission_;
+    /// While an update is being prepared.
+    QPointer<QProgressBar> bar_;
+    QString preparing_;
+};
+
+} // namespace quillon

@@ -1,0 +1,227 @@
+// One copy of the program from its download to its end, in a home of its own.
+#include "EndToEndTest.h"
+#include "support/RawServer.h"
+
+#include <algorithm>
+#include <fstream>
+
+namespace quillon::test {
+
+namespace {
+
+using namespace std::chrono_literals;
+using std::filesystem::path;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+/// Runs to the end and gives standard output, without the last line break.
+std::string output(const std::string& tool, const std::vector<std::string>& arguments) {
+    QProcess process;
+    QStringList list;
+    for (const std::string& argument : arguments)
+        list << QString::fromStdString(argument);
+    process.start(QString::fromStdString(tool), list);
+    EXPECT_TRUE(process.waitForFinished(60'000));
+    EXPECT_EQ(process.exitCode(), 0) << tool << process.readAllStandardError().toStdString();
+    return process.readAllStandardOutput().trimmed().toStdString();
+}
+
+/// The processes that run this executable.
+std::vector<int> running(const path& executable) {
+    std::vector<int> found;
+    for (const auto& entry : std::filesystem::directory_iterator{"/proc"}) {
+        std::error_code error;
+        if (std::filesystem::read_symlink(entry.path() / "exe", error) == executable)
+            found.push_back(std::stoi(entry.path().filename()));
+    }
+    return found;
+}
+
+std::string content(const path& file) {
+    std::ifstream stream{file};
+    return {std::istreambuf_iterator<char>{stream}, {}};
+}
+
+/// Whether such a window is there; if so, gives it the focus and presses Return.
+bool answer(const std::string& title) {
+    const QString tool = QStringLiteral("xdotool");
+    const QStringList focus{
+        QStringLiteral("search"),      QStringLiteral("--onlyvisible"),
+        QStringLiteral("--name"),      QString::fromStdString("^" + title + "$"),
+        QStringLiteral("windowfocus"), QStringLiteral("--sync")};
+    // Two runs, for a key that is pressed in the first would be sent to the window itself.
+    return QProcess::execute(tool, focus) == 0 &&
+           QProcess::execute(tool, {QStringLiteral("key"), QStringLiteral("Return")}) == 0;
+}
+
+/// The makers' web server, with a feed that announces one archive.
+class Feed {
+public:
+    explicit Feed(const path& folder) : folder_{folder} {}
+
+    [[nodiscard]] std::string url() const { return server_.url("/feed.xml"); }
+
+    void announce(const std::string& version, const std::string& archive,
+                  const std::string& signature, std::size_t length) const {
+        std::ofstream{folder_ / "feed.xml"}
+            << R"(<rss version="2.0" xmlns:quillon="urn:dev.vostrel.quillon:update"><channel><item>)"
+            << "<quillon:version>" << version << "</quillon:version>"
+            << "<description>Sends even faster.</description>"
+            << R"(<enclosure type="application/x-xz" url=")" << server_.url("/" + archive)
+            << R"(" length=")" << length << R"(" quillon:edSignature=")" << signature
+            << R"("/></item></channel></rss>)";
+    }
+
+private:
+    void serve(RawServer::Connection& connection) const {
+        const std::string request = connection.request();
+        const auto begin = request.find('/') + 1;
+        connection.reply(
+            200, content(folder_ / request.substr(begin, request.find(' ', begin) - begin)));
+    }
+
+    path folder_;
+    RawServer server_{[this](RawServer::Connection& connection) { serve(connection); }};
+};
+
+class WholeLife : public EndToEnd {
+protected:
+    WholeLife() {
+        for (const char* variable :
+             {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"})
+            quillon.environment.remove(QString::fromLatin1(variable));
+        quillon.environment.insert(QStringLiteral("HOME"), QString::fromStdString(home.native()));
+        quillon.environment.insert(QStringLiteral("QUILLON_SERVER"),
+                                   QString::fromStdString(phone.baseUrl()));
+        std::filesystem::create_directories(shop);
+        std::filesystem::create_directories(home / "Downloads");
+    }
+
+    void TearDown() override {
+        for (const path& program : {downloaded / inside, installed / inside})
+            for (const int process : running(program))
+                ::kill(process, SIGKILL);
+        EndToEnd::TearDown();
+    }
+
+    /// Makes the archive of a version, and gives its name.
+    [[nodiscard]] std::string makeBundle(const std::string& version, const std::string& key) const {
+        const std::string made = output(QUILLON_SOURCE "/packaging/bundle",
+                                        {"--program", QUILLON, "--version", version, "--feed",
+                                         feed.url(), "--key", key, "--output", shop.native()});
+        return path{made.substr(made.rfind('\n') + 1)}.filename();
+    }
+
+    /// The processes of the installed copy that stay.
+    [[nodiscard]] std::vector<int> residents() const { return running(installed / inside); }
+
+    void endResident() {
+        for (const int process : residents())
+            ::kill(process, SIGTERM);
+        EXPECT_TRUE(waitUntil([&] { return residents().empty(); }));
+    }
+
+    void startInstalled() {
+        resident = quillon.start({});
+        EXPECT_TRUE(waitUntil(Program::hasName));
+    }
+
+    /// How often the makers have been told of such an event.
+    [[nodiscard]] std::ptrdiff_t told(const std::string& event) const {
+        std::ptrdiff_t count = 0;
+        for (const sandbox::EventsRecord& delivery : phone.events()) {
+            const Json body = Json::parse(delivery.body);
+            count += std::ranges::count_if(body["events"],
+                                           [&](const Json& each) { return each["name"] == event; });
+        }
+        return count;
+    }
+
+    path home = data.path().toStdString() + "/person";
+    path shop = data.path().toStdString() + "/shop";
+    path inside = "Contents/Linux/quillon";
+    path downloaded = home / "Downloads/Quillon.app";
+    path installed = home / "Applications/Quillon.app";
+    Feed feed{shop};
+    std::unique_ptr<QProcess> resident;
+};
+
+} // namespace
+
+TEST_F(WholeLife, FromTheDownloadToTheTrash) {
+    const std::string pem = shop / "key.pem";
+    output("openssl", {"genpkey", "-algorithm", "ed25519", "-out", pem});
+    const std::string key = output(QUILLON_SOURCE "/packaging/sign", {"--public-key", pem});
+    const std::string first = makeBundle("1.0", key);
+    output("tar", {"-xf", shop / first, "-C", home / "Downloads"});
+
+    // It offers to move, and moves.
+    quillon.executable = downloaded / inside;
+    EXPECT_EQ(quillon.run({"--version"}).out, "quillon 1.0\n");
+    resident = quillon.start({});
+    ASSERT_TRUE(waitUntil([] { return answer("Quillon"); }));
+    ASSERT_EQ(Program::finish(*resident).code, 0);
+    quillon.executable = installed / inside;
+    ASSERT_TRUE(waitUntil([&] { return residents().size() == 1 && Program::hasName(); }));
+    EXPECT_FALSE(std::filesystem::exists(downloaded));
+    EXPECT_THAT(content(home / ".local/share/applications/dev.vostrel.quillon.desktop"),
+                HasSubstr("\nExec=" + (installed / inside).native() + "\n"));
+
+    // It is set up, and sends.
+    setUp();
+    EXPECT_EQ(quillon.run({"launch-at-login", "on"}).code, 0);
+    clipboard.copyText("hello");
+    output("xdotool", {"key", "ctrl+alt+v"});
+    EXPECT_TRUE(waitUntil([&] { return messages("📝 Notes & text").size() == 2; }));
+    EXPECT_EQ(quillon.run({"check-for-updates"}).code, 1) << "there is no feed yet";
+    endResident();
+    EXPECT_EQ(told("app_opened"), 1);
+    EXPECT_EQ(told("sent"), 1);
+
+    // On its second start it asks whether to look for updates, finds one, and installs it.
+    const std::string second = makeBundle("1.1", key);
+    const std::string signature = output(QUILLON_SOURCE "/packaging/sign", {pem, shop / second});
+    feed.announce("1.1", second, signature.substr(0, signature.find(' ')),
+                  std::filesystem::file_size(shop / second));
+    EXPECT_EQ(quillon.run({"check-for-updates"}).out, "Quillon 1.1 is available.\n");
+    startInstalled();
+    const std::vector<int> old = residents();
+    ASSERT_TRUE(waitUntil(
+        [&] {
+            answer("Software Update");
+            return quillon.run({"--version"}).out == "quillon 1.1\n";
+        },
+        30s));
+    ASSERT_EQ(Program::finish(*resident).code, 0);
+    ASSERT_TRUE(waitUntil([&] { return residents().size() == 1 && Program::hasName(); }));
+    EXPECT_NE(residents(), old);
+    EXPECT_TRUE(waitUntil([&] {
+        const std::filesystem::directory_iterator left{home / "Applications"};
+        return std::ranges::distance(begin(left), end(left)) == 1;
+    })) << "the old version is still there";
+    EXPECT_EQ(quillon.run({"check-for-updates"}).out, "Quillon 1.1 is up to date.\n");
+    endResident();
+    startInstalled();
+    EXPECT_EQ(told("updated"), 1);
+    EXPECT_THAT(phone.events().back().body, HasSubstr(R"({"from_version":"1.0"})"));
+
+    // It removes itself, with all it has stored.
+    EXPECT_EQ(quillon.run({"uninstall", "--yes"}).code, 0);
+    EXPECT_EQ(Program::finish(*resident).code, 0);
+    EXPECT_THAT(residents(), IsEmpty());
+    std::vector<std::string> left;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator{home}) {
+        const std::string name = entry.path().lexically_relative(home);
+        if (!entry.is_directory() && !name.starts_with(".local/share/Trash/")) left.push_back(name);
+    }
+    EXPECT_THAT(left, IsEmpty());
+    EXPECT_TRUE(std::filesystem::exists(home / ".local/share/Trash/files/Quillon.app" / inside));
+    EXPECT_NE(QProcess::execute(QStringLiteral("secret-tool"),
+                                {QStringLiteral("lookup"), QStringLiteral("service"),
+                                 QStringLiteral("quillon-telegram-token")}),
+              0);
+}
+
+} // namespace quillon::test

@@ -1,0 +1,206 @@
+#include "maintenance/AppMover.h"
+#include "support/Await.h"
+#include "support/FakeAlerts.h"
+#include "support/Unprivileged.h"
+#include "support/World.h"
+
+#include <fstream>
+
+#include <sys/xattr.h>
+
+namespace quillon::test {
+namespace {
+
+namespace fs = std::filesystem;
+using fs::path;
+using Log = std::vector<std::string>;
+
+constexpr const char* mark = "user.com.apple.quarantine";
+
+void makeApplication(const path& app, const std::string& program) {
+    fs::create_directories(app / "Contents/Linux");
+    std::ofstream{app / "Contents/Linux/quillon"} << program;
+}
+
+std::string program(const path& app) {
+    std::ifstream stream{app / "Contents/Linux/quillon"};
+    return {std::istreambuf_iterator<char>{stream}, {}};
+}
+
+class AppMoverTest : public testing::Test {
+protected:
+    AppMoverTest() { makeApplication(source, "new"); }
+
+    /// What the failure of a move tells the user.
+    std::string failure() {
+        try {
+            await(mover.move());
+        } catch (const MoveError& error) {
+            return error.errorDescription.value_or("");
+        }
+        return "moved";
+    }
+    void offerAll() const { fs::create_directories(shared); }
+
+    World world;
+    FakeAlerts alerts;
+    AppMover mover{world.platform, alerts};
+    const path source = world.platform.bundle.url;
+    const path shared = world.platform.folders.applications;
+    const path own = world.home() / "Applications";
+};
+
+TEST_F(AppMoverTest, AsksOnlyAnApplicationOutsideOfBothFolders) {
+    fs::create_directories(shared / "Utilities");
+    fs::create_directories(world.home() / "Volumes/Big");
+    fs::create_directory_symlink(world.home() / "Volumes/Big", own);
+    fs::create_directory_symlink(shared, world.home() / "Apps");
+    fs::create_directory_symlink(own, world.home() / "Mine");
+    const path far = shared / "Far";
+    fs::create_directory_symlink(world.home() / "Downloads", far);
+    struct Case {
+        path url;
+        bool asks;
+    };
+    const Case cases[]{
+        {source, true},
+        {shared / "Quillon.app", false},
+        {own / "Quillon.app", false},
+        {world.home() / "Volumes/Big/Quillon.app", false},
+        {world.home() / "Apps/Quillon.app", false},
+        {world.home() / "Mine/Quillon.app", false},
+        {shared / "Utilities/Quillon.app", true},
+        {shared / "Utilities/../Quillon.app", false},
+        {far / "Quillon.app", true},
+        {world.home() / "Applications2/Quillon.app", true},
+        {world.home() / "build/quillon", false},
+        {world.home() / "build/quillon.APP", false},
+        {world.home() / "build/quillon.app.old", false},
+    };
+    for (const Case& each : cases) {
+        world.platform.bundle.url = each.url;
+        EXPECT_EQ(mover.shouldAsk(), each.asks) << each.url;
+    }
+}
+
+TEST_F(AppMoverTest, RemembersThatTheUserDeclined) {
+    alerts.answer = 1;
+    EXPECT_FALSE(await(mover.ask()));
+    const Alert offer{.warning = false,
+                      .message = "Move Quillon to your Applications folder?",
+                      .informativeText = "It needs to be there to update itself.",
+                      .buttons = {"Move", "Not now"}};
+    EXPECT_EQ(alerts.shown, std::vector{offer});
+    EXPECT_EQ(world.defaults.flag("qln.moveDeclined"), true);
+    EXPECT_EQ(world.workspace.log, Log{"activate"});
+    EXPECT_EQ(program(source), "new");
+}
+
+TEST_F(AppMoverTest, ReplacesAnOlderCopyAndRelaunches) {
+    offerAll();
+    const path target = shared / "Quillon.app";
+    makeApplication(target, "old");
+    // Another copy runs, and something that ran from a place that is gone.
+    world.workspace.running = {source, world.home() / "gone/Quillon.app"};
+    const path inner = source / "Contents/Linux/quillon";
+    const bool marked = ::setxattr(source.c_str(), mark, "1", 1, 0) == 0 &&
+                        ::setxattr(inner.c_str(), mark, "1", 1, 0) == 0;
+    EXPECT_TRUE(await(mover.ask()));
+    EXPECT_EQ(world.workspace.log,
+              (Log{"activate", "trash " + target.native(), "list " + target.native(),
+                   "open " + target.native(), "terminate"}));
+    EXPECT_EQ(world.loginItem.followed, target / "Contents/Linux/quillon");
+    EXPECT_EQ(program(target), "new");
+    EXPECT_FALSE(fs::exists(source));
+    if (marked) {
+        EXPECT_EQ(::getxattr(target.c_str(), mark, nullptr, 0), -1);
+        EXPECT_EQ(::getxattr((target / "Contents/Linux/quillon").c_str(), mark, nullptr, 0), -1);
+    }
+    EXPECT_FALSE(world.defaults.flag("qln.moveDeclined"));
+}
+
+TEST_F(AppMoverTest, MakesTheHomeFolderWhereTheSharedOneIsNotWritable) {
+    world.platform.bundle.url = fs::path{source}.replace_filename("Quillon\n(1).app");
+    fs::rename(source, world.platform.bundle.url);
+    fs::create_directories(shared.parent_path());
+    std::ofstream{shared} << "no folder";
+    EXPECT_EQ(await(mover.move()), own / "Quillon\n(1).app");
+    EXPECT_EQ(program(own / "Quillon\n(1).app"), "new");
+}
+
+TEST_F(AppMoverTest, CopiesFromAReadOnlyDisk) {
+    const Mount disk = Mount::readOnly(source.parent_path());
+    if (!disk) GTEST_SKIP() << "only root mounts";
+    EXPECT_EQ(await(mover.move()), own / "Quillon.app");
+    EXPECT_EQ(program(own / "Quillon.app"), "new");
+    EXPECT_EQ(program(source), "new");
+}
+
+TEST_F(AppMoverTest, ReplacesALinkAndNotWhatItLeadsTo) {
+    fs::create_directories(own);
+    makeApplication(world.home() / "Elsewhere.app", "other");
+    fs::create_directory_symlink(world.home() / "Elsewhere.app", own / "Quillon.app");
+    EXPECT_EQ(await(mover.move()), own / "Quillon.app");
+    EXPECT_EQ(program(world.home() / "Elsewhere.app"), "other");
+    EXPECT_FALSE(fs::is_symlink(own / "Quillon.app"));
+}
+
+TEST_F(AppMoverTest, TellsWhyItCouldNotMove) {
+    struct Case {
+        const char* sentence;
+        std::function<void()> obstacle;
+    };
+    const Case cases[]{
+        {"macOS is running Quillon from a hidden copy. Open your Downloads folder and drag Quillon "
+         "into Applications yourself, then open it from there.",
+         [&] {
+             const path hidden = world.home() / "AppTranslocation/4F/d/Quillon.app";
+             makeApplication(hidden, "new");
+             world.platform.bundle.url = hidden;
+         }},
+        {"Your Mac didn't allow Quillon to write to the Applications folder. Open your Downloads "
+         "folder and drag Quillon into Applications yourself, then open it from there.",
+         [&] { std::ofstream{own} << "no folder"; }},
+        {"An older Quillon is open from Applications. Quit it from its menu, then try again.",
+         [&] {
+             makeApplication(own / "Quillon.app", "old");
+             fs::create_directory_symlink(own, world.home() / "Mine");
+             world.workspace.running = {source, world.home() / "Mine/Quillon.app"};
+         }},
+        {"Couldn't replace the older Quillon in Applications. Move it to the Trash yourself, then "
+         "try again.",
+         [&] {
+             makeApplication(own / "Quillon.app", "old");
+             world.workspace.running.clear();
+             world.workspace.trashWorks = false;
+         }},
+        {"Your Mac didn't allow the move. Open your Downloads folder and drag Quillon into "
+         "Applications yourself, then open it from there.",
+         [&] { world.platform.bundle.url = world.home() / "Ejected/Quillon.app"; }},
+    };
+    for (const Case& each : cases) {
+        fs::remove_all(own);
+        world.platform.bundle.url = source;
+        alerts.shown.clear();
+        world.workspace.log.clear();
+        each.obstacle();
+        EXPECT_EQ(failure(), each.sentence);
+        world.workspace.log.clear();
+        EXPECT_FALSE(await(mover.ask()));
+        ASSERT_EQ(alerts.shown.size(), 2U);
+        EXPECT_EQ(alerts.shown[1], (Alert{.warning = true,
+                                          .message = "Quillon couldn't move itself",
+                                          .informativeText = each.sentence,
+                                          .buttons = {"OK"}}));
+        EXPECT_FALSE(world.defaults.flag("qln.moveDeclined"));
+        EXPECT_EQ(program(source), "new");
+        EXPECT_EQ(program(own / "Quillon.app"), fs::exists(own / "Quillon.app") ? "old" : "")
+            << "the older copy is whole";
+        const bool trashed = world.workspace.log.size() > 1;
+        EXPECT_EQ(trashed, !world.workspace.trashWorks && fs::exists(own / "Quillon.app"));
+        EXPECT_TRUE(world.loginItem.followed.empty());
+    }
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,242 @@
+#include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/RunningPrograms.h"
+#include "platform/linux/Trash.h"
+#include "support/Await.h"
+#include "support/Unprivileged.h"
+
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <csignal>
+#include <fstream>
+
+#include <sys/stat.h>
+
+namespace quillon::test {
+namespace {
+
+namespace fs = std::filesystem;
+using fs::path;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr const char* identifier = "dev.vostrel.quillon";
+
+std::string content(const path& file) {
+    std::ifstream stream{file, std::ios::binary};
+    return {std::istreambuf_iterator<char>{stream}, {}};
+}
+
+/// A process that runs this program until the end of the scope.
+class Running {
+public:
+    Running(const path& program, bool unprivileged) {
+        int ends[2];
+        ::pipe2(ends, O_CLOEXEC);
+        pid_ = ::fork();
+        if (pid_ == 0) {
+            if (!unprivileged || becomeNobody()) {
+                ::chdir("/");
+                ::execl(program.c_str(), program.c_str(), "1000", nullptr);
+            }
+            ::write(ends[1], "x", 1);
+            ::_exit(1);
+        }
+        ::close(ends[1]);
+        char failed = 0;
+        started_ = ::read(ends[0], &failed, 1) == 0;
+        ::close(ends[0]);
+    }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+    ~Running() {
+        ::kill(pid_, SIGKILL);
+        ::waitpid(pid_, nullptr, 0);
+    }
+    [[nodiscard]] bool started() const { return started_; }
+
+private:
+    pid_t pid_;
+    bool started_;
+};
+
+class LinuxWorkspaceTest : public testing::Test {
+protected:
+    LinuxWorkspaceTest() { fs::permissions(root, fs::perms{0755}); }
+    // Qt's folder cannot remove every name.
+    ~LinuxWorkspaceTest() override { fs::remove_all(root); }
+
+    static path makeApplication(const path& app, const std::string& id = identifier) {
+        fs::create_directories(app / "Contents/Linux");
+        std::ofstream{app / "Contents/Info.plist"}
+            << "<plist><dict><key>CFBundleIdentifier</key><string>" << id
+            << "</string></dict></plist>";
+        // Who may run but not read a program may not look into its process either.
+        fs::copy_file("/bin/sleep", app / "Contents/Linux/quillon");
+        fs::permissions(app / "Contents/Linux/quillon", fs::perms{0711});
+        return app;
+    }
+
+    [[nodiscard]] std::vector<path> running() const {
+        auto all = LinuxWorkspace{{}}.runningApplications(identifier);
+        std::erase_if(all,
+                      [&](const path& each) { return !each.native().starts_with(root.native()); });
+        std::ranges::sort(all);
+        return all;
+    }
+
+    /// The same as an ordinary user sees it.
+    [[nodiscard]] bool nobodySees(const std::vector<path>& expected) const {
+        return asNobody([&] { return running() == expected; });
+    }
+
+    QTemporaryDir folder;
+    const path root{fs::canonical(folder.path().toStdString())};
+};
+
+TEST_F(LinuxWorkspaceTest, FindsRunningCopiesAlsoThoseThatHideTheirExecutable) {
+    const path ours = makeApplication(root / "Downloads/Quil lon (1).app");
+    const path other = makeApplication(root / "Other.app", "org.example.other");
+    const path gone = makeApplication(root / "Gone.app");
+    fs::create_directory(root / "bin");
+    fs::create_symlink(ours / "Contents/Linux/quillon", root / "bin/quillon");
+    fs::copy_file("/bin/sleep", root / "bin/sleep");
+    std::vector<std::unique_ptr<Running>> processes;
+    for (const path& program : {ours / "Contents/Linux/quillon", other / "Contents/Linux/quillon",
+                                gone / "Contents/Linux/quillon", root / "bin/sleep"}) {
+        processes.push_back(std::make_unique<Running>(program, true));
+        ASSERT_TRUE(processes.back()->started());
+    }
+    EXPECT_TRUE(nobodySees({ours, gone}));
+    fs::remove(gone / "Contents/Linux/quillon");
+    EXPECT_TRUE(nobodySees({ours, gone}));
+    fs::remove_all(gone);
+    processes.clear();
+    EXPECT_TRUE(nobodySees({}));
+    const Running throughLink{root / "bin/quillon", true};
+    EXPECT_TRUE(nobodySees({ours}));
+}
+
+TEST_F(LinuxWorkspaceTest, LeavesTheProcessesOfOthersOut) {
+    if (::geteuid() != 0) GTEST_SKIP() << "only root has processes of several users";
+    const path ours = makeApplication(root / "Quillon.app");
+    const Running roots{ours / "Contents/Linux/quillon", false};
+    EXPECT_TRUE(nobodySees({}));
+    EXPECT_EQ(running(), std::vector{ours});
+    fs::remove(ours / "Contents/Linux/quillon");
+    const path theirs = makeApplication(root / "Theirs.app");
+    const Running nobodys{theirs / "Contents/Linux/quillon", true};
+    EXPECT_EQ(running(), std::vector{ours}) << "also when its executable is gone";
+}
+
+TEST_F(LinuxWorkspaceTest, TrashesSoThatItCanBePutBack) {
+    const path data = root / "share";
+    Folders folders;
+    folders.data = data;
+    const path item = root / "a b\n%\xff.app";
+    for (const char* content : {"first", "second"}) {
+        fs::create_directory(item);
+        std::ofstream{item / "file"} << content;
+        EXPECT_TRUE(await(LinuxWorkspace{folders}.trash(item)));
+        EXPECT_FALSE(fs::exists(item));
+    }
+    fs::create_symlink("/nowhere", root / "link");
+    EXPECT_TRUE(moveToTrash(root / "link", data));
+    EXPECT_FALSE(moveToTrash(root / "nothing", data));
+
+    const path trash = data / "Trash";
+    EXPECT_EQ(content(trash / "files/a b\n%\xff.app/file"), "first");
+    EXPECT_EQ(content(trash / "files/a b\n%\xff.2.app/file"), "second");
+    EXPECT_EQ(fs::read_symlink(trash / "files/link"), "/nowhere");
+    EXPECT_THAT(content(trash / "info/a b\n%\xff.2.app.trashinfo"),
+                testing::MatchesRegex("\\[Trash Info\\]\nPath=" + root.native() +
+                                      "/a%20b%0A%25%FF\\.app\n"
+                                      "DeletionDate=[0-9]+-[0-9]+-[0-9]+T[0-9:]+\n"));
+    EXPECT_EQ(fs::status(trash).permissions(), fs::perms{0700});
+    const auto notes = std::distance(fs::directory_iterator{trash / "info"}, {});
+    EXPECT_EQ(notes, 3) << "one for each, none for what failed";
+}
+
+TEST_F(LinuxWorkspaceTest, TrashesAFileOfTheLongestName) {
+    const path item = root / std::string(255, 'n');
+    std::ofstream{item} << "x";
+    EXPECT_TRUE(moveToTrash(item, root / "share"));
+    EXPECT_FALSE(fs::exists(item));
+}
+
+TEST_F(LinuxWorkspaceTest, TrashesOnAnotherFileSystemWhereItMay) {
+    const path disk = root / "disk";
+    const path data = root / "share";
+    fs::create_directories(disk);
+    const Mount mounted = Mount::memory(disk, "mode=755");
+    if (!mounted) GTEST_SKIP() << "only root mounts";
+    const std::string user = std::to_string(::getuid());
+    const auto trash = [&](const std::string& name) {
+        fs::create_directories(disk / "folder" / name);
+        return moveToTrash(disk / "folder" / name, data);
+    };
+
+    EXPECT_TRUE(trash("own"));
+    EXPECT_TRUE(fs::exists(disk / (".Trash-" + user) / "files/own"));
+    EXPECT_THAT(content(disk / (".Trash-" + user) / "info/own.trashinfo"),
+                HasSubstr("Path=folder/own\n"));
+    fs::create_directory(disk / ".Trash");
+    EXPECT_TRUE(trash("unsafe"));
+    EXPECT_TRUE(fs::is_empty(disk / ".Trash")) << "everybody could empty it";
+    fs::permissions(disk / ".Trash", fs::perms{01777});
+    EXPECT_TRUE(trash("shared"));
+    EXPECT_TRUE(fs::exists(disk / ".Trash" / user / "files/shared"));
+    fs::rename(disk / ".Trash", disk / "away");
+    fs::create_directory_symlink("away", disk / ".Trash");
+    EXPECT_TRUE(trash("linked"));
+    EXPECT_FALSE(fs::exists(disk / "away" / user / "files/linked"));
+
+    fs::remove(disk / ".Trash");
+    fs::create_directories(disk / "folder/copied/inner");
+    const path theirs = root / "theirs";
+    fs::create_directory(theirs);
+    for (const path& each : {theirs, disk / "folder", disk / "folder/copied"})
+        ASSERT_EQ(::chown(each.c_str(), nobody, nobody), 0);
+    EXPECT_TRUE(asNobody([&] { return moveToTrash(disk / "folder/copied", theirs); }));
+    EXPECT_TRUE(fs::exists(theirs / "Trash/files/copied"));
+    EXPECT_FALSE(fs::exists(disk / "folder/copied"));
+}
+
+TEST_F(LinuxWorkspaceTest, OpensTheApplicationOnlyWhenTheProcessHasEnded) {
+    const path app = root / "it's $(touch x) \"q\"\n.app";
+    const path report = root / "report";
+    fs::create_directories(app / "Contents/Linux");
+    std::ofstream{app / "Contents/Linux/quillon"}
+        << "#!/bin/sh\n{ echo \"$0\"; kill -0 \"$OLD\" 2>/dev/null && echo early; pwd\n"
+           "ls -l /proc/$$/fd; cut -d' ' -f6 /proc/$$/stat; echo $$; } >'"
+        << report.native() << ".new' 2>&1\nmv '" << report.native() << ".new' '" << report.native()
+        << "'\n";
+    fs::permissions(app / "Contents/Linux/quillon", fs::perms{0755});
+    std::ofstream{root / "leak"} << "x";
+
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::setenv("OLD", std::to_string(::getpid()).c_str(), 1);
+        ::dup2(::open((root / "leak").c_str(), O_RDONLY), 77);
+        LinuxWorkspace{{}}.openAfterExit(app);
+        // Long enough for the shell to have asked at least once.
+        ::usleep(500'000);
+        ::_exit(0);
+    }
+    ::waitpid(child, nullptr, 0);
+    ASSERT_TRUE(waitUntil([&] { return fs::exists(report); }));
+    const std::string told = content(report);
+    EXPECT_THAT(told, testing::StartsWith(app.native() + "/Contents/Linux/quillon\n/\n"));
+    EXPECT_THAT(told, Not(HasSubstr("leak")));
+    EXPECT_THAT(told, HasSubstr("0 -> /dev/null"));
+    // The shell has become the program, which leads its session.
+    const std::string ending = told.substr(0, told.size() - 1);
+    const auto last = ending.rfind('\n');
+    const auto previous = ending.rfind('\n', last - 1);
+    EXPECT_EQ(ending.substr(previous + 1, last - previous - 1), ending.substr(last + 1));
+}
+
+} // namespace
+} // namespace quillon::test
