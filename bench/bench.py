@@ -311,17 +311,18 @@ def time_to_quit(env):
 
 def quitting(telegram):
     """The running program's end: with nothing to deliver, and with two events for the server."""
-    environment = os.environ | {"QUILLON_BOT_API": telegram.facts["base_url"], "no_proxy": "127.0.0.1"}
-    server = {"": 2, telegram.facts["base_url"]: 0}
-    times = {address: [] for address in server}
-    for round in range(QUIT_ROUNDS):
-        for address, expected in server.items():
-            home = WORK / f"quit {round} {bool(address)}"
+    address = telegram.facts["base_url"]
+    environment = os.environ | {"QUILLON_BOT_API": address, "no_proxy": "127.0.0.1"}
+    events_left = {"": 2, address: 0}  # by the makers' server
+    times = {server: [] for server in events_left}
+    for count in range(QUIT_ROUNDS):
+        for server, expected in events_left.items():
+            home = WORK / f"quit {count} {bool(server)}"
             changes = {"XDG_DATA_HOME": str(home), "XDG_CONFIG_HOME": str(home / "config")}
-            taken, left = time_to_quit(environment | changes | {"QUILLON_SERVER": address})
+            taken, left = time_to_quit(environment | changes | {"QUILLON_SERVER": server})
             if left != expected:
                 sys.exit(f"{left} events were left where {expected} should have been")
-            times[address].append(taken)
+            times[server].append(taken)
     idle, delivering = (statistics.median(taken) for taken in times.values())
     yield Row("quitting with nothing to deliver", f"{idle:.0f} ms", "", idle, 100, unit="ms")
     yield Row("  with two events to deliver", f"{delivering:.0f} ms")
