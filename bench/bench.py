@@ -9,6 +9,8 @@ import contextlib
 import json
 import os
 import re
+import select
+import shutil
 import signal
 import statistics
 import subprocess
@@ -23,6 +25,7 @@ FILE_SIZE = 50_000_000  # bytes; the largest file that a bot may send
 UPLOAD_ROUNDS = 9
 TEXT_ROUNDS = 40
 STALL_ROUNDS = 5
+QUIT_ROUNDS = 15
 MB = 1e6
 
 
@@ -278,6 +281,53 @@ def stalls(telegram, file, tiff, text):
                   f"idle {idle[1]:.1f} ms", own, 16, unit="ms")
 
 
+def time_to_quit(env):
+    """Starts the resident program, ends it, and gives the milliseconds from the signal to its end."""
+    home = Path(env["XDG_DATA_HOME"])
+    events = home / "Quillon/events.json"
+    with open(WORK / "output", "w+b") as output:
+        process = subprocess.Popen([BUILD / "src/quillon"], env=env, stdout=output, stderr=output)
+        deadline = time.monotonic() + 10
+        while not (events.exists() and "daily_active" in events.read_text()):
+            if process.poll() is not None or time.monotonic() > deadline:
+                process.kill()
+                output.seek(0)
+                sys.exit(f"the program did not start: {output.read().decode(errors='replace')}")
+            time.sleep(0.02)
+        time.sleep(0.2)  # the rest of its start is not measured
+        ended = os.pidfd_open(process.pid)
+        start = time.monotonic()
+        process.terminate()
+        select.select([ended], [], [], 10)
+        milliseconds = (time.monotonic() - start) * 1000
+        os.close(ended)
+        if process.poll() != 0:
+            process.kill()
+            sys.exit(f"the program did not quit well: {process.returncode}")
+    left = json.loads(events.read_text())
+    shutil.rmtree(home)
+    return milliseconds, len(left)
+
+
+def quitting(telegram):
+    """The running program's end: with nothing to deliver, and with two events for the server."""
+    address = telegram.facts["base_url"]
+    environment = os.environ | {"QUILLON_BOT_API": address, "no_proxy": "127.0.0.1"}
+    events_left = {"": 2, address: 0}  # by the makers' server
+    times = {server: [] for server in events_left}
+    for count in range(QUIT_ROUNDS):
+        for server, expected in events_left.items():
+            home = WORK / f"quit {count} {bool(server)}"
+            changes = {"XDG_DATA_HOME": str(home), "XDG_CONFIG_HOME": str(home / "config")}
+            taken, left = time_to_quit(environment | changes | {"QUILLON_SERVER": server})
+            if left != expected:
+                sys.exit(f"{left} events were left where {expected} should have been")
+            times[server].append(taken)
+    idle, delivering = (statistics.median(taken) for taken in times.values())
+    yield Row("quitting with nothing to deliver", f"{idle:.0f} ms", "", idle, 100, unit="ms")
+    yield Row("  with two events to deliver", f"{delivering:.0f} ms")
+
+
 # --- all of it ------------------------------------------------------------------------------------
 
 
@@ -325,6 +375,7 @@ def main():
             rows += upload(telegram, name, file, tiny_file)
         rows += running_send(telegrams[0], text)
         rows += stalls(telegrams[0], file, tiff, text)
+        rows += quitting(telegrams[0])
     finally:
         for telegram in telegrams:
             telegram.stop()
