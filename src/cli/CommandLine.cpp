@@ -103,7 +103,6 @@ std::string_view commandName(Command command) {
 
 bool worksOnState(Command command) {
     switch (command) {
-    case Command::checkForUpdates:
     case Command::uninstall:
     case Command::help:
     case Command::version:

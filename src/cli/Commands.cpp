@@ -26,11 +26,11 @@ QCoro::Task<int> send(CommandContext context, Invocation /*invocation*/) {
     const std::size_t before = context.store.history().size();
     context.banner.forget();
     context.store.setSendProgress([console = context.console](qint64 sent, qint64 total) {
-        console->uploading(sent, total);
+        console->progress("Sending…", sent, total);
     });
     co_await context.store.sendClipboard("command");
     context.store.setSendProgress({});
-    context.console->uploaded();
+    context.console->endProgress();
 
     const std::vector<Sent>& history = context.store.history();
     const auto added = static_cast<std::ptrdiff_t>(history.size() - before);

@@ -23,9 +23,10 @@ public:
     /// nothing came.
     [[nodiscard]] virtual std::optional<std::string> readSecret(std::string_view prompt) = 0;
 
-    /// How far an upload has come, in bytes. May still come when the upload is over.
-    virtual void uploading(qint64 sent, qint64 total) = 0;
-    virtual void uploaded() = 0;
+    /// How far something has come, in bytes; `activity` is what is done, as in "Sending…".
+    virtual void progress(std::string_view activity, qint64 done, qint64 total) = 0;
+    /// It is over: progress that still comes is not shown.
+    virtual void endProgress() = 0;
 };
 
 } // namespace quillon

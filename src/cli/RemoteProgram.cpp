@@ -42,7 +42,7 @@ QDBusUnixFileDescriptor inMemory(const std::string& secret) {
     return descriptor;
 }
 
-/// Passes on how far an upload has come.
+/// Passes on how far the command has come.
 class ProgressListener : public QObject {
     Q_OBJECT
 
@@ -50,11 +50,13 @@ public:
     explicit ProgressListener(TerminalConsole& console) : console_{console} {
         QDBusConnection::sessionBus().connect(
             QLatin1String{busName}, QLatin1String{objectPath}, QLatin1String{interfaceName},
-            QStringLiteral("Progress"), this, SLOT(progress(qlonglong, qlonglong)));
+            QStringLiteral("Progress"), this, SLOT(progress(QString, qlonglong, qlonglong)));
     }
 
 private Q_SLOTS:
-    void progress(qlonglong sent, qlonglong total) { console_.uploading(sent, total); }
+    void progress(const QString& activity, qlonglong done, qlonglong total) {
+        console_.progress(activity.toStdString(), done, total);
+    }
 
 private:
     TerminalConsole& console_;
@@ -86,7 +88,7 @@ std::optional<int> carryOut(const Invocation& invocation) {
     QEventLoop loop;
     QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
     if (!watcher.isFinished()) loop.exec();
-    console.uploaded();
+    console.endProgress();
     return judge(watcher, console);
 }
 

@@ -28,7 +28,7 @@ void printErrorText(std::string_view text);
 class Progress {
 public:
     /// `what` is on its way, as in "Sending…".
-    explicit Progress(std::string_view what = "Sending…");
+    explicit Progress(std::string_view what);
 
     /// Sizes in bytes. Remembered until the line is shown.
     void update(qint64 done, qint64 total);

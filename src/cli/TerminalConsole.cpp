@@ -4,22 +4,29 @@
 #include <QTimer>
 
 #include <chrono>
-#include <utility>
 
 namespace quillon {
 
 namespace {
 
-/// A shorter upload shows no progress.
+/// What takes less shows no progress.
 constexpr std::chrono::milliseconds progressPatience{700};
 
 } // namespace
 
-void TerminalConsole::uploading(qint64 sent, qint64 total) {
-    progress_->update(sent, total);
-    if (std::exchange(begun_, true)) return;
-    QTimer::singleShot(progressPatience, QCoreApplication::instance(),
-                       [progress = progress_] { progress->show(); });
+void TerminalConsole::progress(std::string_view activity, qint64 done, qint64 total) {
+    if (ended_) return;
+    if (!line_) {
+        line_ = std::make_shared<Terminal::Progress>(activity);
+        QTimer::singleShot(progressPatience, QCoreApplication::instance(),
+                           [line = line_] { line->show(); });
+    }
+    line_->update(done, total);
+}
+
+void TerminalConsole::endProgress() {
+    if (line_) line_->end();
+    ended_ = true;
 }
 
 } // namespace quillon

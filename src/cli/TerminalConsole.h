@@ -16,14 +16,14 @@ public:
     [[nodiscard]] std::optional<std::string> readSecret(std::string_view prompt) override {
         return Terminal::readSecret(prompt);
     }
-    /// Shows a line of progress once an upload has taken 0.7 s.
-    void uploading(qint64 sent, qint64 total) override;
-    void uploaded() override { progress_->end(); }
+    /// Shows a line of progress once the matter has taken 0.7 s.
+    void progress(std::string_view activity, qint64 done, qint64 total) override;
+    void endProgress() override;
 
 private:
     /// Shared with the timer that shows it.
-    std::shared_ptr<Terminal::Progress> progress_ = std::make_shared<Terminal::Progress>();
-    bool begun_ = false;
+    std::shared_ptr<Terminal::Progress> line_;
+    bool ended_ = false;
 };
 
 } // namespace quillon

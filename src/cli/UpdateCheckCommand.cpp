@@ -1,22 +1,25 @@
 #include "cli/UpdateCheckCommand.h"
 
 #include "analytics/Analytics.h"
-#include "cli/Terminal.h"
+#include "cli/Console.h"
 #include "platform/Platform.h"
 #include "telegram/TelegramError.h"
 #include "update/BundleUpdater.h"
 #include "update/UpdateUserDriver.h"
 
 #include <memory>
+#include <utility>
 
 namespace quillon {
 
 namespace {
 
-/// Tells a terminal how an update comes along, and answers for its user.
-class TerminalUpdateDriver final : public UpdateUserDriver {
+/// Tells a console how an update comes along, and answers for its user.
+class ConsoleUpdateDriver final : public UpdateUserDriver {
 public:
-    explicit TerminalUpdateDriver(bool install) : install_{install} {}
+    ConsoleUpdateDriver(std::shared_ptr<Console> console, bool install)
+        : console_{std::move(console)},
+          install_{install} {}
 
     [[nodiscard]] int exitCode() const { return exitCode_; }
 
@@ -25,41 +28,36 @@ public:
     }
     void showChecking(std::stop_source /*cancel*/) override {}
     void showUpToDate(std::string version) override {
-        Terminal::print("Quillon " + version + " is up to date.");
+        console_->print("Quillon " + version + " is up to date.");
     }
     [[nodiscard]] QFuture<UpdateChoice> showUpdate(UpdateOffer offer) override {
         if (install_) return QtFuture::makeReadyFuture(UpdateChoice::install);
-        Terminal::print("Quillon " + offer.version + " is available.");
+        console_->print("Quillon " + offer.version + " is available.");
         return QtFuture::makeReadyFuture(UpdateChoice::later);
     }
-    void showPreparing(std::string /*version*/, std::stop_source /*cancel*/) override {
-        progress_ = std::make_unique<Terminal::Progress>("Downloading…");
-    }
+    void showPreparing(std::string /*version*/, std::stop_source /*cancel*/) override {}
     void showProgress(UpdateProgress progress) override {
-        progress_->update(progress.received, progress.total);
-        progress_->show();
+        console_->progress("Downloading…", progress.received, progress.total);
     }
     [[nodiscard]] QFuture<InstallTime> showReady(std::string /*version*/) override {
         dismiss();
         return QtFuture::makeReadyFuture(InstallTime::now);
     }
     void showInstalled(std::string version) override {
-        Terminal::print("Quillon " + version + " is installed.");
+        console_->print("Quillon " + version + " is installed.");
     }
     void showError(UpdateError error) override {
         dismiss();
-        Terminal::printError(error.description);
+        console_->printError(error.description);
         exitCode_ = exitFailed;
     }
     void comeForward() override {}
-    void dismiss() override {
-        if (progress_) progress_->end();
-    }
+    void dismiss() override { console_->endProgress(); }
 
 private:
+    std::shared_ptr<Console> console_;
     bool install_;
     int exitCode_ = exitDone;
-    std::unique_ptr<Terminal::Progress> progress_;
 };
 
 /// Records the check, as the running program does for its own.
@@ -86,7 +84,7 @@ QCoro::Task<int> runUpdateCheck(CommandContext context, bool install) {
     const Bundle& bundle = context.platform.bundle;
     if (!bundle.isApplication() || !bundle.text("SUFeedURL"))
         throw TelegramError{"This copy of Quillon does not update itself."};
-    TerminalUpdateDriver driver{install};
+    ConsoleUpdateDriver driver{context.console, install};
     CheckRecorder recorder{context.analytics};
     BundleUpdater updater{context.platform, driver, BundleUpdater::Schedule::none};
     if (const auto error = updater.start(recorder)) throw TelegramError{error->description};

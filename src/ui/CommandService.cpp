@@ -36,7 +36,9 @@ std::optional<std::string> firstLine(const QDBusUnixFileDescriptor& file) {
 /// Remembers what a command says, for the process that handed it over.
 class DistantConsole final : public Console {
 public:
-    DistantConsole(QDBusUnixFileDescriptor input, std::function<void(qint64, qint64)> progress)
+    using Progress = std::function<void(std::string_view, qint64, qint64)>;
+
+    DistantConsole(QDBusUnixFileDescriptor input, Progress progress)
         : input_{std::move(input)},
           progress_{std::move(progress)} {}
 
@@ -49,14 +51,14 @@ public:
     [[nodiscard]] std::optional<std::string> readSecret(std::string_view /*prompt*/) override {
         return firstLine(input_);
     }
-    void uploading(qint64 sent, qint64 total) override {
-        if (progress_) progress_(sent, total);
+    void progress(std::string_view activity, qint64 done, qint64 total) override {
+        if (progress_) progress_(activity, done, total);
     }
-    void uploaded() override { progress_ = {}; }
+    void endProgress() override { progress_ = {}; }
 
 private:
     QDBusUnixFileDescriptor input_;
-    std::function<void(qint64, qint64)> progress_;
+    Progress progress_;
 };
 
 } // namespace
@@ -107,7 +109,9 @@ QCoro::Task<> CommandService::work() {
         const Call call = std::move(calls_.front());
         calls_.pop_front();
         const auto console = std::make_shared<DistantConsole>(
-            call.input, [this](qint64 sent, qint64 total) { Q_EMIT Progress(sent, total); });
+            call.input, [this](std::string_view activity, qint64 done, qint64 total) {
+                Q_EMIT Progress(QString::fromStdString(std::string{activity}), done, total);
+            });
         CommandContext context = *context_;
         context.console = console;
         const int code = co_await runCommand(call.invocation, context);

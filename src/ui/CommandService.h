@@ -42,8 +42,8 @@ public Q_SLOTS:
     void Quit();
 
 Q_SIGNALS:
-    /// How many bytes of the command's upload have gone out.
-    void Progress(qlonglong sent, qlonglong total);
+    /// How many bytes of what the command does, as in "Sending…", are done.
+    void Progress(const QString& activity, qlonglong done, qlonglong total);
 
 private:
     struct Call {
