@@ -16,6 +16,7 @@ import statistics
 import subprocess
 import sys
 import time
+import urllib.request
 from dataclasses import dataclass
 from pathlib import Path
 
@@ -25,6 +26,7 @@ FILE_SIZE = 50_000_000  # bytes; the largest file that a bot may send
 UPLOAD_ROUNDS = 9
 TEXT_ROUNDS = 40
 STALL_ROUNDS = 5
+KEY_ROUNDS = 40
 QUIT_ROUNDS = 15
 MB = 1e6
 
@@ -178,6 +180,12 @@ class Telegram:
         chat = self.facts["groups"][0]["id"]
         return self.curl("sendDocument", "-F", f"chat_id={chat}", "-F", f"document=@{path}")
 
+    def messages(self):
+        """When each text message has begun to arrive, in ms since 1970."""
+        with urllib.request.urlopen(self.facts["base_url"] + "/sandbox/requests") as answer:
+            requests = json.load(answer)
+        return [each["time_ms"] for each in requests if each["method"] == "sendMessage"]
+
     def stop(self):
         self.process.terminate()
         self.process.wait()
@@ -245,6 +253,57 @@ def running_send(telegram, text):
     our, their = statistics.median(ours), statistics.median(theirs)
     yield Row("short text from the running program", f"{our:.2f} ms", f"curl -d {their:.2f} ms",
               our / their, 1)
+
+
+def await_message(telegram, count):
+    """The times of all messages, once there are as many; none when there are not after a while."""
+    deadline = time.monotonic() + 5
+    while time.monotonic() < deadline:
+        times = telegram.messages()
+        if len(times) >= count:
+            return times
+        time.sleep(0.01)
+    return None
+
+
+def key_press(telegram, text):
+    """From the press of the shortcut to the request's beginning at the other end."""
+    before = len(telegram.messages())
+    program = subprocess.Popen([BUILD / "src/quillon"], env=telegram.env)
+    keyboard = subprocess.Popen([BUILD / "bench/bench_PressKey"], text=True, bufsize=1,
+                                stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+
+    def press():
+        keyboard.stdin.write("\n")
+        return float(keyboard.stdout.readline())
+
+    took = []
+    try:
+        with copied("UTF8_STRING", text):
+            # The first that is heard goes before and opens the connection.
+            for _ in range(10):
+                press()
+                if await_message(telegram, before + 1):
+                    break
+            time.sleep(0.5)
+            for _ in range(KEY_ROUNDS):
+                before = len(telegram.messages())
+                pressed = press()
+                times = await_message(telegram, before + 1)
+                if not times:
+                    sys.exit("a press of the shortcut sent nothing")
+                took.append(times[-1] - pressed)
+                time.sleep(0.05)
+    finally:
+        keyboard.stdin.close()
+        keyboard.wait()
+        program.terminate()
+        if program.wait() != 0:
+            sys.exit("the resident program did not end well")
+    median = statistics.median(took)
+    yield Row("shortcut to the first byte at the other end", f"{median:.2f} ms", "", median, 15,
+              unit="ms")
+    yield Row("  the slowest of it", f"{max(took):.2f} ms")
 
 
 def stalls(telegram, file, tiff, text):
@@ -374,6 +433,7 @@ def main():
         for telegram, name in zip(telegrams, ("http", "https")):
             rows += upload(telegram, name, file, tiny_file)
         rows += running_send(telegrams[0], text)
+        rows += key_press(telegrams[0], text)
         rows += stalls(telegrams[0], file, tiff, text)
         rows += quitting(telegrams[0])
     finally:

@@ -67,7 +67,7 @@ Json toJson(const RequestRecord& record) {
     }
     const auto time = record.time.time_since_epoch();
     return {{"connection", record.connection},
-            {"time_ms", std::chrono::duration_cast<std::chrono::milliseconds>(time).count()},
+            {"time_ms", std::chrono::duration<double, std::milli>{time}.count()},
             {"verb", record.verb},
             {"method", record.method},
             {"bot", record.bot},
