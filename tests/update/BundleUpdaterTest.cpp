@@ -10,8 +10,6 @@
 
 #include <gmock/gmock.h>
 
-#include <fstream>
-
 namespace quillon::test {
 
 namespace {
@@ -101,8 +99,8 @@ public:
 };
 
 struct BundleUpdaterTest : testing::Test {
-    BundleUpdaterTest() : source{world.home() / "makers"} {
-        writeApplication(world.platform.bundle.url, "1.0");
+    BundleUpdaterTest() {
+        place(application("1.0"), world.platform.bundle.url.parent_path());
         world.platform.bundle.info["SUFeedURL"] = source.feedUrl();
         world.platform.bundle.info["SUPublicEDKey"] = source.publicKey();
         source.publish("1.1");
@@ -132,10 +130,7 @@ struct BundleUpdaterTest : testing::Test {
     /// How many checks there were since the last time.
     std::size_t checks() { return std::exchange(delegate.checks, {}).size(); }
     void quit() { QMetaObject::invokeMethod(qApp, "aboutToQuit"); }
-    [[nodiscard]] std::string installed() const {
-        std::ifstream program{world.platform.bundle.executable};
-        return {std::istreambuf_iterator{program}, {}};
-    }
+    [[nodiscard]] std::string installed() const { return versionOf(world.platform.bundle.url); }
 
     World world;
     UpdateSource source;
@@ -144,9 +139,6 @@ struct BundleUpdaterTest : testing::Test {
     std::vector<bool> canCheck;
     std::unique_ptr<BundleUpdater> updater;
 };
-
-const std::string oldProgram = "#!/bin/sh\necho quillon 1.0\n";
-const std::string newProgram = "#!/bin/sh\necho quillon 1.1\n";
 
 } // namespace
 
@@ -182,7 +174,7 @@ TEST_F(BundleUpdaterTest, InstallsAtOnceAndRelaunches) {
     user.time = InstallTime::nowAndRelaunch;
     EXPECT_THAT(checkNow(), ElementsAre("checking", "update 1.0 1.1 What is new", "preparing 1.1",
                                         "ready 1.1"));
-    EXPECT_EQ(installed(), newProgram);
+    EXPECT_EQ(installed(), "1.1");
     EXPECT_EQ(user.last.stage, UpdateProgress::Stage::unpacking);
     EXPECT_THAT(world.workspace.log,
                 ElementsAre("open " + world.platform.bundle.url.native(), "terminate"));
@@ -192,19 +184,19 @@ TEST_F(BundleUpdaterTest, InstallsAtOnceAndRelaunches) {
     // At the start; while it checks, but not while it asks; while it downloads; while it installs.
     EXPECT_THAT(canCheck, ElementsAre(true, false, true, false, true, false, true));
     quit(); // which must not put the old version back
-    EXPECT_EQ(installed(), newProgram);
+    EXPECT_EQ(installed(), "1.1");
 }
 
 TEST_F(BundleUpdaterTest, InstallsOnQuitAndUntilThenOffersToDoSoNow) {
     user.choice = UpdateChoice::install;
     checkNow();
-    EXPECT_EQ(installed(), oldProgram);
+    EXPECT_EQ(installed(), "1.0");
     EXPECT_THAT(checkNow(), ElementsAre("ready 1.1"));
     world.defaults.setFlag("SUEnableAutomaticChecks", true);
     updater->setAutomaticallyChecksForUpdates(true);
     EXPECT_THAT(pass(48h), IsEmpty());
     quit();
-    EXPECT_EQ(installed(), newProgram);
+    EXPECT_EQ(installed(), "1.1");
     EXPECT_THAT(world.workspace.log, IsEmpty());
     EXPECT_EQ(checks(), 1U);
 }
@@ -213,7 +205,7 @@ TEST_F(BundleUpdaterTest, InstallsWithoutEndingTheProgram) {
     user.choice = UpdateChoice::install;
     user.time = InstallTime::now;
     EXPECT_THAT(checkNow(), Contains("installed 1.1"));
-    EXPECT_EQ(installed(), newProgram);
+    EXPECT_EQ(installed(), "1.1");
     EXPECT_THAT(world.workspace.log, IsEmpty());
 }
 
@@ -323,7 +315,7 @@ TEST_F(BundleUpdaterTest, ShowsAFailureOnlyToWhoAsked) {
                 ElementsAre("update 1.0 1.1 What is new gently", "preparing 1.1", "error 2104"));
     EXPECT_EQ(delegate.errors.back(), 2104);
     quit();
-    EXPECT_EQ(installed(), oldProgram);
+    EXPECT_EQ(installed(), "1.0");
 }
 
 TEST_F(BundleUpdaterTest, EndsWithoutAWordWhenTheUserCancels) {
@@ -331,12 +323,12 @@ TEST_F(BundleUpdaterTest, EndsWithoutAWordWhenTheUserCancels) {
     user.cancels = true;
     EXPECT_THAT(checkNow(), ElementsAre("checking"));
     // In the background nothing shows that could be cancelled, until the user installs.
-    source.stallArchives(true);
+    source.stallArchives();
     updater->setAutomaticallyChecksForUpdates(true);
     EXPECT_THAT(pass(24h),
                 ElementsAre("update 1.0 1.1 What is new gently", "preparing 1.1", "dismiss"));
     EXPECT_THAT(delegate.errors, IsEmpty());
-    EXPECT_EQ(installed(), oldProgram);
+    EXPECT_EQ(installed(), "1.0");
     EXPECT_TRUE(canCheck.back());
 }
 

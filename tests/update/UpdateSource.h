@@ -1,27 +1,20 @@
 #pragma once
 
 #include "support/RawServer.h"
-
-#include <QByteArray>
+#include "update/Makers.h"
 
 #include <atomic>
-#include <filesystem>
 #include <mutex>
 #include <string>
 
 namespace quillon::test {
 
-/// An application folder like the real one, whose program is a script that tells its version.
-void writeApplication(const std::filesystem::path& folder, const std::string& version);
-
-/// The makers' side of updates: a key pair, and a feed and archives on the loopback interface.
+/// The makers' server on the loopback interface: a feed, and the archive that it offers.
 class UpdateSource {
 public:
-    /// Keeps archives in `folder`.
-    explicit UpdateSource(std::filesystem::path folder);
+    UpdateSource();
 
-    /// The base64 form of the public key.
-    [[nodiscard]] std::string publicKey() const;
+    [[nodiscard]] std::string publicKey() const { return maker_.publicKey(); }
     [[nodiscard]] std::string feedUrl() const { return server_.url("/feed.xml"); }
 
     /// Lets the feed offer this version alone, with an archive of it.
@@ -31,15 +24,12 @@ public:
     /// The feed and archives are not there.
     void takeOffline(bool offline) { offline_ = offline; }
     /// Archives come to a halt after their first byte.
-    void stallArchives(bool stall) { stalls_ = stall; }
+    void stallArchives() { stalls_ = true; }
 
 private:
     void serve(RawServer::Connection& connection);
-    [[nodiscard]] std::string sign(const QByteArray& bytes) const;
 
-    std::filesystem::path folder_;
-    QByteArray publicKey_;
-    QByteArray secretKey_;
+    Maker maker_;
     bool signsWrongly_ = false;
     std::atomic<bool> offline_ = false;
     std::atomic<bool> stalls_ = false;

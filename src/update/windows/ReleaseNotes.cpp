@@ -8,8 +8,8 @@ namespace quillon {
 
 namespace {
 
-/// Much more than a version can tell of itself, and laid out well within a frame; in UTF-16 units.
-constexpr qsizetype maximumNotes = 20'000;
+/// More than a version has to tell of itself; in UTF-16 units. Takes 10 ms to lay out.
+constexpr qsizetype maximumNotes = 10'000;
 /// Deeper structures make the layout slow, and no text needs them.
 constexpr int maximumDepth = 12;
 
