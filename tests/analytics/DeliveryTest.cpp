@@ -33,6 +33,12 @@ public:
         request.inactivityTimeout /= haste;
         return real_.post(std::move(request));
     }
+    [[nodiscard]] QFuture<std::optional<HttpReply>> get(HttpRequest request) override {
+        return real_.get(std::move(request));
+    }
+    [[nodiscard]] QFuture<DownloadOutcome> download(HttpDownload download) override {
+        return real_.download(std::move(download));
+    }
 
 private:
     CurlTransport real_{{.allowHttp = true}};
