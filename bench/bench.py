@@ -202,6 +202,8 @@ def rules():
         yield Row(what, f"{speed:.0f} MB/s", value=speed, unit="MB/s", **aim)
     track = best("track/real_time", "real_time", min) / 1000
     yield Row("usage event into a full queue", f"{track:.3f} ms", "", track, 1, unit="ms")
+    feed = best("feed/200 items", "real_time", min)
+    yield Row("check of a feed with 200 items", f"{feed:.2f} ms")
     for name in "config", "history":
         yield Row(f"reading {name}.json", f"{best(name, 'real_time', min):.1f} µs")
 

@@ -12,6 +12,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace quillon {
 
@@ -20,7 +21,7 @@ namespace {
 using std::filesystem::path;
 
 /// How much of the archive is read at once, in bytes.
-constexpr std::size_t blockSize = 128 * 1024;
+constexpr std::size_t blockSize = 131'072;
 
 constexpr mode_t privileges = S_ISUID | S_ISGID;
 
@@ -69,8 +70,8 @@ struct FreeWriter {
 /// One archive on its way to one folder.
 class Unpacking {
 public:
-    Unpacking(const path& folder, UnpackLimits limits, const std::stop_token& stop)
-        : folder_{folder},
+    Unpacking(path folder, UnpackLimits limits, const std::stop_token& stop)
+        : folder_{std::move(folder)},
           limits_{limits},
           stop_{stop} {}
 

@@ -162,10 +162,11 @@ const FeedItem* newestUpdate(const std::vector<FeedItem>& items, std::string_vie
     const FeedItem* newest = nullptr;
     for (const FeedItem& item : items) {
         const std::string_view least = newest ? std::string_view{newest->version} : currentVersion;
-        if (compareVersions(item.version, least) <= 0) continue;
-        if (!skippedVersion.empty() && compareVersions(item.version, skippedVersion) <= 0) continue;
+        if (std::is_lteq(compareVersions(item.version, least))) continue;
+        if (!skippedVersion.empty() && std::is_lteq(compareVersions(item.version, skippedVersion)))
+            continue;
         if (!item.minimumSystemVersion.empty() &&
-            compareVersions(systemVersion, item.minimumSystemVersion) < 0)
+            std::is_lt(compareVersions(systemVersion, item.minimumSystemVersion)))
             continue;
         newest = &item;
     }

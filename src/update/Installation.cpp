@@ -111,7 +111,8 @@ int objectionTo(const Bundle& bundle, const Bundle& running, const FeedItem& ite
     if (bundle.text("CFBundleVersion") != item.version ||
         bundle.text("CFBundleShortVersionString") != item.shortVersion)
         return updateOtherVersion;
-    if (compareVersions(item.version, comparedVersion(running)) <= 0) return updateNotNewer;
+    if (std::is_lteq(compareVersions(item.version, comparedVersion(running))))
+        return updateNotNewer;
     return tellsVersion(bundle, item, timeout) ? 0 : updateDoesNotRun;
 }
 
@@ -176,7 +177,7 @@ std::optional<UpdateError> install(const PreparedUpdate& update) {
     const InstallationLock lock{update.bundle};
     if (lock.error()) return lock.error();
     const Bundle installed = bundleAt(update.bundle);
-    if (compareVersions(update.item.version, comparedVersion(installed)) <= 0)
+    if (std::is_lteq(compareVersions(update.item.version, comparedVersion(installed))))
         return updateError(updateNotNewer);
     if (const int error = exchange(update.staged, update.bundle); error != 0)
         return fileError(error);

@@ -86,7 +86,8 @@ Prepared stage(const Delivery& delivery) {
 int objectionTo(const FeedItem& item, const Bundle& running) {
     if (!parsePublicKey(running.text(publicKeyName).value_or(""))) return updateKeyMissing;
     if (!isAllowedUrl(item.url)) return updateNotAllowed;
-    if (compareVersions(item.version, comparedVersion(running)) <= 0) return updateNotNewer;
+    if (std::is_lteq(compareVersions(item.version, comparedVersion(running))))
+        return updateNotNewer;
     return 0;
 }
 

@@ -75,8 +75,11 @@ bool CurlTransfer::prepare(const CurlTransportOptions& options) {
 }
 
 void CurlTransfer::fetch(const CurlTransportOptions& options) {
-    const bool allowHttp = options.allowHttp || isToThisMachine();
+    const bool near = isToThisMachine();
+    const bool allowHttp = options.allowHttp || near;
     curl_easy_setopt(handle(), CURLOPT_PROTOCOLS_STR, allowHttp ? "http,https" : "https");
+    // A proxy would be another machine.
+    if (near) curl_easy_setopt(handle(), CURLOPT_NOPROXY, "*");
     curl_easy_setopt(handle(), CURLOPT_REDIR_PROTOCOLS_STR, "https");
     curl_easy_setopt(handle(), CURLOPT_FOLLOWLOCATION, 1L);
     curl_easy_setopt(handle(), CURLOPT_MAXREDIRS, maximumRedirects);

@@ -1,0 +1,177 @@
+#include "platform/linux/CurlTransport.h"
+#include "support/Await.h"
+#include "support/RawServer.h"
+
+#include <gmock/gmock.h>
+
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+#include <fstream>
+#include <future>
+
+namespace quillon::test {
+namespace {
+
+using namespace std::chrono_literals;
+using Connection = RawServer::Connection;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class CurlDownloadTest : public testing::Test {
+protected:
+    HttpDownload downloadOf(std::string url) const {
+        HttpDownload download;
+        download.url = std::move(url);
+        download.file = file;
+        download.maximumSize = 1'000'000;
+        return download;
+    }
+    DownloadOutcome outcome(std::string url) {
+        return await(transport.download(downloadOf(std::move(url))));
+    }
+    bool got(std::string url) {
+        HttpRequest request;
+        request.url = std::move(url);
+        return await(transport.get(std::move(request))).has_value();
+    }
+    std::string content() const {
+        std::ifstream stream{file, std::ios::binary};
+        return {std::istreambuf_iterator<char>{stream}, {}};
+    }
+
+    QTemporaryDir folder;
+    std::filesystem::path file = folder.filePath(QStringLiteral("file")).toStdString();
+    CurlTransport transport;
+};
+
+TEST_F(CurlDownloadTest, FetchesFromThisMachineAndTellsProgress) {
+    const std::string bytes(1'000'000, 'x');
+    std::promise<std::string> request;
+    RawServer server{[&](Connection& connection) {
+        request.set_value(connection.request());
+        connection.reply(200, bytes);
+    }};
+    auto download = downloadOf(server.url("/a?b"));
+    qint64 last = 0;
+    download.progress = [&](qint64 received, qint64 total) {
+        EXPECT_EQ(QThread::currentThread(), qApp->thread());
+        EXPECT_GE(received, last);
+        EXPECT_EQ(total, received > 0 ? 1'000'000 : total);
+        last = received;
+    };
+    ::umask(0);
+    EXPECT_EQ(await(transport.download(std::move(download))), DownloadOutcome::done);
+    ::umask(022);
+    EXPECT_TRUE(content() == bytes);
+    EXPECT_TRUE(waitUntil([&] { return last == 1'000'000; }));
+    EXPECT_THAT(request.get_future().get(), StartsWith("GET /a?b HTTP/1.1\r\n"));
+    EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms(0600));
+
+    EXPECT_EQ(outcome(server.url()), DownloadOutcome::unwritable) << "the file is there";
+    EXPECT_TRUE(content() == bytes);
+}
+
+TEST_F(CurlDownloadTest, LeavesNothingBehindAFailure) {
+    struct Case {
+        const char* what;
+        std::function<void(Connection&)> serve;
+        DownloadOutcome outcome;
+    };
+    const std::string tooLarge(1'000'001, 'x');
+    const Case cases[]{
+        {"announced too large",
+         [](Connection& connection) {
+             connection.send("HTTP/1.1 200 OK\r\nContent-Length: 1000001\r\n\r\n");
+             connection.awaitEnd();
+         },
+         DownloadOutcome::tooLarge},
+        {"grown too large",
+         [&](Connection& connection) {
+             connection.send("HTTP/1.1 200 OK\r\n\r\n" + tooLarge);
+             connection.awaitEnd();
+         },
+         DownloadOutcome::tooLarge},
+        {"truncated",
+         [](Connection& connection) {
+             connection.send("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nxx");
+         },
+         DownloadOutcome::failed},
+        {"not found", [](Connection& connection) { connection.reply(404, "x"); },
+         DownloadOutcome::failed},
+        {"a part", [](Connection& connection) { connection.reply(206, "x"); },
+         DownloadOutcome::failed},
+        {"redirect to plain http",
+         [](Connection& connection) {
+             connection.reply(302, "x", "Location: http://127.0.0.1:9/\r\n");
+         },
+         DownloadOutcome::failed},
+        {"redirect to a file",
+         [](Connection& connection) {
+             connection.reply(302, "x", "Location: file:///etc/passwd\r\n");
+         },
+         DownloadOutcome::failed},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.what);
+        RawServer server{[&](Connection& connection) {
+            connection.request();
+            each.serve(connection);
+        }};
+        EXPECT_EQ(outcome(server.url()), each.outcome);
+        EXPECT_FALSE(std::filesystem::exists(file));
+    }
+}
+
+TEST_F(CurlDownloadTest, SpeaksPlainHttpToThisMachineAlone) {
+    RawServer server{[](Connection& connection) {
+        while (!connection.request().empty())
+            connection.reply(200, "x");
+    }};
+    const std::string port = ":" + std::to_string(server.port()) + "/";
+    EXPECT_TRUE(got("http://127.0.0.1" + port));
+    EXPECT_TRUE(got("http://localhost" + port));
+    const int connections = server.connections();
+    for (const std::string host : {"192.0.2.1", "0.0.0.0", "localhost.", "127.0.0.1.", "[::]",
+                                   "[::ffff:127.0.0.1]", "127.0.0.1@0.0.0.0"})
+        EXPECT_FALSE(got("http://" + host + port)) << host;
+    EXPECT_EQ(server.connections(), connections);
+}
+
+TEST_F(CurlDownloadTest, FollowsARedirectToHttps) {
+    std::promise<std::string> hello;
+    RawServer secure{[&](Connection& connection) { hello.set_value(connection.receive(3)); }};
+    RawServer server{[&](Connection& connection) {
+        connection.request();
+        std::string url = secure.url();
+        connection.reply(302, "", "Location: " + url.insert(4, 1, 's') + "\r\n");
+    }};
+    EXPECT_FALSE(got(server.url()));
+    EXPECT_EQ(hello.get_future().get(), "\x16\x03\x01") << "the first bytes of a TLS greeting";
+}
+
+TEST_F(CurlDownloadTest, StopsWhenAskedToAndWhenNothingMoves) {
+    RawServer server{[](Connection& connection) {
+        connection.request();
+        connection.send("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nxx");
+        connection.awaitEnd();
+    }};
+    std::stop_source source;
+    auto download = downloadOf(server.url());
+    download.stop = source.get_token();
+    const auto stopped = transport.download(download);
+    ASSERT_TRUE(waitUntil([&] { return content() == "xx"; }));
+    source.request_stop();
+    EXPECT_EQ(await(stopped), DownloadOutcome::stopped);
+    EXPECT_FALSE(std::filesystem::exists(file));
+    EXPECT_EQ(await(transport.download(download)), DownloadOutcome::stopped);
+
+    download.stop = {};
+    download.inactivityTimeout = 100ms;
+    EXPECT_EQ(await(transport.download(download)), DownloadOutcome::failed);
+    EXPECT_FALSE(std::filesystem::exists(file));
+}
+
+} // namespace
+} // namespace quillon::test
