@@ -165,10 +165,9 @@ QCoro::Task<> BundleUpdater::lookForUpdate(UpdateCheck check) {
     const auto feed = co_await fetchFeed(platform_, feedUrl_);
     if (cancel.stop_requested()) co_return;
     if (const auto* error = std::get_if<UpdateError>(&feed)) {
-        if (background)
-            delegate_->didAbortWithError(*error);
-        else
-            fail(*error);
+        // Nobody waits for what runs in the background.
+        if (!background) driver_.showError(*error);
+        delegate_->didAbortWithError(*error);
         co_return;
     }
     // Whoever asks is told also of what was skipped.
@@ -208,10 +207,8 @@ QCoro::Task<> BundleUpdater::prepare(FeedItem item) {
     auto outcome =
         co_await prepareUpdate(platform_, std::move(item), std::move(progress), stop_.get_token());
     if (const auto* error = std::get_if<UpdateError>(&outcome)) {
-        if (error->code == updateCancelled)
-            driver_.dismiss();
-        else
-            fail(*error);
+        const bool cancelled = error->code == updateCancelled;
+        cancelled ? driver_.dismiss() : fail(*error);
         co_return;
     }
     prepared_ = std::get<PreparedUpdate>(std::move(outcome));

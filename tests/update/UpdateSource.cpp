@@ -14,12 +14,12 @@ void UpdateSource::publish(const std::string& version) {
                          static_cast<qsizetype>(signature.size())};
     const std::lock_guard lock{mutex_};
     archive_ = archive;
-    feed_ = "<rss version=\"2.0\" xmlns:quillon=\"urn:dev.vostrel.quillon:update\"><channel><item>"
+    feed_ = R"(<rss version="2.0" xmlns:quillon="urn:dev.vostrel.quillon:update"><channel><item>)"
             "<quillon:version>" +
-            version + "</quillon:version><description>What is new</description><enclosure url=\"" +
-            server_.url("/archive") + "\" length=\"" + std::to_string(archive.size()) +
-            "\" type=\"application/zstd\" quillon:edSignature=\"" + raw.toBase64().toStdString() +
-            "\"/></item></channel></rss>";
+            version + "</quillon:version><description>What is new</description><enclosure url='" +
+            server_.url("/archive") + "' length='" + std::to_string(archive.size()) +
+            "' type='application/zstd' quillon:edSignature='" + raw.toBase64().toStdString() +
+            "'/></item></channel></rss>";
 }
 
 void UpdateSource::serve(RawServer::Connection& connection) {
