@@ -87,6 +87,12 @@ protected:
         phone.sandbox.failNext(fault);
     }
 
+    /// Starts a delivery whose first reply cannot be there when this returns.
+    [[nodiscard]] QCoro::Task<> deliverSlowly() {
+        failNext(fault(FaultKind::delay));
+        return analytics->flushNow();
+    }
+
     Phone phone;
     World world;
     NotingTransport http;
@@ -281,7 +287,7 @@ TEST_F(Delivery, StartsOnceAndGoesOnWithoutAServer) {
 
 TEST_F(Delivery, LeavesAloneWhatIsRecordedMeanwhile) {
     launchWith(1);
-    auto running = analytics->flushNow();
+    auto running = deliverSlowly();
     analytics->track("meanwhile");
     await(analytics->flushNow()); // one at a time
     EXPECT_EQ(http.timeouts.size(), 1U);
@@ -294,7 +300,7 @@ TEST_F(Delivery, LeavesAloneWhatIsRecordedMeanwhile) {
 TEST_F(Delivery, WritesNothingAfterPersistingEnded) {
     launchWith(250);
     analytics->start();
-    auto running = analytics->flushNow();
+    auto running = deliverSlowly();
     analytics->stopPersisting();
     std::filesystem::remove(world.path("events.json"));
     world.defaults.removeAll();
@@ -308,7 +314,7 @@ TEST_F(Delivery, WritesNothingAfterPersistingEnded) {
 
 TEST_F(Delivery, EndsWithItsOwner) {
     launchWith(250);
-    auto running = analytics->flushNow();
+    auto running = deliverSlowly();
     analytics.reset();
     await(std::move(running));
     EXPECT_EQ(http.timeouts.size(), 1U);
@@ -316,8 +322,7 @@ TEST_F(Delivery, EndsWithItsOwner) {
 
 TEST_F(Delivery, SendsNoEventTwiceAtQuit) {
     launchWith(250);
-    failNext(fault(FaultKind::delay));
-    auto running = analytics->flushNow();
+    auto running = deliverSlowly();
     analytics->flushBeforeQuit();
     EXPECT_THAT(batches(), ElementsAre(std::pair{0, 199}, std::pair{200, 249}));
     EXPECT_EQ(queued(), "[]");
