@@ -176,7 +176,11 @@ TEST_F(AppMoverTest, TellsWhyItCouldNotMove) {
          }},
         {"Your Mac didn't allow the move. Open your Downloads folder and drag Quillon into "
          "Applications yourself, then open it from there.",
-         [&] { world.platform.bundle.url = world.home() / "Ejected/Quillon.app"; }},
+         [&] {
+             makeApplication(own / "Quillon.app", "old");
+             world.workspace.trashWorks = true;
+             world.platform.bundle.url = world.home() / "Ejected/Quillon.app";
+         }},
     };
     for (const Case& each : cases) {
         fs::remove_all(own);
