@@ -116,6 +116,8 @@ QCoro::Task<> AppMover::makeRoom(path destination) {
 QCoro::Task<path> AppMover::move() {
     const path from = source();
     const path to = targetFolder() / from.filename();
+    // Somebody else may have moved it since it was started: what is there now is no older copy.
+    if (!platform_.trees.exists(from)) throw MoveError{notAllowed};
     co_await makeRoom(to);
     bool moved = false;
     if (platform_.trees.isDeletable(from)) {

@@ -68,6 +68,8 @@ CommandService::CommandService(std::function<void()> quit) : quit_{std::move(qui
 CommandService::Publication CommandService::publish() {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) return Publication::noBus;
+    // Qt knows the type by its name only once somebody has used it.
+    qRegisterMetaType<QDBusUnixFileDescriptor>();
     // First the object: whoever sees the name may call at once.
     bus.registerObject(QLatin1String{RemoteProgram::objectPath}, this,
                        QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);

@@ -64,7 +64,6 @@ Resident::Resident(Platform& platform, AppMover& mover, std::unique_ptr<CommandS
       service_{std::move(service)} {}
 
 void Resident::start() {
-    service_->serve({platform_, analytics_, store_, banner_, nullptr});
     platform_.loginItem.follow(platform_.bundle.executable);
     analytics_.start();
     updater_.start();
@@ -77,6 +76,7 @@ void Resident::start() {
                   << " is already used by another app. Pick another shortcut in Settings."
                   << std::endl;
     }
+    service_->serve({platform_, analytics_, store_, banner_, nullptr});
     loadFont();
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &store_,
                      [this] { analytics_.flushBeforeQuit(); });

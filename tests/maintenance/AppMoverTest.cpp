@@ -176,7 +176,11 @@ TEST_F(AppMoverTest, TellsWhyItCouldNotMove) {
          }},
         {"Your Mac didn't allow the move. Open your Downloads folder and drag Quillon into "
          "Applications yourself, then open it from there.",
-         [&] { world.platform.bundle.url = world.home() / "Ejected/Quillon.app"; }},
+         [&] {
+             makeApplication(own / "Quillon.app", "old");
+             world.workspace.trashWorks = true;
+             world.platform.bundle.url = world.home() / "Ejected/Quillon.app";
+         }},
     };
     for (const Case& each : cases) {
         fs::remove_all(own);
@@ -184,6 +188,7 @@ TEST_F(AppMoverTest, TellsWhyItCouldNotMove) {
         alerts.shown.clear();
         world.workspace.log.clear();
         each.obstacle();
+        const bool older = fs::exists(own / "Quillon.app");
         EXPECT_EQ(failure(), each.sentence);
         world.workspace.log.clear();
         EXPECT_FALSE(await(mover.ask()));
@@ -194,10 +199,9 @@ TEST_F(AppMoverTest, TellsWhyItCouldNotMove) {
                                           .buttons = {"OK"}}));
         EXPECT_FALSE(world.defaults.flag("qln.moveDeclined"));
         EXPECT_EQ(program(source), "new");
-        EXPECT_EQ(program(own / "Quillon.app"), fs::exists(own / "Quillon.app") ? "old" : "")
-            << "the older copy is whole";
+        EXPECT_EQ(program(own / "Quillon.app"), older ? "old" : "") << "the older copy is whole";
         const bool trashed = world.workspace.log.size() > 1;
-        EXPECT_EQ(trashed, !world.workspace.trashWorks && fs::exists(own / "Quillon.app"));
+        EXPECT_EQ(trashed, !world.workspace.trashWorks && older);
         EXPECT_TRUE(world.loginItem.followed.empty());
     }
 }

@@ -20,6 +20,13 @@ void ring(int /*signal*/) {
     eventfd_write(bell, 1);
 }
 
+/// Except for those that whoever started the process has it ignore, as nohup does.
+void handleEndings(sighandler_t handler) {
+    for (const int ending : endings) {
+        if (std::signal(ending, handler) == SIG_IGN) std::signal(ending, SIG_IGN);
+    }
+}
+
 } // namespace
 
 QuitSignals::QuitSignals(std::function<void()> quit) {
@@ -31,13 +38,11 @@ QuitSignals::QuitSignals(std::function<void()> quit) {
                          eventfd_read(bell, &rung);
                          quit();
                      });
-    for (const int ending : endings)
-        std::signal(ending, ring);
+    handleEndings(ring);
 }
 
 QuitSignals::~QuitSignals() {
-    for (const int ending : endings)
-        std::signal(ending, SIG_DFL);
+    handleEndings(SIG_DFL);
     notifier_.reset();
     ::close(std::exchange(bell, -1));
 }
