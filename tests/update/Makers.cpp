@@ -8,6 +8,7 @@
 #include <sodium.h>
 #include <sys/stat.h>
 
+#include <cstdio>
 #include <fstream>
 #include <functional>
 
@@ -60,22 +61,29 @@ std::string archiveOf(const std::vector<Entry>& entries, const char* filter) {
 }
 
 std::string bombOf(int count) {
-    // Compressed streams may follow each other, so the zeros need not be compressed twice.
-    const std::string zeros(100'000'256, '\0'); // a multiple of tar's blocks of 512 bytes
+    constexpr std::size_t block = 512;
+    constexpr std::size_t size = 100'000'256; // a multiple of the block's
     const auto compressed = [](const std::string& bytes) {
         return written(ARCHIVE_FORMAT_RAW, "zstd", [&](archive* writer) {
             writeHeader(writer, {.path = "raw"}, static_cast<la_int64_t>(bytes.size()));
             archive_write_data(writer, bytes.data(), bytes.size());
         });
     };
-    const std::string charge = compressed(zeros);
+    const std::string one = written(ARCHIVE_FORMAT_TAR_USTAR, nullptr, [](archive* writer) {
+        writeHeader(writer, {.path = "000"}, static_cast<la_int64_t>(size));
+    });
+    // Compressed streams may follow each other, so the zeros need not be compressed twice.
+    const std::string charge = compressed(one.substr(block, size));
     std::string bomb;
     for (int index = 0; index < count; ++index) {
-        const std::string header = written(ARCHIVE_FORMAT_TAR_USTAR, nullptr, [&](archive* writer) {
-            writeHeader(writer, {.path = "zeros" + std::to_string(index)},
-                        static_cast<la_int64_t>(zeros.size()));
-            archive_write_fail(writer);
-        });
+        std::string header = one.substr(0, block);
+        header.replace(0, 3, std::to_string(100 + index).substr(0, 3));
+        // Six octal digits: the sum of all bytes, where the sum itself counts as eight spaces.
+        header.replace(148, 8, 8, ' ');
+        unsigned sum = 0;
+        for (const char byte : header)
+            sum += static_cast<unsigned char>(byte);
+        std::snprintf(header.data() + 148, 8, "%06o", sum);
         bomb += compressed(header) + charge;
     }
     return bomb;
