@@ -109,7 +109,7 @@ Analytics::Batch Analytics::post(std::string accept, std::chrono::seconds timeou
                        {"Content-Type", "application/json"},
                        {"X-QLN-Device", deviceId(platform_.defaults)}};
     request.body = {QByteArray::fromStdString(R"({"events":)" + events.encode(batchSize) + '}')};
-    request.inactivityTimeout = timeout;
+    request.inactivityTimeout = request.totalTimeout = timeout;
     return {std::min(batchSize, events.size()), platform_.http.post(std::move(request))};
 }
 

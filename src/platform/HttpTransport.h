@@ -24,8 +24,12 @@ struct HttpRequest {
     std::vector<QByteArray> body;
     /// How long nothing may move in either direction before the transfer has failed.
     std::chrono::milliseconds inactivityTimeout{std::chrono::seconds{30}};
+    /// How long the whole transfer may take; 0 for as long as it moves.
+    std::chrono::milliseconds totalTimeout{0};
     /// Told on the main thread, a few times a second, how many bytes of the body have gone out.
     std::function<void(qint64 sent, qint64 total)> progress;
+    /// A request to stop ends the transfer soon, as a failed one.
+    std::stop_token stop{};
 };
 
 /// Whatever a server answered, whole.

@@ -20,9 +20,6 @@ namespace {
 
 using std::filesystem::path;
 
-/// How much of the archive is read at once, in bytes.
-constexpr std::size_t blockSize = 131'072;
-
 constexpr mode_t privileges = S_ISUID | S_ISGID;
 
 /// A path of the archive without "." and doubled slashes; an error's code where it leads outside.
@@ -75,8 +72,8 @@ public:
           limits_{limits},
           stop_{stop} {}
 
-    std::optional<UpdateError> run(const path& file) {
-        if (!open(file)) return updateError(updateArchiveDamaged);
+    std::optional<UpdateError> run(std::string_view bytes) {
+        if (!open(bytes)) return updateError(updateArchiveDamaged);
         for (;;) {
             archive_entry* entry = nullptr;
             const int result = archive_read_next_header(reader_.get(), &entry);
@@ -88,7 +85,7 @@ public:
     }
 
 private:
-    bool open(const path& file) {
+    bool open(std::string_view bytes) {
         constexpr int flags = ARCHIVE_EXTRACT_PERM | ARCHIVE_EXTRACT_TIME |
                               ARCHIVE_EXTRACT_NO_OVERWRITE | ARCHIVE_EXTRACT_SECURE_SYMLINKS |
                               ARCHIVE_EXTRACT_SECURE_NODOTDOT;
@@ -102,7 +99,7 @@ private:
                archive_read_support_filter_xz(reader) == ARCHIVE_OK &&
                archive_read_support_filter_zstd(reader) == ARCHIVE_OK &&
                archive_read_support_format_tar(reader) == ARCHIVE_OK &&
-               archive_read_open_filename(reader, file.c_str(), blockSize) == ARCHIVE_OK;
+               archive_read_open_memory(reader, bytes.data(), bytes.size()) == ARCHIVE_OK;
     }
 
     std::optional<UpdateError> unpack(archive_entry* entry) {
@@ -132,11 +129,12 @@ private:
         if (goesThroughLink(relative)) return updateArchiveLink;
         const mode_t type = archive_entry_filetype(entry);
         if (type != AE_IFDIR && !files_.insert(relative).second) return updateArchiveDamaged;
+        const bool isLink = type == AE_IFLNK;
+        if (!isLink && (archive_entry_perm(entry) & privileges)) return updateArchivePrivileges;
         if (const char* target = archive_entry_hardlink(entry))
             return redirectHardLink(entry, target);
-        if (type == AE_IFLNK) return objectionToLink(entry, relative);
+        if (isLink) return objectionToLink(entry, relative);
         if (type != AE_IFREG && type != AE_IFDIR) return updateArchiveSpecialFile;
-        if (archive_entry_perm(entry) & privileges) return updateArchivePrivileges;
         const la_int64_t size = type == AE_IFREG ? archive_entry_size(entry) : 0;
         if (size < 0) return updateArchiveDamaged;
         if (size > limits_.bytes - announced_) return updateArchiveTooLarge;
@@ -215,7 +213,7 @@ private:
 
 } // namespace
 
-std::optional<UpdateError> unpack(const path& archive, const path& folder, UnpackLimits limits,
+std::optional<UpdateError> unpack(std::string_view archive, const path& folder, UnpackLimits limits,
                                   const std::stop_token& stop) {
     return Unpacking{folder, limits, stop}.run(archive);
 }

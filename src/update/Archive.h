@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <optional>
 #include <stop_token>
+#include <string_view>
 
 namespace quillon {
 
@@ -16,13 +17,13 @@ struct UnpackLimits {
     int entries = 20'000;
 };
 
-/// Unpacks a tar archive, as it is or compressed with gzip, xz or zstd, into an empty folder of
-/// this user's. Modes and times are the archive's, the owner is the user. Refused, each with an
-/// error of its own: absolute paths, "..", links that lead out of the folder, devices, pipes and
-/// sockets, set-uid and set-gid bits, more than the limits or than the disk has room for, and
-/// whatever is damaged. After an error or a request to stop the folder holds an unfinished part.
-/// Takes long: not for the main thread.
-[[nodiscard]] std::optional<UpdateError> unpack(const std::filesystem::path& archive,
+/// Unpacks the bytes of a tar archive, as it is or compressed with gzip, xz or zstd, into an empty
+/// folder of this user's. Modes and times are the archive's, the owner is the user. Refused, each
+/// with an error of its own: absolute paths, "..", links that lead out of the folder, devices,
+/// pipes and sockets, set-uid and set-gid bits, more than the limits or than the disk has room for,
+/// and whatever is damaged. After an error or a request to stop the folder holds an unfinished
+/// part. Takes long: not for the main thread.
+[[nodiscard]] std::optional<UpdateError> unpack(std::string_view archive,
                                                 const std::filesystem::path& folder,
                                                 UnpackLimits limits = {},
                                                 const std::stop_token& stop = {});

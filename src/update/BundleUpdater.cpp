@@ -162,7 +162,7 @@ QCoro::Task<> BundleUpdater::lookForUpdate(UpdateCheck check) {
                                std::to_string(sinceEpoch(platform_.clock.now()).count()));
     const std::stop_source cancel;
     if (!background) driver_.showChecking(cancel);
-    const auto feed = co_await fetchFeed(platform_, feedUrl_);
+    const auto feed = co_await fetchFeed(platform_, feedUrl_, cancel.get_token());
     if (cancel.stop_requested()) co_return;
     if (const auto* error = std::get_if<UpdateError>(&feed)) {
         // Nobody waits for what runs in the background.

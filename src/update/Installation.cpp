@@ -178,7 +178,7 @@ std::optional<UpdateError> install(const PreparedUpdate& update) {
     if (lock.error()) return lock.error();
     const Bundle installed = bundleAt(update.bundle);
     if (std::is_lteq(compareVersions(update.item.version, comparedVersion(installed))))
-        return updateError(updateNotNewer);
+        return updateError(updateInstalling);
     if (const int error = exchange(update.staged, update.bundle); error != 0)
         return fileError(error);
     update.folder->keep();

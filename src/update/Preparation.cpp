@@ -1,7 +1,9 @@
 #include "update/Preparation.h"
 
+#include "base/Bytes.h"
 #include "platform/FileSystem.h"
 #include "platform/HttpTransport.h"
+#include "platform/linux/PosixFileSystem.h"
 #include "update/Archive.h"
 #include "update/Errors.h"
 #include "update/Version.h"
@@ -10,8 +12,8 @@
 #include <QtConcurrentRun>
 
 #include <array>
+#include <chrono>
 #include <memory>
-#include <system_error>
 #include <utility>
 
 namespace quillon {
@@ -23,6 +25,9 @@ using std::filesystem::path;
 constexpr std::string_view publicKeyName = "SUPublicEDKey";
 
 constexpr int statusOk = 200;
+
+/// A server that drips keeps nobody waiting, nor later checks from being made.
+constexpr std::chrono::seconds feedTimeout{60};
 
 /// The errors of downloads; "done" has none.
 struct Failure {
@@ -57,21 +62,26 @@ struct Delivery {
 using Prepared = std::variant<PreparedUpdate, UpdateError>;
 
 /// What must hold before anything is unpacked.
-std::optional<UpdateError> objectionToArchive(const Delivery& delivery) {
-    std::error_code error;
-    const auto size = std::filesystem::file_size(delivery.archive, error);
-    if (error || size != static_cast<std::uintmax_t>(delivery.item.length))
+std::optional<UpdateError> objectionToArchive(const FileReading& archive,
+                                              const Delivery& delivery) {
+    if (archive.outcome != FileReading::Outcome::read || archive.size != delivery.item.length)
         return updateError(updateLengthWrong);
-    if (!isSigned(delivery.archive, delivery.item.signature, delivery.key))
+    if (!isSigned(asText(archive.bytes), delivery.item.signature, delivery.key))
         return updateError(updateSignatureWrong);
     return std::nullopt;
+}
+
+/// Unpacks the bytes that were checked, and not what the file's name may stand for by then.
+std::optional<UpdateError> unpackChecked(const Delivery& delivery) {
+    const FileReading archive = PosixFileSystem{}.read(delivery.archive, delivery.item.length);
+    if (auto error = objectionToArchive(archive, delivery)) return error;
+    return unpack(asText(archive.bytes), delivery.staging, {}, delivery.stop);
 }
 
 /// Leaves it to the caller to say who owns the folder.
 Prepared stage(const Delivery& delivery) {
     const path& folder = delivery.staging;
-    if (auto error = objectionToArchive(delivery)) return std::move(*error);
-    if (auto error = unpack(delivery.archive, folder, {}, delivery.stop)) return std::move(*error);
+    if (auto error = unpackChecked(delivery)) return std::move(*error);
     StagedBundle staged = checkStaged(folder, delivery.running, delivery.item);
     if (staged.error) return std::move(*staged.error);
     if (!flushTree(folder)) return updateError(updateCopyFailed);
@@ -147,11 +157,13 @@ QCoro::Task<Prepared> deliver(Platform& platform, Delivery delivery, ProgressRep
 
 } // namespace
 
-QCoro::Task<std::variant<std::vector<FeedItem>, UpdateError>> fetchFeed(Platform& platform,
-                                                                        std::string url) {
+QCoro::Task<std::variant<std::vector<FeedItem>, UpdateError>>
+fetchFeed(Platform& platform, std::string url, std::stop_token stop) {
     if (!isAllowedUrl(url)) co_return updateError(updateFeedNotAllowed);
     HttpRequest request;
     request.url = std::move(url);
+    request.totalTimeout = feedTimeout;
+    request.stop = std::move(stop);
     const QFuture<std::optional<HttpReply>> fetching = platform.http.get(std::move(request));
     const std::optional<HttpReply> reply = co_await fetching;
     if (!reply || reply->status != statusOk) co_return updateError(updateFeedUnreachable);

@@ -26,9 +26,9 @@ struct UpdateProgress {
     bool operator==(const UpdateProgress&) const = default;
 };
 
-/// Fetches and reads the feed at this address.
+/// Fetches and reads the feed at this address, within a minute. A request to stop ends it soon.
 [[nodiscard]] QCoro::Task<std::variant<std::vector<FeedItem>, UpdateError>>
-fetchFeed(Platform& platform, std::string url);
+fetchFeed(Platform& platform, std::string url, std::stop_token stop = {});
 
 /// Downloads the item's archive into the cache folder, checks its length and its signature (against
 /// the running bundle's "SUPublicEDKey"), unpacks it beside the running bundle and checks what came

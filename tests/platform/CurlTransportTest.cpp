@@ -204,6 +204,17 @@ TEST_F(CurlTransportTest, CutsWhatStallsButNotWhatTrickles) {
     const auto begin = std::chrono::steady_clock::now();
     const auto elapsed = [&] { return std::chrono::steady_clock::now() - begin; };
     const auto trickled = start(trickling, 1);
+    auto brief = requestTo(trickling.url(), {});
+    brief.totalTimeout = timeout;
+    const auto limited = transport->post(std::move(brief));
+    auto unwanted = requestTo(stalling.url(), {});
+    std::stop_source stop;
+    unwanted.stop = stop.get_token();
+    const auto stopped = transport->get(std::move(unwanted));
+    stop.request_stop();
+    EXPECT_FALSE(await(stopped));
+    EXPECT_LT(elapsed(), timeout);
+    EXPECT_FALSE(await(limited));
     const auto stalled = start(stalling, 1);
     const auto clogged = start(clogging, 20'000'000);
     EXPECT_FALSE(await(stalled));

@@ -143,10 +143,7 @@ void writeFile(const fs::path& file, const std::string& content) {
 
 void place(const std::vector<Entry>& entries, const fs::path& folder) {
     fs::create_directories(folder);
-    const fs::path archive = folder / "archive";
-    writeFile(archive, archiveOf(entries));
-    EXPECT_EQ(unpack(archive, folder), std::nullopt);
-    fs::remove(archive);
+    EXPECT_EQ(unpack(archiveOf(entries), folder), std::nullopt);
 }
 
 std::map<std::string, std::string> snapshot(const fs::path& folder) {

@@ -200,8 +200,8 @@ TEST(SignatureTest, TakesWhatOtherToolsSign) {
         EXPECT_TRUE(tool.waitForFinished() && tool.exitCode() == 0) << arguments.toStdString();
         return tool.readAllStandardOutput();
     };
-    const std::filesystem::path file = folder.filePath(QStringLiteral("file")).toStdString();
-    writeFile(file, std::string(300'000, 'q'));
+    const std::string file(300'000, 'q');
+    writeFile(folder.filePath(QStringLiteral("file")).toStdString(), file);
     run(QStringLiteral("genpkey -algorithm ed25519 -out key"));
     const QByteArray der = run(QStringLiteral("pkey -in key -pubout -outform DER"));
     const QByteArray bytes = run(QStringLiteral("pkeyutl -sign -rawin -inkey key -in file"));
@@ -209,7 +209,7 @@ TEST(SignatureTest, TakesWhatOtherToolsSign) {
     const auto signed_ = parseSignature(bytes.toBase64().toStdString());
     ASSERT_TRUE(key && signed_);
     EXPECT_TRUE(isSigned(file, *signed_, *key));
-    EXPECT_FALSE(isSigned(file.parent_path(), *signed_, *key));
+    EXPECT_FALSE(isSigned(file + 'q', *signed_, *key));
     EXPECT_FALSE(parsePublicKey(der.right(31).toBase64().toStdString()));
     EXPECT_FALSE(parsePublicKey(der.right(33).toBase64().toStdString()));
     EXPECT_FALSE(parseSignature("not base64"));

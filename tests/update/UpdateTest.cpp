@@ -91,7 +91,7 @@ TEST_F(UpdateTest, PutsTheNewVersionInThePlaceOfTheOld) {
     removeLeftovers(world.platform.bundle, world.platform.folders);
     EXPECT_EQ(install(std::get<PreparedUpdate>(prepared)), std::nullopt);
     EXPECT_EQ(versionOf(bundle), "1.1");
-    EXPECT_EQ(install(std::get<PreparedUpdate>(prepared)), updateError(updateNotNewer));
+    EXPECT_EQ(install(std::get<PreparedUpdate>(prepared)), updateError(updateInstalling));
     const fs::path kept = std::get<PreparedUpdate>(prepared).staged;
     prepared = UpdateError{};
     EXPECT_EQ(snapshot(kept), before) << "the old one is kept";
@@ -283,7 +283,7 @@ TEST_F(UpdateTest, InstallsOneAtATime) {
     EXPECT_EQ(versionOf(bundle), "1.0");
     ::close(held);
     EXPECT_EQ(install(std::get<PreparedUpdate>(first)), std::nullopt);
-    EXPECT_EQ(install(std::get<PreparedUpdate>(second)), updateError(updateNotNewer));
+    EXPECT_EQ(install(std::get<PreparedUpdate>(second)), updateError(updateInstalling));
 }
 
 TEST_F(UpdateTest, DoesNotWaitForAProgramThatHangs) {

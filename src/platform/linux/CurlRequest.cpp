@@ -14,10 +14,13 @@ constexpr long uploadBufferSize = 512L * 1024;
 
 } // namespace
 
-CurlRequest::CurlRequest(Method method, HttpRequest request, std::uint64_t listener)
+CurlRequest::CurlRequest(Method method, HttpRequest request, std::uint64_t listener,
+                         std::function<void()> wake)
     : CurlTransfer{request.url, request.inactivityTimeout, listener},
       method_{method},
-      request_{std::move(request)} {
+      request_{std::move(request)},
+      stop_{request_.stop},
+      onStop_{stop_, std::move(wake)} {
     if (method_ == Method::get) request_.body.clear();
     for (const QByteArray& piece : request_.body)
         total_ += piece.size();
@@ -44,6 +47,8 @@ bool CurlRequest::setHeaders() {
 bool CurlRequest::describe(const CurlTransportOptions& options) {
     if (!setHeaders()) return false;
     method_ == Method::post ? describeBody() : fetch(options);
+    curl_easy_setopt(handle(), CURLOPT_TIMEOUT_MS,
+                     static_cast<long>(request_.totalTimeout.count()));
     curl_easy_setopt(handle(), CURLOPT_HTTPHEADER, headers_.get());
     curl_easy_setopt(handle(), CURLOPT_WRITEFUNCTION, &CurlRequest::takeReply);
     curl_easy_setopt(handle(), CURLOPT_WRITEDATA, this);

@@ -4,6 +4,9 @@
 
 #include <QPromise>
 
+#include <functional>
+#include <stop_token>
+
 namespace quillon {
 
 /// A request whose reply is kept in memory, with the buffers libcurl reads from and writes to.
@@ -11,12 +14,15 @@ class CurlRequest final : public CurlTransfer {
 public:
     enum class Method { post, get };
 
-    CurlRequest(Method method, HttpRequest request, std::uint64_t listener);
+    /// `wake` is called, on any thread, when the request is asked to stop.
+    CurlRequest(Method method, HttpRequest request, std::uint64_t listener,
+                std::function<void()> wake);
 
     [[nodiscard]] QFuture<std::optional<HttpReply>> future() const { return promise_.future(); }
 
     /// Bytes of the body that have gone out.
     [[nodiscard]] Progress progress() const override;
+    [[nodiscard]] bool isStopped() const override { return stop_.stop_requested(); }
     void finish(CURLcode code) override;
 
 private:
@@ -39,6 +45,8 @@ private:
     HttpReply reply_;
     QPromise<std::optional<HttpReply>> promise_;
     std::unique_ptr<curl_slist, FreeList> headers_;
+    std::stop_token stop_;
+    std::stop_callback<std::function<void()>> onStop_;
 };
 
 } // namespace quillon

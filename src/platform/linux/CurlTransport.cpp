@@ -220,14 +220,16 @@ auto CurlTransport::start(std::unique_ptr<Transfer> transfer) {
 
 QFuture<std::optional<HttpReply>> CurlTransport::post(HttpRequest request) {
     const std::uint64_t listener = listen(request.progress);
-    return start(
-        std::make_unique<CurlRequest>(CurlRequest::Method::post, std::move(request), listener));
+    return start(std::make_unique<CurlRequest>(CurlRequest::Method::post, std::move(request),
+                                               listener,
+                                               [worker = worker_.get()] { worker->wake(); }));
 }
 
 QFuture<std::optional<HttpReply>> CurlTransport::get(HttpRequest request) {
     const std::uint64_t listener = listen(request.progress);
-    return start(
-        std::make_unique<CurlRequest>(CurlRequest::Method::get, std::move(request), listener));
+    return start(std::make_unique<CurlRequest>(CurlRequest::Method::get, std::move(request),
+                                               listener,
+                                               [worker = worker_.get()] { worker->wake(); }));
 }
 
 QFuture<DownloadOutcome> CurlTransport::download(HttpDownload download) {

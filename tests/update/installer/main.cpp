@@ -1,4 +1,6 @@
+#include "base/Bytes.h"
 #include "platform/linux/LinuxBundle.h"
+#include "platform/linux/PosixFileSystem.h"
 #include "update/Archive.h"
 #include "update/Installation.h"
 
@@ -14,7 +16,8 @@ int main(int argc, char** argv) {
     Staging staging = makeStaging(update.bundle);
     if (staging.error) return 3;
     update.folder = staging.folder;
-    if (unpack(argv[2], update.folder->path())) return 4;
+    const FileReading archive = PosixFileSystem{}.read(argv[2], maximumArchiveSize);
+    if (unpack(asText(archive.bytes), update.folder->path())) return 4;
     auto [path, error] = checkStaged(update.folder->path(), bundleAt(update.bundle), update.item);
     if (error || !flushTree(path)) return 5;
     update.staged = path;
