@@ -56,7 +56,10 @@ void LinuxWorkspace::openAfterExit(const std::filesystem::path& application) {
 }
 
 void LinuxWorkspace::terminate() {
-    QTimer::singleShot(0, QCoreApplication::instance(), [] { QCoreApplication::quit(); });
+    QTimer::singleShot(0, QCoreApplication::instance(), [] {
+        // Not quit(), which first has every window closed, and a window may refuse.
+        QCoreApplication::exit(0);
+    });
 }
 
 void LinuxWorkspace::exitNow(int status) {
