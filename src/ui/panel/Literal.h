@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace quillon {
+
+/// A text of the user's for a label, which would take pairs of stars for the marks of bold parts.
+[[nodiscard]] inline QString literal(QString text) {
+    return text.replace(QLatin1String{"**"}, QStringLiteral("*\u2060*")); // a word joiner between
+}
+
+} // namespace quillon
