@@ -15,7 +15,9 @@ namespace quillon {
 namespace {
 
 constexpr double contentWidth = 540;
-constexpr int leastFirstHeight = 200;
+constexpr double leastFirstHeight = 200;
+/// About what a window manager puts around the window.
+constexpr int titleBarHeight = 40;
 /// Heights up to this are those of a content that is not laid out yet.
 constexpr double leastHeight = 50;
 /// Changes up to this are rounding.
@@ -26,8 +28,11 @@ constexpr Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::Win
                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
                                   Qt::WindowMinimizeButtonHint;
 
-int width() {
-    return int(std::lround(Theme::length(contentWidth)));
+/// As wide as the content is made for. What is higher than the screen scrolls.
+QSize contentSize(double height) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    return {static_cast<int>(std::ceil(Theme::length(contentWidth))),
+            std::min(static_cast<int>(std::lround(height)), room.height() - titleBarHeight)};
 }
 
 void centre(QWidget& window) {
@@ -62,11 +67,10 @@ void SettingsWindow::make() {
     QWidget* const content = makeContent_([this](double height) { fit(height); }).release();
     auto* const column = new QVBoxLayout{window_.get()};
     column->setContentsMargins({});
-    column->addWidget(content);
     column->setSizeConstraint(QLayout::SetNoConstraint);
-    const int height = column->hasHeightForWidth() ? column->totalHeightForWidth(width())
-                                                   : column->totalSizeHint().height();
-    window_->setFixedSize(width(), std::max(height, leastFirstHeight));
+    column->addWidget(content);
+    window_->setFixedSize(
+        contentSize(std::max<double>(content->sizeHint().height(), leastFirstHeight)));
     centre(*window_);
 }
 
@@ -75,7 +79,7 @@ void SettingsWindow::fit(double height) {
     const auto resize = [window = window_.get(), height] {
         if (!(height > leastHeight)) return; // nor what is not a number
         if (std::abs(window->height() - height) <= heightTolerance) return;
-        window->setFixedSize(width(), int(std::lround(height)));
+        window->setFixedSize(contentSize(height));
     };
     QMetaObject::invokeMethod(window_.get(), resize, Qt::QueuedConnection);
 }

@@ -47,19 +47,31 @@ HistoryRow::HistoryRow(QWidget* parent)
 }
 
 void HistoryRow::setEntry(const Sent& entry, Date now, const std::string& locale) {
-    const bool failed = entry.error.has_value();
     symbol_->setSymbol(entry.symbol);
     title_->setText(literal(QString::fromStdString(entry.title)));
+    if (entry.error) {
+        detail_->setText(literal(QString::fromStdString(*entry.error)));
+    } else {
+        const QString topic = QString::fromStdString(entry.topic);
+        detail_->setText(literal(topic + QStringLiteral(" · ") + age(entry.date, now, locale)));
+    }
+    setFailed(entry.error.has_value());
+}
+
+void HistoryRow::setFailed(bool failed) {
+    if (failed == failed_) return;
+    failed_ = failed;
     detail_->setLook(detailLook(failed));
-    detail_->setText(
-        literal(failed ? QString::fromStdString(*entry.error)
-                       : QStringLiteral("%1 · %2").arg(QString::fromStdString(entry.topic),
-                                                       age(entry.date, now, locale))));
     mark_->setSymbol(failed ? "exclamationmark.triangle.fill" : "checkmark");
     mark_->setLook({.size = markSize,
                     .weight = SymbolWeight::bold,
                     .ink = failed ? Tint{Ink::warning} : Tint{Brand::coralDeep}});
     mark_->setAccessibleName(failed ? tr("Not sent") : tr("Sent"));
+}
+
+QString HistoryRow::accessibleText() const {
+    return QStringList{title_->accessibleText(), detail_->accessibleText(), mark_->accessibleName()}
+        .join(QStringLiteral(", "));
 }
 
 } // namespace quillon

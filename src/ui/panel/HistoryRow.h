@@ -3,6 +3,7 @@
 #include "state/Sent.h"
 #include "ui/views/View.h"
 
+#include <optional>
 #include <string>
 
 namespace quillon {
@@ -19,11 +20,19 @@ public:
 
     void setEntry(const Sent& entry, Date now, const std::string& locale);
 
+    [[nodiscard]] QAccessible::Role accessibleRole() const override {
+        return QAccessible::ListItem;
+    }
+    [[nodiscard]] QString accessibleText() const override;
+
 private:
+    void setFailed(bool failed);
+
     SymbolView* symbol_;
     IconLabel* title_;
     IconLabel* detail_;
     SymbolView* mark_;
+    std::optional<bool> failed_; // what the marks now tell
 };
 
 } // namespace quillon

@@ -6,7 +6,10 @@ namespace quillon {
 
 /// A text of the user's for a label, which would take pairs of stars for the marks of bold parts.
 [[nodiscard]] inline QString literal(QString text) {
-    return text.replace(QLatin1String{"**"}, QStringLiteral("*\u2060*")); // a word joiner between
+    const QLatin1String stars{"**"};
+    while (text.contains(stars))
+        text.replace(stars, QStringLiteral("*\u2060*")); // a word joiner between
+    return text;
 }
 
 } // namespace quillon

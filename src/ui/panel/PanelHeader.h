@@ -21,6 +21,10 @@ public:
     /// `group` is the title of the group, if one is known.
     void setStatus(bool ready, const std::optional<std::string>& group);
 
+    [[nodiscard]] QAccessible::Role accessibleRole() const override {
+        return QAccessible::Grouping;
+    }
+
 private:
     TelegramIcon* connected_;
     SymbolView* notSetUp_;

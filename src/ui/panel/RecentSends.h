@@ -25,6 +25,8 @@ public:
     /// `history` has the newest first; `locale` is that of the ages.
     void setHistory(const std::vector<Sent>& history, Date now, const std::string& locale);
 
+    [[nodiscard]] QAccessible::Role accessibleRole() const override { return QAccessible::List; }
+
 private:
     IconLabel* none_;
     std::array<HistoryRow*, limit> rows_{};

@@ -16,6 +16,10 @@ public:
     /// The key caps of the shortcut, joined.
     void setShortcut(const QString& keys);
 
+    [[nodiscard]] QAccessible::Role accessibleRole() const override {
+        return QAccessible::Grouping;
+    }
+
 Q_SIGNALS:
     /// The user wants to set it up.
     void startSetup();
