@@ -4,9 +4,11 @@
 
 #include <QFontMetricsF>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QRadioButton>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quillon {
@@ -22,6 +24,8 @@ constexpr double leastHeight = 24;
 
 /// One of the choices.
 class Segment : public Themed<QRadioButton> {
+    Q_OBJECT
+
 public:
     using Themed::Themed;
 
@@ -40,6 +44,16 @@ protected:
         return rect().contains(position);
     }
 
+    void keyPressEvent(QKeyEvent* event) override {
+        const int step = stepOf(event->key());
+        if (step == 0) return Themed::keyPressEvent(event);
+        const auto all = parentWidget()->findChildren<Segment*>(Qt::FindDirectChildrenOnly);
+        const qsizetype next = all.indexOf(this) + step;
+        if (next < 0 || next >= all.size()) return;
+        all[next]->setFocus(Qt::TabFocusReason);
+        all[next]->setChecked(true);
+    }
+
     void paintEvent(QPaintEvent* /*event*/) override {
         const Theme theme = this->theme();
         QPainter painter{this};
@@ -53,11 +67,29 @@ protected:
         }
         painter.setFont(Theme::font(isChecked() ? Text::body.semibold() : Text::body));
         painter.setPen(theme.color(isChecked() ? Ink::primary : Ink::secondary));
+        painter.setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
         if (showsFocus()) theme.paintFocusRing(painter, rect(), segmentRadius);
     }
 
 private:
+    /// How far a key goes along the choices.
+    [[nodiscard]] int stepOf(int key) const {
+        const int right = layoutDirection() == Qt::RightToLeft ? -1 : 1;
+        switch (key) {
+        case Qt::Key_Right:
+            return right;
+        case Qt::Key_Left:
+            return -right;
+        case Qt::Key_Down:
+            return 1;
+        case Qt::Key_Up:
+            return -1;
+        default:
+            return 0;
+        }
+    }
+
     void paintPlate(QPainter& painter, const Theme& theme) const {
         const QRectF plate = QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5);
         painter.setPen(Qt::NoPen);
@@ -120,3 +152,5 @@ void SegmentedPicker::paintEvent(QPaintEvent* /*event*/) {
 }
 
 } // namespace quillon
+
+#include "SegmentedPicker.moc"

@@ -73,7 +73,7 @@ QWidget* disabled(QWidget* view) {
     return view;
 }
 
-QWidget* sendButton() {
+ContentButton* sendButton() {
     auto* button = new CoralButton;
     button->setCornerRadius(Space::cardRadius);
     button->setAccessibleName("Send clipboard to phone"_q);
@@ -178,7 +178,9 @@ Card* buttonsCard() {
          button("Plain", "trash", plain), button("", "chevron.down", bordered),
          new TextButton{"Save names to Telegram"_q, telegramSymbol, {.symbolInk = telegramBlue}}}));
     card->body()->addWidget(sendButton());
-    card->body()->addWidget(disabled(sendButton()));
+    auto* busy = sendButton();
+    busy->setBusy(true);
+    card->body()->addWidget(busy);
     return card;
 }
 
