@@ -115,9 +115,17 @@ SegmentedPicker::SegmentedPicker(const QStringList& items, QWidget* parent) : Vi
         connect(segment, &QRadioButton::toggled, this, [this, index](bool on) {
             if (!on || index == current_) return;
             current_ = index;
+            keepOneTabStop();
             Q_EMIT picked(index);
         });
     }
+    keepOneTabStop();
+}
+
+void SegmentedPicker::keepOneTabStop() {
+    const auto stop = static_cast<std::size_t>(std::max(0, current_));
+    for (std::size_t i = 0; i < segments_.size(); ++i)
+        segments_[i]->setFocusPolicy(i == stop ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 int SegmentedPicker::currentIndex() const {
@@ -128,6 +136,7 @@ void SegmentedPicker::setCurrentIndex(int index) {
     if (index == current_) return;
     const int before = current_;
     current_ = index;
+    keepOneTabStop();
     if (index >= 0) return segments_.at(static_cast<std::size_t>(index))->setChecked(true);
     Segment* const last = segments_.at(static_cast<std::size_t>(before));
     last->setAutoExclusive(false); // or it would have to stay checked
