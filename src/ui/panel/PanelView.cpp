@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <initializer_list>
 #include <tuple>
 #include <utility>
 
@@ -56,18 +57,20 @@ PanelView::PanelView(Platform& platform, Store& store, const Updater& updater, P
 }
 
 void PanelView::build() {
-    auto* const foot = new QHBoxLayout;
-    foot->setContentsMargins(-footer_->inset(), 0, -footer_->inset(), 0);
-    foot->addWidget(footer_);
+    auto* const parts = new QVBoxLayout;
+    parts->setSpacing(spacing);
+    for (QWidget* part :
+         std::initializer_list<QWidget*>{header_, setup_, send_, warning_, recent_, new Divider})
+        parts->addWidget(part);
 
+    // The texts of the footer's buttons stand in line with everything else, their edges outside.
+    const int inset = footer_->inset();
+    parts->setContentsMargins(inset, 0, inset, 0);
     auto* const column = new QVBoxLayout{this};
-    column->setContentsMargins(padding, padding, padding, padding);
-    column->setSpacing(spacing);
-    for (QWidget* part : {static_cast<QWidget*>(header_), static_cast<QWidget*>(setup_),
-                          static_cast<QWidget*>(send_), static_cast<QWidget*>(warning_),
-                          static_cast<QWidget*>(recent_), static_cast<QWidget*>(new Divider)})
-        column->addWidget(part);
-    column->addLayout(foot);
+    column->setContentsMargins(padding - inset, padding, padding - inset, Space::small);
+    column->setSpacing(Space::small);
+    column->addLayout(parts);
+    column->addWidget(footer_);
 }
 
 void PanelView::connectActions() {

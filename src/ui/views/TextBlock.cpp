@@ -105,7 +105,8 @@ QSizeF TextBlock::elide(double width, Qt::TextElideMode mode) {
     elided_ = true;
     layout_.setText(line);
     layout_.clearFormats();
-    return layOut(width);
+    // A rounding more of width must not bring a second line.
+    return layOut(width, QTextOption::NoWrap);
 }
 
 QString TextBlock::shownText() const {
@@ -120,13 +121,13 @@ double TextBlock::lineHeight() const {
     return std::ceil(QFontMetricsF{font_}.height());
 }
 
-QSizeF TextBlock::layOut(double width) {
+QSizeF TextBlock::layOut(double width, QTextOption::WrapMode wrapMode) {
     QTextOption option;
     // Names and untranslated texts are written their own way, wherever the lines begin.
     option.setTextDirection(Qt::LayoutDirectionAuto);
     option.setAlignment(Qt::AlignAbsolute |
                         (direction_ == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft));
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setWrapMode(wrapMode);
     layout_.setTextOption(option);
     double bottom = 0;
     double widest = 0;

@@ -4,6 +4,7 @@
 #include <QSizeF>
 #include <QString>
 #include <QTextLayout>
+#include <QTextOption>
 
 #include <vector>
 
@@ -46,7 +47,8 @@ private:
     TextBlock(Parts parts, const QFont& font, Qt::LayoutDirection direction);
     static Parts parts(const QString& text);
     static Parts titleParts(const QString& text, bool underlined);
-    QSizeF layOut(double width);
+    QSizeF layOut(double width,
+                  QTextOption::WrapMode wrapMode = QTextOption::WrapAtWordBoundaryOrAnywhere);
 
     QString text_;
     QFont font_;
