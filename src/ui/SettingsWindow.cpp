@@ -1,0 +1,87 @@
+#include "ui/SettingsWindow.h"
+
+#include "platform/Workspace.h"
+#include "ui/views/Theme.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillon {
+
+namespace {
+
+constexpr double contentWidth = 540;
+constexpr double leastFirstHeight = 200;
+/// About what a window manager puts around the window.
+constexpr int titleBarHeight = 40;
+/// Heights up to this are those of a content that is not laid out yet.
+constexpr double leastHeight = 50;
+/// Changes up to this are rounding.
+constexpr double heightTolerance = 0.5;
+
+/// Titled, closable, miniaturisable and, with its fixed size, not resizable.
+constexpr Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                  Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
+                                  Qt::WindowMinimizeButtonHint;
+
+/// As wide as the content is made for. What is higher than the screen scrolls.
+QSize contentSize(double height) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    return {static_cast<int>(std::ceil(Theme::length(contentWidth))),
+            std::min(static_cast<int>(std::lround(height)), room.height() - titleBarHeight)};
+}
+
+void centre(QWidget& window) {
+    QRect frame{{}, window.size()};
+    frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
+    window.move(frame.topLeft());
+}
+
+} // namespace
+
+SettingsWindow::SettingsWindow(Workspace& workspace, MakeContent makeContent)
+    : workspace_{workspace},
+      makeContent_{std::move(makeContent)} {}
+
+SettingsWindow::~SettingsWindow() = default;
+
+void SettingsWindow::show() {
+    if (!window_) make();
+    // A hidden window keeps its place in its widget alone: without being told, the window manager
+    // would choose a new one.
+    if (!window_->isVisible()) window_->move(window_->pos());
+    window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
+    window_->show();
+    workspace_.activate();
+    window_->raise();
+    window_->activateWindow();
+}
+
+void SettingsWindow::make() {
+    window_ = std::make_unique<QWidget>(nullptr, flags);
+    window_->setWindowTitle(QStringLiteral("Quillon"));
+    QWidget* const content = makeContent_([this](double height) { fit(height); }).release();
+    auto* const column = new QVBoxLayout{window_.get()};
+    column->setContentsMargins({});
+    column->setSizeConstraint(QLayout::SetNoConstraint);
+    column->addWidget(content);
+    window_->setFixedSize(
+        contentSize(std::max<double>(content->sizeHint().height(), leastFirstHeight)));
+    centre(*window_);
+}
+
+void SettingsWindow::fit(double height) {
+    if (!window_) return;
+    const auto resize = [window = window_.get(), height] {
+        if (!(height > leastHeight)) return; // nor what is not a number
+        if (std::abs(window->height() - height) <= heightTolerance) return;
+        window->setFixedSize(contentSize(height));
+    };
+    QMetaObject::invokeMethod(window_.get(), resize, Qt::QueuedConnection);
+}
+
+} // namespace quillon

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "state/Sent.h"
+#include "ui/views/View.h"
+
+#include <optional>
+#include <string>
+
+namespace quillon {
+
+class IconLabel;
+class SymbolView;
+
+/// One send: what it was, where it went and when, or why it failed.
+class HistoryRow : public View {
+    Q_OBJECT
+
+public:
+    explicit HistoryRow(QWidget* parent = nullptr);
+
+    void setEntry(const Sent& entry, Date now, const std::string& locale);
+
+    [[nodiscard]] QAccessible::Role accessibleRole() const override {
+        return QAccessible::ListItem;
+    }
+    [[nodiscard]] QString accessibleText() const override;
+
+private:
+    void setFailed(bool failed);
+
+    SymbolView* symbol_;
+    IconLabel* title_;
+    IconLabel* detail_;
+    SymbolView* mark_;
+    std::optional<bool> failed_; // what the marks now tell
+};
+
+} // namespace quillon

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ui/views/View.h"
+
+#include <optional>
+#include <string>
+
+namespace quillon {
+
+class IconLabel;
+class SymbolView;
+class TelegramIcon;
+
+/// The head of the panel: whose it is, and whether it is connected.
+class PanelHeader : public View {
+    Q_OBJECT
+
+public:
+    explicit PanelHeader(QWidget* parent = nullptr);
+
+    /// `group` is the title of the group, if one is known.
+    void setStatus(bool ready, const std::optional<std::string>& group);
+
+    [[nodiscard]] QAccessible::Role accessibleRole() const override {
+        return QAccessible::Grouping;
+    }
+
+private:
+    TelegramIcon* connected_;
+    SymbolView* notSetUp_;
+    IconLabel* status_;
+};
+
+} // namespace quillon

@@ -1,0 +1,45 @@
+#include "ui/panel/PanelPlacement.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+/// The nearest place inside; the top left corner stays inside whatever the size.
+QRect movedInto(QRect panel, const QRect& room) {
+    panel.moveRight(std::min(panel.right(), room.right()));
+    panel.moveBottom(std::min(panel.bottom(), room.bottom()));
+    panel.moveLeft(std::max(panel.left(), room.left()));
+    panel.moveTop(std::max(panel.top(), room.top()));
+    return panel;
+}
+
+} // namespace
+
+QRect panelBesideIcon(QSize panel, const QRect& icon, const QRect& screen, const QRect& room) {
+    const QRect inner = room.adjusted(panelGap, panelGap, -panelGap, -panelGap);
+    QRect frame{{}, panel};
+    frame.moveCenter(icon.center());
+    // The desktop's panel takes its strip off the room, so that tells on which side it stands.
+    if (icon.center().x() < room.left()) {
+        frame.moveLeft(room.left() + panelGap);
+    } else if (icon.center().x() > room.right()) {
+        frame.moveRight(room.right() - panelGap);
+    } else if (icon.center().y() < screen.center().y()) {
+        frame.moveTop(icon.bottom() + 1 + panelGap);
+    } else {
+        frame.moveBottom(icon.top() - 1 - panelGap);
+    }
+    return movedInto(frame, inner);
+}
+
+QRect panelInCorner(QSize panel, QPoint pointer, const QRect& room) {
+    const QRect inner = room.adjusted(panelGap, panelGap, -panelGap, -panelGap);
+    QRect frame{inner.topLeft(), panel};
+    if (pointer.x() > room.center().x()) frame.moveRight(inner.right());
+    if (pointer.y() > room.center().y()) frame.moveBottom(inner.bottom());
+    return movedInto(frame, inner);
+}
+
+} // namespace quillon

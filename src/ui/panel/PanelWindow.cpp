@@ -1,0 +1,122 @@
+#include "ui/panel/PanelWindow.h"
+
+#include "platform/Compositor.h"
+#include "ui/panel/PanelPlacement.h"
+#include "ui/panel/PanelView.h"
+#include "ui/views/Theme.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <chrono>
+
+namespace quillon {
+
+namespace {
+
+/// A click on the icon first takes the focus away, which closes the panel, and is then told: within
+/// this time it is that same click, and no wish to open it again.
+constexpr std::chrono::milliseconds sameClick{300};
+constexpr double cornerRadius = 10;
+
+} // namespace
+
+PanelWindow::PanelWindow(Compositor& compositor, MakePanel makePanel)
+    : QWidget{nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint},
+      compositor_{compositor},
+      makePanel_{std::move(makePanel)} {
+    setWindowTitle(QStringLiteral("Quillon"));
+}
+
+PanelWindow::~PanelWindow() = default;
+
+void PanelWindow::makePanel() {
+    // Decided once, since a window cannot change the depth of its pixels.
+    setAttribute(Qt::WA_TranslucentBackground, compositor_.active());
+    panel_ = makePanel_().release();
+    scroll_ = new QScrollArea;
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll_->setWidgetResizable(true);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->viewport()->setAutoFillBackground(false);
+    scroll_->setWidget(panel_);
+    panel_->setAutoFillBackground(false);
+    panel_->installEventFilter(this);
+    auto* const column = new QVBoxLayout{this};
+    column->setContentsMargins(1, 1, 1, 1);
+    column->addWidget(scroll_);
+}
+
+void PanelWindow::toggle(const QRect& icon) {
+    if (isVisible()) return hide();
+    if (sinceLostFocus_.isValid() && sinceLostFocus_.elapsed() < sameClick.count())
+        return sinceLostFocus_.invalidate();
+    open(icon);
+}
+
+void PanelWindow::open(const QRect& icon) {
+    if (!panel_) makePanel();
+    icon_ = icon;
+    pointer_ = QCursor::pos();
+    place();
+    show();
+    activate();
+    panel_->focusMainAction();
+}
+
+void PanelWindow::place() {
+    const QPoint there = icon_.isEmpty() ? pointer_ : icon_.center();
+    const QScreen* screen = QGuiApplication::screenAt(there);
+    if (!screen) screen = QGuiApplication::primaryScreen();
+    const QRect room = screen->availableGeometry();
+    QSize size = panel_->sizeHint().grownBy({1, 1, 1, 1});
+    const int most = room.height() - 2 * panelGap;
+    if (size.height() > most)
+        size = {size.width() + scroll_->verticalScrollBar()->sizeHint().width(), most};
+    setGeometry(icon_.isEmpty() ? panelInCorner(size, pointer_, room)
+                                : panelBesideIcon(size, icon_, screen->geometry(), room));
+}
+
+void PanelWindow::activate() {
+    raise();
+    activateWindow();
+}
+
+bool PanelWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == panel_ && event->type() == QEvent::LayoutRequest && isVisible()) place();
+    return QWidget::eventFilter(watched, event);
+}
+
+bool PanelWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowDeactivate && isVisible()) {
+        sinceLostFocus_.start();
+        hide();
+    }
+    return QWidget::event(event);
+}
+
+void PanelWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) return hide();
+    QWidget::keyPressEvent(event);
+}
+
+void PanelWindow::paintEvent(QPaintEvent* /*event*/) {
+    const Theme theme{*this};
+    const bool round = testAttribute(Qt::WA_TranslucentBackground);
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(theme.separator());
+    painter.setBrush(palette().window());
+    const double radius = round ? cornerRadius : 0;
+    painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+}
+
+} // namespace quillon

@@ -1,0 +1,39 @@
+#include "ui/panel/RecentSends.h"
+
+#include "ui/panel/HistoryRow.h"
+#include "ui/views/IconLabel.h"
+
+#include <QVBoxLayout>
+
+namespace quillon {
+
+RecentSends::RecentSends(QWidget* parent)
+    : View{parent},
+      none_{new IconLabel{
+          tr("Nothing sent yet."), "tray", {.style = Text::callout, .ink = Ink::tertiary}}} {
+    none_->setContentsMargins(0, Space::tight, 0, Space::tight);
+
+    auto* const column = new QVBoxLayout{this};
+    column->setContentsMargins({});
+    column->setSpacing(Space::small);
+    column->addWidget(new IconLabel{tr("Recent"),
+                                    "clock.arrow.circlepath",
+                                    {.style = Text::caption.semibold(), .ink = Ink::secondary}});
+    column->addWidget(none_);
+    for (HistoryRow*& row : rows_) {
+        row = new HistoryRow;
+        column->addWidget(row);
+    }
+}
+
+void RecentSends::setHistory(const std::vector<Sent>& history, Date now,
+                             const std::string& locale) {
+    none_->setVisible(history.empty());
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        const bool used = i < history.size();
+        if (used) rows_[i]->setEntry(history[i], now, locale);
+        rows_[i]->setVisible(used);
+    }
+}
+
+} // namespace quillon

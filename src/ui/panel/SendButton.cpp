@@ -1,0 +1,97 @@
+#include "ui/panel/SendButton.h"
+
+#include "artwork/Brand.h"
+#include "ui/panel/Literal.h"
+#include "ui/views/Colors.h"
+#include "ui/views/IconLabel.h"
+#include "ui/views/Keycap.h"
+#include "ui/views/SymbolView.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+namespace quillon {
+
+namespace {
+
+constexpr int padding = 12;
+constexpr int keySpacing = 3;
+constexpr int leastGap = 6;
+constexpr double symbolSize = 18;
+constexpr double symbolFrame = 24;
+constexpr double lineOpacity = 0.75;
+constexpr TextStyle titleStyle{14, QFont::Bold};
+/// How much darker or lighter the ground is while pressed and under the pointer, in per cent.
+constexpr int pressedDarker = 108;
+constexpr int hoverLighter = 103;
+
+} // namespace
+
+SendButton::SendButton(QWidget* parent)
+    : ContentButton{parent},
+      symbol_{new SymbolView{
+          {}, {.size = symbolSize, .weight = SymbolWeight::semibold, .ink = Brand::navy}}},
+      title_{new IconLabel{{}, {}, {.style = titleStyle, .ink = Brand::navy}}},
+      line_{new IconLabel{{},
+                          {},
+                          {.style = Text::caption,
+                           .ink = faded(Brand::navy, lineOpacity),
+                           .overflow = Overflow::elideEnd}}} {
+    setCornerRadius(Space::cardRadius);
+    setAccessibleName(tr("Send clipboard to phone"));
+    symbol_->setFrameWidth(symbolFrame);
+
+    auto* const column = new QVBoxLayout;
+    column->setSpacing(Space::hair);
+    column->addWidget(title_);
+    column->addWidget(line_);
+
+    auto* const caps = new QHBoxLayout;
+    caps->setSpacing(keySpacing);
+    for (Keycap*& keycap : keycaps_) {
+        keycap = new Keycap{{}, true};
+        caps->addWidget(keycap);
+    }
+
+    auto* const row = new QHBoxLayout{this};
+    row->setContentsMargins(padding, padding, padding, padding);
+    row->setSpacing(0);
+    row->addWidget(symbol_, 0, Qt::AlignVCenter);
+    row->addSpacing(Space::small);
+    row->addLayout(column, 1);
+    row->addSpacing(leastGap);
+    row->addLayout(caps);
+}
+
+void SendButton::setClip(const Clipboard::Summary& clip, bool busy) {
+    const QString line = QString::fromStdString(clip.line);
+    symbol_->setSymbol(busy ? "arrow.up.circle" : clip.symbol);
+    title_->setText(busy ? tr("Sending…") : tr("Send clipboard"));
+    line_->setText(literal(line));
+    setEnabled(!busy);
+    setAccessibleDescription(busy ? tr("Sending…") : line);
+}
+
+void SendButton::setShortcut(ShortcutChoice shortcut) {
+    const auto labels = keys(shortcut);
+    for (std::size_t i = 0; i < labels.size(); ++i)
+        keycaps_[i]->setLabel(QString::fromUtf8(labels[i].data(), qsizetype(labels[i].size())));
+}
+
+void SendButton::paintGround(QPainter& painter, const Theme& theme) {
+    QColor ground = Brand::coral;
+    if (isDown()) {
+        ground = ground.darker(pressedDarker);
+    } else if (isEnabled() && underMouse()) {
+        ground = ground.lighter(hoverLighter);
+    }
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme.fill(ground));
+    painter.drawRoundedRect(QRectF{rect()}, Space::cardRadius, Space::cardRadius);
+}
+
+Tint SendButton::focusTint() const {
+    return Brand::navy;
+}
+
+} // namespace quillon

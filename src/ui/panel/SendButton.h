@@ -1,0 +1,36 @@
+#pragma once
+
+#include "send/Clipboard.h"
+#include "state/ShortcutChoice.h"
+#include "ui/views/Buttons.h"
+
+#include <array>
+
+namespace quillon {
+
+class IconLabel;
+class Keycap;
+class SymbolView;
+
+/// The panel's one big action: sends the clipboard, and tells what is on it.
+class SendButton : public ContentButton {
+    Q_OBJECT
+
+public:
+    explicit SendButton(QWidget* parent = nullptr);
+
+    void setClip(const Clipboard::Summary& clip, bool busy);
+    void setShortcut(ShortcutChoice shortcut);
+
+protected:
+    void paintGround(QPainter& painter, const Theme& theme) override;
+    [[nodiscard]] Tint focusTint() const override;
+
+private:
+    SymbolView* symbol_;
+    IconLabel* title_;
+    IconLabel* line_;
+    std::array<Keycap*, 3> keycaps_{};
+};
+
+} // namespace quillon

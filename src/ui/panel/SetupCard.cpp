@@ -1,0 +1,48 @@
+#include "ui/panel/SetupCard.h"
+
+#include "ui/views/Buttons.h"
+#include "ui/views/IconLabel.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+namespace {
+
+constexpr int padding = 12;
+constexpr TextStyle titleStyle{14, QFont::Bold};
+
+} // namespace
+
+SetupCard::SetupCard(QWidget* parent)
+    : View{parent},
+      invitation_{new IconLabel{{}, {}, {.style = Text::caption, .ink = Ink::secondary}}} {
+    auto* const start = new TextButton{
+        tr("Start setup"), "arrow.right.circle.fill", {.kind = ButtonKind::prominent}};
+    connect(start, &TextButton::clicked, this, &SetupCard::startSetup);
+
+    auto* const column = new QVBoxLayout{this};
+    column->setContentsMargins(padding, padding, padding, padding);
+    column->setSpacing(Space::small);
+    column->addWidget(new IconLabel{
+        tr("Connect your phone"), "iphone.gen3.radiowaves.left.and.right", {.style = titleStyle}});
+    column->addWidget(invitation_);
+    column->addWidget(start, 0, Qt::AlignLeading);
+}
+
+void SetupCard::setShortcut(const QString& keys) {
+    invitation_->setText(tr("A two-minute setup with your own Telegram bot. Then copy anything and "
+                            "press %1.")
+                             .arg(keys));
+}
+
+void SetupCard::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme().quaternaryFill());
+    painter.drawRoundedRect(QRectF{rect()}, Space::cardRadius, Space::cardRadius);
+}
+
+} // namespace quillon

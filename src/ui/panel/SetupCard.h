@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ui/views/View.h"
+
+namespace quillon {
+
+class IconLabel;
+
+/// The way into the setup, in place of the send button.
+class SetupCard : public View {
+    Q_OBJECT
+
+public:
+    explicit SetupCard(QWidget* parent = nullptr);
+
+    /// The key caps of the shortcut, joined.
+    void setShortcut(const QString& keys);
+
+    [[nodiscard]] QAccessible::Role accessibleRole() const override {
+        return QAccessible::Grouping;
+    }
+
+Q_SIGNALS:
+    /// The user wants to set it up.
+    void startSetup();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    IconLabel* invitation_;
+};
+
+} // namespace quillon

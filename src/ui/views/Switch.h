@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ui/views/TextBlock.h"
+#include "ui/views/Themed.h"
+
+#include <QCheckBox>
+#include <QVariantAnimation>
+
+#include <string>
+
+namespace quillon {
+
+/// A switch at the trailing end of its row, with a tile and the title at the other end; all of the
+/// row switches it, as do Space, Return and the title's mnemonic. To assistive technology it is a
+/// check box. `clicked` tells of the user's switching, `toggled` of every change.
+class Switch : public Themed<QCheckBox> {
+    Q_OBJECT
+
+public:
+    /// The switch alone; it needs an accessible name.
+    explicit Switch(QWidget* parent = nullptr);
+    Switch(const QString& title, std::string symbol, QColor color, QWidget* parent = nullptr);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    [[nodiscard]] bool hitButton(const QPoint& position) const override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void slide(bool on);
+    [[nodiscard]] TextBlock titleBlock() const;
+    /// The width of all that is not the title.
+    [[nodiscard]] double besideTitle() const;
+    /// The size with a title that is wrapped into this many points.
+    [[nodiscard]] QSize hintFor(double mostTitle) const;
+    void paintTitle(QPainter& painter) const;
+    void paintTrack(QPainter& painter) const;
+
+    std::string symbol_;
+    QColor color_;
+    QVariantAnimation slide_;
+    double position_ = 0; // of the knob: 0 off, 1 on
+};
+
+} // namespace quillon

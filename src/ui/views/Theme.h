@@ -1,0 +1,105 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+#include <variant>
+
+class QPainter;
+class QRectF;
+class QWidget;
+
+namespace quillon {
+
+/// What a colour is for; the theme knows which one that is on this desktop.
+enum class Ink { primary, secondary, tertiary, accent, warning, destructive };
+
+/// A colour by what it is for, or a certain one.
+using Tint = std::variant<Ink, QColor>;
+
+/// A size and a weight of the application's font. Sizes are in points of a design whose running
+/// text has 13: 13 is as large as the application's font, whatever size that has.
+struct TextStyle {
+    double points;
+    QFont::Weight weight = QFont::Normal;
+
+    [[nodiscard]] constexpr TextStyle semibold() const { return {points, QFont::DemiBold}; }
+    [[nodiscard]] constexpr TextStyle bold() const { return {points, QFont::Bold}; }
+    bool operator==(const TextStyle&) const = default;
+};
+
+namespace Text {
+inline constexpr TextStyle title{17, QFont::Bold};
+inline constexpr TextStyle headline{13, QFont::DemiBold};
+inline constexpr TextStyle body{13};
+inline constexpr TextStyle callout{12};
+inline constexpr TextStyle caption{11};
+} // namespace Text
+
+/// Distances and corner radii in device-independent pixels.
+namespace Space {
+inline constexpr int hair = 2;
+inline constexpr int tight = 4;
+inline constexpr int small = 8;
+inline constexpr int medium = 14;
+inline constexpr int large = 20;
+inline constexpr double cardRadius = 12;
+inline constexpr double controlRadius = 7;
+inline constexpr double focusWidth = 2;
+} // namespace Space
+
+/// The colours and fonts of the views, all derived from a widget's palette and the application's
+/// font. Made anew for each painting and each measuring: nothing of it is kept.
+class Theme {
+public:
+    /// Colours of a disabled widget are faded; nobody needs to fade them again.
+    explicit Theme(const QWidget& widget);
+    explicit Theme(const QPalette& palette, bool enabled = true);
+
+    /// Light text on a dark ground.
+    [[nodiscard]] bool dark() const { return dark_; }
+    [[nodiscard]] QColor color(const Tint& tint) const;
+    /// A colour that a control is filled with, faded where the control is disabled.
+    [[nodiscard]] QColor fill(QColor color) const;
+    /// The faintest fill that still shows an area, and what it is under the pointer and pressed.
+    [[nodiscard]] QColor quaternaryFill() const;
+    [[nodiscard]] QColor hoverFill() const;
+    [[nodiscard]] QColor pressedFill() const;
+    /// The ground of a card, and the thin line around cards and between sections.
+    [[nodiscard]] QColor cardFill() const;
+    [[nodiscard]] QColor separator() const;
+    /// The colour, darkened or lightened as far as text on a card needs it.
+    [[nodiscard]] QColor readable(QColor color) const;
+    /// White or navy, whichever suits symbols on a tile of this colour.
+    [[nodiscard]] static QColor onTile(QColor tile);
+
+    /// The ring of what has the keyboard's focus, just inside of `box`. Fills in the accent colour
+    /// give their text's colour, which stands out from them.
+    void paintFocusRing(QPainter& painter, const QRectF& box, double radius,
+                        const Tint& tint = Ink::accent) const;
+
+    [[nodiscard]] static QFont font(const TextStyle& style);
+    /// The size of the application's font, as a multiple of the design's. Scales what belongs to
+    /// text: symbols, key caps, widths of columns.
+    [[nodiscard]] static double textScale();
+    /// A length of the design that grows with the text, and does not shrink with it.
+    [[nodiscard]] static double length(double points);
+
+private:
+    QPalette palette_;
+    bool enabled_;
+    bool dark_;
+};
+
+/// How visible a disabled thing is, and a thing whose turn has not come.
+inline constexpr double dimmedOpacity = 0.45;
+
+/// Whether the widget and all that is in it keep their colours while the widget is disabled: when
+/// it is only for a moment, and what it says is still to be read.
+void setBrightWhileDisabled(QWidget& widget, bool bright);
+
+/// Shows the widget and all that is in it at this opacity, from 0 to 1.
+void setOpacity(QWidget& widget, double opacity);
+
+} // namespace quillon

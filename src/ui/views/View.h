@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ui/views/Themed.h"
+
+#include <QAccessible>
+#include <QString>
+#include <QWidget>
+
+namespace quillon {
+
+/// A widget that paints itself and takes no input: the base of everything that is only looked at.
+/// Tells assistive technology what it shows; one that says nothing counts as decoration there.
+class View : public Themed<QWidget> {
+    Q_OBJECT
+
+public:
+    explicit View(QWidget* parent = nullptr);
+
+    /// What it is for assistive technology.
+    [[nodiscard]] virtual QAccessible::Role accessibleRole() const { return QAccessible::Graphic; }
+    /// What it shows, in words, unless it was given an accessible name.
+    [[nodiscard]] virtual QString accessibleText() const { return {}; }
+    /// Works on something.
+    [[nodiscard]] virtual bool accessibleBusy() const { return false; }
+
+protected:
+    /// To be called when what accessibleText() gives has changed.
+    void announceText();
+};
+
+} // namespace quillon

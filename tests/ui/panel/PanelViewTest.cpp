@@ -1,0 +1,276 @@
+#include "ui/panel/PanelView.h"
+
+#include "maintenance/Updater.h"
+#include "support/ConnectedWorld.h"
+#include "support/Faults.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+namespace {
+
+using namespace std::chrono_literals;
+using testing::AllOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+/// An update framework that is there, and counts the checks.
+class FakeFramework : public UpdateFramework {
+public:
+    std::function<void(bool)> canCheck;
+    int checks = 0;
+
+    [[nodiscard]] std::optional<UpdateError> start(UpdaterDelegate& /*told*/) override {
+        return std::nullopt;
+    }
+    void observeCanCheck(std::function<void(bool)> observer) override {
+        canCheck = std::move(observer);
+        canCheck(true);
+    }
+    void checkForUpdates() override { ++checks; }
+    [[nodiscard]] bool automaticallyChecksForUpdates() const override { return false; }
+    void setAutomaticallyChecksForUpdates(bool /*automatically*/) override {}
+};
+
+/// A panel in front of the user, who sees and finds things by what assistive technology says.
+template <typename Computer>
+struct PanelOn : testing::Test {
+    PanelOn() {
+        world.platform.system.locale = "en_US";
+        world.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
+    }
+
+    void open() {
+        panel.emplace(
+            world.platform, *world.store, updater,
+            PanelActions{.showSettings = [this] { log.emplace_back("settings"); },
+                         .checkForUpdates = [this] { checkForUpdates(updater, world.workspace); },
+                         .quit = [this] { log.emplace_back("quit"); }});
+        panel->show();
+        turn();
+    }
+
+    static void turn() {
+        for (int i = 0; i < 5; ++i)
+            QCoreApplication::processEvents();
+    }
+
+    [[nodiscard]] static std::string text(QWidget* widget, QAccessible::Text kind) {
+        return QAccessible::queryAccessibleInterface(widget)->text(kind).toStdString();
+    }
+
+    /// What is to be seen, in the order of the panel; lists' entries as a whole as well.
+    [[nodiscard]] std::vector<std::string> seen() {
+        std::vector<std::string> names;
+        for (QWidget* widget : panel->template findChildren<QWidget*>()) {
+            const std::string name = text(widget, QAccessible::Name);
+            if (widget->isVisible() && !name.empty()) names.push_back(name);
+        }
+        return names;
+    }
+
+    [[nodiscard]] QAbstractButton* button(const std::string& name) {
+        for (auto* button : panel->template findChildren<QAbstractButton*>())
+            if (button->isVisible() && text(button, QAccessible::Name) == name) return button;
+        return nullptr;
+    }
+
+    void click(const std::string& name) {
+        QAbstractButton* const found = button(name);
+        ASSERT_TRUE(found) << name;
+        QTest::mouseClick(found, Qt::LeftButton);
+        turn();
+    }
+
+    Computer world;
+    FakeFramework* framework = nullptr;
+    Updater updater{world.platform, *world.analytics,
+                    UpdaterHooks{.makeFramework =
+                                     [this] {
+                                         auto made = std::make_unique<FakeFramework>();
+                                         framework = made.get();
+                                         return made;
+                                     },
+                                 .shouldAskToMove = {},
+                                 .askToMove = {},
+                                 .log = {}}};
+    std::vector<std::string> log;
+    std::optional<PanelView> panel;
+};
+
+using NewPanel = PanelOn<World>;
+using ReadyPanel = PanelOn<ConnectedWorld>;
+
+const std::string sendName = "Send clipboard to phone";
+
+Sent sent(std::string title, Date date, std::optional<std::string> error = {}) {
+    return {QUuid::createUuid(), "doc", std::move(title), "📄 Files", date, std::move(error)};
+}
+
+} // namespace
+
+TEST_F(NewPanel, LeadsIntoTheSetupBeforeItIsDone) {
+    world.store->changeConfig([](Config& config) { config.shortcut = ShortcutChoice::ctrlOptP; });
+    open();
+    EXPECT_THAT(seen(), AllOf(Contains("Not set up yet"), Contains("Connect your phone"),
+                              Contains("A two-minute setup with your own Telegram bot. Then copy "
+                                       "anything and press ⌃⌥P."),
+                              Contains("Recent"), Contains("Nothing sent yet.")));
+    EXPECT_FALSE(button(sendName));
+    EXPECT_FALSE(button("Check for Updates…")) << "there is no updater";
+    click("Start setup");
+    click("Settings…");
+    click("Quit");
+    EXPECT_THAT(log, ElementsAre("settings", "settings", "quit"));
+}
+
+TEST_F(NewPanel, WarnsOfAShortcutThatAnotherProgramHas) {
+    open();
+    const std::string warning =
+        "⌃⌥V is already used by another app. Pick another shortcut in Settings.";
+    EXPECT_THAT(seen(), Not(Contains(warning)));
+    for (const PhysicalKey key : {PhysicalKey::v, PhysicalKey::p, PhysicalKey::c})
+        world.hotKeys.takenByOthers.insert(key);
+    world.store->registerShortcut();
+    turn();
+    EXPECT_THAT(seen(), Contains(warning));
+}
+
+TEST_F(NewPanel, OffersUpdatesWhereTheProgramCanBeUpdated) {
+    updater.start();
+    open();
+    click("Check for Updates…");
+    EXPECT_EQ(framework->checks, 1);
+    EXPECT_THAT(world.workspace.log, ElementsAre("activate"));
+    framework->canCheck(false);
+    turn();
+    click("Check for Updates…");
+    EXPECT_FALSE(button("Check for Updates…")->isEnabled());
+    EXPECT_EQ(framework->checks, 1);
+}
+
+TEST_F(ReadyPanel, SendsTheClipboardAndSaysSo) {
+    world.pasteboard.copy({{"UTF8_STRING", "  milk **and** eggs"}});
+    open();
+    ASSERT_TRUE(button(sendName));
+    EXPECT_EQ(text(button(sendName), QAccessible::Description), "“milk **and** eggs”");
+    EXPECT_THAT(seen(), Contains("Send clipboard"));
+    world.sandbox.failNext(flood(1)); // Telegram makes it wait on the test's clock
+    click(sendName);
+    ASSERT_TRUE(waitUntil([&] { return world.store->busy(); }));
+    turn();
+    EXPECT_THAT(seen(), AllOf(Contains("Sending…"), Not(Contains("Send clipboard"))));
+    click(sendName); // does nothing
+    ASSERT_TRUE(waitUntil([&] { return !world.sandbox.requests().empty(); }));
+    ASSERT_TRUE(waitUntil([&] {
+        world.clock.advance(1s);
+        return !world.store->busy();
+    }));
+    turn();
+    EXPECT_THAT(seen(), Contains("Send clipboard"));
+    EXPECT_THAT(world.messages("notes"), testing::SizeIs(1));
+    EXPECT_TRUE(button(sendName)->isEnabled());
+}
+
+TEST_F(ReadyPanel, NamesTheGroupItIsConnectedTo) {
+    open();
+    for (const auto& [title, status] :
+         {std::pair{std::optional<std::string>{"Anna & **I**"}, "Connected · Anna & **I**"},
+          std::pair{std::optional<std::string>{}, "Connected · your group"}}) {
+        world.store->changeConfig([&](Config& config) { config.chatTitle = title; });
+        turn();
+        std::vector<std::string> names = seen();
+        for (std::string& name : names)
+            name = QString::fromStdString(name).remove(QChar{0x2060}).toStdString();
+        EXPECT_THAT(names, Contains(status));
+    }
+}
+
+TEST_F(ReadyPanel, LooksAtTheClipboardOnceASecondAndOnlyWhileShown) {
+    world.pasteboard.copy({{"UTF8_STRING", "one"}});
+    open();
+    const auto line = [this] { return text(button(sendName), QAccessible::Description); };
+    EXPECT_EQ(line(), "“one”");
+    world.pasteboard.copy({{"UTF8_STRING", "two"}});
+    world.clock.advance(999ms);
+    turn();
+    EXPECT_EQ(line(), "“one”");
+    world.clock.advance(1ms);
+    turn();
+    EXPECT_EQ(line(), "“two”");
+
+    const int reads = world.pasteboard.reads["UTF8_STRING"];
+    world.clock.advance(10s);
+    turn();
+    EXPECT_EQ(world.pasteboard.reads["UTF8_STRING"], reads) << "nothing new was copied";
+    panel->hide();
+    EXPECT_EQ(world.clock.pending(), 0);
+    world.pasteboard.copy({{"UTF8_STRING", "three"}});
+    world.clock.advance(10s);
+    turn();
+    panel->show();
+    turn();
+    EXPECT_EQ(line(), "“three”");
+
+    // A program that hangs: the panel goes away before the answer comes.
+    world.pasteboard.hesitates = true;
+    world.pasteboard.copy({{"UTF8_STRING", "four"}});
+    world.clock.advance(3s);
+    panel.reset();
+    world.pasteboard.giveUp();
+    turn();
+}
+
+TEST_F(ReadyPanel, ListsTheFiveNewestWithTheirAge) {
+    const Date now = world.clock.now();
+    std::vector<Sent> history{sent("new.pdf", now - 59s), sent("minute.pdf", now - 60s),
+                              sent("bad.pdf", now - 1h, "The file is too big.")};
+    for (const char* const name : {"4", "5", "6", "7"})
+        history.push_back(sent(name, now - 48h));
+    world.setContent("history.json", encodeHistory(history));
+    world.restart();
+    open();
+    EXPECT_THAT(seen(), AllOf(Contains("new.pdf, 📄 Files · just now, Sent"),
+                              Contains("minute.pdf, 📄 Files · 1 min. ago, Sent"),
+                              Contains("bad.pdf, The file is too big., Not sent"),
+                              Contains("5, 📄 Files · 2 days ago, Sent")));
+    EXPECT_THAT(seen(), AllOf(Not(Contains("6")), Not(Contains("Nothing sent yet."))));
+    world.clock.advance(1s);
+    turn();
+    EXPECT_THAT(seen(), Contains("new.pdf, 📄 Files · 1 min. ago, Sent"));
+}
+
+TEST_F(ReadyPanel, IsWorkedWithTheKeyboardAlone) {
+    updater.start();
+    open();
+    panel->activateWindow();
+    panel->focusMainAction();
+    turn();
+    std::vector<std::string> order;
+    for (int i = 0; i < 5; ++i) {
+        order.push_back(text(QApplication::focusWidget(), QAccessible::Name));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_THAT(order, ElementsAre(sendName, "Settings…", "Check for Updates…", "Quit", sendName));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_THAT(log, ElementsAre("settings"));
+}
+
+TEST_F(ReadyPanel, KeepsItsWidthWhateverTheTextsSay) {
+    open();
+    const QSize before = panel->sizeHint();
+    world.store->changeConfig([](Config& config) { config.chatTitle = std::string(400, 'W'); });
+    world.pasteboard.copy({{"UTF8_STRING", QByteArray(5000, 'W')}});
+    world.clock.advance(1s);
+    turn();
+    EXPECT_EQ(panel->sizeHint(), before);
+}
+
+} // namespace quillon::test

@@ -1,0 +1,73 @@
+#include "ui/panel/PanelWindow.h"
+
+#include "maintenance/Updater.h"
+#include "platform/Compositor.h"
+#include "support/Await.h"
+#include "support/World.h"
+#include "ui/panel/PanelView.h"
+
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+namespace {
+
+class NoCompositor : public Compositor {
+public:
+    [[nodiscard]] bool active() const override { return false; }
+};
+
+struct PanelWindowTest : testing::Test {
+    World world;
+    Updater updater{world.platform, *world.analytics, {}};
+    NoCompositor compositor;
+    int made = 0;
+    PanelWindow window{compositor, [this] {
+                           ++made;
+                           return std::make_unique<PanelView>(world.platform, *world.store, updater,
+                                                              PanelActions{});
+                       }};
+    const QRect icon{100, 0, 24, 24};
+};
+
+} // namespace
+
+TEST_F(PanelWindowTest, OpensAndClosesWithTheIconAndOnEscape) {
+    EXPECT_EQ(made, 0) << "costs nothing until it is opened";
+    window.toggle(icon);
+    EXPECT_TRUE(window.isVisible());
+    window.toggle(icon);
+    EXPECT_FALSE(window.isVisible());
+    window.toggle(icon);
+    QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &window,
+                    Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(world.clock.pending(), 0) << "a closed panel looks at nothing";
+    EXPECT_EQ(made, 1);
+}
+
+TEST_F(PanelWindowTest, ClosesWhenSomethingElseTakesTheFocus) {
+    window.toggle(icon);
+    ASSERT_TRUE(waitUntil([this] { return window.isActiveWindow(); }));
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(waitUntil([this] { return !window.isVisible(); }));
+    window.toggle(icon); // the click on the icon that took the focus
+    EXPECT_FALSE(window.isVisible());
+    window.toggle(icon);
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(PanelWindowTest, GrowsWithItsContent) {
+    window.open(icon);
+    const QRect before = window.geometry();
+    world.hotKeys.takenByOthers = {PhysicalKey::v, PhysicalKey::p, PhysicalKey::c};
+    world.store->registerShortcut();
+    ASSERT_TRUE(waitUntil([&] { return window.height() > before.height(); }));
+    EXPECT_EQ(window.geometry().topLeft(), before.topLeft());
+}
+
+} // namespace quillon::test
