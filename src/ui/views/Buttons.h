@@ -54,6 +54,10 @@ private:
     void paintGround(QPainter& painter, const Theme& theme) const;
     void paintContent(QPainter& painter, const Theme& theme) const;
     [[nodiscard]] Tint ink() const;
+    /// Symbol, gap and text.
+    [[nodiscard]] double contentWidth() const;
+    /// The symbol and the gap after it.
+    [[nodiscard]] double symbolWidth() const;
 
     std::string symbol_;
     ButtonLook look_;
@@ -92,7 +96,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void childEvent(QChildEvent* event) override;
-    bool event(QEvent* event) override;
 
 private:
     std::optional<bool> selected_;

@@ -31,6 +31,8 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void announceBusy();
+
     double size_;
     int step_ = 0;
     QBasicTimer timer_;

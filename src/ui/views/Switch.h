@@ -35,8 +35,10 @@ protected:
 private:
     void slide(bool on);
     [[nodiscard]] TextBlock titleBlock() const;
-    /// What the row has left for the title.
-    [[nodiscard]] double titleWidth(double width) const;
+    /// The width of all that is not the title.
+    [[nodiscard]] double besideTitle() const;
+    /// The size with a title that is wrapped into this many points.
+    [[nodiscard]] QSize hintFor(double mostTitle) const;
     void paintTitle(QPainter& painter) const;
     void paintTrack(QPainter& painter) const;
 

@@ -27,6 +27,8 @@ public:
     QSizeF elide(double width, Qt::TextElideMode mode);
     /// Whether elide() lost something.
     [[nodiscard]] bool elided() const { return elided_; }
+    /// What was laid out last: the text without what it lost.
+    [[nodiscard]] QString shownText() const { return layout_.text(); }
     /// The width it has on one line.
     [[nodiscard]] double naturalWidth();
     /// The height of its first line.

@@ -1,0 +1,86 @@
+#include "ui/views/Accessibility.h"
+#include "ui/views/Buttons.h"
+
+#include <QAccessible>
+#include <QChildEvent>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QPainter>
+
+namespace quillon {
+
+ContentButton::ContentButton(QWidget* parent) : Themed{parent} {
+    describeViews();
+    QSizePolicy policy{QSizePolicy::Preferred, QSizePolicy::Preferred};
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    setAttribute(Qt::WA_Hover);
+}
+
+void ContentButton::setSelected(bool selected) {
+    if (selected_ == selected) return;
+    selected_ = selected;
+    update();
+    QAccessible::State changed;
+    changed.selected = true;
+    QAccessibleStateChangeEvent event{this, changed};
+    QAccessible::updateAccessibility(&event);
+}
+
+void ContentButton::setExpanded(std::optional<bool> expanded) {
+    if (expanded_ == expanded) return;
+    expanded_ = expanded;
+    QAccessible::State changed;
+    changed.expanded = true;
+    QAccessibleStateChangeEvent event{this, changed};
+    QAccessible::updateAccessibility(&event);
+}
+
+void ContentButton::setCornerRadius(double radius) {
+    radius_ = radius;
+    update();
+}
+
+QSize ContentButton::sizeHint() const {
+    return layout() ? layout()->totalSizeHint() : QSize{};
+}
+
+QSize ContentButton::minimumSizeHint() const {
+    return layout() ? layout()->totalMinimumSize() : QSize{};
+}
+
+bool ContentButton::hasHeightForWidth() const {
+    return layout() && layout()->hasHeightForWidth();
+}
+
+int ContentButton::heightForWidth(int width) const {
+    return hasHeightForWidth() ? layout()->totalHeightForWidth(width) : -1;
+}
+
+void ContentButton::paintGround(QPainter& painter, const Theme& theme) {
+    if (!isEnabled() || (!underMouse() && !isDown())) return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isDown() ? theme.hoverFill() : theme.quaternaryFill());
+    painter.drawRoundedRect(rect(), radius_, radius_);
+}
+
+void ContentButton::paintEvent(QPaintEvent* /*event*/) {
+    const Theme theme = this->theme();
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintGround(painter, theme);
+    if (showsFocus()) theme.paintFocusRing(painter, rect(), radius_, focusTint());
+}
+
+void ContentButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
+    Themed::keyPressEvent(event);
+}
+
+void ContentButton::childEvent(QChildEvent* event) {
+    if (event->added() && event->child()->isWidgetType())
+        static_cast<QWidget*>(event->child())->setAttribute(Qt::WA_TransparentForMouseEvents);
+    Themed::childEvent(event);
+}
+
+} // namespace quillon

@@ -1,0 +1,232 @@
+// Shows every view in one window, to be looked at and taken pictures of. Arguments: "light" or
+// "dark", then optionally the size of the font in percent and "rtl". Pressing D changes between
+// light and dark, as a desktop does while programs run; + and - change the font.
+#include "artwork/Brand.h"
+#include "artwork/Palette.h"
+#include "state/Topic.h"
+#include "ui/views/BrandViews.h"
+#include "ui/views/Buttons.h"
+#include "ui/views/Card.h"
+#include "ui/views/Chip.h"
+#include "ui/views/Keycap.h"
+#include "ui/views/MenuBarIcon.h"
+#include "ui/views/SegmentedPicker.h"
+#include "ui/views/Spinner.h"
+#include "ui/views/Switch.h"
+#include "ui/views/SymbolView.h"
+#include "ui/views/Tile.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include <initializer_list>
+
+namespace {
+
+using namespace quillon;
+
+QString operator""_q(const char* text, std::size_t size) {
+    return QString::fromUtf8(text, static_cast<qsizetype>(size));
+}
+
+QPalette paletteOf(bool dark) {
+    if (!dark) return QPalette{QColor{239, 240, 241}};
+    QPalette palette{QColor{42, 46, 50}};
+    palette.setColor(QPalette::Window, QColor{36, 38, 42});
+    palette.setColor(QPalette::Base, QColor{27, 29, 32});
+    return palette;
+}
+
+void setFontPercent(int percent) {
+    static const QFont normal = QApplication::font();
+    QFont font = normal;
+    font.setPointSizeF(normal.pointSizeF() * percent / 100);
+    QApplication::setFont(font);
+}
+
+/// The send button, as a panel would make it.
+class CoralButton : public ContentButton {
+protected:
+    void paintGround(QPainter& painter, const Theme& theme) override {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(theme.fill(isDown() ? Brand::coral.darker(108) : Brand::coral));
+        painter.drawRoundedRect(rect(), Space::cardRadius, Space::cardRadius);
+    }
+    [[nodiscard]] Tint focusTint() const override { return Brand::navy; }
+};
+
+QHBoxLayout* row(std::initializer_list<QWidget*> views, int spacing = Space::small) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(spacing);
+    for (QWidget* view : views)
+        row->addWidget(view);
+    row->addStretch(1);
+    return row;
+}
+
+QWidget* disabled(QWidget* view) {
+    view->setEnabled(false);
+    return view;
+}
+
+QWidget* sendButton() {
+    auto* button = new CoralButton;
+    button->setCornerRadius(Space::cardRadius);
+    button->setAccessibleName("Send clipboard to phone"_q);
+    auto* symbol =
+        new SymbolView{"photo", {.size = 18, .weight = SymbolWeight::semibold, .ink = Brand::navy}};
+    symbol->setFrameWidth(24);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(Space::hair);
+    texts->addWidget(
+        new IconLabel{"Send clipboard"_q, {}, {.style = {14, QFont::Bold}, .ink = Brand::navy}});
+    texts->addWidget(new IconLabel{
+        "A picture, 1920 × 1080, from somewhere far away"_q,
+        {},
+        {.style = Text::caption, .ink = QColor{11, 16, 32, 191}, .overflow = Overflow::elideEnd}});
+    auto* content = new QHBoxLayout{button};
+    content->setContentsMargins(12, 12, 12, 12);
+    content->addWidget(symbol);
+    content->addLayout(texts, 1);
+    content->addSpacing(6);
+    auto* keys =
+        row({new Keycap{"⌃"_q, true}, new Keycap{"⌥"_q, true}, new Keycap{"V"_q, true}}, 3);
+    keys->takeAt(3);
+    content->addLayout(keys);
+    return button;
+}
+
+Card* textCard() {
+    auto* card = new Card{"Labels"_q, "text.alignleft"};
+    card->body()->addLayout(row({new AppIconView{32}, new Wordmark{15}, new TelegramIcon{16},
+                                 new AppIconView{64}, new Wordmark{28}}));
+    card->body()->addWidget(new IconLabel{"Title"_q, "sparkles", {.style = Text::title}});
+    card->body()->addWidget(new IconLabel{"Headline"_q, "key.fill", {.style = Text::headline}});
+    card->body()->addWidget(new IconLabel{
+        "In Telegram, open **@BotFather**, send **/newbot** and follow the steps. It gives you a token. The bot is yours alone."_q});
+    card->body()->addWidget(new IconLabel{
+        "Nothing sent yet."_q, "tray", {.style = Text::callout, .ink = Ink::tertiary}});
+    card->body()->addWidget(
+        new IconLabel{"⌃⌥V is already used by another app. Pick another shortcut in Settings."_q,
+                      "exclamationmark.triangle.fill",
+                      {.style = Text::caption, .ink = Ink::warning}});
+    card->body()->addWidget(
+        new IconLabel{"Eine-sehr-lange-Datei-mit-einem-Namen-ohne-Ende-Fassung-3.pdf"_q,
+                      "doc",
+                      {.ink = Ink::secondary, .overflow = Overflow::elideMiddle}});
+    card->body()->addWidget(new IconLabel{
+        "You're all set."_q,
+        "checkmark.seal.fill",
+        {.style = Text::headline, .symbolInk = Ink::accent, .align = Qt::AlignHCenter}});
+    card->body()->addLayout(row({new Keycap{"⌃"_q}, new Keycap{"⌥"_q}, new Keycap{"V"_q},
+                                 new KeyLabel{"⌃"_q}, new KeyLabel{"⌥"_q}, new KeyLabel{"V"_q},
+                                 new Spinner, new SymbolView{"power", {.size = 20}}}));
+    return card;
+}
+
+Card* rowsCard() {
+    auto* card = new Card{"After sending"_q, "paperplane.fill"};
+    auto* sound = new Switch{"Play a &sound"_q, "speaker.wave.2.fill", Palette::pink};
+    sound->setChecked(true);
+    auto* banner = new Switch{"Show a banner"_q, "bell.badge.fill", Palette::orange};
+    auto* off = new Switch{"Open Quillon when I log in, whenever that may be, without a word"_q,
+                           "power", Palette::green};
+    off->setChecked(true);
+    auto* picker = new SegmentedPicker{{"⌃⌥V"_q, "⌃⌥P"_q, "⌃⌥C"_q}};
+    picker->setCurrentIndex(0);
+    auto* shortcut = new QHBoxLayout;
+    shortcut->addWidget(new TileLabel{"Send clipboard"_q, "keyboard.fill", Palette::blue}, 1);
+    shortcut->addWidget(picker);
+    card->body()->addLayout(shortcut);
+    card->body()->addWidget(sound);
+    card->body()->addWidget(banner);
+    card->body()->addWidget(disabled(off));
+    card->body()->addWidget(new Divider);
+    card->body()->addWidget(new TileLabel{"Bot"_q, "cpu.fill", Palette::teal});
+    card->body()->addLayout(
+        row({new Tile{"doc.fill", Palette::purple}, new Tile{"photo.fill", Palette::yellow},
+             new Tile{"info.circle.fill", Palette::gray}}));
+    auto* chips = new QHBoxLayout;
+    for (const Topic& topic : Topic::defaults()) {
+        chips->addWidget(
+            new Chip{QString::fromStdString(topic.name), QColor{static_cast<QRgb>(topic.color)}});
+    }
+    chips->addStretch(1);
+    card->body()->addLayout(chips);
+    return card;
+}
+
+Card* buttonsCard() {
+    using enum ButtonKind;
+    auto* card = new Card{"Buttons"_q, "hand.tap"};
+    const auto button = [](const char* text, const char* symbol, ButtonKind kind) {
+        return new TextButton{QString::fromUtf8(text), symbol, {.kind = kind}};
+    };
+    card->body()->addLayout(row({button("Start setup", "arrow.right.circle.fill", prominent),
+                                 button("&Connect", "link", bordered),
+                                 button("Disconnect", "xmark.circle.fill", destructive)}));
+    card->body()->addLayout(
+        row({disabled(button("Start setup", "arrow.right.circle.fill", prominent)),
+             disabled(button("Connect", "link", bordered)),
+             disabled(button("Disconnect", "xmark.circle.fill", destructive))}));
+    card->body()->addLayout(row(
+        {button("Settings…", "gearshape.fill", borderless), button("Quit", "power", borderless),
+         button("Plain", "trash", plain), button("", "chevron.down", bordered),
+         new TextButton{"Save names to Telegram"_q, telegramSymbol, {.symbolInk = telegramBlue}}}));
+    card->body()->addWidget(sendButton());
+    card->body()->addWidget(disabled(sendButton()));
+    return card;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application{argc, argv};
+    const QStringList arguments = QApplication::arguments();
+    bool dark = arguments.value(1) == "dark"_q;
+    int percent = arguments.size() > 2 ? arguments[2].toInt() : 100;
+    QApplication::setStyle("Fusion"_q);
+    QApplication::setPalette(paletteOf(dark));
+    setFontPercent(percent);
+    if (arguments.contains("rtl"_q)) QApplication::setLayoutDirection(Qt::RightToLeft);
+
+    QWidget window;
+    window.setWindowTitle("Views"_q);
+    window.setWindowIcon(MenuBarIcon::image(dark ? Qt::white : Qt::black));
+    auto* columns = new QHBoxLayout{&window};
+    columns->setContentsMargins(Space::large, Space::large, Space::large, Space::large);
+    columns->setSpacing(Space::medium);
+    auto* left = new QVBoxLayout;
+    left->addWidget(textCard());
+    left->addStretch(1);
+    auto* right = new QVBoxLayout;
+    right->setSpacing(Space::medium);
+    right->addWidget(rowsCard());
+    right->addWidget(buttonsCard());
+    auto* icons = new QHBoxLayout;
+    for (const int side : {16, 22, 24, 32, 48}) {
+        auto* icon = new QLabel;
+        icon->setPixmap(MenuBarIcon::image(dark ? Qt::white : Qt::black).pixmap(side));
+        icons->addWidget(icon);
+    }
+    icons->addStretch(1);
+    right->addLayout(icons);
+    right->addStretch(1);
+    columns->addLayout(left, 1);
+    columns->addLayout(right, 1);
+
+    const auto key = [&](const char* sequence, auto act) {
+        auto* shortcut = new QShortcut{QKeySequence{QString::fromLatin1(sequence)}, &window};
+        QObject::connect(shortcut, &QShortcut::activated, &window, act);
+    };
+    key("D", [&] { QApplication::setPalette(paletteOf(dark = !dark)); });
+    key("+", [&] { setFontPercent(percent += 25); });
+    key("-", [&] { setFontPercent(percent -= 25); });
+    window.resize(static_cast<int>(Theme::length(820)), 10);
+    window.show();
+    return QApplication::exec();
+}
