@@ -121,8 +121,7 @@ Card* GeneralView::buildTelegram() {
     group_ = makeValue();
     disconnect_ = new TextButton{
         tr("&Disconnect this Mac"), "xmark.circle.fill", {.kind = ButtonKind::destructive}};
-    card->body()->addLayout(
-        settingRow(new TileLabel{tr("Bot"), "cpu.fill", Palette::teal}, bot_));
+    card->body()->addLayout(settingRow(new TileLabel{tr("Bot"), "cpu.fill", Palette::teal}, bot_));
     card->body()->addLayout(
         settingRow(new TileLabel{tr("Group"), "person.3.fill", Palette::blue}, group_));
     card->body()->addWidget(disconnect_, 0, Qt::AlignLeading);
@@ -131,10 +130,9 @@ Card* GeneralView::buildTelegram() {
 }
 
 QWidget* GeneralView::buildUninstall() {
-    auto* uninstall =
-        new TextButton{tr("&Uninstall Quillon…"),
-                       "trash",
-                       {.kind = ButtonKind::borderless, .style = Text::caption}};
+    auto* uninstall = new TextButton{tr("&Uninstall Quillon…"),
+                                     "trash",
+                                     {.kind = ButtonKind::borderless, .style = Text::caption}};
     connect(uninstall, &TextButton::clicked, this, &GeneralView::confirmUninstall);
     return uninstall;
 }

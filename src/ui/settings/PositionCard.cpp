@@ -6,6 +6,7 @@
 #include "ui/views/SymbolView.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QPainter>
 #include <QVBoxLayout>
 

@@ -47,8 +47,8 @@ QSize TabStrip::tabSizeHint(int index) const {
     const double title = metrics.size(Qt::TextShowMnemonic, tabText(index)).width();
     const double width =
         std::max(Theme::length(leastWidth), title + 2 * besideTitle) + 2 * betweenTabs;
-    const double height = aboveSymbol + Theme::length(symbolPoints) + belowSymbol +
-                          metrics.height() + belowTitle;
+    const double height =
+        aboveSymbol + Theme::length(symbolPoints) + belowSymbol + metrics.height() + belowTitle;
     return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height))};
 }
 
@@ -77,8 +77,7 @@ void TabStrip::paintTab(QPainter& painter, int index) const {
     painter.setFont(Theme::font(current ? Text::caption.semibold() : Text::caption));
     painter.setPen(theme.color(current ? Ink::primary : Ink::secondary));
     painter.drawText(QRectF{box.left(), top, box.width(), titleMetrics().height()},
-                     Qt::AlignCenter |
-                         (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+                     Qt::AlignCenter | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
                      tabText(index));
     if (current && showsFocus()) theme.paintFocusRing(painter, box, Space::controlRadius);
 }

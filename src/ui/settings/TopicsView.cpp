@@ -24,8 +24,7 @@ TopicsView::TopicsView(Store& store, QWidget* parent)
 }
 
 Card* TopicsView::buildNames() {
-    auto* card =
-        new Card{tr("Topic names in your group"), "bubble.left.and.bubble.right.fill"};
+    auto* card = new Card{tr("Topic names in your group"), "bubble.left.and.bubble.right.fill"};
     names_ = new QVBoxLayout;
     names_->setSpacing(Space::small);
     card->body()->addLayout(names_);

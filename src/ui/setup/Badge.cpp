@@ -4,6 +4,7 @@
 #include "ui/views/Colors.h"
 #include "ui/views/SymbolView.h"
 
+#include <QLocale>
 #include <QPainter>
 
 #include <cmath>

@@ -65,7 +65,8 @@ int FlowLayout::arrange(const QRect& frame, bool move) const {
     int lineHeight = 0;
     for (const auto& item : items_) {
         if (item->isEmpty()) continue;
-        const QSize size = item->sizeHint().boundedTo({std::max(frame.width(), 0), QLAYOUTSIZE_MAX});
+        const QSize size =
+            item->sizeHint().boundedTo({std::max(frame.width(), 0), QLAYOUTSIZE_MAX});
         if (x > 0 && x + size.width() > frame.width()) {
             x = 0;
             y += lineHeight + spacing();

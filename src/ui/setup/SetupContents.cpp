@@ -102,8 +102,7 @@ QWidget* SetupView::buildBotStep() {
     column->addWidget(new IconLabel{
         tr("In Telegram, open **@BotFather**, send **/newbot** and follow the steps. It gives you "
            "a token. The bot is yours alone.")});
-    auto* open =
-        new TextButton{tr("&Open BotFather"), telegramSymbol, {.symbolInk = telegramBlue}};
+    auto* open = new TextButton{tr("&Open BotFather"), telegramSymbol, {.symbolInk = telegramBlue}};
     column->addWidget(open, 0, Qt::AlignLeading);
     connect(open, &QPushButton::clicked, this,
             [] { QDesktopServices::openUrl(QUrl{QString::fromLatin1(botFatherAddress)}); });
@@ -156,7 +155,8 @@ QWidget* SetupView::buildClosing() {
     auto* sentence = new QHBoxLayout;
     sentence->setSpacing(Space::tight);
     sentence->addStretch(1);
-    sentence->addWidget(new IconLabel{tr("Copy anything, then press"), {}, {.ink = Ink::secondary}});
+    sentence->addWidget(
+        new IconLabel{tr("Copy anything, then press"), {}, {.ink = Ink::secondary}});
     sentence->addSpacing(Space::hair);
     for (const std::string_view key : keys(store_.config().shortcut)) {
         keys_.push_back(new KeyLabel{QString::fromUtf8(key.data(), std::ssize(key))});

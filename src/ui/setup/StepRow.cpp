@@ -25,11 +25,10 @@ StepRow::StepRow(int n, const QString& title, const std::string& symbol, QWidget
     : View{parent},
       n_{n},
       badge_{new Badge},
-      summary_{new IconLabel{{},
-                             {},
-                             {.style = Text::callout,
-                              .ink = Ink::secondary,
-                              .overflow = Overflow::elideMiddle}}},
+      summary_{new IconLabel{
+          {},
+          {},
+          {.style = Text::callout, .ink = Ink::secondary, .overflow = Overflow::elideMiddle}}},
       chevron_{new SymbolView{"chevron.down", {.size = chevronPoints, .ink = Ink::secondary}}},
       header_{buildHeader(title, symbol)},
       inset_{new QWidget},
@@ -65,8 +64,8 @@ ContentButton* StepRow::buildHeader(const QString& title, const std::string& sym
 }
 
 void StepRow::indentContent() {
-    inset_->layout()->setContentsMargins(headerPadding + Badge::side() + headerPadding,
-                                         Space::hair, headerPadding, headerPadding);
+    inset_->layout()->setContentsMargins(headerPadding + Badge::side() + headerPadding, Space::hair,
+                                         headerPadding, headerPadding);
 }
 
 void StepRow::setState(const State& state, bool animated) {
