@@ -44,6 +44,7 @@ public:
         state.expandable = button_->expanded().has_value();
         state.expanded = button_->expanded().value_or(false);
         state.collapsed = !button_->expanded().value_or(true);
+        state.busy = button_->busy();
         state.pressed = button_->isDown();
         return state;
     }
@@ -75,6 +76,11 @@ QAccessibleInterface* describe(const QString& className, QObject* object) {
 }
 
 } // namespace
+
+void announce(QObject& object, QAccessible::State changed) {
+    QAccessibleStateChangeEvent event{&object, changed};
+    QAccessible::updateAccessibility(&event);
+}
 
 void describeViews() {
     static const bool installed = [] {

@@ -162,6 +162,7 @@ void TextButton::paintContent(QPainter& painter, const Theme& theme) const {
     const bool underlined = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
     painter.setFont(font);
     painter.setPen(color);
+    painter.setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter.drawText(
         box, Qt::AlignCenter | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
         QFontMetricsF{font}.elidedText(text(), Qt::ElideRight, box.width(), Qt::TextShowMnemonic));

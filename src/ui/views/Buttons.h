@@ -77,6 +77,9 @@ public:
     /// Opens and closes something, and whether that is open; nothing for a button that does not.
     void setExpanded(std::optional<bool> expanded);
     [[nodiscard]] std::optional<bool> expanded() const { return expanded_; }
+    /// Does what it is for at the moment: disabled meanwhile, but not faded.
+    void setBusy(bool busy);
+    [[nodiscard]] bool busy() const { return busy_; }
     /// The corners of its face, for the focus ring.
     void setCornerRadius(double radius);
 
@@ -100,6 +103,7 @@ protected:
 private:
     std::optional<bool> selected_;
     std::optional<bool> expanded_;
+    bool busy_ = false;
     double radius_ = Space::controlRadius;
 };
 

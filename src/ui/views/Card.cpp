@@ -14,7 +14,6 @@ Card::Card(const QString& title, const std::string& symbol, QWidget* parent)
           symbol,
           {.style = Text::callout.semibold(), .ink = Ink::secondary, .symbolInk = Ink::accent}}},
       body_{new QVBoxLayout} {
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     auto* column = new QVBoxLayout{this};
     column->setContentsMargins(Space::medium, Space::medium, Space::medium, Space::medium);
     column->setSpacing(10);

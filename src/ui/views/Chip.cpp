@@ -63,6 +63,7 @@ void Chip::paintEvent(QPaintEvent* /*event*/) {
     const double room = width() - 2 * besideText;
     painter.setFont(font);
     painter.setPen(theme.color(Ink::primary));
+    painter.setLayoutDirection(text_.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine,
                      QFontMetricsF{font}.elidedText(text_, Qt::ElideRight, std::ceil(room) + 1));
 }

@@ -1,7 +1,7 @@
-#include "ui/views/Accessibility.h"
 #include "ui/views/Buttons.h"
 
-#include <QAccessible>
+#include "ui/views/Accessibility.h"
+
 #include <QChildEvent>
 #include <QKeyEvent>
 #include <QLayout>
@@ -23,8 +23,7 @@ void ContentButton::setSelected(bool selected) {
     update();
     QAccessible::State changed;
     changed.selected = true;
-    QAccessibleStateChangeEvent event{this, changed};
-    QAccessible::updateAccessibility(&event);
+    announce(*this, changed);
 }
 
 void ContentButton::setExpanded(std::optional<bool> expanded) {
@@ -32,8 +31,17 @@ void ContentButton::setExpanded(std::optional<bool> expanded) {
     expanded_ = expanded;
     QAccessible::State changed;
     changed.expanded = true;
-    QAccessibleStateChangeEvent event{this, changed};
-    QAccessible::updateAccessibility(&event);
+    announce(*this, changed);
+}
+
+void ContentButton::setBusy(bool busy) {
+    if (busy_ == busy) return;
+    busy_ = busy;
+    setBrightWhileDisabled(*this, busy);
+    setEnabled(!busy);
+    QAccessible::State changed;
+    changed.busy = true;
+    announce(*this, changed);
 }
 
 void ContentButton::setCornerRadius(double radius) {

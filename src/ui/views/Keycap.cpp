@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
+#include <QHBoxLayout>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -25,6 +26,7 @@ constexpr double shadowOpacity = 0.18;
 constexpr double shadowRoom = 2;
 constexpr double darkCapOpacity = 0.55;
 constexpr double lightCapOpacity = 0.14;
+constexpr int betweenKeys = 3;
 constexpr double labelTint = 0.16;
 
 struct KeyName {
@@ -120,6 +122,44 @@ void KeyLabel::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(rounded(keyBox()), faded(theme.color(Ink::accent), labelTint));
     paintLabel(painter, theme.color(Ink::primary));
+}
+
+KeyRow::KeyRow(KeyKind kind, const QStringList& labels, QWidget* parent)
+    : View{parent},
+      kind_{kind} {
+    setLayoutDirection(Qt::LeftToRight);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    auto* row = new QHBoxLayout{this};
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(betweenKeys);
+    setLabels(labels);
+}
+
+void KeyRow::setLabels(const QStringList& labels) {
+    if (labels == labels_) return;
+    labels_ = labels;
+    while (QLayoutItem* item = layout()->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+    for (const QString& label : labels) {
+        KeyView* key = nullptr;
+        if (kind_ == KeyKind::label) {
+            key = new KeyLabel{label};
+        } else {
+            key = new Keycap{label, kind_ == KeyKind::darkCap};
+        }
+        layout()->addWidget(key);
+    }
+    announceText();
+}
+
+QAccessible::Role KeyRow::accessibleRole() const {
+    return QAccessible::Grouping;
+}
+
+QString KeyRow::accessibleText() const {
+    return spokenKeys(labels_);
 }
 
 QString spokenKeys(const QStringList& labels) {

@@ -55,6 +55,25 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
+enum class KeyKind { cap, darkCap, label };
+
+/// The keys of a shortcut side by side, in the order they are pressed in every writing direction.
+class KeyRow : public View {
+    Q_OBJECT
+
+public:
+    explicit KeyRow(KeyKind kind, const QStringList& labels = {}, QWidget* parent = nullptr);
+
+    void setLabels(const QStringList& labels);
+
+    [[nodiscard]] QAccessible::Role accessibleRole() const override;
+    [[nodiscard]] QString accessibleText() const override;
+
+private:
+    KeyKind kind_;
+    QStringList labels_;
+};
+
 /// The keys in words, one after the other: "Control Alt V" for ⌃, ⌥ and V.
 [[nodiscard]] QString spokenKeys(const QStringList& labels);
 

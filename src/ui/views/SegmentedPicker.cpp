@@ -4,9 +4,11 @@
 
 #include <QFontMetricsF>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QRadioButton>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quillon {
@@ -22,6 +24,8 @@ constexpr double leastHeight = 24;
 
 /// One of the choices.
 class Segment : public Themed<QRadioButton> {
+    Q_OBJECT
+
 public:
     using Themed::Themed;
 
@@ -40,6 +44,16 @@ protected:
         return rect().contains(position);
     }
 
+    void keyPressEvent(QKeyEvent* event) override {
+        const int step = stepOf(event->key());
+        if (step == 0) return Themed::keyPressEvent(event);
+        const auto all = parentWidget()->findChildren<Segment*>(Qt::FindDirectChildrenOnly);
+        const qsizetype next = all.indexOf(this) + step;
+        if (next < 0 || next >= all.size()) return;
+        all[next]->setFocus(Qt::TabFocusReason);
+        all[next]->setChecked(true);
+    }
+
     void paintEvent(QPaintEvent* /*event*/) override {
         const Theme theme = this->theme();
         QPainter painter{this};
@@ -53,11 +67,29 @@ protected:
         }
         painter.setFont(Theme::font(isChecked() ? Text::body.semibold() : Text::body));
         painter.setPen(theme.color(isChecked() ? Ink::primary : Ink::secondary));
+        painter.setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
         if (showsFocus()) theme.paintFocusRing(painter, rect(), segmentRadius);
     }
 
 private:
+    /// How far a key goes along the choices.
+    [[nodiscard]] int stepOf(int key) const {
+        const int right = layoutDirection() == Qt::RightToLeft ? -1 : 1;
+        switch (key) {
+        case Qt::Key_Right:
+            return right;
+        case Qt::Key_Left:
+            return -right;
+        case Qt::Key_Down:
+            return 1;
+        case Qt::Key_Up:
+            return -1;
+        default:
+            return 0;
+        }
+    }
+
     void paintPlate(QPainter& painter, const Theme& theme) const {
         const QRectF plate = QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5);
         painter.setPen(Qt::NoPen);
@@ -83,9 +115,17 @@ SegmentedPicker::SegmentedPicker(const QStringList& items, QWidget* parent) : Vi
         connect(segment, &QRadioButton::toggled, this, [this, index](bool on) {
             if (!on || index == current_) return;
             current_ = index;
+            keepOneTabStop();
             Q_EMIT picked(index);
         });
     }
+    keepOneTabStop();
+}
+
+void SegmentedPicker::keepOneTabStop() {
+    const auto stop = static_cast<std::size_t>(std::max(0, current_));
+    for (std::size_t i = 0; i < segments_.size(); ++i)
+        segments_[i]->setFocusPolicy(i == stop ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 int SegmentedPicker::currentIndex() const {
@@ -96,6 +136,7 @@ void SegmentedPicker::setCurrentIndex(int index) {
     if (index == current_) return;
     const int before = current_;
     current_ = index;
+    keepOneTabStop();
     if (index >= 0) return segments_.at(static_cast<std::size_t>(index))->setChecked(true);
     Segment* const last = segments_.at(static_cast<std::size_t>(before));
     last->setAutoExclusive(false); // or it would have to stay checked
@@ -120,3 +161,5 @@ void SegmentedPicker::paintEvent(QPaintEvent* /*event*/) {
 }
 
 } // namespace quillon
+
+#include "SegmentedPicker.moc"

@@ -36,6 +36,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void keepOneTabStop();
+
     std::vector<Segment*> segments_;
     int current_ = -1;
 };

@@ -1,5 +1,6 @@
 #include "ui/views/Spinner.h"
 
+#include "ui/views/Accessibility.h"
 #include "ui/views/Colors.h"
 #include "ui/views/Motion.h"
 
@@ -53,8 +54,7 @@ void Spinner::hideEvent(QHideEvent* event) {
 void Spinner::announceBusy() {
     QAccessible::State changed;
     changed.busy = true;
-    QAccessibleStateChangeEvent event{this, changed};
-    QAccessible::updateAccessibility(&event);
+    announce(*this, changed);
 }
 
 void Spinner::timerEvent(QTimerEvent* event) {

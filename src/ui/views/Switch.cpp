@@ -6,6 +6,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -73,7 +74,8 @@ void Switch::hideEvent(QHideEvent* event) {
 }
 
 TextBlock Switch::titleBlock() const {
-    return TextBlock{text(), Theme::font(Text::body), layoutDirection()};
+    return TextBlock::title(text(), Theme::font(Text::body), layoutDirection(),
+                            style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0);
 }
 
 double Switch::besideTitle() const {

@@ -18,11 +18,19 @@ const QString& stars() {
     return text;
 }
 
+/// Keeps what is before it and what is after it on one line, and shows nothing.
+constexpr QChar joiner{0x2060};
+
+/// Bold parts are names and commands: "/newbot" must not break behind its slash.
+QString joined(QString name) {
+    return name.replace(QLatin1Char{'/'}, QStringLiteral("/") + joiner);
+}
+
 } // namespace
 
 struct TextBlock::Parts {
     QString text;
-    std::vector<QTextLayout::FormatRange> bold;
+    std::vector<QTextLayout::FormatRange> formats;
 };
 
 /// Stars without a second pair after them are part of the text.
@@ -34,12 +42,13 @@ TextBlock::Parts TextBlock::parts(const QString& text) {
         const qsizetype close = open < 0 ? -1 : text.indexOf(stars(), open + stars().size());
         if (close < 0) break;
         parts.text += text.mid(from, open - from);
-        const QString content = text.mid(open + stars().size(), close - open - stars().size());
+        const QString content =
+            joined(text.mid(open + stars().size(), close - open - stars().size()));
         QTextLayout::FormatRange range{.start = static_cast<int>(parts.text.size()),
                                        .length = static_cast<int>(content.size()),
                                        .format = {}};
         range.format.setFontWeight(QFont::Bold);
-        parts.bold.push_back(range);
+        parts.formats.push_back(range);
         parts.text += content;
         from = close + stars().size();
     }
@@ -47,23 +56,46 @@ TextBlock::Parts TextBlock::parts(const QString& text) {
     return parts;
 }
 
-TextBlock::TextBlock(const QString& text, const QFont& font, Qt::LayoutDirection direction)
-    : font_{font},
+/// Two "&" stand for one.
+TextBlock::Parts TextBlock::titleParts(const QString& text, bool underlined) {
+    Parts parts;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool mark = text[i] == QLatin1Char{'&'} && i + 1 < text.size();
+        if (mark) ++i;
+        if (mark && underlined && text[i] != QLatin1Char{'&'}) {
+            parts.formats.push_back(
+                {.start = static_cast<int>(parts.text.size()), .length = 1, .format = {}});
+            parts.formats.back().format.setFontUnderline(true);
+        }
+        parts.text += text[i];
+    }
+    return parts;
+}
+
+TextBlock::TextBlock(Parts parts, const QFont& font, Qt::LayoutDirection direction)
+    : text_{std::move(parts.text)},
+      font_{font},
+      formats_{std::move(parts.formats)},
       direction_{direction} {
-    Parts found = parts(text);
-    text_ = std::move(found.text);
-    bold_ = std::move(found.bold);
     layout_.setFont(font_);
 }
 
+TextBlock::TextBlock(const QString& text, const QFont& font, Qt::LayoutDirection direction)
+    : TextBlock{parts(text), font, direction} {}
+
+TextBlock TextBlock::title(const QString& text, const QFont& font, Qt::LayoutDirection direction,
+                           bool underlined) {
+    return TextBlock{titleParts(text, underlined), font, direction};
+}
+
 QString TextBlock::plain(const QString& text) {
-    return parts(text).text;
+    return parts(text).text.remove(joiner);
 }
 
 QSizeF TextBlock::wrap(double width) {
     elided_ = false;
     layout_.setText(text_);
-    layout_.setFormats(QList<QTextLayout::FormatRange>{bold_.begin(), bold_.end()});
+    layout_.setFormats(QList<QTextLayout::FormatRange>{formats_.begin(), formats_.end()});
     return layOut(width);
 }
 
@@ -76,6 +108,10 @@ QSizeF TextBlock::elide(double width, Qt::TextElideMode mode) {
     return layOut(width);
 }
 
+QString TextBlock::shownText() const {
+    return layout_.text().remove(joiner);
+}
+
 double TextBlock::naturalWidth() {
     return wrap(unlimited).width();
 }
@@ -86,7 +122,10 @@ double TextBlock::lineHeight() const {
 
 QSizeF TextBlock::layOut(double width) {
     QTextOption option;
-    option.setTextDirection(direction_);
+    // Names and untranslated texts are written their own way, wherever the lines begin.
+    option.setTextDirection(Qt::LayoutDirectionAuto);
+    option.setAlignment(Qt::AlignAbsolute |
+                        (direction_ == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft));
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout_.setTextOption(option);
     double bottom = 0;

@@ -17,6 +17,10 @@ public:
     /// `text` is written with its bold parts between pairs of two stars: "Tap **Save** twice".
     TextBlock(const QString& text, const QFont& font, Qt::LayoutDirection direction);
 
+    /// The title of a control, whose mnemonic is marked by an "&" and, with `underlined`, shown.
+    [[nodiscard]] static TextBlock title(const QString& text, const QFont& font,
+                                         Qt::LayoutDirection direction, bool underlined);
+
     /// The text without stars.
     [[nodiscard]] static QString plain(const QString& text);
 
@@ -28,7 +32,7 @@ public:
     /// Whether elide() lost something.
     [[nodiscard]] bool elided() const { return elided_; }
     /// What was laid out last: the text without what it lost.
-    [[nodiscard]] QString shownText() const { return layout_.text(); }
+    [[nodiscard]] QString shownText() const;
     /// The width it has on one line.
     [[nodiscard]] double naturalWidth();
     /// The height of its first line.
@@ -39,12 +43,14 @@ public:
 
 private:
     struct Parts;
+    TextBlock(Parts parts, const QFont& font, Qt::LayoutDirection direction);
     static Parts parts(const QString& text);
+    static Parts titleParts(const QString& text, bool underlined);
     QSizeF layOut(double width);
 
     QString text_;
     QFont font_;
-    std::vector<QTextLayout::FormatRange> bold_;
+    std::vector<QTextLayout::FormatRange> formats_;
     Qt::LayoutDirection direction_;
     QTextLayout layout_;
     bool elided_ = false;

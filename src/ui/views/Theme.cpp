@@ -15,16 +15,28 @@
 namespace quillon {
 namespace {
 
-constexpr double secondaryOpacity = 0.70;
-constexpr double tertiaryOpacity = 0.58;
+constexpr double secondaryOpacity = 0.72;
+constexpr double tertiaryOpacity = 0.62;
 constexpr double lightCard = 0.62; // of white over the window's colour
 constexpr double darkCard = 0.06;
 constexpr double tileContrast = 2;
 constexpr QColor red{235, 60, 60};
+/// Darkened to be legible, the palette's orange would be brown.
+constexpr QColor deepOrange{222, 98, 0};
+constexpr const char* brightProperty = "quillon_bright";
+
+/// Disabled, and not within something that keeps its colours while it is.
+bool looksDisabled(const QWidget& widget) {
+    if (widget.isEnabled()) return false;
+    for (const QWidget* each = &widget; each; each = each->parentWidget()) {
+        if (each->property(brightProperty).toBool()) return false;
+    }
+    return true;
+}
 
 } // namespace
 
-Theme::Theme(const QWidget& widget) : Theme{widget.palette(), widget.isEnabled()} {}
+Theme::Theme(const QWidget& widget) : Theme{widget.palette(), !looksDisabled(widget)} {}
 
 Theme::Theme(const QPalette& palette, bool enabled) : palette_{palette}, enabled_{enabled} {
     palette_.setCurrentColorGroup(QPalette::Active);
@@ -45,7 +57,7 @@ QColor Theme::color(const Tint& tint) const {
     case Ink::accent:
         return fill(legible(dark_ ? Brand::coral : Brand::coralDeep, cardFill(), graphicContrast));
     case Ink::warning:
-        return fill(readable(Palette::orange));
+        return fill(readable(dark_ ? Palette::orange : deepOrange));
     case Ink::destructive:
         return fill(readable(red));
     }
@@ -115,6 +127,10 @@ double Theme::textScale() {
 
 double Theme::length(double points) {
     return points * std::max(1.0, textScale());
+}
+
+void setBrightWhileDisabled(QWidget& widget, bool bright) {
+    widget.setProperty(brightProperty, bright);
 }
 
 void setOpacity(QWidget& widget, double opacity) {

@@ -95,6 +95,10 @@ private:
 /// How visible a disabled thing is, and a thing whose turn has not come.
 inline constexpr double dimmedOpacity = 0.45;
 
+/// Whether the widget and all that is in it keep their colours while the widget is disabled: when
+/// it is only for a moment, and what it says is still to be read.
+void setBrightWhileDisabled(QWidget& widget, bool bright);
+
 /// Shows the widget and all that is in it at this opacity, from 0 to 1.
 void setOpacity(QWidget& widget, double opacity);
 

@@ -12,7 +12,7 @@ namespace quillon {
 namespace {
 
 constexpr double sidePoints = 22;
-constexpr double symbolShare = 0.55;
+constexpr double symbolShare = 0.58;
 constexpr double cornerShare = 0.27;
 
 } // namespace

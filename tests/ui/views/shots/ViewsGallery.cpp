@@ -73,7 +73,7 @@ QWidget* disabled(QWidget* view) {
     return view;
 }
 
-QWidget* sendButton() {
+ContentButton* sendButton() {
     auto* button = new CoralButton;
     button->setCornerRadius(Space::cardRadius);
     button->setAccessibleName("Send clipboard to phone"_q);
@@ -93,10 +93,7 @@ QWidget* sendButton() {
     content->addWidget(symbol);
     content->addLayout(texts, 1);
     content->addSpacing(6);
-    auto* keys =
-        row({new Keycap{"⌃"_q, true}, new Keycap{"⌥"_q, true}, new Keycap{"V"_q, true}}, 3);
-    keys->takeAt(3);
-    content->addLayout(keys);
+    content->addWidget(new KeyRow{KeyKind::darkCap, {"⌃"_q, "⌥"_q, "V"_q}});
     return button;
 }
 
@@ -122,8 +119,8 @@ Card* textCard() {
         "You're all set."_q,
         "checkmark.seal.fill",
         {.style = Text::headline, .symbolInk = Ink::accent, .align = Qt::AlignHCenter}});
-    card->body()->addLayout(row({new Keycap{"⌃"_q}, new Keycap{"⌥"_q}, new Keycap{"V"_q},
-                                 new KeyLabel{"⌃"_q}, new KeyLabel{"⌥"_q}, new KeyLabel{"V"_q},
+    const QStringList keys{"⌃"_q, "⌥"_q, "V"_q};
+    card->body()->addLayout(row({new KeyRow{KeyKind::cap, keys}, new KeyRow{KeyKind::label, keys},
                                  new Spinner, new SymbolView{"power", {.size = 20}}}));
     return card;
 }
@@ -178,7 +175,9 @@ Card* buttonsCard() {
          button("Plain", "trash", plain), button("", "chevron.down", bordered),
          new TextButton{"Save names to Telegram"_q, telegramSymbol, {.symbolInk = telegramBlue}}}));
     card->body()->addWidget(sendButton());
-    card->body()->addWidget(disabled(sendButton()));
+    auto* busy = sendButton();
+    busy->setBusy(true);
+    card->body()->addWidget(busy);
     return card;
 }
 

@@ -1,0 +1,112 @@
+#include "Accessible.h"
+
+#include "artwork/Brand.h"
+#include "artwork/Palette.h"
+#include "ui/views/Card.h"
+#include "ui/views/Colors.h"
+#include "ui/views/IconLabel.h"
+#include "ui/views/Keycap.h"
+#include "ui/views/SymbolView.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+TEST(IconLabel, SaysItsTextWithoutTheStarsOfBoldParts) {
+    struct {
+        const char* text;
+        const char* plain;
+    } const cases[] = {
+        {"Tap **Save** twice", "Tap Save twice"},
+        {"**New Group** → **Promote**", "New Group → Promote"},
+        {"send **/newbot** and", "send /newbot and"},
+        {"2 ** 3", "2 ** 3"},
+        {"**a** ** b", "a ** b"},
+        {"*.png", "*.png"},
+    };
+    for (const auto& each : cases) {
+        IconLabel label{QString::fromUtf8(each.text)};
+        EXPECT_EQ(accessibleName(label), each.plain);
+        EXPECT_EQ(label.shownText().toStdString(), each.plain);
+        EXPECT_EQ(accessible(label).role(), QAccessible::StaticText);
+    }
+}
+
+TEST(IconLabel, ALongNameLosesItsMiddleOnTheScreenButIsReadWhole) {
+    const QString name = QStringLiteral("Quarterly-") + QStringLiteral("long-").repeated(40) +
+                         QStringLiteral("end.pdf");
+    IconLabel middle{name, "doc", {.overflow = Overflow::elideMiddle}};
+    middle.resize(200, 20);
+    EXPECT_THAT(middle.shownText().toStdString(), StartsWith("Quart"));
+    EXPECT_THAT(middle.shownText().toStdString(), EndsWith("end.pdf"));
+    EXPECT_THAT(middle.shownText().toStdString(), HasSubstr("…"));
+    EXPECT_EQ(accessibleName(middle), name.toStdString());
+    EXPECT_LT(middle.minimumSizeHint().width(), 150) << "would push its row apart";
+
+    middle.setLook({.overflow = Overflow::elideEnd});
+    EXPECT_THAT(middle.shownText().toStdString(), EndsWith("…"));
+    middle.resize(middle.sizeHint());
+    EXPECT_EQ(middle.shownText(), name) << "it asks for the room it needs";
+}
+
+TEST(IconLabel, GrowsDownwardsAsItBecomesNarrower) {
+    const IconLabel label{QStringLiteral("several words of a paragraph ").repeated(4), "link"};
+    const int line = label.minimumSizeHint().height();
+    EXPECT_EQ(label.heightForWidth(10'000), line);
+    EXPECT_GE(label.heightForWidth(200), 3 * line);
+    EXPECT_GT(label.heightForWidth(100), label.heightForWidth(200));
+}
+
+TEST(Views, TellAssistiveTechnologyWhatTheyShow) {
+    Card card{QStringLiteral("Shortcut"), "command"};
+    EXPECT_EQ(accessible(card).role(), QAccessible::Grouping);
+    EXPECT_EQ(accessibleName(card), "Shortcut");
+    SymbolView decoration{"power"};
+    EXPECT_TRUE(accessible(decoration).state().invisible);
+    decoration.setAccessibleName(QStringLiteral("Sent"));
+    decoration.show();
+    EXPECT_FALSE(accessible(decoration).state().invisible);
+    Keycap cap{QStringLiteral("⌃")};
+    EXPECT_EQ(accessibleName(cap), "Control");
+    EXPECT_EQ(spokenKeys({QStringLiteral("⌃"), QStringLiteral("⌥"), QStringLiteral("V")}),
+              QStringLiteral("Control Alt V"));
+    IconLabel label{QStringLiteral("one")};
+    label.setText(QStringLiteral("two"));
+    EXPECT_EQ(accessibleName(label), "two");
+}
+
+TEST(Theme, TextKeepsItsContrastOnEveryGround) {
+    for (const QColor ground : {QColor{Qt::white}, QColor{239, 240, 241}, QColor{246, 240, 220},
+                                QColor{60, 60, 60}, QColor{36, 38, 42}, QColor{Qt::black}}) {
+        const Theme theme{QPalette{ground}};
+        EXPECT_EQ(theme.dark(), ground.lightness() < 128);
+        for (const Ink ink : {Ink::primary, Ink::secondary, Ink::tertiary, Ink::warning,
+                              Ink::destructive, Ink::accent}) {
+            const double least = ink == Ink::accent ? graphicContrast : textContrast;
+            const QColor card = theme.cardFill();
+            EXPECT_GE(contrast(laidOver(theme.color(ink), card), card), least * 0.97)
+                << ground.name().toStdString() << " ink " << static_cast<int>(ink);
+        }
+    }
+}
+
+TEST(Colors, ALegibleColourKeepsItsHueAndGoesNoFurtherThanItMust) {
+    EXPECT_EQ(legible(Brand::navy, Qt::white, textContrast), Brand::navy);
+    for (const QColor color : {Palette::yellow, Palette::pink, Palette::blue, Palette::green}) {
+        for (const QColor ground : {QColor{Qt::white}, QColor{Qt::black}, QColor{110, 110, 110}}) {
+            const QColor result = legible(color, ground, textContrast);
+            EXPECT_GE(contrast(result, ground), textContrast);
+            if (result == color) continue;
+            EXPECT_LT(contrast(result, ground), textContrast + 0.2);
+            EXPECT_NEAR(result.hslHue(), color.hslHue(), 3);
+        }
+    }
+}
+
+} // namespace
+} // namespace quillon::test
