@@ -1,0 +1,136 @@
+#include "ui/settings/SettingsView.h"
+
+#include "ui/settings/GeneralView.h"
+#include "ui/settings/TabStrip.h"
+#include "ui/settings/TopicsView.h"
+#include "ui/setup/SetupView.h"
+#include "ui/views/Card.h"
+
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr double designWidth = 540;
+
+struct Tab {
+    const char* tag;
+    const char* title;
+    const char* symbol;
+};
+
+constexpr std::array<Tab, 3> tabs{{
+    {"setup", QT_TRANSLATE_NOOP("quillon::SettingsView", "&Setup"), "checklist"},
+    {"topics", QT_TRANSLATE_NOOP("quillon::SettingsView", "&Topics"),
+     "bubble.left.and.bubble.right.fill"},
+    {"general", QT_TRANSLATE_NOOP("quillon::SettingsView", "&General"), "gearshape.fill"},
+}};
+
+} // namespace
+
+SettingsView::SettingsView(Store& store, Updater& updater, SettingsActions actions,
+                           const QString& tab, QWidget* parent)
+    : View{parent},
+      setup_{new SetupView{store}},
+      tabs_{new TabStrip},
+      pages_{new QWidget},
+      measuring_{this, [this] { measure(); }} {
+    build();
+    addPage(setup_);
+    addPage(new TopicsView{store});
+    addPage(new GeneralView{store, updater, std::move(actions)});
+    connect(tabs_, &QTabBar::currentChanged, this, &SettingsView::showPage);
+    setTab(tab);
+    showPage(tabs_->currentIndex());
+}
+
+void SettingsView::build() {
+    for (const Tab& each : tabs)
+        tabs_->add(tr(each.title), each.symbol);
+    tabs_->setAccessibleName(tr("Settings"));
+    auto* stack = new QVBoxLayout{pages_};
+    stack->setContentsMargins(0, 0, 0, 0);
+    pages_->installEventFilter(this);
+    scroll_ = new QScrollArea;
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll_->setWidgetResizable(true);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->setWidget(pages_);
+    scroll_->viewport()->setAutoFillBackground(false);
+    pages_->setAutoFillBackground(false);
+    auto* column = new QVBoxLayout{this};
+    column->setContentsMargins(0, Space::small, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(tabs_, 0, Qt::AlignHCenter);
+    column->addSpacing(Space::small);
+    column->addWidget(new Divider);
+    column->addWidget(scroll_, 1);
+}
+
+void SettingsView::addPage(QWidget* page) {
+    page->hide();
+    pages_->layout()->addWidget(page);
+    pageList_.push_back(page);
+}
+
+QString SettingsView::tab() const {
+    return QString::fromLatin1(tabs.at(static_cast<std::size_t>(tabs_->currentIndex())).tag);
+}
+
+void SettingsView::setTab(const QString& tag) {
+    for (std::size_t i = 0; i < tabs.size(); ++i) {
+        if (tag == QLatin1String{tabs.at(i).tag}) tabs_->setCurrentIndex(static_cast<int>(i));
+    }
+}
+
+void SettingsView::showPage(int index) {
+    for (int i = 0; i < static_cast<int>(pageList_.size()); ++i)
+        pageList_[static_cast<std::size_t>(i)]->setVisible(i == index);
+    measuring_.schedule();
+}
+
+int SettingsView::fittingWidth() {
+    return static_cast<int>(std::ceil(Theme::length(designWidth)));
+}
+
+int SettingsView::fittingHeight() const {
+    const QWidget* page = pageList_.at(static_cast<std::size_t>(tabs_->currentIndex()));
+    const int above = Space::small + tabs_->sizeHint().height() + Space::small + 1;
+    const int height = above + page->heightForWidth(fittingWidth());
+    if (page != setup_ || !setup_->moving()) return height;
+    // The window changes once: before the guide's rows take more room, after they gave some back.
+    return std::max(reported_, height + setup_->growthAhead());
+}
+
+void SettingsView::measure() {
+    const int height = fittingHeight();
+    if (height == reported_) return;
+    reported_ = height;
+    updateGeometry();
+    Q_EMIT fittingHeightChanged(height);
+}
+
+bool SettingsView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == pages_ && event->type() == QEvent::LayoutRequest) measuring_.schedule();
+    return View::eventFilter(watched, event);
+}
+
+void SettingsView::showEvent(QShowEvent* event) {
+    View::showEvent(event);
+    measuring_.schedule();
+}
+
+void SettingsView::themeChanged() {
+    View::themeChanged();
+    measuring_.schedule();
+}
+
+} // namespace quillon

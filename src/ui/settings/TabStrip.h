@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ui/views/Themed.h"
+
+#include <QTabBar>
+
+#include <string>
+#include <vector>
+
+namespace quillon {
+
+/// The tabs of a window, each a symbol above its title. Arrow keys and mnemonics switch, too.
+class TabStrip : public Themed<QTabBar> {
+    Q_OBJECT
+
+public:
+    explicit TabStrip(QWidget* parent = nullptr);
+
+    void add(const QString& title, const std::string& symbol);
+
+protected:
+    [[nodiscard]] QSize tabSizeHint(int index) const override;
+    [[nodiscard]] QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void paintTab(QPainter& painter, int index) const;
+
+    std::vector<std::string> symbols_;
+    int hovered_ = -1;
+};
+
+} // namespace quillon

@@ -1,0 +1,96 @@
+#include "ui/settings/TopicRow.h"
+
+#include "ui/views/IconLabel.h"
+#include "ui/views/TextField.h"
+#include "ui/views/Tile.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace quillon {
+
+namespace {
+
+constexpr int betweenParts = 10;
+constexpr double ruleWidth = 120;
+
+/// What is said about the topic of a kind of content.
+struct Caption {
+    std::string_view key;
+    const char* hint;
+    const char* rule;
+};
+
+constexpr const char* context = "quillon::TopicRow";
+
+constexpr std::array<Caption, 4> captions{{
+    {"notes", QT_TRANSLATE_NOOP("quillon::TopicRow", "Text"),
+     QT_TRANSLATE_NOOP("quillon::TopicRow", "copied text")},
+    {"images", QT_TRANSLATE_NOOP("quillon::TopicRow", "Pictures"),
+     QT_TRANSLATE_NOOP("quillon::TopicRow", "pictures")},
+    {"files", QT_TRANSLATE_NOOP("quillon::TopicRow", "Files"),
+     QT_TRANSLATE_NOOP("quillon::TopicRow", "any other file")},
+    {"videos", QT_TRANSLATE_NOOP("quillon::TopicRow", "Videos"),
+     QT_TRANSLATE_NOOP("quillon::TopicRow", "video files")},
+}};
+
+const Caption* captionOf(const std::string& key) {
+    const auto* found = std::ranges::find(captions, key, &Caption::key);
+    return found == captions.end() ? nullptr : found;
+}
+
+/// What the name's field shows while it is empty.
+QString hint(const std::string& key) {
+    const Caption* caption = captionOf(key);
+    return caption ? QCoreApplication::translate(context, caption->hint)
+                   : QString::fromStdString(key);
+}
+
+/// What goes to the topic.
+QString rule(const std::string& key) {
+    const Caption* caption = captionOf(key);
+    return caption ? QCoreApplication::translate(context, caption->rule) : QString{};
+}
+
+} // namespace
+
+TopicRow::TopicRow(QWidget* parent)
+    : View{parent},
+      tile_{new Tile{{}, {}}},
+      name_{new TextField},
+      rule_{new IconLabel{{}, {}, {.style = Text::caption, .ink = Ink::secondary}}} {
+    auto* row = new QHBoxLayout{this};
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(betweenParts);
+    row->addWidget(tile_);
+    row->addWidget(name_, 1);
+    row->addWidget(rule_);
+    sizeRule();
+    connect(name_, &QLineEdit::textEdited, this, &TopicRow::edited);
+}
+
+void TopicRow::setTopic(const Topic& topic) {
+    tile_->setSymbol(std::string{topic.symbol()}, QColor::fromRgb(static_cast<QRgb>(topic.color)));
+    name_->setPlaceholderText(hint(topic.key));
+    name_->setAccessibleName(hint(topic.key));
+    name_->setAccessibleDescription(rule(topic.key));
+    rule_->setText(rule(topic.key));
+    // What the user is typing is already the topic's name, so that this is a name from elsewhere.
+    const QString name = QString::fromStdString(topic.name);
+    if (name_->text() != name) name_->setText(name);
+}
+
+void TopicRow::themeChanged() {
+    View::themeChanged();
+    sizeRule();
+}
+
+void TopicRow::sizeRule() {
+    rule_->setFixedWidth(static_cast<int>(std::ceil(Theme::length(ruleWidth))));
+}
+
+} // namespace quillon

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "state/Topic.h"
+#include "ui/views/View.h"
+
+namespace quillon {
+
+class IconLabel;
+class TextField;
+class Tile;
+
+/// The name of one topic, to be edited.
+class TopicRow : public View {
+    Q_OBJECT
+
+public:
+    explicit TopicRow(QWidget* parent = nullptr);
+
+    void setTopic(const Topic& topic);
+
+Q_SIGNALS:
+    /// The user changed the name.
+    void edited(const QString& name);
+
+protected:
+    void themeChanged() override;
+
+private:
+    void sizeRule();
+
+    Tile* tile_;
+    TextField* name_;
+    IconLabel* rule_;
+};
+
+} // namespace quillon

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "ui/views/Refresher.h"
+#include "ui/views/View.h"
+
+#include <QCoroTask>
+#include <QPointer>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+class QVBoxLayout;
+
+namespace quillon {
+
+class Card;
+class IconLabel;
+class Store;
+class TextButton;
+class TopicRow;
+
+/// The names of the topics: kept as they are typed, and given to Telegram on demand.
+class TopicsView : public View {
+    Q_OBJECT
+
+public:
+    explicit TopicsView(Store& store, QWidget* parent = nullptr);
+
+private:
+    [[nodiscard]] Card* buildNames();
+
+    void refresh();
+    void refreshRows();
+    void refreshStatus();
+    void rename(std::size_t topic, const QString& name);
+    void save();
+    static QCoro::Task<> perform(QPointer<TopicsView> view, Store& store);
+    /// `editsBefore` are those that the save has taken along.
+    void finish(const std::optional<std::string>& error, int editsBefore);
+
+    Store& store_;
+    std::optional<QString> status_;
+    bool edited_ = false;
+    /// How often the user changed a name.
+    int edits_ = 0;
+    std::vector<TopicRow*> rows_;
+    QVBoxLayout* names_ = nullptr;
+    TextButton* save_ = nullptr;
+    IconLabel* statusLine_ = nullptr;
+    Refresher refresher_;
+};
+
+} // namespace quillon

@@ -1,0 +1,48 @@
+#include "ui/settings/UpdatesCard.h"
+
+#include "artwork/Palette.h"
+#include "maintenance/Updater.h"
+#include "ui/settings/SettingRow.h"
+#include "ui/views/Buttons.h"
+#include "ui/views/Switch.h"
+
+#include <utility>
+
+namespace quillon {
+
+UpdatesCard::UpdatesCard(Updater& updater, std::function<void()> activate, QWidget* parent)
+    : Card{tr("Updates"), "arrow.down.circle.fill", parent},
+      updater_{updater},
+      activate_{std::move(activate)},
+      automatic_{new Switch{tr("Check for updates &automatically"), "arrow.triangle.2.circlepath",
+                            Palette::purple}},
+      version_{new TileLabel{{}, "info.circle.fill", Palette::gray}},
+      check_{new TextButton{tr("Check &now"), "arrow.down.circle"}},
+      refresher_{this, [this] { refresh(); }} {
+    body()->addWidget(automatic_);
+    body()->addLayout(settingRow(version_, check_));
+    connect(automatic_, &Switch::clicked, this, &UpdatesCard::setAutomatic);
+    connect(check_, &TextButton::clicked, this, &UpdatesCard::checkNow);
+    refresher_.watch(updater, &Updater::objectWillChange);
+    refresh();
+}
+
+void UpdatesCard::refresh() {
+    const UpdateFramework* controller = updater_.controller();
+    automatic_->setChecked(controller && controller->automaticallyChecksForUpdates());
+    version_->setTitle(tr("Version %1").arg(QString::fromStdString(updater_.version())));
+    check_->setEnabled(updater_.canCheck());
+}
+
+void UpdatesCard::setAutomatic(bool automatically) {
+    if (UpdateFramework* controller = updater_.controller())
+        controller->setAutomaticallyChecksForUpdates(automatically);
+    Q_EMIT updater_.objectWillChange();
+}
+
+void UpdatesCard::checkNow() {
+    activate_();
+    if (UpdateFramework* controller = updater_.controller()) controller->checkForUpdates();
+}
+
+} // namespace quillon

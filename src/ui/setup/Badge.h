@@ -1,0 +1,41 @@
+#pragma once
+
+#include "ui/views/View.h"
+
+#include <string>
+
+namespace quillon {
+
+/// A number or a symbol in a small tinted circle.
+class Badge : public View {
+    Q_OBJECT
+
+public:
+    explicit Badge(QWidget* parent = nullptr);
+
+    /// A number, or a symbol on a lighter or darker ground of the same tint.
+    void setNumber(int number);
+    void setSymbol(const std::string& symbol);
+    /// The checkmark of what is done, on a full circle.
+    void setDone();
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    [[nodiscard]] QAccessible::Role accessibleRole() const override;
+    [[nodiscard]] QString accessibleText() const override;
+
+    /// Its diameter in device-independent pixels.
+    [[nodiscard]] static int side();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void set(int number, const std::string& symbol, bool done);
+
+    int number_ = 0;
+    std::string symbol_;
+    bool done_ = false;
+};
+
+} // namespace quillon

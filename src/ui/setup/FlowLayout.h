@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QLayout>
+
+#include <memory>
+#include <vector>
+
+namespace quillon {
+
+/// Items one after the other in the direction of writing, on as many lines as they need. One that
+/// is wider than a line gets the line's width.
+class FlowLayout : public QLayout {
+    Q_OBJECT
+
+public:
+    /// `spacing` in device-independent pixels, between items and between lines.
+    explicit FlowLayout(int spacing, QWidget* parent = nullptr);
+    ~FlowLayout() override;
+
+    void addItem(QLayoutItem* item) override;
+    [[nodiscard]] int count() const override { return static_cast<int>(items_.size()); }
+    [[nodiscard]] QLayoutItem* itemAt(int index) const override;
+    QLayoutItem* takeAt(int index) override;
+
+    /// All on one line.
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSize() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+    [[nodiscard]] Qt::Orientations expandingDirections() const override { return {}; }
+    void setGeometry(const QRect& frame) override;
+
+private:
+    /// Gives the height; moves the items only if told to.
+    int arrange(const QRect& frame, bool move) const;
+
+    std::vector<std::unique_ptr<QLayoutItem>> items_;
+};
+
+} // namespace quillon

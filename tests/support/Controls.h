@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QGraphicsOpacityEffect>
+#include <QTest>
+#include <QWidget>
+
+#include <stdexcept>
+
+namespace quillon::test {
+
+/// What a user of assistive technology, a mouse or a keyboard finds in a window: the widgets that
+/// show, by their accessible names.
+class Controls {
+public:
+    /// Shows the window.
+    explicit Controls(QWidget& root) : root_{root} {
+        root.show();
+        QCoreApplication::processEvents();
+    }
+
+    [[nodiscard]] static QString nameOf(QWidget* widget) {
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+        return accessible ? accessible->text(QAccessible::Name) : QString{};
+    }
+
+    /// Null when none shows.
+    template <typename T = QWidget>
+    [[nodiscard]] T* find(const QString& name) const {
+        for (T* each : root_.findChildren<T*>()) {
+            if (each->isVisible() && nameOf(each) == name) return each;
+        }
+        return nullptr;
+    }
+
+    template <typename T = QAbstractButton>
+    [[nodiscard]] T& get(const QString& name) const {
+        T* found = find<T>(name);
+        if (!found) throw std::runtime_error{"there is no \"" + name.toStdString() + "\""};
+        return *found;
+    }
+
+    [[nodiscard]] bool shows(const QString& name) const { return find(name) != nullptr; }
+    template <typename T = QAbstractButton>
+    [[nodiscard]] bool enabled(const QString& name) const {
+        return get<T>(name).isEnabled();
+    }
+
+    /// In its middle; what is disabled does not notice.
+    template <typename T = QAbstractButton>
+    void click(const QString& name) const {
+        QTest::mouseClick(&get<T>(name), Qt::LeftButton);
+        QCoreApplication::processEvents();
+    }
+
+    /// Of a widget with all that it lies in.
+    [[nodiscard]] double opacity(const QString& name) const {
+        double opacity = 1;
+        for (QWidget* at = &get<QWidget>(name); at; at = at->parentWidget()) {
+            if (const auto* effect = qobject_cast<QGraphicsOpacityEffect*>(at->graphicsEffect()))
+                opacity *= effect->opacity();
+        }
+        return opacity;
+    }
+
+private:
+    QWidget& root_;
+};
+
+} // namespace quillon::test

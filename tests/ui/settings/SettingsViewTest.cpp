@@ -1,0 +1,294 @@
+#include "ui/settings/SettingsView.h"
+
+#include "maintenance/Updater.h"
+#include "support/ConnectedWorld.h"
+#include "support/Controls.h"
+#include "support/Faults.h"
+#include "ui/settings/FakeFramework.h"
+#include "ui/settings/PositionCard.h"
+#include "ui/settings/UninstallSheet.h"
+#include "ui/views/Motion.h"
+#include "ui/views/Switch.h"
+
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTabBar>
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+QString text(const char* utf8) {
+    return QString::fromUtf8(utf8);
+}
+
+/// The settings in a window, over a store that has gone through its setup.
+struct SettingsTest : testing::Test {
+    SettingsTest() { setAnimationsEnabled(false); }
+    ~SettingsTest() override { setAnimationsEnabled(std::nullopt); }
+
+    /// Starts the updater of a program that can be updated.
+    void startUpdater() {
+        world.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
+        updater.start();
+        turn();
+    }
+    static void turn() { QCoreApplication::processEvents(); }
+    void show(const char* tab) {
+        view.setTab(text(tab));
+        turn();
+    }
+    void change(const std::function<void(Config&)>& how) const {
+        world.store->changeConfig(how);
+        turn();
+    }
+    [[nodiscard]] bool shows(const char* name) const { return controls.shows(text(name)); }
+    [[nodiscard]] bool on(const char* name) const {
+        return controls.get<Switch>(text(name)).isChecked();
+    }
+    [[nodiscard]] const Config& config() const { return world.store->config(); }
+
+    ConnectedWorld world;
+    FakeFramework* framework = nullptr;
+    Updater updater{world.platform, *world.analytics,
+                    UpdaterHooks{.makeFramework =
+                                     [this] {
+                                         auto made = std::make_unique<FakeFramework>();
+                                         framework = made.get();
+                                         return made;
+                                     },
+                                 .shouldAskToMove = [] { return false; },
+                                 .askToMove = {},
+                                 .log = [](const std::string&) {}}};
+    int uninstalls = 0;
+    SettingsView view{
+        *world.store, updater,
+        SettingsActions{.showBanner =
+                            [this](std::string said, std::string symbol, bool ok, bool sticky) {
+                                world.banner.show(std::move(said), std::move(symbol), ok, sticky);
+                            },
+                        .activate = [this] { world.workspace.activate(); },
+                        .uninstall = [this]() -> QCoro::Task<> {
+                            ++uninstalls;
+                            co_return;
+                        }},
+        QStringLiteral("setup")};
+    Controls controls{view};
+};
+
+} // namespace
+
+TEST_F(SettingsTest, ReportsTheHeightOfEachTab) {
+    std::vector<int> reported;
+    QObject::connect(&view, &SettingsView::fittingHeightChanged, &view,
+                     [&](int height) { reported.push_back(height); });
+    auto& tabs = controls.get<QTabBar>(text("Settings"));
+    EXPECT_TRUE(shows("Create your bot"));
+    tabs.setFocus();
+    QTest::keyClick(&tabs, Qt::Key_Right);
+    turn();
+    EXPECT_EQ(view.tab(), QStringLiteral("topics"));
+    EXPECT_FALSE(shows("Create your bot"));
+    ASSERT_THAT(reported, testing::SizeIs(1));
+    EXPECT_EQ(reported.back(), view.fittingHeight());
+    // One more topic makes the tab higher, without anybody's asking.
+    change([](Config& config) { config.topics.push_back({"links", "Links", 0xFFD67E, 9}); });
+    turn();
+    ASSERT_THAT(reported, testing::SizeIs(2));
+    EXPECT_GT(reported[1], reported[0]);
+    show("nowhere");
+    EXPECT_EQ(view.tab(), QStringLiteral("topics"));
+}
+
+TEST_F(SettingsTest, RegistersThePickedShortcutAndTellsOfOneThatIsTaken) {
+    show("general");
+    world.store->registerShortcut();
+    EXPECT_FALSE(shows("Another app already uses ⌃⌥P. Pick another one."));
+    std::set<PhysicalKey> all;
+    for (const auto& key : world.hotKeys.registered)
+        all.insert(key);
+    controls.click(text("Control Alt P"));
+    EXPECT_EQ(config().shortcut, ShortcutChoice::ctrlOptP);
+    ASSERT_EQ(world.hotKeys.registered.size(), 1U);
+    EXPECT_FALSE(all.contains(*world.hotKeys.registered.begin()));
+
+    world.hotKeys.takenByOthers = all;
+    controls.click(text("Control Alt V"));
+    turn();
+    EXPECT_TRUE(shows("Another app already uses ⌃⌥V. Pick another one."));
+    controls.click(text("Control Alt P"));
+    turn();
+    EXPECT_FALSE(shows("Another app already uses ⌃⌥P. Pick another one."));
+}
+
+TEST_F(SettingsTest, SwitchesWhatItSays) {
+    show("general");
+    const std::vector<std::pair<const char*, bool Config::*>> table{
+        {"Play a sound", &Config::playSound}, {"Show a banner", &Config::showBanner}};
+    for (const auto& [name, field] : table) {
+        EXPECT_TRUE(on(name)) << name;
+        controls.click(text(name));
+        EXPECT_FALSE(config().*field) << name;
+        change([field = field](Config& config) { config.*field = true; });
+        EXPECT_TRUE(on(name)) << name;
+    }
+    EXPECT_THAT(world.newEvents(), testing::SizeIs(4));
+
+    const char* login = "Open Quillon when I log in";
+    controls.click(text(login));
+    EXPECT_TRUE(world.store->launchAtLogin());
+    EXPECT_TRUE(on(login));
+    world.loginItem.refuses = true;
+    controls.click(text(login));
+    turn();
+    EXPECT_TRUE(on(login)) << "shows what is, not what was wanted";
+}
+
+TEST_F(SettingsTest, PicksTheBannersPlace) {
+    show("general");
+    const auto selected = [&] {
+        std::vector<QString> names;
+        for (const PositionCard* card : view.findChildren<PositionCard*>()) {
+            if (card->selected().value_or(false)) names.push_back(card->accessibleName());
+        }
+        return names;
+    };
+    EXPECT_THAT(selected(), ElementsAre(text("Banner in the top")));
+    controls.click(text("Banner in the bottom"));
+    EXPECT_EQ(config().bannerPosition, BannerPosition::bottom);
+    EXPECT_THAT(selected(), ElementsAre(text("Banner in the bottom")));
+    const FakeBanner::Shown preview{"Sent to 📝 Notes & text", "checkmark.circle.fill", true, false};
+    EXPECT_THAT(world.banner.shown, ElementsAre(preview));
+
+    // The same again is saved and shown, but is no change to report.
+    world.clear();
+    std::filesystem::remove(world.path("config.json"));
+    controls.click(text("Banner in the bottom"));
+    EXPECT_FALSE(world.content("config.json").empty());
+    EXPECT_THAT(world.banner.shown, ElementsAre(preview));
+    EXPECT_THAT(world.newEvents(), IsEmpty());
+
+    change([](Config& config) { config.showBanner = false; });
+    controls.click(text("Banner in the top"));
+    EXPECT_EQ(config().bannerPosition, BannerPosition::bottom);
+    change([](Config& config) { config.showBanner = true; });
+    controls.click(text("Banner in the top"));
+    EXPECT_EQ(config().bannerPosition, BannerPosition::top);
+}
+
+TEST_F(SettingsTest, HasNoUpdatesWithoutAFramework) {
+    show("general");
+    const char* automatic = "Check for updates automatically";
+    EXPECT_TRUE(shows("Version 1.0"));
+    EXPECT_FALSE(controls.enabled(text("Check now")));
+    controls.click(text(automatic));
+    turn();
+    EXPECT_FALSE(on(automatic));
+
+    startUpdater();
+    EXPECT_TRUE(on(automatic));
+    controls.click(text(automatic));
+    turn();
+    EXPECT_FALSE(framework->automatic);
+    EXPECT_FALSE(on(automatic));
+    controls.click(text("Check now"));
+    EXPECT_EQ(framework->checks, 1);
+    EXPECT_THAT(world.workspace.log, ElementsAre("activate"));
+    framework->canCheck(false);
+    turn();
+    EXPECT_FALSE(controls.enabled(text("Check now")));
+}
+
+TEST_F(SettingsTest, TellsWhatItIsConnectedTo) {
+    show("general");
+    change([](Config& config) { config.chatTitle = "Ours"; });
+    EXPECT_TRUE(shows("@quillon_demo_bot"));
+    EXPECT_TRUE(shows("Ours"));
+    change([](Config& config) { config.botName.reset(); });
+    EXPECT_TRUE(shows("@connected"));
+    controls.click(text("Disconnect this Mac"));
+    EXPECT_FALSE(world.store->tokenSaved());
+    EXPECT_TRUE(shows("Not connected"));
+    EXPECT_TRUE(shows("Not found yet"));
+    EXPECT_FALSE(shows("Disconnect this Mac"));
+}
+
+TEST_F(SettingsTest, GivesTopicsTheirNames) {
+    show("topics");
+    change([](Config& config) { config.topics[2].key = "links"; });
+    const char* save = "Save names to Telegram";
+    EXPECT_FALSE(controls.enabled(text(save)));
+    EXPECT_FALSE(shows("Finish setup first"));
+    EXPECT_TRUE(shows("copied text"));
+    EXPECT_FALSE(shows("any other file"));
+    EXPECT_EQ(controls.get<QLineEdit>(text("links")).placeholderText(), text("links"));
+
+    auto& name = controls.get<QLineEdit>(text("Pictures"));
+    name.selectAll();
+    QTest::keyClicks(&name, QStringLiteral("Snaps"));
+    // A change from elsewhere, and the redraw that it causes, leave typing alone.
+    name.setCursorPosition(2);
+    change([](Config& config) { config.playSound = false; });
+    QTest::keyClicks(&name, QStringLiteral("i"));
+    turn();
+    EXPECT_EQ(config().topics[1].name, "Sniaps");
+    EXPECT_EQ(name.cursorPosition(), 3);
+
+    world.sandbox.failNext(refusal("editForumTopic", 400, "Bad Request: not enough rights"));
+    controls.click(text(save));
+    ASSERT_TRUE(waitUntil([&] { return shows("Bad Request: not enough rights"); }));
+    EXPECT_TRUE(controls.enabled(text(save)));
+    controls.click(text(save));
+    ASSERT_TRUE(waitUntil([&] { return shows("Saved to Telegram."); }));
+    EXPECT_FALSE(controls.enabled(text(save)));
+
+    QTest::keyClicks(&name, QStringLiteral("!"));
+    turn();
+    EXPECT_FALSE(shows("Saved to Telegram."));
+    EXPECT_TRUE(controls.enabled(text(save)));
+    change([](Config& config) { config.topics[0].threadId.reset(); });
+    EXPECT_FALSE(controls.enabled(text(save)));
+    EXPECT_TRUE(shows("Finish setup first"));
+}
+
+TEST_F(SettingsTest, KeepsANameEditedDuringASaveForTheNext) {
+    show("topics");
+    auto& name = controls.get<QLineEdit>(text("Pictures"));
+    QTest::keyClicks(&name, QStringLiteral("1"));
+    turn();
+    world.clear();
+    controls.click(text("Save names to Telegram"));
+    QTest::keyClicks(&name, QStringLiteral("2"));
+    ASSERT_TRUE(waitUntil([&] { return world.methods().size() == 4; }));
+    EXPECT_FALSE(waitUntil([&] { return !controls.enabled(text("Save names to Telegram")); },
+                           std::chrono::milliseconds{200}));
+}
+
+TEST_F(SettingsTest, UninstallsOnReturnAndLeavesOnEscape) {
+    show("general");
+    const auto open = [&]() -> UninstallSheet& {
+        controls.click(text("Uninstall Quillon…"));
+        return *view.findChild<UninstallSheet*>();
+    };
+    QTest::keyClick(&open(), Qt::Key_Escape);
+    EXPECT_TRUE(waitUntil([&] { return !view.findChild<UninstallSheet*>(); }));
+    EXPECT_EQ(uninstalls, 0);
+
+    UninstallSheet& sheet = open();
+    const Controls inside{sheet};
+    QTest::keyClick(&sheet, Qt::Key_Return);
+    EXPECT_EQ(uninstalls, 1);
+    EXPECT_FALSE(inside.enabled(text("Cancel")));
+    EXPECT_FALSE(inside.enabled(text("Uninstall")));
+    QTest::keyClick(&sheet, Qt::Key_Escape);
+    sheet.close();
+    turn();
+    EXPECT_TRUE(sheet.isVisible());
+}
+
+} // namespace quillon::test

@@ -1,0 +1,229 @@
+#include "ui/setup/SetupView.h"
+
+#include "support/ConnectedWorld.h"
+#include "support/Controls.h"
+#include "support/Faults.h"
+#include "ui/views/Buttons.h"
+#include "ui/views/Keycap.h"
+#include "ui/views/Motion.h"
+#include "ui/views/Spinner.h"
+
+#include <QDesktopServices>
+#include <QLineEdit>
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+namespace {
+
+using namespace std::chrono_literals;
+using sandbox::FaultKind;
+using testing::ElementsAre;
+
+/// The guide in a window, over a store that the test leads through the setup.
+template <typename Computer>
+struct Guide : testing::Test {
+    Guide() { setAnimationsEnabled(false); }
+    ~Guide() override { setAnimationsEnabled(std::nullopt); }
+
+    QLineEdit& field() { return controls.get<QLineEdit>(QStringLiteral("Bot token")); }
+    void type(const QString& token) {
+        field().clear();
+        QTest::keyClicks(&field(), token);
+    }
+    /// Changes the settings and lets the guide follow.
+    void change(const std::function<void(Config&)>& how) {
+        world.store->changeConfig(how);
+        QCoreApplication::processEvents();
+    }
+    [[nodiscard]] bool shows(const char* text) const {
+        return controls.shows(QString::fromUtf8(text));
+    }
+    [[nodiscard]] bool working() const {
+        const auto spinners = view.findChildren<Spinner*>();
+        return std::ranges::any_of(spinners, &QWidget::isVisible);
+    }
+    bool waitUntilShown(const char* text) {
+        return waitUntil([&] { return shows(text); });
+    }
+
+    Computer world;
+    SetupView view{*world.store};
+    Controls controls{view};
+};
+
+/// What links open in.
+class Browser : public QObject {
+    Q_OBJECT
+
+public:
+    std::vector<QUrl> opened;
+    Q_INVOKABLE void open(const QUrl& url) { opened.push_back(url); }
+};
+
+using NewUser = Guide<BotWorld>;
+using KnownUser = Guide<ConnectedWorld>;
+
+} // namespace
+
+TEST(StepTest, FollowsFromWhatTheStoreKnows) {
+    // A group that is known without a token, as after a lost keyring, still begins at the token.
+    const std::vector<std::pair<SetupProgress, int>> table{
+        {{false, false, false}, 1}, {{false, true, true}, 1}, {{true, false, false}, 3},
+        {{true, true, false}, 4},   {{true, true, true}, 5},
+    };
+    for (const auto& [progress, position] : table) {
+        EXPECT_EQ(step(progress), position);
+        EXPECT_EQ(isCurrent(1, progress), position == 1);
+        EXPECT_EQ(isCurrent(2, progress), position == 1);
+        EXPECT_EQ(isDone(2, progress), progress.tokenSaved);
+    }
+}
+
+TEST_F(NewUser, SeesTheFirstTwoStepsAndTheOthersDimmed) {
+    EXPECT_TRUE(shows("Open BotFather"));
+    EXPECT_TRUE(shows("In Telegram, open @BotFather, send /newbot and follow the steps. It gives "
+                      "you a token. The bot is yours alone."));
+    for (const char* hidden : {"Find my group", "Use another bot", "Done", "Made with @BotFather",
+                               "4 topics ready", "You're all set."})
+        EXPECT_FALSE(shows(hidden)) << hidden;
+    const std::map<QString, double> opacities{{QStringLiteral("1"), 1},
+                                              {QStringLiteral("2"), 1},
+                                              {QStringLiteral("3"), 0.45},
+                                              {QStringLiteral("4"), 0.45}};
+    for (const auto& [badge, opacity] : opacities)
+        EXPECT_NEAR(controls.opacity(badge), opacity, 0.001) << badge.toStdString();
+
+    controls.click(QStringLiteral("Make your group"));
+    EXPECT_FALSE(controls.enabled(QStringLiteral("Find my group")));
+    controls.click(QStringLiteral("Make your group"));
+    EXPECT_FALSE(shows("Find my group"));
+}
+
+TEST_F(NewUser, CanConnectOnceTheFieldIsNotEmpty) {
+    const QString connectName = QStringLiteral("Connect");
+    EXPECT_EQ(field().echoMode(), QLineEdit::Password);
+    EXPECT_FALSE(controls.enabled(connectName));
+    type(QStringLiteral(" "));
+    EXPECT_TRUE(controls.enabled(connectName));
+    type({});
+    EXPECT_FALSE(controls.enabled(connectName));
+}
+
+TEST_F(NewUser, KeepsATokenThatFailedAndEmptiesTheFieldAfterOneThatWorked) {
+    type(QStringLiteral("7000000001:wrong"));
+    QTest::keyClick(&field(), Qt::Key_Return);
+    EXPECT_TRUE(working());
+    EXPECT_FALSE(controls.enabled(QStringLiteral("Connect")));
+    QTest::keyClick(&field(), Qt::Key_Return);
+    ASSERT_TRUE(waitUntilShown("Telegram didn't accept that bot token."));
+    EXPECT_FALSE(working());
+    EXPECT_THAT(world.methods(), ElementsAre("getMe"));
+    EXPECT_EQ(field().text(), QStringLiteral("7000000001:wrong"));
+
+    QLineEdit& typed = field();
+    type(QString::fromLatin1(BotWorld::token));
+    typed.setFocus();
+    controls.click(QStringLiteral("Connect"));
+    EXPECT_FALSE(shows("Telegram didn't accept that bot token."));
+    ASSERT_TRUE(waitUntilShown("Connected to @quillon_demo_bot"));
+    EXPECT_TRUE(shows("Made with @BotFather"));
+    EXPECT_TRUE(typed.text().isEmpty());
+    EXPECT_FALSE(shows("Open BotFather"));
+    ASSERT_TRUE(waitUntil([&] { return !working(); }));
+    EXPECT_TRUE(controls.enabled(QStringLiteral("Find my group")));
+    EXPECT_EQ(view.focusWidget(), &controls.get(QStringLiteral("Find my group")));
+}
+
+TEST_F(NewUser, MayCloseTheWindowWhileAnActionRuns) {
+    BotWorld other;
+    other.sandbox.failNext(fault(FaultKind::delay));
+    auto closing = std::make_unique<SetupView>(*other.store);
+    const Controls inside{*closing};
+    QTest::keyClicks(&inside.get<QLineEdit>(QStringLiteral("Bot token")),
+                     QString::fromLatin1(BotWorld::token));
+    inside.click(QStringLiteral("Connect"));
+    closing.reset();
+    EXPECT_TRUE(waitUntil([&] { return other.store->tokenSaved(); }));
+}
+
+TEST_F(NewUser, OpensTheChatWithBotFather) {
+    Browser browser;
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), &browser, "open");
+    controls.click(QStringLiteral("Open BotFather"));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+    EXPECT_THAT(browser.opened, ElementsAre(QUrl{QStringLiteral("https://t.me/BotFather")}));
+}
+
+TEST_F(KnownUser, SeesEachStepsResultAndCanOpenItAgain) {
+    EXPECT_TRUE(shows("Made with @BotFather"));
+    EXPECT_TRUE(shows("4 topics ready"));
+    EXPECT_TRUE(shows("You're all set."));
+    EXPECT_FALSE(shows("Topics ready"));
+    controls.click<ContentButton>(QStringLiteral("Create the topics"));
+    EXPECT_FALSE(shows("4 topics ready"));
+    EXPECT_FALSE(controls.enabled(QStringLiteral("Topics ready")));
+    for (const Topic& topic : world.store->config().topics)
+        EXPECT_TRUE(shows(topic.name.c_str())) << topic.name;
+    controls.click<ContentButton>(QStringLiteral("Create the topics"));
+    EXPECT_TRUE(shows("4 topics ready"));
+
+    std::vector<QString> keys;
+    change([](Config& config) { config.shortcut = ShortcutChoice::ctrlOptP; });
+    for (const KeyLabel* key : view.findChildren<KeyLabel*>())
+        keys.push_back(key->label());
+    EXPECT_THAT(keys, ElementsAre(QStringLiteral("⌃"), QStringLiteral("⌥"), QStringLiteral("P")));
+}
+
+TEST_F(KnownUser, IsAskedForTheTopicThatIsMissing) {
+    change([](Config& config) {
+        config.topics[2].threadId.reset();
+        config.chatTitle = "100% ours";
+    });
+    EXPECT_TRUE(shows("Found 100% ours"));
+    EXPECT_FALSE(shows("You're all set."));
+    EXPECT_FALSE(shows("4 topics ready"));
+    controls.click<ContentButton>(QStringLiteral("Make your group"));
+    EXPECT_TRUE(controls.enabled(QStringLiteral("Find again")));
+
+    world.sandbox.failNext(refusal("createForumTopic", 400, "Bad Request: **no** rights"));
+    controls.click<TextButton>(QStringLiteral("Create the topics"));
+    ASSERT_TRUE(waitUntil([&] { return !working(); }));
+    EXPECT_TRUE(waitUntilShown("Bad Request: **no** rights"));
+}
+
+TEST_F(KnownUser, HasOtherNamesWhereNothingIsKnown) {
+    change([](Config& config) {
+        config.botName.reset();
+        config.chatTitle.reset();
+        config.topics.pop_back();
+    });
+    EXPECT_TRUE(shows("Connected to @your bot"));
+    EXPECT_TRUE(shows("Found your group"));
+    EXPECT_TRUE(shows("3 topics ready"));
+}
+
+TEST_F(KnownUser, GoesBackToTheStartWithAnotherBot) {
+    controls.click(QStringLiteral("Paste the token"));
+    EXPECT_TRUE(shows("The token is kept in your Mac's Keychain."));
+    controls.click(QStringLiteral("Use another bot"));
+    EXPECT_FALSE(world.store->tokenSaved());
+    EXPECT_TRUE(world.secrets.values.empty());
+    EXPECT_TRUE(shows("Bot token"));
+    EXPECT_FALSE(shows("You're all set."));
+    EXPECT_NEAR(controls.opacity(QStringLiteral("Make your group")), 0.45, 0.001);
+}
+
+TEST_F(KnownUser, ComesToTheSameAnimated) {
+    setAnimationsEnabled(true);
+    change([](Config& config) { config.topics[0].threadId.reset(); });
+    EXPECT_TRUE(view.moving());
+    ASSERT_TRUE(waitUntil([&] { return !view.moving(); }));
+    EXPECT_EQ(view.growthAhead(), 0);
+    EXPECT_FALSE(shows("You're all set."));
+}
+
+} // namespace quillon::test
+
+#include "SetupViewTest.moc"
