@@ -12,6 +12,7 @@
 #include <QEventLoop>
 
 #include <limits>
+#include <utility>
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -22,6 +23,9 @@ namespace {
 
 /// The running program may have to wait for the user's keyring, or for a slow network.
 constexpr int noTimeout = std::numeric_limits<int>::max();
+
+/// A program that is well answers at once; in milliseconds.
+constexpr int activationTimeout = 5000;
 
 QDBusMessage message(const char* method) {
     QDBusMessage call =
@@ -98,6 +102,23 @@ void quit() {
 }
 
 } // namespace
+
+bool activate() {
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QLatin1String{busName}, QLatin1String{objectPath},
+        QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+    call.setAutoStartService(false);
+    // With this the running program may take the focus from whatever has it.
+    QVariantMap platformData;
+    for (const auto& [key, variable] : {std::pair{"activation-token", "XDG_ACTIVATION_TOKEN"},
+                                        std::pair{"desktop-startup-id", "DESKTOP_STARTUP_ID"}}) {
+        if (qEnvironmentVariableIsSet(variable))
+            platformData[QLatin1String{key}] = qEnvironmentVariable(variable);
+    }
+    call << platformData;
+    return QDBusConnection::sessionBus().call(call, QDBus::Block, activationTimeout).type() ==
+           QDBusMessage::ReplyMessage;
+}
 
 std::optional<int> run(const Invocation& invocation) {
     int argc = 1;

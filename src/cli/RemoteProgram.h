@@ -20,6 +20,10 @@ inline constexpr const char* tokenPrompt = "Bot token: ";
 /// when no program runs, or when the command is one that this process has to carry out itself.
 [[nodiscard]] std::optional<int> run(const Invocation& invocation);
 
+/// Has the running program come to the front. False when none runs, or when it does not answer
+/// within 5 seconds. To be called while there is an application object.
+[[nodiscard]] bool activate();
+
 } // namespace RemoteProgram
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #include "ui/App.h"
 
 #include "cli/CommandLine.h"
+#include "cli/RemoteProgram.h"
 #include "maintenance/AppMover.h"
 #include "maintenance/MessageBoxAlerts.h"
 #include "platform/UserDefaults.h"
@@ -21,15 +22,17 @@ namespace quillon {
 namespace {
 
 /// A program that moves itself starts nothing else here.
-QCoro::Task<> launch(Platform& platform, AppMover& mover, std::unique_ptr<Resident>& resident) {
+QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
+                     std::unique_ptr<Resident>& resident) {
     if (mover.shouldAsk() && !platform.defaults.flag(AppMover::declinedKey).value_or(false)) {
         const bool moved = co_await mover.ask();
         if (moved) co_return;
     }
-    resident = Resident::claim(platform, mover);
+    resident = Resident::claim(platform, alerts, mover);
     if (resident) co_return resident->start();
-    std::cerr << FolderLock::heldMessage << std::endl;
-    QCoreApplication::exit(exitFailed);
+    const bool shown = RemoteProgram::activate();
+    if (!shown) std::cerr << FolderLock::heldMessage << std::endl;
+    QCoreApplication::exit(shown ? exitDone : exitFailed);
 }
 
 } // namespace
@@ -56,7 +59,7 @@ int App::run() {
     MessageBoxAlerts alerts;
     AppMover mover{platform, alerts};
     std::unique_ptr<Resident> resident;
-    QTimer::singleShot(0, &application, [&] { launch(platform, mover, resident); });
+    QTimer::singleShot(0, &application, [&] { launch(platform, alerts, mover, resident); });
     return QApplication::exec();
 }
 

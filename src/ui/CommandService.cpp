@@ -4,6 +4,7 @@
 #include "cli/RemoteProgram.h"
 #include "cli/Terminal.h"
 
+#include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 
@@ -61,9 +62,34 @@ private:
     Progress progress_;
 };
 
+/// What desktops call to start an application by its name on the bus.
+class ActivationAdaptor : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    explicit ActivationAdaptor(CommandService& service)
+        : QDBusAbstractAdaptor{&service},
+          service_{service} {}
+
+public Q_SLOTS:
+    void Activate(const QVariantMap& platformData) {
+        // Where Qt's platform plugins look for it when a window asks for the focus.
+        const QByteArray token =
+            platformData.value(QStringLiteral("activation-token")).toString().toUtf8();
+        if (!token.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", token);
+        Q_EMIT service_.activated();
+    }
+
+private:
+    CommandService& service_;
+};
+
 } // namespace
 
-CommandService::CommandService(std::function<void()> quit) : quit_{std::move(quit)} {}
+CommandService::CommandService(std::function<void()> quit) : quit_{std::move(quit)} {
+    new ActivationAdaptor{*this}; // the object that it is part of owns it
+}
 
 CommandService::Publication CommandService::publish() {
     QDBusConnection bus = QDBusConnection::sessionBus();
@@ -72,7 +98,7 @@ CommandService::Publication CommandService::publish() {
     qRegisterMetaType<QDBusUnixFileDescriptor>();
     // First the object: whoever sees the name may call at once.
     bus.registerObject(QLatin1String{RemoteProgram::objectPath}, this,
-                       QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
+                       QDBusConnection::ExportScriptableContents | QDBusConnection::ExportAdaptors);
     if (bus.registerService(QLatin1String{RemoteProgram::busName})) return Publication::done;
     return bus.interface()->isServiceRegistered(QLatin1String{RemoteProgram::busName})
                ? Publication::takenByAnother
@@ -125,3 +151,5 @@ QCoro::Task<> CommandService::work() {
 }
 
 } // namespace quillon
+
+#include "CommandService.moc"

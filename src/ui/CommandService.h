@@ -37,13 +37,15 @@ public:
 public Q_SLOTS:
     /// A command with its argument, as the command line takes them, and with what it reads from
     /// standard input. Gives the exit code, and what went to standard output and standard error.
-    int Run(const QString& command, const QString& argument, const QDBusUnixFileDescriptor& input,
-            QString& output, QString& errors);
-    void Quit();
+    Q_SCRIPTABLE int Run(const QString& command, const QString& argument,
+                         const QDBusUnixFileDescriptor& input, QString& output, QString& errors);
+    Q_SCRIPTABLE void Quit();
 
 Q_SIGNALS:
+    /// The user has started the program again.
+    void activated();
     /// How many bytes of what the command does, as in "Sending…", are done.
-    void Progress(const QString& activity, qlonglong done, qlonglong total);
+    Q_SCRIPTABLE void Progress(const QString& activity, qlonglong done, qlonglong total);
 
 private:
     struct Call {

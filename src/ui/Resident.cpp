@@ -5,13 +5,14 @@
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
 #include "platform/Workspace.h"
+#include "ui/panel/PanelView.h"
+#include "ui/settings/SettingsView.h"
 #include "update/BundleUpdater.h"
 
 #include <QApplication>
 #include <QFontMetrics>
 
 #include <chrono>
-#include <iostream>
 #include <utility>
 
 namespace quillon {
@@ -39,7 +40,7 @@ UpdaterHooks hooks(Platform& platform, AppMover& mover, UpdateWindows& windows) 
 
 } // namespace
 
-std::unique_ptr<Resident> Resident::claim(Platform& platform, AppMover& mover) {
+std::unique_ptr<Resident> Resident::claim(Platform& platform, Alerts& alerts, AppMover& mover) {
     platform.files.createFolder(platform.dataFolder);
     // First the name, then the lock: who finds no name may have the lock for a moment, and who
     // finds the name hands its command over.
@@ -49,11 +50,11 @@ std::unique_ptr<Resident> Resident::claim(Platform& platform, AppMover& mover) {
     auto lock = FolderLock::take(platform.dataFolder, lockPatience);
     if (!lock) return nullptr;
     return std::unique_ptr<Resident>{
-        new Resident{platform, mover, std::move(service), *std::move(lock)}};
+        new Resident{platform, alerts, mover, std::move(service), *std::move(lock)}};
 }
 
-Resident::Resident(Platform& platform, AppMover& mover, std::unique_ptr<CommandService> service,
-                   FolderLock lock)
+Resident::Resident(Platform& platform, Alerts& alerts, AppMover& mover,
+                   std::unique_ptr<CommandService> service, FolderLock lock)
     : platform_{platform},
       lock_{std::move(lock)},
       analytics_{platform},
@@ -61,7 +62,41 @@ Resident::Resident(Platform& platform, AppMover& mover, std::unique_ptr<CommandS
       banner_{&hud_},
       store_{platform, analytics_, banner_},
       updater_{platform, analytics_, hooks(platform, mover, updateWindows_)},
+      uninstaller_{platform, store_, analytics_, alerts},
+      settingsWindow_{platform.workspace,
+                      [this](const SettingsWindow::Fit& fit) { return makeSettings(fit); }},
+      panelWindow_{compositor_, [this] { return makePanel(); }},
+      trayIcon_{store_, trayActions()},
       service_{std::move(service)} {}
+
+std::unique_ptr<QWidget> Resident::makeSettings(const SettingsWindow::Fit& fit) {
+    SettingsActions actions{.showBanner =
+                                [this](std::string text, std::string symbol, bool ok, bool sticky) {
+                                    hud_.show(std::move(text), std::move(symbol), ok, sticky);
+                                },
+                            .activate = [this] { platform_.workspace.activate(); },
+                            .uninstall = [this] { return uninstaller_.run(); }};
+    auto view = std::make_unique<SettingsView>(store_, updater_, std::move(actions),
+                                               QStringLiteral("setup"));
+    QObject::connect(view.get(), &SettingsView::fittingHeightChanged, view.get(),
+                     [fit](int height) { fit(height); });
+    return view;
+}
+
+std::unique_ptr<PanelView> Resident::makePanel() {
+    return std::make_unique<PanelView>(
+        platform_, store_, updater_,
+        PanelActions{.showSettings = [this] { settingsWindow_.show(); },
+                     .checkForUpdates = [this] { checkForUpdates(updater_, platform_.workspace); },
+                     .quit = [this] { platform_.workspace.terminate(); }});
+}
+
+TrayActions Resident::trayActions() {
+    return {.togglePanel = [this](const QRect& icon) { panelWindow_.toggle(icon); },
+            .openPanel = [this](const QRect& icon) { panelWindow_.open(icon); },
+            .showSettings = [this] { settingsWindow_.show(); },
+            .quit = [this] { platform_.workspace.terminate(); }};
+}
 
 void Resident::start() {
     platform_.loginItem.follow(platform_.bundle.executable);
@@ -71,11 +106,9 @@ void Resident::start() {
         store_.setStarted();
         store_.registerShortcut();
     }
-    if (store_.shortcutTaken()) {
-        std::cerr << keysText(store_.config().shortcut)
-                  << " is already used by another app. Pick another shortcut in Settings."
-                  << std::endl;
-    }
+    if (!store_.isReady()) settingsWindow_.show();
+    QObject::connect(service_.get(), &CommandService::activated, &store_,
+                     [this] { settingsWindow_.show(); });
     service_->serve({platform_, analytics_, store_, banner_, nullptr});
     loadFont();
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &store_,

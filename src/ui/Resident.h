@@ -3,31 +3,41 @@
 #include "analytics/Analytics.h"
 #include "cli/SpokenBanner.h"
 #include "desktop/HUD.h"
+#include "maintenance/Uninstaller.h"
 #include "maintenance/Updater.h"
 #include "platform/linux/FolderLock.h"
 #include "platform/linux/X11Compositor.h"
 #include "state/Store.h"
 #include "ui/CommandService.h"
+#include "ui/SettingsWindow.h"
+#include "ui/panel/PanelWindow.h"
+#include "ui/tray/TrayIcon.h"
 #include "update/windows/UpdateWindows.h"
 
 #include <memory>
 
 namespace quillon {
 
+class Alerts;
 class AppMover;
 
 /// The session's one running program: everything that works from its start to its end.
 class Resident {
 public:
     /// Null when another program of the session has the name on the bus, or the data folder.
-    [[nodiscard]] static std::unique_ptr<Resident> claim(Platform& platform, AppMover& mover);
+    [[nodiscard]] static std::unique_ptr<Resident> claim(Platform& platform, Alerts& alerts,
+                                                         AppMover& mover);
 
     /// Begins the work, in the order that its parts need each other.
     void start();
 
 private:
-    Resident(Platform& platform, AppMover& mover, std::unique_ptr<CommandService> service,
-             FolderLock lock);
+    Resident(Platform& platform, Alerts& alerts, AppMover& mover,
+             std::unique_ptr<CommandService> service, FolderLock lock);
+
+    [[nodiscard]] std::unique_ptr<QWidget> makeSettings(const SettingsWindow::Fit& fit);
+    [[nodiscard]] std::unique_ptr<PanelView> makePanel();
+    [[nodiscard]] TrayActions trayActions();
 
     Platform& platform_;
     FolderLock lock_;
@@ -38,6 +48,10 @@ private:
     Store store_;
     UpdateWindows updateWindows_;
     Updater updater_;
+    Uninstaller uninstaller_;
+    SettingsWindow settingsWindow_;
+    PanelWindow panelWindow_;
+    TrayIcon trayIcon_;
     std::unique_ptr<CommandService> service_;
 };
 
