@@ -1,5 +1,6 @@
 #include "update/Archive.h"
 
+#include "base/Utf8Locale.h"
 #include "update/Errors.h"
 
 #include <archive.h>
@@ -73,6 +74,7 @@ public:
           stop_{stop} {}
 
     std::optional<UpdateError> run(std::string_view bytes) {
+        const Utf8Locale names;
         if (!open(bytes)) return updateError(updateArchiveDamaged);
         for (;;) {
             archive_entry* entry = nullptr;

@@ -56,7 +56,11 @@ protected:
         setUp();
         // Shows the keys that reach it, in a window that takes the focus.
         window.start(QStringLiteral("xev"), words("-event keyboard -name probe"));
-        runTool("xdotool", "search --sync --name probe windowfocus --sync");
+        EXPECT_TRUE(waitUntil([] {
+            // Fails for as long as the window is not on the screen.
+            return QProcess::execute(QStringLiteral("xdotool"),
+                                     words("search --onlyvisible --name probe windowfocus")) == 0;
+        }));
     }
 
     void TearDown() override {

@@ -1,5 +1,6 @@
 #include "update/Makers.h"
 
+#include "base/Utf8Locale.h"
 #include "update/Archive.h"
 #include "update/ProgramOutput.h"
 
@@ -27,6 +28,7 @@ la_ssize_t append(archive* /*writer*/, void* target, const void* bytes, std::siz
 std::string written(int format, const char* filter, const std::function<void(archive*)>& write) {
     std::string bytes;
     archive* writer = archive_write_new();
+    const Utf8Locale names;
     archive_write_set_format(writer, format);
     if (filter) archive_write_add_filter_by_name(writer, filter);
     archive_write_set_bytes_per_block(writer, 0);
