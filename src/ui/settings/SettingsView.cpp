@@ -61,7 +61,6 @@ SettingsView::SettingsView(Store& store, Updater& updater, SettingsActions actio
 void SettingsView::build() {
     for (const Tab& each : tabs)
         tabs_->add(tr(each.title), each.symbol);
-    tabs_->setAccessibleName(tr("Settings"));
     auto* stack = new QVBoxLayout{pages_};
     stack->setContentsMargins(0, 0, 0, 0);
     pages_->installEventFilter(this);
