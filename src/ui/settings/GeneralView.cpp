@@ -162,10 +162,12 @@ void GeneralView::refreshShortcut() {
 void GeneralView::refreshTelegram() {
     const Config& config = store_.config();
     const std::string bot = config.botName.value_or(tr("connected").toStdString());
-    bot_->setText(store_.tokenSaved() ? tr("@%1").arg(QString::fromStdString(bot))
-                                      : tr("Not connected"));
-    group_->setText(config.chatTitle ? QString::fromStdString(*config.chatTitle)
-                                     : tr("Not found yet"));
+    bot_->setText(store_.tokenSaved()
+                      ? tr("@%1").arg(TextBlock::verbatim(QString::fromStdString(bot)))
+                      : tr("Not connected"));
+    group_->setText(config.chatTitle
+                        ? TextBlock::verbatim(QString::fromStdString(*config.chatTitle))
+                        : tr("Not found yet"));
     disconnect_->setVisible(store_.tokenSaved());
 }
 

@@ -36,7 +36,7 @@ PositionCard::PositionCard(BannerPosition position, QWidget* parent)
     column->setContentsMargins(Space::small, Space::small + Space::hair, Space::small,
                                Space::small);
     column->setSpacing(Space::tight);
-    column->addWidget(symbol_);
+    column->addWidget(symbol_, 0, Qt::AlignHCenter);
     column->addWidget(label_);
     showSelected(false);
 }

@@ -33,6 +33,13 @@ constexpr std::array<Tab, 3> tabs{{
     {"general", QT_TRANSLATE_NOOP("quillon::SettingsView", "&General"), "gearshape.fill"},
 }};
 
+/// Holds the tabs' contents. They are as high as their width makes them, which their least heights,
+/// at the least width, say nothing about.
+class Pages : public QWidget {
+public:
+    [[nodiscard]] QSize minimumSizeHint() const override { return {0, 0}; }
+};
+
 } // namespace
 
 SettingsView::SettingsView(Store& store, Updater& updater, SettingsActions actions,
@@ -40,7 +47,7 @@ SettingsView::SettingsView(Store& store, Updater& updater, SettingsActions actio
     : View{parent},
       setup_{new SetupView{store}},
       tabs_{new TabStrip},
-      pages_{new QWidget},
+      pages_{new Pages},
       measuring_{this, [this] { measure(); }} {
     build();
     addPage(setup_);
@@ -54,7 +61,6 @@ SettingsView::SettingsView(Store& store, Updater& updater, SettingsActions actio
 void SettingsView::build() {
     for (const Tab& each : tabs)
         tabs_->add(tr(each.title), each.symbol);
-    tabs_->setAccessibleName(tr("Settings"));
     auto* stack = new QVBoxLayout{pages_};
     stack->setContentsMargins(0, 0, 0, 0);
     pages_->installEventFilter(this);

@@ -95,7 +95,8 @@ void TopicsView::finish(const std::optional<std::string>& error, int editsBefore
     // Names typed meanwhile are not saved, and have taken the place of this one's status.
     if (edits_ != editsBefore && !error) return;
     if (!error) edited_ = false;
-    status_ = error ? QString::fromStdString(*error) : tr("Saved to Telegram.");
+    status_ =
+        error ? TextBlock::verbatim(QString::fromStdString(*error)) : tr("Saved to Telegram.");
     refresher_.refreshNow();
 }
 

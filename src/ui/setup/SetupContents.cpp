@@ -148,7 +148,8 @@ QWidget* SetupView::buildClosing() {
     column->setContentsMargins(0, Space::small, 0, Space::small);
     column->setSpacing(Space::small);
     column->addWidget(
-        new SymbolView{"checkmark.seal.fill", {.size = sealPoints, .ink = Palette::green}});
+        new SymbolView{"checkmark.seal.fill", {.size = sealPoints, .ink = Palette::green}}, 0,
+        Qt::AlignHCenter);
     column->addWidget(
         new IconLabel{tr("You're all set."), {}, {.style = Text::title, .align = Qt::AlignHCenter}},
         0, Qt::AlignHCenter);

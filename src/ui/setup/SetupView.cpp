@@ -49,7 +49,7 @@ SetupProgress SetupView::progress() const {
 QString SetupView::summary(int n) const {
     const Config& config = store_.config();
     const auto orElse = [](const std::optional<std::string>& name, const QString& other) {
-        return name ? QString::fromStdString(*name) : other;
+        return name ? TextBlock::verbatim(QString::fromStdString(*name)) : other;
     };
     switch (n) {
     case 1:
@@ -73,7 +73,8 @@ void SetupView::refresh() {
     closing_->setOpen(position > stepCount, animated);
     spinner_->setVisible(working_);
     errorLine_->setVisible(error_.has_value());
-    errorLine_->setText(QString::fromStdString(error_.value_or(std::string{})));
+    errorLine_->setText(
+        TextBlock::verbatim(QString::fromStdString(error_.value_or(std::string{}))));
 }
 
 void SetupView::refreshRows(const SetupProgress& now, bool animated) {

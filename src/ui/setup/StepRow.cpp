@@ -52,10 +52,12 @@ ContentButton* StepRow::buildHeader(const QString& title, const std::string& sym
     row->setContentsMargins(headerPadding, Space::small, headerPadding, Space::small);
     row->setSpacing(headerPadding);
     row->addWidget(badge_);
-    row->addWidget(new IconLabel{
+    auto* label = new IconLabel{
         title,
         symbol,
-        {.style = Text::headline, .symbolInk = Ink::secondary, .overflow = Overflow::elideEnd}});
+        {.style = Text::headline, .symbolInk = Ink::secondary, .overflow = Overflow::elideEnd}};
+    label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred); // the summary gives way
+    row->addWidget(label);
     row->addStretch(1);
     row->addWidget(summary_);
     row->addWidget(chevron_);

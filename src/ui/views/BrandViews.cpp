@@ -78,7 +78,7 @@ void AppIconView::paintEvent(QPaintEvent* /*event*/) {
 Wordmark::Wordmark(double points, Tint ink, QWidget* parent)
     : View{parent},
       points_{points},
-      ink_{std::move(ink)} {
+      ink_{ink} {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

@@ -53,7 +53,7 @@ double symbolSide(const TextStyle& style) {
 TextButton::TextButton(const QString& text, std::string symbol, ButtonLook look, QWidget* parent)
     : Themed{text, parent},
       symbol_{std::move(symbol)},
-      look_{std::move(look)} {
+      look_{look} {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);
 }

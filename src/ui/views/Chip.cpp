@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace quillon {
 namespace {
@@ -20,9 +21,9 @@ constexpr TextStyle chipText{12, QFont::Medium};
 
 } // namespace
 
-Chip::Chip(const QString& text, QColor color, QWidget* parent)
+Chip::Chip(QString text, QColor color, QWidget* parent)
     : View{parent},
-      text_{text},
+      text_{std::move(text)},
       color_{color} {
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }

@@ -10,7 +10,7 @@ class Chip : public View {
     Q_OBJECT
 
 public:
-    Chip(const QString& text, QColor color, QWidget* parent = nullptr);
+    Chip(QString text, QColor color, QWidget* parent = nullptr);
     void setChip(const QString& text, QColor color);
 
     [[nodiscard]] QSize sizeHint() const override;

@@ -22,11 +22,11 @@ constexpr double symbolGap = 0.46;
 
 } // namespace
 
-IconLabel::IconLabel(const QString& text, std::string symbol, LabelLook look, QWidget* parent)
+IconLabel::IconLabel(QString text, std::string symbol, LabelLook look, QWidget* parent)
     : View{parent},
-      text_{text},
+      text_{std::move(text)},
       symbol_{std::move(symbol)},
-      look_{std::move(look)} {
+      look_{look} {
     QSizePolicy policy{QSizePolicy::Preferred, QSizePolicy::Preferred};
     policy.setHeightForWidth(look_.overflow == Overflow::wrap);
     setSizePolicy(policy);

@@ -27,7 +27,7 @@ class IconLabel : public View {
     Q_OBJECT
 
 public:
-    explicit IconLabel(const QString& text = {}, std::string symbol = {}, LabelLook look = {},
+    explicit IconLabel(QString text = {}, std::string symbol = {}, LabelLook look = {},
                        QWidget* parent = nullptr);
 
     void setText(const QString& text);

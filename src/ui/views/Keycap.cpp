@@ -55,7 +55,7 @@ QPainterPath rounded(const QRectF& box) {
 
 } // namespace
 
-KeyView::KeyView(const QString& label, QWidget* parent) : View{parent}, label_{label} {
+KeyView::KeyView(QString label, QWidget* parent) : View{parent}, label_{std::move(label)} {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

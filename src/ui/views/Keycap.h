@@ -11,7 +11,7 @@ class KeyView : public View {
     Q_OBJECT
 
 public:
-    explicit KeyView(const QString& label, QWidget* parent = nullptr);
+    explicit KeyView(QString label, QWidget* parent = nullptr);
 
     void setLabel(const QString& label);
     [[nodiscard]] QString label() const { return label_; }

@@ -24,8 +24,6 @@ constexpr double leastHeight = 24;
 
 /// One of the choices.
 class Segment : public Themed<QRadioButton> {
-    Q_OBJECT
-
 public:
     using Themed::Themed;
 
@@ -47,7 +45,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override {
         const int step = stepOf(event->key());
         if (step == 0) return Themed::keyPressEvent(event);
-        const auto all = parentWidget()->findChildren<Segment*>(Qt::FindDirectChildrenOnly);
+        const auto all = parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly);
         const qsizetype next = all.indexOf(this) + step;
         if (next < 0 || next >= all.size()) return;
         all[next]->setFocus(Qt::TabFocusReason);
@@ -161,5 +159,3 @@ void SegmentedPicker::paintEvent(QPaintEvent* /*event*/) {
 }
 
 } // namespace quillon
-
-#include "SegmentedPicker.moc"

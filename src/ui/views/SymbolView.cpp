@@ -11,7 +11,7 @@ namespace quillon {
 SymbolView::SymbolView(std::string symbol, SymbolLook look, QWidget* parent)
     : View{parent},
       symbol_{std::move(symbol)},
-      look_{std::move(look)} {
+      look_{look} {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

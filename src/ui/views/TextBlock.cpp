@@ -88,6 +88,11 @@ TextBlock TextBlock::title(const QString& text, const QFont& font, Qt::LayoutDir
     return TextBlock{titleParts(text, underlined), font, direction};
 }
 
+/// Between the stars comes what is never seen: a word joiner.
+QString TextBlock::verbatim(QString text) {
+    return text.replace(stars(), QStringLiteral("*\u2060*"));
+}
+
 QString TextBlock::plain(const QString& text) {
     return parts(text).text.remove(joiner);
 }

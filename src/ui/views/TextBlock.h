@@ -24,6 +24,8 @@ public:
 
     /// The text without stars.
     [[nodiscard]] static QString plain(const QString& text);
+    /// For texts from outside: one that is shown as it is, whatever stars are in it.
+    [[nodiscard]] static QString verbatim(QString text);
 
     /// Wraps at words (and inside a word that is wider than a line) and gives the size it takes, in
     /// whole pixels, at most `width` wide.

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 namespace {
@@ -38,7 +39,7 @@ bool looksDisabled(const QWidget& widget) {
 
 Theme::Theme(const QWidget& widget) : Theme{widget.palette(), !looksDisabled(widget)} {}
 
-Theme::Theme(const QPalette& palette, bool enabled) : palette_{palette}, enabled_{enabled} {
+Theme::Theme(QPalette palette, bool enabled) : palette_{std::move(palette)}, enabled_{enabled} {
     palette_.setCurrentColorGroup(QPalette::Active);
     const QColor ground = palette_.color(QPalette::Window);
     dark_ = contrast(ground, Qt::white) > contrast(ground, Qt::black);

@@ -55,7 +55,7 @@ class Theme {
 public:
     /// Colours of a disabled widget are faded; nobody needs to fade them again.
     explicit Theme(const QWidget& widget);
-    explicit Theme(const QPalette& palette, bool enabled = true);
+    explicit Theme(QPalette palette, bool enabled = true);
 
     /// Light text on a dark ground.
     [[nodiscard]] bool dark() const { return dark_; }

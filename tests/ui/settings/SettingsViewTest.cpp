@@ -87,7 +87,7 @@ TEST_F(SettingsTest, ReportsTheHeightOfEachTab) {
     std::vector<int> reported;
     QObject::connect(&view, &SettingsView::fittingHeightChanged, &view,
                      [&](int height) { reported.push_back(height); });
-    auto& tabs = controls.get<QTabBar>(text("Settings"));
+    auto& tabs = *view.findChild<QTabBar*>();
     EXPECT_TRUE(shows("Create your bot"));
     tabs.setFocus();
     QTest::keyClick(&tabs, Qt::Key_Right);
@@ -98,8 +98,7 @@ TEST_F(SettingsTest, ReportsTheHeightOfEachTab) {
     EXPECT_EQ(reported.back(), view.fittingHeight());
     // One more topic makes the tab higher, without anybody's asking.
     change([](Config& config) { config.topics.push_back({"links", "Links", 0xFFD67E, 9}); });
-    turn();
-    ASSERT_THAT(reported, testing::SizeIs(2));
+    ASSERT_TRUE(waitUntil([&] { return reported.size() > 1; }));
     EXPECT_GT(reported[1], reported[0]);
     show("nowhere");
     EXPECT_EQ(view.tab(), QStringLiteral("topics"));
@@ -191,6 +190,7 @@ TEST_F(SettingsTest, HasNoUpdatesWithoutAFramework) {
     EXPECT_FALSE(on(automatic));
 
     startUpdater();
+    ASSERT_TRUE(waitUntil([&] { return controls.enabled(text("Check now")); }));
     EXPECT_TRUE(on(automatic));
     controls.click(text(automatic));
     turn();
@@ -200,8 +200,7 @@ TEST_F(SettingsTest, HasNoUpdatesWithoutAFramework) {
     EXPECT_EQ(framework->checks, 1);
     EXPECT_THAT(world.workspace.log, ElementsAre("activate"));
     framework->canCheck(false);
-    turn();
-    EXPECT_FALSE(controls.enabled(text("Check now")));
+    EXPECT_TRUE(waitUntil([&] { return !controls.enabled(text("Check now")); }));
 }
 
 TEST_F(SettingsTest, TellsWhatItIsConnectedTo) {

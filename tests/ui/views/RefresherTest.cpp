@@ -1,32 +1,14 @@
 #include "ui/views/Refresher.h"
 
+#include "Model.h"
+
 #include <QCoreApplication>
-#include <QObject>
 
 #include <gtest/gtest.h>
 
 #include <memory>
 
 namespace quillon::test {
-
-/// Some state that announces its changes, before they happen.
-class Model : public QObject {
-    Q_OBJECT
-
-public:
-    void set(int value) {
-        Q_EMIT objectWillChange();
-        value_ = value;
-    }
-
-    [[nodiscard]] int value() const { return value_; }
-
-Q_SIGNALS:
-    void objectWillChange();
-
-private:
-    int value_ = 0;
-};
 
 namespace {
 
@@ -92,5 +74,3 @@ TEST_F(RefresherTest, DoesNotRefreshAViewThatIsGone) {
 
 } // namespace
 } // namespace quillon::test
-
-#include "RefresherTest.moc"
