@@ -13,6 +13,7 @@
 #include <QFontMetrics>
 
 #include <chrono>
+#include <iostream>
 #include <utility>
 
 namespace quillon {
@@ -105,6 +106,12 @@ void Resident::start() {
     if (!store_.started()) {
         store_.setStarted();
         store_.registerShortcut();
+    }
+    // For whoever started it from a terminal; the windows say the same.
+    if (store_.shortcutTaken()) {
+        std::cerr << keysText(store_.config().shortcut)
+                  << " is already used by another app. Pick another shortcut in Settings."
+                  << std::endl;
     }
     if (!store_.isReady()) settingsWindow_.show();
     QObject::connect(service_.get(), &CommandService::activated, &store_,
