@@ -9,7 +9,7 @@
 namespace quillon {
 
 /// The main group of a desktop entry file, in the format of freedesktop.org's Desktop Entry
-/// Specification 1.5. Whatever else the file holds, such as comments, translations and other
+/// standard 1.5. Whatever else the file holds, such as comments, translations and other
 /// groups, stays as it is.
 class DesktopEntry {
 public:
