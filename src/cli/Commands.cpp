@@ -83,8 +83,8 @@ QCoro::Task<int> renameTopics(CommandContext context, Invocation /*invocation*/)
 }
 
 QCoro::Task<int> forget(CommandContext context, Invocation /*invocation*/) {
-    co_await context.store.forgetBot();
-    if (context.platform.secrets.exists(botTokenItem())) {
+    const bool forgotten = co_await context.store.forgetBot();
+    if (!forgotten) {
         throw TelegramError{"The keyring still holds the bot's token. Unlock it and try again."};
     }
     co_return exitDone;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/CommandLine.h"
+#include "platform/Bundle.h"
 
 #include <optional>
 
@@ -9,9 +10,9 @@ namespace quillon {
 /// The program that runs already, as the session bus leads to it.
 namespace RemoteProgram {
 
-inline constexpr const char* busName = "dev.vostrel.quillon";
+inline constexpr const char* busName = applicationIdentifier;
 inline constexpr const char* objectPath = "/dev/vostrel/quillon";
-inline constexpr const char* interfaceName = "dev.vostrel.quillon";
+inline constexpr const char* interfaceName = applicationIdentifier;
 
 /// The prompt with which a command asks for the bot's token.
 inline constexpr const char* tokenPrompt = "Bot token: ";

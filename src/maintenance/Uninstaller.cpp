@@ -12,30 +12,11 @@
 
 #include <QCoroFuture>
 
-#include <algorithm>
-
 namespace quillon {
 
 namespace {
 
 using std::filesystem::path;
-
-constexpr const char* fixedIdentifier = "dev.vostrel.quillon";
-
-/// What an identifier is made of (reverse domain name, ASCII).
-bool belongsInIdentifier(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '.' ||
-           c == '-';
-}
-
-/// Whether the identifier can only ever be a name of our own within a folder: a single word might
-/// be somebody else's.
-bool isSafe(const std::string& identifier) {
-    return std::ranges::all_of(identifier, belongsInIdentifier) &&
-           identifier.find('.') != std::string::npos &&
-           identifier.find("..") == std::string::npos && !identifier.starts_with('.') &&
-           !identifier.ends_with('.');
-}
 
 Alert applicationStays() {
     return {.warning = false,
@@ -47,15 +28,9 @@ Alert applicationStays() {
 
 } // namespace
 
-/// Part of the names of what is removed, so an odd one gives way to the fixed one.
-std::string Uninstaller::identifier() const {
-    std::string named = platform_.bundle.identifier();
-    return isSafe(named) ? named : fixedIdentifier;
-}
-
 std::array<path, 6> Uninstaller::folders() const {
     const Folders& folders = platform_.folders;
-    const std::string id = identifier();
+    const std::string id = platform_.bundle.folderName();
     return {folders.data / "Quillon",
             folders.cache / id,
             folders.cache / "HTTPStorages" / id,

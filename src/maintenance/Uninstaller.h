@@ -33,7 +33,6 @@ public:
     [[nodiscard]] QCoro::Task<> run(std::function<void()> onTrashed = {});
 
 private:
-    [[nodiscard]] std::string identifier() const;
     [[nodiscard]] QCoro::Task<bool> trashApplication();
 
     Platform& platform_;

@@ -1,6 +1,7 @@
 #include "maintenance/Updater.h"
 
 #include "analytics/Analytics.h"
+#include "maintenance/AppMover.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
@@ -18,7 +19,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::string_view lastVersionKey = "qln.lastVersion";
-constexpr std::string_view moveDeclinedKey = "qln.moveDeclined";
 constexpr std::string_view feedKey = "SUFeedURL";
 constexpr std::string_view buildKey = "CFBundleVersion";
 
@@ -98,7 +98,7 @@ void Updater::didAbortWithError(const UpdateError& error) {
 void Updater::offerMoveAgain() {
     if (!hooks_.shouldAskToMove()) return;
     // An earlier "Not now" was said before it stood in the way of an update.
-    platform_.defaults.remove(moveDeclinedKey);
+    platform_.defaults.remove(AppMover::declinedKey);
     hooks_.askToMove();
 }
 

@@ -8,6 +8,10 @@
 
 namespace quillon {
 
+/// The program's name among programs: on the session bus, in file names, and the identifier of the
+/// bundles that its makers hand out.
+inline constexpr const char* applicationIdentifier = "dev.vostrel.quillon";
+
 /// The program as it lies on disk: an application folder ("Quillon.app") or, where a package
 /// installed it or it was just built, the executable alone.
 struct Bundle {
@@ -18,12 +22,12 @@ struct Bundle {
     std::map<std::string, std::string, std::less<>> info;
 
     /// A value of the property list; none when it is missing or no text.
-    [[nodiscard]] std::optional<std::string> text(std::string_view key) const {
-        const auto found = info.find(key);
-        return found == info.end() ? std::nullopt : std::optional{found->second};
-    }
+    [[nodiscard]] std::optional<std::string> text(std::string_view key) const;
     /// Empty when the bundle names none.
     [[nodiscard]] std::string identifier() const { return text("CFBundleIdentifier").value_or(""); }
+    /// What the bundle's own folders among those of all programs are called: the identifier, or the
+    /// program's usual one where that could mean anything else, as a path or a single word might.
+    [[nodiscard]] std::string folderName() const;
     /// What the user knows as the version; "dev" when the bundle names none.
     [[nodiscard]] std::string shortVersion() const {
         return text("CFBundleShortVersionString").value_or("dev");

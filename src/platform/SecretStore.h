@@ -34,8 +34,8 @@ public:
     /// keyring's answer: for start-up, before any window exists.
     [[nodiscard]] virtual bool exists(const KeychainItem& item) = 0;
 
-    /// Removes the item; a missing one is not an error.
-    [[nodiscard]] virtual QFuture<void> remove(KeychainItem item) = 0;
+    /// Removes the item; a missing one is not an error. Tells whether the keyring holds none now.
+    [[nodiscard]] virtual QFuture<bool> remove(KeychainItem item) = 0;
 };
 
 } // namespace quillon

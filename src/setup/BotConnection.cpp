@@ -29,8 +29,8 @@ QCoro::Task<std::string> Store::connectBot(std::string pasted) {
     co_return name;
 }
 
-QCoro::Task<> Store::forgetBot() {
-    const QFuture<void> removed = platform_.secrets.remove(botTokenItem());
+QCoro::Task<bool> Store::forgetBot() {
+    const QFuture<bool> removed = platform_.secrets.remove(botTokenItem());
     cachedToken_.reset();
     ++tokenChanges_;
     publish(tokenSaved_, false);
@@ -40,7 +40,7 @@ QCoro::Task<> Store::forgetBot() {
         config.botName.reset();
         config.topics = Topic::defaults();
     });
-    co_await removed;
+    co_return co_await removed;
 }
 
 } // namespace quillon

@@ -100,9 +100,9 @@ public:
 
     /// Checks the token with Telegram, stores it and gives the bot's name. Throws TelegramError.
     [[nodiscard]] QCoro::Task<std::string> connectBot(std::string token);
-    /// Removes the token and everything learnt about the group. Ends when the keyring has answered;
-    /// the state has changed before.
-    [[nodiscard]] QCoro::Task<> forgetBot();
+    /// Removes the token and everything learnt about the group. Ends when the keyring has answered,
+    /// with whether it holds none now; the state has changed before.
+    [[nodiscard]] QCoro::Task<bool> forgetBot();
     /// Finds the group in the bot's recent updates. Throws TelegramError.
     [[nodiscard]] QCoro::Task<> findGroup();
     /// Gives every topic its thread: one found in the group again, or a new one. Throws

@@ -28,7 +28,8 @@ QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
         const bool moved = co_await mover.ask();
         if (moved) co_return;
     }
-    resident = Resident::claim(platform, alerts, mover);
+    std::unique_ptr<Resident> claimed = co_await Resident::claim(platform, alerts, mover);
+    resident = std::move(claimed);
     if (resident) co_return resident->start();
     const bool shown = RemoteProgram::activate();
     if (!shown) std::cerr << FolderLock::heldMessage << std::endl;

@@ -4,6 +4,7 @@
 #include "platform/FileSystem.h"
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
+#include "platform/Sleep.h"
 #include "platform/Workspace.h"
 #include "ui/panel/PanelView.h"
 #include "ui/settings/SettingsView.h"
@@ -20,8 +21,9 @@ namespace quillon {
 
 namespace {
 
-/// Longer than a command takes, unless the network makes it wait.
-constexpr std::chrono::milliseconds lockPatience{5000};
+/// Together longer than a command takes, unless the network makes it wait.
+constexpr int lockTries = 100;
+constexpr std::chrono::milliseconds lockInterval{50};
 
 /// The first text to be drawn has Qt look through the fonts, which takes longer than a frame:
 /// better now than when the first banner fades in.
@@ -41,16 +43,22 @@ UpdaterHooks hooks(Platform& platform, AppMover& mover, UpdateWindows& windows) 
 
 } // namespace
 
-std::unique_ptr<Resident> Resident::claim(Platform& platform, Alerts& alerts, AppMover& mover) {
+QCoro::Task<std::unique_ptr<Resident>> Resident::claim(Platform& platform, Alerts& alerts,
+                                                       AppMover& mover) {
     platform.files.createFolder(platform.dataFolder);
     // First the name, then the lock: who finds no name may have the lock for a moment, and who
     // finds the name hands its command over.
     auto service =
         std::make_unique<CommandService>([&platform] { platform.workspace.terminate(); });
-    if (service->publish() == CommandService::Publication::takenByAnother) return nullptr;
-    auto lock = FolderLock::take(platform.dataFolder, lockPatience);
-    if (!lock) return nullptr;
-    return std::unique_ptr<Resident>{
+    if (service->publish() == CommandService::Publication::takenByAnother) co_return std::unique_ptr<Resident>{};
+    auto lock = FolderLock::take(platform.dataFolder);
+    for (int tries = 1; !lock && tries < lockTries; ++tries) {
+        co_await sleep(platform.clock, lockInterval);
+        auto another = FolderLock::take(platform.dataFolder);
+        if (another) lock.emplace(*std::move(another));
+    }
+    if (!lock) co_return std::unique_ptr<Resident>{};
+    co_return std::unique_ptr<Resident>{
         new Resident{platform, alerts, mover, std::move(service), *std::move(lock)}};
 }
 

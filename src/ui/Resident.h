@@ -24,9 +24,10 @@ class AppMover;
 /// The session's one running program: everything that works from its start to its end.
 class Resident {
 public:
-    /// Null when another program of the session has the name on the bus, or the data folder.
-    [[nodiscard]] static std::unique_ptr<Resident> claim(Platform& platform, Alerts& alerts,
-                                                         AppMover& mover);
+    /// Waits a few seconds for commands that are at work on the data. Null when another program of
+    /// the session has the name on the bus, or the data folder for longer.
+    [[nodiscard]] static QCoro::Task<std::unique_ptr<Resident>>
+    claim(Platform& platform, Alerts& alerts, AppMover& mover);
 
     /// Begins the work, in the order that its parts need each other.
     void start();

@@ -188,17 +188,9 @@ std::optional<UpdateError> install(const PreparedUpdate& update) {
     return std::nullopt;
 }
 
-std::optional<fs::path> updateCache(const Bundle& bundle, const Folders& folders) {
-    const std::string identifier = bundle.identifier();
-    const bool isName = !identifier.empty() && identifier.front() != '.' &&
-                        identifier.find('/') == std::string::npos;
-    if (!isName || !folders.cache.is_absolute()) return std::nullopt;
-    return folders.cache / identifier;
-}
-
 void removeLeftovers(const Bundle& bundle, const Folders& folders) {
     if (bundle.isApplication()) removeAbandoned(bundle.url.parent_path(), stagingPrefix);
-    if (const auto cache = updateCache(bundle, folders)) removeAbandoned(*cache, downloadPrefix);
+    removeAbandoned(folders.cache / bundle.folderName(), downloadPrefix);
 }
 
 } // namespace quillon

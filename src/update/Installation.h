@@ -76,10 +76,6 @@ struct StagedBundle {
 /// removeLeftovers. When an error comes back, nothing has changed. Quick: may be called at quit.
 [[nodiscard]] std::optional<UpdateError> install(const PreparedUpdate& update);
 
-/// The application's folder in the cache; none when its identifier is no folder's name.
-[[nodiscard]] std::optional<std::filesystem::path> updateCache(const Bundle& bundle,
-                                                               const Folders& folders);
-
 /// Removes what earlier updates of this application have left beside it and in the cache: to be
 /// called at each start of an application folder. May take long: not for the main thread.
 void removeLeftovers(const Bundle& bundle, const Folders& folders);

@@ -183,10 +183,9 @@ QCoro::Task<Prepared> prepareUpdate(Platform& platform, FeedItem item,
     // Before the download, so that nothing is fetched in vain.
     const Staging staging = makeStaging(running.url);
     if (staging.error) co_return *staging.error;
-    const auto cache = updateCache(running, platform.folders);
-    if (!cache || !platform.files.createFolder(*cache))
-        co_return updateError(updateDownloadNotStored);
-    const PrivateFolder downloads{*cache, downloadPrefix};
+    const path cache = platform.folders.cache / running.folderName();
+    if (!platform.files.createFolder(cache)) co_return updateError(updateDownloadNotStored);
+    const PrivateFolder downloads{cache, downloadPrefix};
     if (!downloads.isOpen()) co_return updateError(updateDownloadNotStored);
 
     const ProgressReport report{std::move(progress), item.length};

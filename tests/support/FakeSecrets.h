@@ -27,9 +27,9 @@ public:
     [[nodiscard]] bool exists(const KeychainItem& item) override {
         return available && values.contains({item.service, item.account});
     }
-    [[nodiscard]] QFuture<void> remove(KeychainItem item) override {
+    [[nodiscard]] QFuture<bool> remove(KeychainItem item) override {
         if (available) values.erase({item.service, item.account});
-        return QtFuture::makeReadyFuture();
+        return QtFuture::makeReadyFuture(!values.contains({item.service, item.account}));
     }
 };
 

@@ -15,8 +15,6 @@ using std::filesystem::path;
 
 /// The icon below an application folder.
 constexpr const char* bundleIcon = "Contents/Resources/dev.vostrel.quillon.svg";
-/// What the icon is called where a package has installed it.
-constexpr const char* iconName = "dev.vostrel.quillon";
 
 path entryFile(const Folders& folders) {
     return folders.data / "applications" / desktopEntryName;
@@ -25,7 +23,8 @@ path entryFile(const Folders& folders) {
 std::string iconOf(const path& application) {
     std::error_code ignored;
     const path icon = application / bundleIcon;
-    return std::filesystem::exists(icon, ignored) ? icon.native() : iconName;
+    // Where a package has installed the icon, it goes by the application's name.
+    return std::filesystem::exists(icon, ignored) ? icon.native() : applicationIdentifier;
 }
 
 } // namespace

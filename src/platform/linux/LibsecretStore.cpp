@@ -53,11 +53,7 @@ public:
         const auto promise = std::make_shared<QPromise<Result>>();
         promise->start();
         add([promise, operation = std::move(operation)](Keyring& keyring) {
-            if constexpr (std::is_void_v<Result>) {
-                operation(keyring);
-            } else {
-                promise->addResult(operation(keyring));
-            }
+            promise->addResult(operation(keyring));
             promise->finish();
         });
         return promise->future();
@@ -116,8 +112,11 @@ bool LibsecretStore::exists(const KeychainItem& item) {
     return answer.wait_for(existsLimit) == std::future_status::ready && answer.get();
 }
 
-QFuture<void> LibsecretStore::remove(KeychainItem item) {
-    return worker_->perform([item = std::move(item)](Keyring& keyring) { keyring.remove(item); });
+QFuture<bool> LibsecretStore::remove(KeychainItem item) {
+    return worker_->perform([item = std::move(item)](Keyring& keyring) {
+        keyring.remove(item);
+        return !keyring.exists(item);
+    });
 }
 
 } // namespace quillon

@@ -18,7 +18,7 @@ public:
     [[nodiscard]] QFuture<bool> save(KeychainItem item, std::string value) override;
     [[nodiscard]] QFuture<std::optional<std::string>> read(KeychainItem item) override;
     [[nodiscard]] bool exists(const KeychainItem& item) override;
-    [[nodiscard]] QFuture<void> remove(KeychainItem item) override;
+    [[nodiscard]] QFuture<bool> remove(KeychainItem item) override;
 
 private:
     class Worker;

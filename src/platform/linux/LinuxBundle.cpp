@@ -61,7 +61,7 @@ Bundle runningBundle() {
     if (const auto folder = applicationFolder(program)) return bundleAt(*folder);
     return {.url = program,
             .executable = program,
-            .info = {{"CFBundleIdentifier", QUILLON_IDENTIFIER},
+            .info = {{"CFBundleIdentifier", applicationIdentifier},
                      {"CFBundleShortVersionString", QUILLON_VERSION},
                      {"CFBundleVersion", QUILLON_VERSION}}};
 }

@@ -28,11 +28,6 @@ QString productName() {
     return QStringLiteral("Quillon");
 }
 
-QSize square(double points) {
-    const int side = static_cast<int>(std::ceil(points * Theme::textScale()));
-    return {side, side};
-}
-
 QRectF centredSquare(const QRectF& frame) {
     const double side = std::min(frame.width(), frame.height());
     QRectF box{0, 0, side, side};
@@ -62,12 +57,13 @@ void paintAppIcon(QPainter& painter, const QRectF& frame) {
     painter.restore();
 }
 
-AppIconView::AppIconView(double size, QWidget* parent) : View{parent}, size_{size} {
+SquareView::SquareView(double size, QWidget* parent) : View{parent}, size_{size} {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-QSize AppIconView::sizeHint() const {
-    return square(size_);
+QSize SquareView::sizeHint() const {
+    const int side = static_cast<int>(std::ceil(size_ * Theme::textScale()));
+    return {side, side};
 }
 
 void AppIconView::paintEvent(QPaintEvent* /*event*/) {
@@ -119,19 +115,11 @@ void Wordmark::paintEvent(QPaintEvent* /*event*/) {
     layout.draw(&painter, {0, std::floor((height() - line.height()) / 2)});
 }
 
-TelegramIcon::TelegramIcon(double size, QWidget* parent) : View{parent}, size_{size} {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-QSize TelegramIcon::sizeHint() const {
-    return square(size_);
-}
-
 void TelegramIcon::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
-    const double side = size_ * Theme::textScale();
+    const double side = sizeHint().width();
     const double radius = side * planeDisc / 2;
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme.fill(Qt::white));

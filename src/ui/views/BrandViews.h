@@ -4,22 +4,30 @@
 
 namespace quillon {
 
-/// The application's icon.
-class AppIconView : public View {
+/// A picture in a square that the text around it makes grow.
+class SquareView : public View {
     Q_OBJECT
 
 public:
-    /// `size` in points of the design; it grows with the text.
-    explicit AppIconView(double size, QWidget* parent = nullptr);
+    /// `size` in points of the design.
+    SquareView(double size, QWidget* parent);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
 private:
     double size_;
+};
+
+/// The application's icon.
+class AppIconView : public SquareView {
+    Q_OBJECT
+
+public:
+    explicit AppIconView(double size, QWidget* parent = nullptr) : SquareView{size, parent} {}
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 /// The product's name as it is written everywhere.
@@ -45,20 +53,14 @@ private:
 };
 
 /// Telegram's paper plane on a disc. Decoration.
-class TelegramIcon : public View {
+class TelegramIcon : public SquareView {
     Q_OBJECT
 
 public:
-    explicit TelegramIcon(double size, QWidget* parent = nullptr);
-
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    explicit TelegramIcon(double size, QWidget* parent = nullptr) : SquareView{size, parent} {}
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    double size_;
 };
 
 /// The symbol and the colour of Telegram's logo on a button or a label.

@@ -2,6 +2,7 @@
 
 #include "maintenance/Updater.h"
 #include "support/ConnectedWorld.h"
+#include "support/FakeFramework.h"
 #include "support/Faults.h"
 
 #include <QAbstractButton>
@@ -20,24 +21,6 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
-
-/// An update framework that is there, and counts the checks.
-class FakeFramework : public UpdateFramework {
-public:
-    std::function<void(bool)> canCheck;
-    int checks = 0;
-
-    [[nodiscard]] std::optional<UpdateError> start(UpdaterDelegate& /*told*/) override {
-        return std::nullopt;
-    }
-    void observeCanCheck(std::function<void(bool)> observer) override {
-        canCheck = std::move(observer);
-        canCheck(true);
-    }
-    void checkForUpdates() override { ++checks; }
-    [[nodiscard]] bool automaticallyChecksForUpdates() const override { return false; }
-    void setAutomaticallyChecksForUpdates(bool /*automatically*/) override {}
-};
 
 /// A panel in front of the user, who sees and finds things by what assistive technology says.
 template <typename Computer>
@@ -91,16 +74,7 @@ struct PanelOn : testing::Test {
 
     Computer world;
     FakeFramework* framework = nullptr;
-    Updater updater{world.platform, *world.analytics,
-                    UpdaterHooks{.makeFramework =
-                                     [this] {
-                                         auto made = std::make_unique<FakeFramework>();
-                                         framework = made.get();
-                                         return made;
-                                     },
-                                 .shouldAskToMove = {},
-                                 .askToMove = {},
-                                 .log = {}}};
+    Updater updater{world.platform, *world.analytics, fakeHooks(framework)};
     std::vector<std::string> log;
     std::optional<PanelView> panel;
 };

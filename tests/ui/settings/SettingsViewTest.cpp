@@ -3,8 +3,8 @@
 #include "maintenance/Updater.h"
 #include "support/ConnectedWorld.h"
 #include "support/Controls.h"
+#include "support/FakeFramework.h"
 #include "support/Faults.h"
-#include "ui/settings/FakeFramework.h"
 #include "ui/settings/PositionCard.h"
 #include "ui/settings/UninstallSheet.h"
 #include "ui/views/Motion.h"
@@ -55,16 +55,7 @@ struct SettingsTest : testing::Test {
 
     ConnectedWorld world;
     FakeFramework* framework = nullptr;
-    Updater updater{world.platform, *world.analytics,
-                    UpdaterHooks{.makeFramework =
-                                     [this] {
-                                         auto made = std::make_unique<FakeFramework>();
-                                         framework = made.get();
-                                         return made;
-                                     },
-                                 .shouldAskToMove = [] { return false; },
-                                 .askToMove = {},
-                                 .log = [](const std::string&) {}}};
+    Updater updater{world.platform, *world.analytics, fakeHooks(framework)};
     int uninstalls = 0;
     SettingsView view{
         *world.store, updater,

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/UpdateFramework.h"
+#include "maintenance/Updater.h"
 
 namespace quillon::test {
 
@@ -24,5 +24,19 @@ public:
         automatic = automatically;
     }
 };
+
+/// What an updater needs to run on a fake framework, which `framework` leads to once it has
+/// started.
+inline UpdaterHooks fakeHooks(FakeFramework*& framework) {
+    return {.makeFramework =
+                [&framework] {
+                    auto made = std::make_unique<FakeFramework>();
+                    framework = made.get();
+                    return made;
+                },
+            .shouldAskToMove = [] { return false; },
+            .askToMove = {},
+            .log = [](const std::string&) {}};
+}
 
 } // namespace quillon::test
