@@ -1,0 +1,211 @@
+"""The program as it stays: its start, its memory, how it idles, its panel and its end."""
+
+import json
+import os
+import re
+import select
+import shutil
+import statistics
+import subprocess
+import sys
+import time
+from pathlib import Path
+
+from harness import BUILD, MB, WORK, Row, copied
+
+START_ROUNDS = 15
+PANEL_ROUNDS = 5
+QUIT_ROUNDS = 15
+SETTLING = 40  # seconds; longer than Qt keeps threads that have nothing to do
+WATCHING = 60  # seconds
+
+
+class Tray:
+    """A tray with room for one icon, as long as the context lasts."""
+
+    def __enter__(self):
+        self.process = subprocess.Popen([BUILD / "bench/bench_TrayHost"], text=True, bufsize=1,
+                                        stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self.process.stdout.readline()
+        return self
+
+    def __exit__(self, *_):
+        self.process.stdin.close()
+        self.process.wait()
+
+    def await_icon(self):
+        """When the icon asked for its place, in seconds of the monotonic clock."""
+        if not select.select([self.process.stdout], [], [], 10)[0]:
+            sys.exit("no icon came to the tray")
+        return float(self.process.stdout.readline()) / 1000
+
+    def click(self):
+        self.process.stdin.write("\n")
+
+
+def end(process):
+    process.terminate()
+    process.wait()
+
+
+def start(telegram):
+    """From the start of the process to its icon in the tray."""
+    commands = {"ours": BUILD / "src/quillon", "peer": BUILD / "bench/bench_EmptyTray"}
+    took = {name: [] for name in commands}
+    with Tray() as tray:
+        for _ in range(START_ROUNDS):
+            for name, command in commands.items():
+                begin = time.monotonic()
+                process = subprocess.Popen([command], env=telegram.env)
+                took[name].append((tray.await_icon() - begin) * 1000)
+                time.sleep(0.2)
+                end(process)
+    ours, peer = (statistics.median(times) for times in took.values())
+    yield Row("start to the icon in the tray", f"{ours:.0f} ms", f"empty {peer:.0f} ms",
+              ours / peer, 2)
+
+
+def memory(process):
+    """The process's share of the memory (PSS), in bytes."""
+    rollup = Path(f"/proc/{process.pid}/smaps_rollup").read_text()
+    return int(re.search(r"^Pss:\s+(\d+) kB", rollup, re.MULTILINE)[1]) * 1024
+
+
+def activity(process):
+    """The context switches of all threads so far, and their processor time in ms."""
+    switches = nanoseconds = 0
+    for task in Path(f"/proc/{process.pid}/task").iterdir():
+        counts = re.findall(r"ctxt_switches:\s+(\d+)", (task / "status").read_text())
+        switches += sum(map(int, counts))
+        nanoseconds += int((task / "schedstat").read_text().split()[0])
+    return switches, nanoseconds / 1e6
+
+
+def windows():
+    """How many windows the program shows, its icon included."""
+    command = ["xdotool", "search", "--onlyvisible", "--class", "^quillon$"]
+    return len(subprocess.run(command, capture_output=True, text=True).stdout.split())
+
+
+def await_windows(count):
+    for _ in range(200):
+        if windows() == count:
+            return
+        time.sleep(0.02)
+    sys.exit(f"{windows()} windows are shown where {count} should be")
+
+
+def idling(telegram):
+    """Memory and activity of the program that nobody uses, before and after its panel was open.
+
+    To be called when no other program of ours runs, for they would share pages.
+    """
+    with Tray() as tray:
+        peer = subprocess.Popen([BUILD / "bench/bench_EmptyTray"])
+        tray.await_icon()
+        time.sleep(2)
+        empty = memory(peer)
+        end(peer)
+
+        process = subprocess.Popen([BUILD / "src/quillon"], env=telegram.env)
+        tray.await_icon()
+        time.sleep(SETTLING)
+        closed = memory(process)
+        switches, busy = activity(process)
+        time.sleep(WATCHING)
+        switches, busy = (now - before for now, before in zip(activity(process), (switches, busy)))
+        shown = windows()
+        for count in shown + 1, shown:
+            tray.click()
+            await_windows(count)
+            time.sleep(2)
+        used = memory(process)
+        end(process)
+    peer = f"empty {empty / MB:.1f} MB"
+    yield Row("idle memory (PSS)", f"{closed / MB:.1f} MB", peer, closed / MB, 30, unit="MB")
+    yield Row("  after the panel was open", f"{used / MB:.1f} MB", peer, used / MB, 36, unit="MB")
+    yield Row("context switches in an idle minute", str(switches), "", switches, 3, unit="")
+    yield Row("processor time in it", f"{busy:.2f} ms", "", round(busy, 2), 0, unit="ms")
+
+
+def make_picture():
+    """A picture of 30 MB that cannot be made smaller."""
+    raw, picture = WORK / "noise.rgb", WORK / "noise.png"
+    side = 3162  # pixels of 3 bytes
+    raw.write_bytes(os.urandom(side * side * 3))
+    command = ["convert", "-size", f"{side}x{side}", "-depth", "8", raw, "-quality", "1", picture]
+    subprocess.run(command, check=True)
+    return picture
+
+
+def panel(telegram, text):
+    """Opening the panel, and what it takes while it is open and a large picture is copied."""
+    picture = make_picture()
+    firsts, agains, quiet, reading = [], [], [], []
+    for _ in range(PANEL_ROUNDS):
+        with copied("UTF8_STRING", text):
+            program = subprocess.Popen([BUILD / "bench/bench_Panel"], env=telegram.env, text=True,
+                                       bufsize=1, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+            firsts.append(float(program.stdout.readline()))
+            agains.append(float(program.stdout.readline()))
+            program.stdin.write("\n")
+            quiet.append(float(program.stdout.readline()))
+        with copied("image/png", picture):
+            program.stdin.write("\n")
+            reading.append(float(program.stdout.readline()))
+            program.stdin.close()
+            if program.wait() != 0:
+                sys.exit("the panel did not stay open")
+    first, again, quiet, reading = map(statistics.median, (firsts, agains, quiet, reading))
+    yield Row("panel's first frame, first time", f"{first:.1f} ms", "", first, 50, unit="ms")
+    yield Row("  once more", f"{again:.1f} ms", "", again, 50, unit="ms")
+    yield Row("a second of the open panel, window thread", f"{quiet:.2f} ms")
+    yield Row("  in which a 30 MB picture is copied", f"{reading:.2f} ms", "", reading, 5,
+              unit="ms")
+
+
+def time_to_quit(env):
+    """Starts the resident program, ends it, and gives the milliseconds from the signal to its end."""
+    home = Path(env["XDG_DATA_HOME"])
+    events = home / "Quillon/events.json"
+    with open(WORK / "output", "w+b") as output:
+        process = subprocess.Popen([BUILD / "src/quillon"], env=env, stdout=output, stderr=output)
+        deadline = time.monotonic() + 10
+        while not (events.exists() and "daily_active" in events.read_text()):
+            if process.poll() is not None or time.monotonic() > deadline:
+                process.kill()
+                output.seek(0)
+                sys.exit(f"the program did not start: {output.read().decode(errors='replace')}")
+            time.sleep(0.02)
+        time.sleep(0.2)  # the rest of its start is not measured
+        ended = os.pidfd_open(process.pid)
+        start = time.monotonic()
+        process.terminate()
+        select.select([ended], [], [], 10)
+        milliseconds = (time.monotonic() - start) * 1000
+        os.close(ended)
+        if process.poll() != 0:
+            process.kill()
+            sys.exit(f"the program did not quit well: {process.returncode}")
+    left = json.loads(events.read_text())
+    shutil.rmtree(home)
+    return milliseconds, len(left)
+
+
+def quitting(telegram):
+    """The running program's end: with nothing to deliver, and with two events for the server."""
+    address = telegram.facts["base_url"]
+    environment = os.environ | {"QUILLON_BOT_API": address, "no_proxy": "127.0.0.1"}
+    events_left = {"": 2, address: 0}  # by the makers' server
+    times = {server: [] for server in events_left}
+    for count in range(QUIT_ROUNDS):
+        for server, expected in events_left.items():
+            home = WORK / f"quit {count} {bool(server)}"
+            changes = {"XDG_DATA_HOME": str(home), "XDG_CONFIG_HOME": str(home / "config")}
+            taken, left = time_to_quit(environment | changes | {"QUILLON_SERVER": server})
+            if left != expected:
+                sys.exit(f"{left} events were left where {expected} should have been")
+            times[server].append(taken)
+    idle, delivering = (statistics.median(taken) for taken in times.values())
+    yield Row("quitting with nothing to deliver", f"{idle:.0f} ms", "", idle, 100, unit="ms")
+    yield Row("  with two events to deliver", f"{delivering:.0f} ms")
