@@ -40,17 +40,17 @@ bool CurlDownload::describe(const CurlTransportOptions& options) {
     }
     fetch(options);
     // A body that explains a failure is not what was asked for.
-    curl_easy_setopt(handle(), CURLOPT_FAILONERROR, 1L);
-    curl_easy_setopt(handle(), CURLOPT_MAXFILESIZE_LARGE,
-                     static_cast<curl_off_t>(download_.maximumSize));
-    curl_easy_setopt(handle(), CURLOPT_WRITEFUNCTION, &CurlDownload::takeBytes);
-    curl_easy_setopt(handle(), CURLOPT_WRITEDATA, this);
+    curl().easy_setopt(handle(), CURLOPT_FAILONERROR, 1L);
+    curl().easy_setopt(handle(), CURLOPT_MAXFILESIZE_LARGE,
+                       static_cast<curl_off_t>(download_.maximumSize));
+    curl().easy_setopt(handle(), CURLOPT_WRITEFUNCTION, &CurlDownload::takeBytes);
+    curl().easy_setopt(handle(), CURLOPT_WRITEDATA, this);
     return true;
 }
 
 CurlTransfer::Progress CurlDownload::progress() const {
     curl_off_t total = -1;
-    if (handle()) curl_easy_getinfo(handle(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &total);
+    if (handle()) curl().easy_getinfo(handle(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &total);
     return {.done = received_, .total = total};
 }
 

@@ -36,7 +36,7 @@ bool CurlRequest::setHeaders() {
         if (!value.empty()) line.append(" ").append(value);
     }
     for (const std::string& line : lines) {
-        curl_slist* longer = curl_slist_append(headers_.get(), line.c_str());
+        curl_slist* longer = curl().slist_append(headers_.get(), line.c_str());
         if (!longer) return false;
         static_cast<void>(headers_.release());
         headers_.reset(longer);
@@ -47,28 +47,28 @@ bool CurlRequest::setHeaders() {
 bool CurlRequest::describe(const CurlTransportOptions& options) {
     if (!setHeaders()) return false;
     method_ == Method::post ? describeBody() : fetch(options);
-    curl_easy_setopt(handle(), CURLOPT_TIMEOUT_MS,
-                     static_cast<long>(request_.totalTimeout.count()));
-    curl_easy_setopt(handle(), CURLOPT_HTTPHEADER, headers_.get());
-    curl_easy_setopt(handle(), CURLOPT_WRITEFUNCTION, &CurlRequest::takeReply);
-    curl_easy_setopt(handle(), CURLOPT_WRITEDATA, this);
+    curl().easy_setopt(handle(), CURLOPT_TIMEOUT_MS,
+                       static_cast<long>(request_.totalTimeout.count()));
+    curl().easy_setopt(handle(), CURLOPT_HTTPHEADER, headers_.get());
+    curl().easy_setopt(handle(), CURLOPT_WRITEFUNCTION, &CurlRequest::takeReply);
+    curl().easy_setopt(handle(), CURLOPT_WRITEDATA, this);
     return true;
 }
 
 void CurlRequest::describeBody() {
-    curl_easy_setopt(handle(), CURLOPT_POST, 1L);
-    curl_easy_setopt(handle(), CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(total_));
+    curl().easy_setopt(handle(), CURLOPT_POST, 1L);
+    curl().easy_setopt(handle(), CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(total_));
     if (total_ > uploadBufferSize)
-        curl_easy_setopt(handle(), CURLOPT_UPLOAD_BUFFERSIZE, uploadBufferSize);
-    curl_easy_setopt(handle(), CURLOPT_READFUNCTION, &CurlRequest::readBody);
-    curl_easy_setopt(handle(), CURLOPT_READDATA, this);
-    curl_easy_setopt(handle(), CURLOPT_SEEKFUNCTION, &CurlRequest::seekBody);
-    curl_easy_setopt(handle(), CURLOPT_SEEKDATA, this);
+        curl().easy_setopt(handle(), CURLOPT_UPLOAD_BUFFERSIZE, uploadBufferSize);
+    curl().easy_setopt(handle(), CURLOPT_READFUNCTION, &CurlRequest::readBody);
+    curl().easy_setopt(handle(), CURLOPT_READDATA, this);
+    curl().easy_setopt(handle(), CURLOPT_SEEKFUNCTION, &CurlRequest::seekBody);
+    curl().easy_setopt(handle(), CURLOPT_SEEKDATA, this);
 }
 
 CurlTransfer::Progress CurlRequest::progress() const {
     curl_off_t bytes = 0;
-    if (handle()) curl_easy_getinfo(handle(), CURLINFO_SIZE_UPLOAD_T, &bytes);
+    if (handle()) curl().easy_getinfo(handle(), CURLINFO_SIZE_UPLOAD_T, &bytes);
     return {.done = std::min<qint64>(bytes, total_), .total = total_};
 }
 

@@ -34,7 +34,7 @@ private:
     static size_t takeReply(char* bytes, size_t size, size_t count, void* self);
 
     struct FreeList {
-        void operator()(curl_slist* list) const { curl_slist_free_all(list); }
+        void operator()(curl_slist* list) const { curl().slist_free_all(list); }
     };
 
     Method method_;

@@ -16,26 +16,26 @@ constexpr long maximumRedirects = 10;
 
 void trustCertificates(CURL* handle, const std::filesystem::path& certificates) {
     if (!certificates.empty()) {
-        curl_easy_setopt(handle, CURLOPT_CAINFO, certificates.c_str());
-        curl_easy_setopt(handle, CURLOPT_CAPATH, nullptr);
+        curl().easy_setopt(handle, CURLOPT_CAINFO, certificates.c_str());
+        curl().easy_setopt(handle, CURLOPT_CAPATH, nullptr);
         return;
     }
     if (const auto file = environment("SSL_CERT_FILE"))
-        curl_easy_setopt(handle, CURLOPT_CAINFO, file->c_str());
+        curl().easy_setopt(handle, CURLOPT_CAINFO, file->c_str());
     if (const auto folder = environment("SSL_CERT_DIR"))
-        curl_easy_setopt(handle, CURLOPT_CAPATH, folder->c_str());
+        curl().easy_setopt(handle, CURLOPT_CAPATH, folder->c_str());
 }
 
 /// The host as libcurl will reach it; empty when the address is none.
 std::string hostOf(const std::string& url) {
     std::string host;
-    CURLU* parsed = curl_url();
+    CURLU* parsed = curl().url();
     char* part = nullptr;
-    if (parsed && curl_url_set(parsed, CURLUPART_URL, url.c_str(), 0) == CURLUE_OK &&
-        curl_url_get(parsed, CURLUPART_HOST, &part, 0) == CURLUE_OK)
+    if (parsed && curl().url_set(parsed, CURLUPART_URL, url.c_str(), 0) == CURLUE_OK &&
+        curl().url_get(parsed, CURLUPART_HOST, &part, 0) == CURLUE_OK)
         host = part;
-    curl_free(part);
-    curl_url_cleanup(parsed);
+    curl().free(part);
+    curl().url_cleanup(parsed);
     return host;
 }
 
@@ -56,34 +56,34 @@ CurlTransfer::CurlTransfer(std::string url, std::chrono::milliseconds inactivity
 
 bool CurlTransfer::prepare(const CurlTransportOptions& options) {
     movedAt_ = std::chrono::steady_clock::now();
-    handle_.reset(curl_easy_init());
+    handle_.reset(curl().easy_init());
     CURL* handle = handle_.get();
     if (!handle) return false;
 
-    curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, options.allowHttp ? "http,https" : "https");
-    curl_easy_setopt(handle, CURLOPT_FOLLOWLOCATION, 0L);
-    curl_easy_setopt(handle, CURLOPT_PATH_AS_IS, 1L);
-    curl_easy_setopt(handle, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_2TLS));
-    curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
+    curl().easy_setopt(handle, CURLOPT_PROTOCOLS_STR, options.allowHttp ? "http,https" : "https");
+    curl().easy_setopt(handle, CURLOPT_FOLLOWLOCATION, 0L);
+    curl().easy_setopt(handle, CURLOPT_PATH_AS_IS, 1L);
+    curl().easy_setopt(handle, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_2TLS));
+    curl().easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
     // Ends a transfer without waiting for the name server that it still waits for.
-    curl_easy_setopt(handle, CURLOPT_QUICK_EXIT, 1L);
+    curl().easy_setopt(handle, CURLOPT_QUICK_EXIT, 1L);
     // The time-out is by inactivity alone.
-    curl_easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, 24L * 60 * 60 * 1000);
+    curl().easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, 24L * 60 * 60 * 1000);
     trustCertificates(handle, options.trustedCertificates);
-    curl_easy_setopt(handle, CURLOPT_PRIVATE, this);
-    return describe(options) && curl_easy_setopt(handle, CURLOPT_URL, url_.c_str()) == CURLE_OK;
+    curl().easy_setopt(handle, CURLOPT_PRIVATE, this);
+    return describe(options) && curl().easy_setopt(handle, CURLOPT_URL, url_.c_str()) == CURLE_OK;
 }
 
 void CurlTransfer::fetch(const CurlTransportOptions& options) {
     const bool near = isToThisMachine();
     const bool allowHttp = options.allowHttp || near;
-    curl_easy_setopt(handle(), CURLOPT_PROTOCOLS_STR, allowHttp ? "http,https" : "https");
+    curl().easy_setopt(handle(), CURLOPT_PROTOCOLS_STR, allowHttp ? "http,https" : "https");
     // A proxy would be another machine.
-    if (near) curl_easy_setopt(handle(), CURLOPT_NOPROXY, "*");
-    curl_easy_setopt(handle(), CURLOPT_REDIR_PROTOCOLS_STR, "https");
-    curl_easy_setopt(handle(), CURLOPT_FOLLOWLOCATION, 1L);
-    curl_easy_setopt(handle(), CURLOPT_MAXREDIRS, maximumRedirects);
-    curl_easy_setopt(handle(), CURLOPT_HTTPGET, 1L);
+    if (near) curl().easy_setopt(handle(), CURLOPT_NOPROXY, "*");
+    curl().easy_setopt(handle(), CURLOPT_REDIR_PROTOCOLS_STR, "https");
+    curl().easy_setopt(handle(), CURLOPT_FOLLOWLOCATION, 1L);
+    curl().easy_setopt(handle(), CURLOPT_MAXREDIRS, maximumRedirects);
+    curl().easy_setopt(handle(), CURLOPT_HTTPGET, 1L);
 }
 
 bool CurlTransfer::isToThisMachine() const {
@@ -94,7 +94,7 @@ bool CurlTransfer::isToThisMachine() const {
 
 long CurlTransfer::status() const {
     long status = 0;
-    if (handle()) curl_easy_getinfo(handle(), CURLINFO_RESPONSE_CODE, &status);
+    if (handle()) curl().easy_getinfo(handle(), CURLINFO_RESPONSE_CODE, &status);
     return status;
 }
 
@@ -107,11 +107,11 @@ std::uint64_t CurlTransfer::movement() const {
     std::uint64_t sum = 0;
     for (const CURLINFO counter : counters) {
         curl_off_t value = 0;
-        curl_easy_getinfo(handle_.get(), counter, &value);
+        curl().easy_getinfo(handle_.get(), counter, &value);
         sum += static_cast<std::uint64_t>(value);
     }
     long headers = 0;
-    curl_easy_getinfo(handle_.get(), CURLINFO_HEADER_SIZE, &headers);
+    curl().easy_getinfo(handle_.get(), CURLINFO_HEADER_SIZE, &headers);
     return sum + static_cast<std::uint64_t>(headers);
 }
 

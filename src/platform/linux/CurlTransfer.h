@@ -1,8 +1,7 @@
 #pragma once
 
 #include "platform/linux/CurlTransport.h"
-
-#include <curl/curl.h>
+#include "platform/linux/LibCurl.h"
 
 #include <chrono>
 #include <cstdint>
@@ -71,7 +70,7 @@ private:
     [[nodiscard]] std::uint64_t movement() const;
 
     struct FreeHandle {
-        void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
+        void operator()(CURL* handle) const { curl().easy_cleanup(handle); }
     };
 
     std::string url_;

@@ -2,6 +2,7 @@
 
 #include "platform/linux/CurlDownload.h"
 #include "platform/linux/CurlRequest.h"
+#include "platform/linux/LibCurl.h"
 
 #include <QObject>
 
@@ -10,6 +11,7 @@
 #include <map>
 #include <mutex>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace quillon {
@@ -69,37 +71,35 @@ class CurlTransport::Worker {
 public:
     Worker(CurlTransportOptions options, ProgressListeners& listeners)
         : options_{std::move(options)},
-          listeners_{listeners} {
-        static const CURLcode ready = curl_global_init(CURL_GLOBAL_DEFAULT);
-        if (ready == CURLE_OK) multi_ = curl_multi_init();
-        if (multi_) thread_ = std::thread{[this] { run(); }};
-    }
+          listeners_{listeners} {}
     Worker(const Worker&) = delete;
     Worker& operator=(const Worker&) = delete;
 
     ~Worker() {
-        if (!multi_) return;
+        if (!thread_.joinable()) return;
         {
-            // The multi handle is gone soon after the thread can see that it is to stop.
             const std::lock_guard lock{mutex_};
             stopping_ = true;
-            curl_multi_wakeup(multi_);
+            if (multi_) curl().multi_wakeup(multi_);
         }
         thread_.join();
     }
 
     void add(std::unique_ptr<CurlTransfer> transfer) {
-        if (!multi_) return transfer->finish(CURLE_FAILED_INIT);
+        // Not before: most processes of this program never make a request.
+        if (!thread_.joinable()) thread_ = std::thread{[this] { run(); }};
         {
             const std::lock_guard lock{mutex_};
-            waiting_.push_back(std::move(transfer));
+            if (!broken_) waiting_.push_back(std::move(transfer));
         }
-        curl_multi_wakeup(multi_);
+        if (transfer) return transfer->finish(CURLE_FAILED_INIT);
+        wake();
     }
 
     /// Makes the thread look at its transfers. Thread-safe.
     void wake() {
-        if (multi_) curl_multi_wakeup(multi_);
+        const std::lock_guard lock{mutex_};
+        if (multi_) curl().multi_wakeup(multi_);
     }
 
 private:
@@ -107,17 +107,40 @@ private:
 
     void run() {
         blockSignals();
+        if (!open()) return;
         while (admit()) {
             int running = 0;
-            curl_multi_perform(multi_, &running);
+            curl().multi_perform(multi_, &running);
             collect();
             const auto sleep = attend();
-            curl_multi_poll(multi_, nullptr, 0, static_cast<int>(sleep.count()), nullptr);
+            curl().multi_poll(multi_, nullptr, 0, static_cast<int>(sleep.count()), nullptr);
         }
         while (!running_.empty())
             end(*running_.back(), CURLE_ABORTED_BY_CALLBACK);
+        close();
+    }
+
+    /// False when libcurl cannot be used: then every transfer fails, now and later.
+    bool open() {
+        CURLM* const multi = loadCurl() ? curl().multi_init() : nullptr;
+        Transfers failed;
+        {
+            const std::lock_guard lock{mutex_};
+            multi_ = multi;
+            broken_ = !multi;
+            if (broken_) failed.swap(waiting_);
+        }
+        for (const auto& transfer : failed)
+            transfer->finish(CURLE_FAILED_INIT);
+        return multi;
+    }
+
+    void close() {
+        std::unique_lock lock{mutex_};
+        CURLM* const multi = std::exchange(multi_, nullptr);
+        lock.unlock();
         // Says goodbye on its connections, for which SIGPIPE has to be blocked.
-        curl_multi_cleanup(multi_);
+        curl().multi_cleanup(multi);
     }
 
     /// Starts what was handed over; false when the transport is going away.
@@ -133,7 +156,7 @@ private:
             CurlTransfer& started = *running_.emplace_back(std::move(transfer));
             if (stopping) continue;
             if (!started.prepare(options_) ||
-                curl_multi_add_handle(multi_, started.handle()) != CURLM_OK)
+                curl().multi_add_handle(multi_, started.handle()) != CURLM_OK)
                 end(started, CURLE_FAILED_INIT);
         }
         return !stopping;
@@ -142,11 +165,11 @@ private:
     /// Finishes the transfers that libcurl is done with.
     void collect() {
         int left = 0;
-        while (const CURLMsg* message = curl_multi_info_read(multi_, &left)) {
+        while (const CURLMsg* message = curl().multi_info_read(multi_, &left)) {
             if (message->msg != CURLMSG_DONE) continue;
             const CURLcode code = message->data.result;
             CurlTransfer* transfer = nullptr;
-            curl_easy_getinfo(message->easy_handle, CURLINFO_PRIVATE, &transfer);
+            curl().easy_getinfo(message->easy_handle, CURLINFO_PRIVATE, &transfer);
             end(*transfer, code);
         }
     }
@@ -186,7 +209,7 @@ private:
             listeners_.tell(transfer.listener(), done, total, true);
         }
         transfer.finish(code);
-        if (transfer.handle()) curl_multi_remove_handle(multi_, transfer.handle());
+        if (transfer.handle()) curl().multi_remove_handle(multi_, transfer.handle());
         std::erase_if(running_, [&](const auto& each) { return each.get() == &transfer; });
     }
 
@@ -197,6 +220,7 @@ private:
     std::mutex mutex_;
     Transfers waiting_;
     bool stopping_ = false;
+    bool broken_ = false;
     std::thread thread_;
 };
 

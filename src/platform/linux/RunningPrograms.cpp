@@ -1,5 +1,6 @@
 #include "platform/linux/RunningPrograms.h"
 
+#include "platform/linux/LinuxBundle.h"
 #include "platform/linux/PosixFileSystem.h"
 
 #include <algorithm>
@@ -78,7 +79,7 @@ void runByAbsolutePath(char** argv) {
     if (argv[0] && argv[0][0] == '/') return;
     std::error_code error;
     std::string program = std::filesystem::read_symlink("/proc/self/exe", error).native();
-    if (error) return;
+    if (error || !applicationFolder(program)) return;
     argv[0] = program.data();
     ::execv(program.c_str(), argv);
 }

@@ -10,8 +10,9 @@ namespace quillon {
 /// started by, links followed, if any.
 [[nodiscard]] std::vector<std::filesystem::path> runningPrograms();
 
-/// Lets runningPrograms() of others find this process: starts it over by its absolute path, unless
-/// that is how it was started. To be called first of all. Returns also when that is not possible.
+/// Lets runningPrograms() of others find this process if it is an application folder's: starts it
+/// over by its absolute path, unless that is how it was started. To be called first of all. Returns
+/// also when that is not possible.
 void runByAbsolutePath(char** argv);
 
 } // namespace quillon

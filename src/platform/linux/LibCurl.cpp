@@ -1,0 +1,39 @@
+#include "platform/linux/LibCurl.h"
+
+#include <QLibrary>
+
+namespace quillon {
+
+namespace {
+
+constexpr int soVersion = 4; // libcurl.so.4, since 2006
+
+LibCurl functions{};
+
+template <typename Function>
+bool find(QLibrary& library, const char* name, Function& function) {
+    function = reinterpret_cast<Function>(library.resolve(name));
+    return function != nullptr;
+}
+
+bool load() {
+    QLibrary library{QStringLiteral("curl"), soVersion};
+    bool found = true;
+#define QUILLON_FIND(name) found = find(library, "curl_" #name, functions.name) && found;
+    QUILLON_CURL_FUNCTIONS(QUILLON_FIND)
+#undef QUILLON_FIND
+    return found && functions.global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK;
+}
+
+} // namespace
+
+bool loadCurl() {
+    static const bool loaded = load();
+    return loaded;
+}
+
+const LibCurl& curl() {
+    return functions;
+}
+
+} // namespace quillon

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <curl/curl.h>
+
+/// The functions of libcurl that are used here, without "curl_" before their names.
+#define QUILLON_CURL_FUNCTIONS(each)                                                               \
+    each(easy_cleanup) each(easy_getinfo) each(easy_init) each(easy_setopt) each(free)             \
+        each(global_init) each(multi_add_handle) each(multi_cleanup) each(multi_info_read)         \
+            each(multi_init) each(multi_perform) each(multi_poll) each(multi_remove_handle)        \
+                each(multi_wakeup) each(slist_append) each(slist_free_all) each(url)               \
+                    each(url_cleanup) each(url_get) each(url_set)
+
+namespace quillon {
+
+/// libcurl, found when the first request is made. It brings thirty libraries with it, TLS and
+/// directory services among them, which would be a third of the time that the program takes to
+/// start and a fifth of its memory, while on most days most of its time it has nothing to send.
+struct LibCurl {
+#define QUILLON_DECLARE(name) decltype(&::curl_##name) name;
+    QUILLON_CURL_FUNCTIONS(QUILLON_DECLARE)
+#undef QUILLON_DECLARE
+};
+
+/// Finds libcurl and makes it ready; false where it is missing or too old. Takes some 10 ms the
+/// first time. Thread-safe.
+[[nodiscard]] bool loadCurl();
+
+/// To be used only once loadCurl() has been true.
+[[nodiscard]] const LibCurl& curl();
+
+} // namespace quillon
