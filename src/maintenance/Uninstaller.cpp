@@ -18,11 +18,17 @@ namespace {
 
 using std::filesystem::path;
 
-Alert applicationStays() {
+/// Tells how to finish: with an application folder by hand, with an executable alone the way it was
+/// installed.
+Alert applicationStays(const Bundle& bundle) {
+    const char* const left = bundle.isApplication()
+                                 ? "It couldn't move itself to the Trash. Drag Quillon from "
+                                   "Applications to the Trash to finish."
+                                 : "It couldn't move itself to the Trash. Remove Quillon with your "
+                                   "package manager to finish.";
     return {.warning = false,
             .message = "Quillon is cleaned up",
-            .informativeText = "It couldn't move itself to the Trash. Drag Quillon from "
-                               "Applications to the Trash to finish.",
+            .informativeText = left,
             .buttons = {"OK"}};
 }
 
@@ -61,7 +67,7 @@ QCoro::Task<> Uninstaller::run(std::function<void()> onTrashed) {
         if (onTrashed) onTrashed();
     } else {
         platform_.workspace.activate();
-        Alert alert = applicationStays();
+        Alert alert = applicationStays(platform_.bundle);
         co_await alerts_.show(std::move(alert));
     }
     platform_.workspace.exitNow(0);

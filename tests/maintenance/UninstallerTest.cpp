@@ -3,6 +3,8 @@
 #include "support/FakeAlerts.h"
 #include "support/World.h"
 
+#include <gmock/gmock.h>
+
 #include <fstream>
 
 namespace quillon::test {
@@ -111,7 +113,8 @@ TEST_F(UninstallerTest, GoesOnWhateverFailsAndTellsOnlyWhatIsLeftToTheUser) {
     world.platform.bundle.url = "/usr/bin/quillon";
     run();
     EXPECT_EQ(world.workspace.log, (Log{"unlist", "activate", "exit 0"}));
-    EXPECT_EQ(alerts.shown.size(), 2U);
+    ASSERT_EQ(alerts.shown.size(), 2U);
+    EXPECT_THAT(alerts.shown[1].informativeText, testing::HasSubstr("with your package manager"));
 }
 
 } // namespace

@@ -167,7 +167,7 @@ TEST_F(XdgLoginItemTest, LeavesAloneWhatIsNoFile) {
     EXPECT_FALSE(item.unregisterItem());
 }
 
-TEST_F(XdgLoginItemTest, ListsTheApplicationWithTheIconItHas) {
+TEST_F(XdgLoginItemTest, ListsTheApplicationWithItsActionsAndTheIconItHas) {
     const path entry = home / "data/applications/dev.vostrel.quillon.desktop";
     const path application = home / "My Apps/Quillon.app";
     writeApplicationEntry(folders, application);
@@ -175,8 +175,11 @@ TEST_F(XdgLoginItemTest, ListsTheApplicationWithTheIconItHas) {
     const path icon = program("My Apps/Quillon.app/Contents/Resources/dev.vostrel.quillon.svg");
     writeApplicationEntry(folders, application);
     EXPECT_THAT(read(entry), HasSubstr("\nIcon=" + icon.native() + "\n"));
+    const std::string exec = "\nExec=\"" + application.native() + "/Contents/Linux/quillon\"";
+    for (const char* arguments : {"", " send", " settings"})
+        EXPECT_THAT(read(entry), HasSubstr(exec + arguments + "\n"));
     EXPECT_THAT(read(entry),
-                HasSubstr("\nExec=\"" + application.native() + "/Contents/Linux/quillon\"\n"));
+                HasSubstr("\nTryExec=" + application.native() + "/Contents/Linux/quillon\n"));
     removeApplicationEntry(folders);
     EXPECT_FALSE(std::filesystem::exists(entry));
 }

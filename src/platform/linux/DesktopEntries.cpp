@@ -4,8 +4,16 @@
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/PosixFileSystem.h"
 
+#include <QFile>
+
 #include <string>
+#include <string_view>
 #include <system_error>
+
+// Outside the namespace, as the macro must be: static libraries drop resources nobody asks for.
+static void loadPackagedEntry() {
+    Q_INIT_RESOURCE(entries);
+}
 
 namespace quillon {
 
@@ -27,31 +35,33 @@ std::string iconOf(const path& application) {
     return std::filesystem::exists(icon, ignored) ? icon.native() : applicationIdentifier;
 }
 
+/// The entry that packages install, which starts the program by its name.
+std::string packagedEntry() {
+    loadPackagedEntry();
+    QFile file{QStringLiteral(":/entries/") + QLatin1String{desktopEntryName}};
+    return file.open(QFile::ReadOnly) ? file.readAll().toStdString() : std::string{};
+}
+
+/// The entry's own command and those of its actions, with another program.
+std::string withProgram(std::string text, const std::string& exec) {
+    constexpr std::string_view byName = "\nExec=quillon";
+    const std::string replacement = "\nExec=" + exec;
+    for (std::size_t at = 0; (at = text.find(byName, at)) != std::string::npos;
+         at += replacement.size())
+        text.replace(at, byName.size(), replacement);
+    return text;
+}
+
 } // namespace
 
 void writeApplicationEntry(const Folders& folders, const path& application) {
     const auto program = DesktopEntry::program(application / bundleProgram);
     const path file = entryFile(folders);
     if (!program || !PosixFileSystem{}.createFolder(file.parent_path())) return;
-    const std::string text = "[Desktop Entry]\n"
-                             "Type=Application\n"
-                             "Name=Quillon\n"
-                             "GenericName=Clipboard Sender\n"
-                             "Comment=Send what you copy to your phone\n"
-                             "Exec=" +
-                             program->exec +
-                             "\n"
-                             "TryExec=" +
-                             program->tryExec +
-                             "\n"
-                             "Icon=" +
-                             DesktopEntry::stringValue(iconOf(application)) +
-                             "\n"
-                             "Categories=Utility;\n"
-                             "Keywords=clipboard;phone;Telegram;send;\n"
-                             "Terminal=false\n"
-                             "StartupNotify=false\n";
-    PosixFileSystem{}.writeAtomically(file, QByteArray::fromStdString(text));
+    DesktopEntry entry{withProgram(packagedEntry(), program->exec)};
+    entry.set("TryExec", program->tryExec);
+    entry.set("Icon", DesktopEntry::stringValue(iconOf(application)));
+    PosixFileSystem{}.writeAtomically(file, QByteArray::fromStdString(entry.text()));
 }
 
 void removeApplicationEntry(const Folders& folders) {
