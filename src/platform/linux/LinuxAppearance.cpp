@@ -57,6 +57,9 @@ void LinuxAppearance::follow(std::function<void(const DesktopLooks&)> changed) {
 }
 
 void LinuxAppearance::followPortal() {
+    // The type of a slot's argument, which Qt looks up by its name; its thread for the bus may not
+    // have got to registering it.
+    qRegisterMetaType<QDBusVariant>();
     // Without the portal's name, the owner of which Qt would wait to be told.
     for (const QString& each : namespaces) {
         bus_.connect({}, portalPath, settingsInterface, QStringLiteral("SettingChanged"), {each},
