@@ -1,5 +1,7 @@
 #include "ui/views/TextViews.h"
 
+#include "ui/views/Colors.h"
+
 #include <QDesktopServices>
 #include <QImage>
 #include <QTextDocument>
@@ -26,9 +28,11 @@ ReadOnlyText::ReadOnlyText(QWidget* parent) : Themed{parent} {
 
 void ReadOnlyText::setStructuredText(const QString& html) {
     html_ = html;
-    // The colours of links are part of a document from when it is read.
-    document()->setDefaultStyleSheet(
-        QStringLiteral("a { color: %1 }").arg(palette().color(QPalette::Link).name()));
+    // The colours of links are part of a document from when it is read. Not every dark theme has
+    // one for them, and the usual blue is lost on it.
+    const QColor link =
+        legible(palette().color(QPalette::Link), palette().color(QPalette::Base), textContrast);
+    document()->setDefaultStyleSheet(QStringLiteral("a { color: %1 }").arg(link.name()));
     setHtml(html);
 }
 

@@ -79,5 +79,29 @@ TEST(AlertWindowsTest, StaysASmallWindowWhateverTheTextIs) {
     }
 }
 
+TEST(AlertWindowsTest, FollowsTheSizeOfTheDesktopsTextsWhileItShows) {
+    const QFont usual = QApplication::font();
+    for (const std::string& text : {std::string{"It needs to."}, std::string(400, 'x')}) {
+        Alert alert = question;
+        alert.informativeText = text;
+        auto answer = AlertWindows{}.show(alert);
+        QWidget& window = *shownWindow();
+        const auto scaleTexts = [&](double scale) {
+            QFont font = usual;
+            font.setPointSizeF(usual.pointSizeF() * scale);
+            QApplication::setFont(font);
+        };
+        const QSize before = window.size();
+        scaleTexts(1.5);
+        EXPECT_TRUE(waitUntil([&] {
+            return window.width() > before.width() * 1.25 && window.height() > before.height();
+        }));
+        scaleTexts(1);
+        EXPECT_TRUE(waitUntil([&] { return window.size() == before; }));
+        window.close();
+        await(answer);
+    }
+}
+
 } // namespace
 } // namespace quillon::test
