@@ -80,10 +80,12 @@ void LinuxAppearance::ask() {
     connect(pending, &QDBusPendingCallWatcher::finished, this, [this, pending] {
         pending->deleteLater();
         const Settings all = settingsOf(pending->reply());
-        for (auto space = all.begin(); space != all.end(); ++space)
-            for (auto each = space->begin(); each != space->end(); ++each)
+        for (auto space = all.begin(); space != all.end(); ++space) {
+            for (auto each = space->begin(); each != space->end(); ++each) {
                 settings_.set({space.key().toStdString(), each.key().toStdString()},
                               unwrapped(each.value()));
+            }
+        }
         if (!all.isEmpty()) announce();
     });
 }

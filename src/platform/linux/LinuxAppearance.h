@@ -21,11 +21,9 @@ public:
 
     void follow(std::function<void(const DesktopLooks&)> changed) override;
 
-private Q_SLOTS:
-    void take(const QString& nameSpace, const QString& key, const QDBusVariant& value);
-    void ownerChanged(const QString& name, const QString& before, const QString& now);
-
 private:
+    Q_SLOT void take(const QString& nameSpace, const QString& key, const QDBusVariant& value);
+    Q_SLOT void ownerChanged(const QString& name, const QString& before, const QString& now);
     void followPortal();
     void ask();
     void announce();

@@ -87,12 +87,16 @@ XSettings::XSettings(std::function<void(const XSettingsValues&)> changed)
     property_ = internAtom(connection, "_XSETTINGS_SETTINGS");
     coming_ = internAtom(connection, "MANAGER");
     qApp->installNativeEventFilter(this);
-    QMetaObject::invokeMethod(
-        this, [this] { lookForManager(); }, Qt::QueuedConnection);
+    later(&XSettings::lookForManager);
 }
 
 XSettings::~XSettings() {
     if (qApp) qApp->removeNativeEventFilter(this);
+}
+
+void XSettings::later(void (XSettings::*action)()) {
+    QMetaObject::invokeMethod(
+        this, [this, action] { (this->*action)(); }, Qt::QueuedConnection);
 }
 
 void XSettings::lookForManager() {
@@ -126,13 +130,10 @@ bool XSettings::nativeEventFilter(const QByteArray& type, void* message, qintptr
     if (kind == XCB_CLIENT_MESSAGE) {
         const auto* const told = reinterpret_cast<const xcb_client_message_event_t*>(event);
         if (told->type == coming_ && told->data.data32[1] == selection_)
-            QMetaObject::invokeMethod(
-                this, [this] { lookForManager(); }, Qt::QueuedConnection);
+            later(&XSettings::lookForManager);
     } else if (kind == XCB_PROPERTY_NOTIFY && manager_ != XCB_WINDOW_NONE) {
         const auto* const told = reinterpret_cast<const xcb_property_notify_event_t*>(event);
-        if (told->window == manager_ && told->atom == property_)
-            QMetaObject::invokeMethod(
-                this, [this] { read(); }, Qt::QueuedConnection);
+        if (told->window == manager_ && told->atom == property_) later(&XSettings::read);
     }
     return false;
 }

@@ -27,6 +27,8 @@ public:
     ~XSettings() override;
 
 private:
+    /// From the event loop: Qt is in the middle of handling an event.
+    void later(void (XSettings::*action)());
     void lookForManager();
     void read();
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
