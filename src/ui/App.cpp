@@ -3,14 +3,17 @@
 #include "cli/CommandLine.h"
 #include "cli/RemoteProgram.h"
 #include "maintenance/AppMover.h"
-#include "maintenance/MessageBoxAlerts.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
+#include "platform/linux/LinuxAppearance.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/QuitSignals.h"
 #include "platform/linux/X11HotKeys.h"
 #include "platform/linux/X11Pasteboard.h"
 #include "ui/Resident.h"
+#include "ui/alerts/AlertWindows.h"
+#include "ui/views/AppIcon.h"
+#include "ui/views/Looks.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -20,6 +23,14 @@
 namespace quillon {
 
 namespace {
+
+/// How the desktop knows the program: by its name, its icon and its desktop entry.
+void introduce() {
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setApplicationDisplayName(QStringLiteral("Quillon"));
+    QApplication::setDesktopFileName(QString::fromLatin1(applicationIdentifier));
+    QApplication::setWindowIcon(appIcon());
+}
 
 /// A program that moves itself starts nothing else here.
 QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
@@ -50,14 +61,17 @@ int App::run() {
     char name[] = "quillon";
     char* argv[] = {name, nullptr};
     QApplication application{argc, argv};
-    QApplication::setQuitOnLastWindowClosed(false);
+    introduce();
+    Looks looks;
+    LinuxAppearance appearance;
+    looks.follow(appearance);
 
     std::unique_ptr<HotKeys> hotKeys = X11HotKeys::open(nullptr);
     if (!hotKeys) hotKeys = std::make_unique<NoHotKeys>();
     LinuxPlatform services{std::move(pasteboard), std::move(hotKeys)};
     Platform& platform = services.platform();
     const QuitSignals signals{[&platform] { platform.workspace.terminate(); }};
-    MessageBoxAlerts alerts;
+    AlertWindows alerts;
     AppMover mover{platform, alerts};
     std::unique_ptr<Resident> resident;
     QTimer::singleShot(0, &application, [&] { launch(platform, alerts, mover, resident); });

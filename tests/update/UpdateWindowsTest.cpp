@@ -2,10 +2,10 @@
 
 #include "support/Await.h"
 #include "support/RawServer.h"
+#include "ui/views/IconLabel.h"
 #include "update/windows/ReleaseNotes.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 #include <QTextBrowser>
@@ -50,8 +50,8 @@ void pressReturn() {
 
 std::string texts(const QWidget* window) {
     QString all;
-    for (const auto* label : window->findChildren<QLabel*>())
-        all += label->text() + QLatin1Char{'\n'};
+    for (const auto* label : window->findChildren<IconLabel*>())
+        all += label->shownText() + QLatin1Char{'\n'};
     return all.toStdString();
 }
 

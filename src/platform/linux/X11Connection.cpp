@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <string>
 
 namespace quillon {
 
@@ -36,6 +37,14 @@ xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name) {
     const XcbPointer<xcb_intern_atom_reply_t> reply{
         xcb_intern_atom_reply(connection, cookie, nullptr)};
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+xcb_atom_t managerSelection(xcb_connection_t* connection, std::string_view prefix) {
+    int screen = 0;
+    char* host = nullptr;
+    int display = 0;
+    if (xcb_parse_display(nullptr, &host, &display, &screen)) std::free(host); // NOLINT: malloc'd
+    return internAtom(connection, std::string{prefix} + "_S" + std::to_string(screen));
 }
 
 std::unique_ptr<X11Connection> X11Connection::open(const char* display) {

@@ -22,6 +22,10 @@ using XcbPointer = std::unique_ptr<T, FreeDeleter>;
 /// XCB_ATOM_NONE when that is gone.
 [[nodiscard]] xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name);
 
+/// The atom of the selection that the manager of something owns on the default screen: "_NET_WM_CM"
+/// gives that of _NET_WM_CM_S0.
+[[nodiscard]] xcb_atom_t managerSelection(xcb_connection_t* connection, std::string_view prefix);
+
 /// A connection to the X server of its own, used by one thread that sleeps until the server has
 /// sent something or another thread rings. A server that dies makes it dead and never ends the
 /// program.

@@ -83,10 +83,20 @@ UninstallSheet::UninstallSheet(std::function<QCoro::Task<>()> uninstall, QWidget
     column->addLayout(buildRows());
     column->addLayout(buildFooter());
     column->addLayout(buildButtons());
-    const int width = static_cast<int>(std::ceil(Theme::length(sheetWidth)));
-    setFixedSize(width, column->hasHeightForWidth() ? column->totalHeightForWidth(width)
-                                                    : column->totalSizeHint().height());
+    fit();
     confirm_->setFocus();
+}
+
+void UninstallSheet::fit() {
+    const int width = static_cast<int>(std::ceil(Theme::length(sheetWidth)));
+    setFixedSize(width, layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
+                                                      : layout()->totalSizeHint().height());
+}
+
+/// The texts may become larger while it shows.
+bool UninstallSheet::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) fit();
+    return QDialog::event(event);
 }
 
 QHBoxLayout* UninstallSheet::buildHeader() {

@@ -24,7 +24,12 @@ public:
 
     void reject() override;
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
+    /// As wide as the design, and as high as that takes.
+    void fit();
     [[nodiscard]] QHBoxLayout* buildHeader();
     [[nodiscard]] QVBoxLayout* buildRows();
     [[nodiscard]] QHBoxLayout* buildFooter();

@@ -1,6 +1,7 @@
 #include "ui/views/Accessibility.h"
 
 #include "ui/views/Buttons.h"
+#include "ui/views/MessageWindow.h"
 #include "ui/views/View.h"
 
 #include <QAccessibleWidget>
@@ -72,6 +73,10 @@ QAccessibleInterface* describe(const QString& className, QObject* object) {
         return new ViewDescription{static_cast<View*>(object)};
     if (className == QLatin1String{ContentButton::staticMetaObject.className()})
         return new ButtonDescription{static_cast<ContentButton*>(object)};
+    if (className == QLatin1String{MessageWindow::staticMetaObject.className()}) {
+        auto* window = static_cast<MessageWindow*>(object);
+        return new QAccessibleWidget{window, MessageWindow::accessibleRole};
+    }
     return nullptr;
 }
 

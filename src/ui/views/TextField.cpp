@@ -1,6 +1,7 @@
 #include "ui/views/TextField.h"
 
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -18,8 +19,11 @@ constexpr double leastWidth = 80;
 } // namespace
 
 TextField::TextField(QWidget* parent) : Themed{parent} {
-    // The style draws the text alone.
-    setStyleSheet(QStringLiteral("QLineEdit { background: transparent; border: none; }"));
+    // The style draws the text alone. (A style sheet would keep the colours it has found first.)
+    setFrame(false);
+    QPalette bare;
+    bare.setColor(QPalette::Base, Qt::transparent);
+    setPalette(bare);
     setTextMargins(besideText, 0, besideText, 0);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
@@ -40,7 +44,8 @@ void TextField::paintEvent(QPaintEvent* event) {
         QPainter painter{this};
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen{theme.pressedFill(), 1});
-        painter.setBrush(theme.fill(palette().color(QPalette::Active, QPalette::Base)));
+        painter.setBrush(
+            theme.fill(QGuiApplication::palette().color(QPalette::Active, QPalette::Base)));
         painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), Space::controlRadius,
                                 Space::controlRadius);
         // Where the text goes is worth knowing for those who use the mouse, too.

@@ -1,12 +1,12 @@
 #include "update/windows/UpdateWindows.h"
 
-#include "update/windows/Answer.h"
+#include "ui/views/Answer.h"
+#include "ui/views/MessageWindow.h"
+#include "ui/views/TextViews.h"
 #include "update/windows/ReleaseNotes.h"
-#include "update/windows/UpdateDialog.h"
 
 #include <QLocale>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QTimer>
 
 #include <chrono>
@@ -15,7 +15,7 @@ namespace quillon {
 
 namespace {
 
-using Place = UpdateDialog::Place;
+using Place = MessageWindow::Place;
 
 /// A progress bar counts in int, bytes do not fit.
 constexpr int barSteps = 1'000;
@@ -24,6 +24,7 @@ constexpr qsizetype longestVersion = 40;
 /// A quicker check shows nothing but what it came to.
 constexpr std::chrono::milliseconds checkPatience{400};
 constexpr int offerHeight = 420;
+constexpr int lowestNotes = 160;
 
 QString shownVersion(const std::string& version) {
     return QString::fromStdString(version).simplified().left(longestVersion);
@@ -41,6 +42,20 @@ QProgressBar* makeBar(const QString& name) {
     return bar;
 }
 
+MessageWindow* makeWindow(const QString& title, const QString& text = {}, bool warning = false) {
+    auto* window = new MessageWindow{title, text, warning};
+    window->setWindowTitle(UpdateWindows::tr("Software Update"));
+    return window;
+}
+
+QWidget* makeNotes(const std::string& notes) {
+    auto* view = new ReadOnlyText;
+    view->setStructuredText(releaseNotesHtml(notes));
+    view->setMinimumHeight(lowestNotes);
+    view->setAccessibleName(UpdateWindows::tr("Release notes"));
+    return view;
+}
+
 } // namespace
 
 UpdateWindows::~UpdateWindows() {
@@ -48,7 +63,7 @@ UpdateWindows::~UpdateWindows() {
     delete permission_;
 }
 
-void UpdateWindows::present(UpdateDialog* dialog, bool gently) {
+void UpdateWindows::present(MessageWindow* dialog, bool gently) {
     if (current_ && current_->isVisible()) {
         // Whoever has turned to something else during a download must not press a button blindly.
         if (bar_ && !current_->isActiveWindow()) gently = true;
@@ -77,10 +92,10 @@ void UpdateWindows::dismiss() {
 
 QFuture<bool> UpdateWindows::askPermission() {
     const Answer<bool> answer{false};
-    permission_ = new UpdateDialog{
+    permission_ = makeWindow(
         tr("Check for updates automatically?"),
         tr("Quillon can look for a new version once a day. You can change this in its settings at "
-           "any time, or check by hand.")};
+           "any time, or check by hand."));
     permission_->addButton(tr("Check Automatically"), Place::primary,
                            [answer] { answer.give(true); });
     permission_->setEscape(permission_->addButton(tr("Don't Check"), Place::secondary));
@@ -89,7 +104,7 @@ QFuture<bool> UpdateWindows::askPermission() {
 }
 
 void UpdateWindows::showChecking(std::stop_source cancel) {
-    auto* dialog = new UpdateDialog{tr("Checking for updates…"), {}};
+    auto* dialog = makeWindow(tr("Checking for updates…"));
     dialog->addContent(makeBar(tr("Checking for updates…")));
     dialog->setEscape(dialog->addButton(tr("Cancel"), Place::secondary,
                                         [cancel]() mutable { cancel.request_stop(); }));
@@ -103,7 +118,7 @@ void UpdateWindows::showChecking(std::stop_source cancel) {
 }
 
 void UpdateWindows::showMessage(const QString& title, const QString& text) {
-    auto* dialog = new UpdateDialog{title, text};
+    auto* dialog = makeWindow(title, text);
     dialog->setEscape(dialog->addButton(tr("OK"), Place::primary));
     present(dialog);
 }
@@ -115,12 +130,12 @@ void UpdateWindows::showUpToDate(std::string version) {
 
 QFuture<UpdateChoice> UpdateWindows::showUpdate(UpdateOffer offer) {
     const Answer<UpdateChoice> answer{UpdateChoice::later};
-    auto* dialog = new UpdateDialog{
-        tr("A new version of Quillon is available"),
-        tr("You have Quillon %1. Version %2 can be installed now.")
-            .arg(shownVersion(offer.installedVersion), shownVersion(offer.version))};
+    auto* dialog =
+        makeWindow(tr("A new version of Quillon is available"),
+                   tr("You have Quillon %1. Version %2 can be installed now.")
+                       .arg(shownVersion(offer.installedVersion), shownVersion(offer.version)));
     if (!offer.notes.empty()) {
-        dialog->addContent(makeTextView(releaseNotesHtml(offer.notes), tr("Release notes")), 1);
+        dialog->addContent(makeNotes(offer.notes), true);
         dialog->resize(dialog->sizeHint().width(), offerHeight);
     }
     dialog->addButton(tr("Install"), Place::primary,
@@ -135,7 +150,7 @@ QFuture<UpdateChoice> UpdateWindows::showUpdate(UpdateOffer offer) {
 void UpdateWindows::showPreparing(std::string version, std::stop_source cancel) {
     preparing_ = shownVersion(version);
     const QString title = tr("Downloading Quillon %1").arg(preparing_);
-    auto* dialog = new UpdateDialog{title, tr("Connecting…")};
+    auto* dialog = makeWindow(title, tr("Connecting…"));
     auto* bar = makeBar(title);
     dialog->addContent(bar);
     dialog->setEscape(dialog->addButton(tr("Cancel"), Place::secondary,
@@ -163,8 +178,8 @@ void UpdateWindows::showProgress(UpdateProgress progress) {
 QFuture<InstallTime> UpdateWindows::showReady(std::string version) {
     const Answer<InstallTime> answer{InstallTime::onQuit};
     auto* dialog =
-        new UpdateDialog{tr("Quillon %1 is ready to install").arg(shownVersion(version)),
-                         tr("Quillon can start again with it now, or install it when you quit.")};
+        makeWindow(tr("Quillon %1 is ready to install").arg(shownVersion(version)),
+                   tr("Quillon can start again with it now, or install it when you quit."));
     dialog->addButton(tr("Install and Relaunch"), Place::primary,
                       [answer] { answer.give(InstallTime::nowAndRelaunch); });
     dialog->setEscape(dialog->addButton(tr("Install on Quit"), Place::secondary));
@@ -179,9 +194,9 @@ void UpdateWindows::showInstalled(std::string version) {
 
 void UpdateWindows::showError(UpdateError error) {
     const QString text = QString::fromStdString(error.description);
-    auto* dialog = new UpdateDialog{tr("The update did not work"), {}};
+    auto* dialog = makeWindow(tr("The update did not work"), {}, true);
     dialog->setAccessibleDescription(text);
-    dialog->addContent(makeMessageView(text));
+    dialog->addContent(new MessageText{text, MessageWindow::textWidth});
     dialog->setEscape(dialog->addButton(tr("OK"), Place::primary));
     present(dialog);
 }

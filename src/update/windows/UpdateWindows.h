@@ -13,7 +13,7 @@ class QProgressBar;
 
 namespace quillon {
 
-class UpdateDialog;
+class MessageWindow;
 
 /// Shows updates in small windows of their own, which block nothing.
 class UpdateWindows final : public UpdateUserDriver {
@@ -39,11 +39,11 @@ public:
 
 private:
     /// Takes the place of what shows.
-    void present(UpdateDialog* dialog, bool gently = false);
+    void present(MessageWindow* dialog, bool gently = false);
     void showMessage(const QString& title, const QString& text);
 
-    QPointer<UpdateDialog> current_;
-    QPointer<UpdateDialog> permission_;
+    QPointer<MessageWindow> current_;
+    QPointer<MessageWindow> permission_;
     /// While an update is being prepared.
     QPointer<QProgressBar> bar_;
     QString preparing_;

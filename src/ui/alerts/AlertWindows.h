@@ -4,8 +4,9 @@
 
 namespace quillon {
 
-/// Alerts as windows in front of all others of the program. The event loop goes on meanwhile.
-class MessageBoxAlerts final : public Alerts {
+/// Alerts as windows in front of all others of the program, which take no input meanwhile. The
+/// event loop goes on.
+class AlertWindows final : public Alerts {
 public:
     [[nodiscard]] QFuture<std::size_t> show(Alert alert) override;
 };

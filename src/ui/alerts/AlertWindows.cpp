@@ -1,0 +1,50 @@
+#include "ui/alerts/AlertWindows.h"
+
+#include "ui/views/Answer.h"
+#include "ui/views/MessageWindow.h"
+#include "ui/views/TextViews.h"
+
+namespace quillon {
+
+namespace {
+
+/// From here on a text may need to be scrolled, and is one that its reader wants to copy.
+constexpr std::size_t longText = 300; // bytes
+
+void addText(MessageWindow& window, const QString& text) {
+    window.addContent(new MessageText{text, MessageWindow::textWidth});
+    window.setAccessibleDescription(text);
+}
+
+/// The first is the default, and the last is what Escape and closing the window mean.
+void addButtons(MessageWindow& window, const std::vector<std::string>& texts,
+                const Answer<std::size_t>& answer) {
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const auto place = i == 0 ? MessageWindow::Place::primary : MessageWindow::Place::secondary;
+        // An "&" of the text is no mnemonic.
+        QString text = QString::fromStdString(texts[i]);
+        text.replace(QLatin1Char{'&'}, QLatin1String{"&&"});
+        window.setEscape(window.addButton(text, place, [answer, i] { answer.give(i); }));
+    }
+}
+
+} // namespace
+
+QFuture<std::size_t> AlertWindows::show(Alert alert) {
+    if (alert.buttons.empty()) alert.buttons.emplace_back("OK");
+    const QString text = QString::fromStdString(alert.informativeText);
+    const bool isLong = alert.informativeText.size() > longText;
+    auto* window = new MessageWindow{QString::fromStdString(alert.message),
+                                     isLong ? QString{} : text, alert.warning};
+    if (isLong) addText(*window, text);
+    window->setWindowTitle(QStringLiteral("Quillon"));
+    const Answer<std::size_t> answer{alert.buttons.size() - 1};
+    addButtons(*window, alert.buttons, answer);
+    window->setWindowModality(Qt::ApplicationModal);
+    window->show();
+    window->raise();
+    window->activateWindow();
+    return answer.future();
+}
+
+} // namespace quillon

@@ -1,0 +1,212 @@
+#include "platform/linux/LinuxAppearance.h"
+
+#include "platform/SessionBus.h"
+#include "support/Await.h"
+
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusVirtualObject>
+#include <QDataStream>
+
+#include <cmath>
+#include <limits>
+
+namespace quillon::test {
+namespace {
+
+using Scheme = DesktopLooks::Scheme;
+using Settings = QMap<QString, QVariantMap>;
+
+constexpr const char* portalName = "org.freedesktop.portal.Desktop";
+constexpr const char* portalPath = "/org/freedesktop/portal/desktop";
+constexpr const char* settingsInterface = "org.freedesktop.portal.Settings";
+const QString appearance = QStringLiteral("org.freedesktop.appearance");
+const QString gnome = QStringLiteral("org.gnome.desktop.interface");
+const QString kde = QStringLiteral("org.kde.kdeglobals.KDE");
+
+struct LooksCase {
+    const char* name;
+    std::vector<std::pair<LookSettings::Key, QVariant>> settings;
+    DesktopLooks looks;
+};
+
+TEST(LookSettings, HaveASenseWhateverTheValuesAre) {
+    const LookSettings::Key scheme{"org.freedesktop.appearance", "color-scheme"};
+    const LookSettings::Key reduced{"org.freedesktop.appearance", "reduced-motion"};
+    const LookSettings::Key moving{"org.gnome.desktop.interface", "enable-animations"};
+    const LookSettings::Key text{"org.gnome.desktop.interface", "text-scaling-factor"};
+    const LookSettings::Key factor{"org.kde.kdeglobals.KDE", "AnimationDurationFactor"};
+    const LookSettings::Key theme{"", "Net/ThemeName"};
+    const LooksCase cases[]{
+        {"nothing", {}, {}},
+        {"dark", {{scheme, 1U}}, {.scheme = Scheme::dark}},
+        {"light", {{scheme, 2U}}, {.scheme = Scheme::light}},
+        {"a scheme of the future", {{scheme, 3U}}, {}},
+        {"a scheme in words", {{scheme, QStringLiteral("1")}}, {}},
+        {"a dark theme", {{theme, QStringLiteral("Adwaita-dark")}}, {.scheme = Scheme::dark}},
+        {"dark in the theme alone",
+         {{scheme, 0U}, {theme, QStringLiteral("Yaru-Dark")}},
+         {.scheme = Scheme::dark}},
+        {"light, and a dark theme",
+         {{scheme, 2U}, {theme, QStringLiteral("Adwaita-dark")}},
+         {.scheme = Scheme::light}},
+        {"a theme of darkness", {{theme, QStringLiteral("Darkness")}}, {}},
+        {"moving", {{reduced, 0U}, {moving, true}}, {.animations = true}},
+        {"reduced by one", {{reduced, 0U}, {moving, false}}, {.animations = false}},
+        {"reduced by the other", {{reduced, 1U}, {moving, true}}, {.animations = false}},
+        {"moving in words", {{moving, QStringLiteral("false")}}, {}},
+        {"no duration", {{factor, QStringLiteral("0")}, {moving, true}}, {.animations = false}},
+        {"half a duration", {{factor, 0.5}}, {.animations = true}},
+        {"no number of durations", {{factor, QStringLiteral("nan")}}, {}},
+        {"larger text", {{text, 1.25}}, {.textScale = 1.25}},
+        {"huge text", {{text, 100.0}}, {.textScale = 1.5}},
+        {"no text", {{text, 0.0}}, {}},
+        {"no number", {{text, std::nan("")}}, {}},
+        {"endless", {{text, std::numeric_limits<double>::infinity()}}, {}},
+        {"text in words", {{text, QStringLiteral("1.25")}}, {}},
+    };
+    for (const LooksCase& each : cases) {
+        LookSettings settings;
+        for (const auto& [key, value] : each.settings)
+            settings.set(key, value);
+        EXPECT_EQ(settings.looks(), each.looks) << each.name;
+    }
+}
+
+/// A property of three settings: a number, a colour and a text.
+QByteArray xSettingsProperty(QDataStream::ByteOrder order) {
+    QByteArray bytes;
+    QDataStream out{&bytes, QIODevice::WriteOnly};
+    out.setByteOrder(order);
+    const auto name = [&out](quint8 type, const QByteArray& text) {
+        out << type << quint8{0} << static_cast<quint16>(text.size());
+        out.writeRawData(text.constData(), static_cast<int>(text.size()));
+        for (qsizetype i = text.size(); i % 4 != 0; ++i)
+            out << quint8{0};
+        out << quint32{7};
+    };
+    out << quint8{order == QDataStream::BigEndian} << quint8{0} << quint16{0} << quint32{1};
+    out << quint32{3};
+    name(0, "Gtk/EnableAnimations");
+    out << qint32{-1};
+    name(2, "Some/Color");
+    out << quint64{0x0102030405060708};
+    name(1, "Net/ThemeName");
+    out << quint32{5};
+    out.writeRawData("X-d\xc3\xa4\0\0", 8);
+    return bytes;
+}
+
+TEST(XSettings, AreReadInBothByteOrdersAndUpToAFault) {
+    for (const auto order : {QDataStream::LittleEndian, QDataStream::BigEndian}) {
+        const QByteArray whole = xSettingsProperty(order);
+        const XSettingsValues expected{{"Gtk/EnableAnimations", -1},
+                                       {"Net/ThemeName", QStringLiteral("X-dä")}};
+        EXPECT_EQ(parseXSettings(whole), expected);
+        for (qsizetype length = 0; length < whole.size() - 3; ++length)
+            EXPECT_LE(parseXSettings(whole.first(length)).size(), 1U) << length;
+        QByteArray endless = whole;
+        endless.replace(whole.size() - 12, 4, QByteArray{4, '\xff'});
+        EXPECT_EQ(parseXSettings(endless).size(), 1U);
+    }
+}
+
+QDBusConnection connectToBus(const char* name) {
+    return QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"),
+                                         QLatin1String{name});
+}
+
+/// A settings portal that answers with what it is given, or not at all.
+class FakePortal : public QDBusVirtualObject {
+public:
+    explicit FakePortal(std::optional<QVariant> answer) : answer_{std::move(answer)} {
+        qDBusRegisterMetaType<Settings>();
+        bus_.registerVirtualObject(QLatin1String{portalPath}, this);
+        bus_.registerService(QLatin1String{portalName});
+    }
+    ~FakePortal() override {
+        bus_.unregisterService(QLatin1String{portalName});
+        QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
+    }
+
+    void change(const QString& space, const char* key, const QVariant& value) const {
+        auto signal =
+            QDBusMessage::createSignal(QLatin1String{portalPath}, QLatin1String{settingsInterface},
+                                       QStringLiteral("SettingChanged"));
+        signal << space << QLatin1String{key} << QVariant::fromValue(QDBusVariant{value});
+        bus_.send(signal);
+    }
+    [[nodiscard]] bool asked() const { return asked_; }
+
+    QString introspect(const QString& /*path*/) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+        if (message.member() != QLatin1String{"ReadAll"}) return false;
+        asked_ = true;
+        message.setDelayedReply(true);
+        if (answer_) bus.send(message.createReply(*answer_));
+        return true;
+    }
+
+private:
+    QDBusConnection bus_ = connectToBus("portal");
+    std::optional<QVariant> answer_;
+    bool asked_ = false;
+};
+
+class LinuxAppearanceTest : public testing::Test {
+protected:
+    LinuxAppearanceTest() {
+        portal_.follow([this](const DesktopLooks& looks) { told.push_back(looks); });
+    }
+    ~LinuxAppearanceTest() override {
+        QDBusConnection::disconnectFromBus(QStringLiteral("program"));
+    }
+
+    [[nodiscard]] bool isTold(const DesktopLooks& looks) const {
+        return waitUntil([&] { return !told.empty() && told.back() == looks; });
+    }
+
+    std::vector<DesktopLooks> told;
+
+private:
+    SessionBus daemon_;
+    LinuxAppearance portal_{connectToBus("program")};
+};
+
+TEST_F(LinuxAppearanceTest, FollowsAPortalThatComesLateAndAgain) {
+    const Settings dark{{appearance, {{QStringLiteral("color-scheme"), 1U}}},
+                        {gnome,
+                         {{QStringLiteral("text-scaling-factor"), 1.25},
+                          {QStringLiteral("enable-animations"), false},
+                          {QStringLiteral("cursor-size"), 24}}}};
+    std::optional<FakePortal> portal{QVariant::fromValue(dark)};
+    EXPECT_TRUE(isTold({.scheme = Scheme::dark, .animations = false, .textScale = 1.25}));
+    portal->change(appearance, "color-scheme", 2U);
+    EXPECT_TRUE(isTold({.scheme = Scheme::light, .animations = false, .textScale = 1.25}));
+    portal->change(gnome, "enable-animations", true);
+    portal->change(gnome, "text-scaling-factor", 1.0);
+    EXPECT_TRUE(isTold({.scheme = Scheme::light, .animations = true}));
+    const std::size_t changes = told.size();
+    portal->change(gnome, "cursor-size", 48);
+    portal->change(appearance, "color-scheme", 2U);
+    portal->change(kde, "AnimationDurationFactor", QStringLiteral("0"));
+    EXPECT_TRUE(isTold({.scheme = Scheme::light, .animations = false}));
+    EXPECT_EQ(told.size(), changes + 1) << "what changes nothing is not told";
+    portal.reset();
+    portal.emplace(QVariant::fromValue(dark));
+    EXPECT_TRUE(isTold({.scheme = Scheme::dark, .animations = false, .textScale = 1.25}));
+}
+
+TEST_F(LinuxAppearanceTest, TakesNoHarmFromAPortalThatHangsOrTalksNonsense) {
+    const std::optional<QVariant> answers[]{std::nullopt, QVariant{QStringLiteral("nonsense")}};
+    for (const auto& answer : answers) {
+        told.clear();
+        const FakePortal portal{answer};
+        EXPECT_TRUE(waitUntil([&] { return portal.asked(); }));
+        portal.change(appearance, "color-scheme", answer ? 1U : 2U);
+        EXPECT_TRUE(isTold({.scheme = answer ? Scheme::dark : Scheme::light}));
+    }
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,107 @@
+#include "ui/alerts/AlertWindows.h"
+
+#include "support/Await.h"
+#include "support/Controls.h"
+
+#include <QApplication>
+
+namespace quillon::test {
+namespace {
+
+const Alert question{.warning = true,
+                     .message = "Move <b>it</b> **now**?",
+                     .informativeText = "It needs to.",
+                     .buttons = {"Move", "Later", "Not now"}};
+
+QWidget* shownWindow() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible()) return window;
+    }
+    return nullptr;
+}
+
+TEST(AlertWindowsTest, AnswersWithTheButtonHoweverItWasPressed) {
+    struct Case {
+        const char* how;
+        std::function<void(QWidget& window)> answer;
+        std::size_t expected;
+    };
+    const auto key = [](Qt::Key each) {
+        return [each](QWidget& window) { QTest::keyClick(&window, each); };
+    };
+    const auto click = [](const char* name) {
+        return [name](QWidget& window) { Controls{window}.click(QLatin1String{name}); };
+    };
+    const Case cases[]{
+        {"Return", key(Qt::Key_Return), 0}, {"Enter", key(Qt::Key_Enter), 0},
+        {"Escape", key(Qt::Key_Escape), 2}, {"closed", [](QWidget& window) { window.close(); }, 2},
+        {"first", click("Move"), 0},        {"second", click("Later"), 1},
+    };
+    for (const Case& each : cases) {
+        QFuture<std::size_t> answer = AlertWindows{}.show(question);
+        ASSERT_TRUE(shownWindow()) << "it is shown without a turn of the event loop";
+        EXPECT_FALSE(answer.isFinished());
+        each.answer(*shownWindow());
+        EXPECT_EQ(await(answer), each.expected) << each.how;
+        EXPECT_FALSE(shownWindow());
+    }
+}
+
+TEST(AlertWindowsTest, ShowsItsTextAsItIsToEverybody) {
+    auto answer = AlertWindows{}.show(question);
+    QWidget& window = *shownWindow();
+    EXPECT_TRUE(window.isModal());
+    const Controls controls{window};
+    for (const char* text : {"Move <b>it</b> **now**?", "It needs to.", "Move", "Not now"})
+        EXPECT_TRUE(controls.shows(QLatin1String{text})) << text;
+    auto* told = QAccessible::queryAccessibleInterface(&window);
+    EXPECT_EQ(told->role(), QAccessible::AlertMessage);
+    EXPECT_EQ(told->text(QAccessible::Name), QLatin1String{"Move <b>it</b> **now**?"});
+    EXPECT_EQ(told->text(QAccessible::Description), QLatin1String{"It needs to."});
+    window.close();
+    await(answer);
+}
+
+TEST(AlertWindowsTest, StaysASmallWindowWhateverTheTextIs) {
+    std::string sentences;
+    while (sentences.size() < 2'000)
+        sentences += "The folder could not be written. ";
+    for (const std::string& text : {sentences, std::string(2'000, 'x')}) {
+        Alert alert = question;
+        alert.informativeText = text;
+        auto answer = AlertWindows{}.show(alert);
+        const QWidget& window = *shownWindow();
+        EXPECT_LE(window.width(), 700);
+        EXPECT_LE(window.height(), 500);
+        EXPECT_TRUE(Controls{*shownWindow()}.shows(QString::fromStdString(text)));
+        shownWindow()->close();
+        await(answer);
+    }
+}
+
+TEST(AlertWindowsTest, FollowsTheSizeOfTheDesktopsTextsWhileItShows) {
+    const QFont usual = QApplication::font();
+    for (const std::string& text : {std::string{"It needs to."}, std::string(400, 'x')}) {
+        Alert alert = question;
+        alert.informativeText = text;
+        auto answer = AlertWindows{}.show(alert);
+        QWidget& window = *shownWindow();
+        const auto scaleTexts = [&](double scale) {
+            QFont font = usual;
+            font.setPointSizeF(usual.pointSizeF() * scale);
+            QApplication::setFont(font);
+        };
+        const QSize before = window.size();
+        scaleTexts(1.5);
+        EXPECT_TRUE(waitUntil([&] {
+            return window.width() > before.width() * 1.25 && window.height() > before.height();
+        }));
+        scaleTexts(1);
+        EXPECT_TRUE(waitUntil([&] { return window.size() == before; }));
+        window.close();
+        await(answer);
+    }
+}
+
+} // namespace
+} // namespace quillon::test
