@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QPalette>
 
+#include <chrono>
 #include <tuple>
 #include <utility>
 
@@ -18,10 +19,14 @@ namespace {
 /// The name under which the icon theme has the icon, for hosts that draw it in their own colour.
 const QString themeIcon = QStringLiteral("dev.vostrel.quillon-symbolic");
 
+/// Longer than the desktop's panel takes to start, or to start again.
+constexpr std::chrono::seconds panelPatience{3};
+
 } // namespace
 
-TrayIcon::TrayIcon(Store& store, TrayActions actions, QDBusConnection bus)
+TrayIcon::TrayIcon(Store& store, Clock& clock, TrayActions actions, QDBusConnection bus)
     : store_{store},
+      clock_{clock},
       actions_{std::move(actions)},
       watch_{std::move(bus)},
       refresher_{this, [this] { refresh(); }} {
@@ -47,11 +52,26 @@ void TrayIcon::buildMenu() {
     menu_.installEventFilter(this);
 }
 
+bool TrayIcon::hasPlace() const {
+    if (!watch_.known()) return false;
+    if (!overBus_) return watch_.hosted() || watch_.managed();
+    return *overBus_ ? watch_.hosted() : watch_.managed();
+}
+
 void TrayIcon::settle() {
-    // Qt decides once, when the first icon is made, whether icons go over the bus: so none is made
-    // before there is a place for it, and each new place gets a new one.
+    // Each new place gets a new icon.
     icon_.reset();
-    if (!watch_.available()) return;
+    patience_.reset();
+    if (!hasPlace()) {
+        patience_ = clock_.after(panelPatience, [this] { setMissing(true); });
+        return;
+    }
+    makeIcon();
+    setMissing(false);
+}
+
+void TrayIcon::makeIcon() {
+    if (!overBus_) overBus_ = watch_.hosted();
     icon_ = std::make_unique<QSystemTrayIcon>(image());
     icon_->setToolTip(QStringLiteral("Quillon"));
     icon_->setContextMenu(&menu_);
@@ -60,6 +80,10 @@ void TrayIcon::settle() {
                 if (reason == QSystemTrayIcon::Trigger) actions_.togglePanel(place());
             });
     icon_->show();
+}
+
+void TrayIcon::setMissing(bool missing) {
+    if (std::exchange(missing_, missing) != missing) Q_EMIT missingChanged();
 }
 
 QRect TrayIcon::place() const {

@@ -20,9 +20,12 @@ public:
     explicit TrayWatch(QDBusConnection bus = QDBusConnection::sessionBus());
     ~TrayWatch() override;
 
-    [[nodiscard]] bool available() const { return hosted_ || manager_ != 0; }
-    /// What shows icons is a status notifier host.
-    [[nodiscard]] bool hosted() const { return hosted_; }
+    /// Whether the bus has answered: nothing is sure before.
+    [[nodiscard]] bool known() const { return hosted_.has_value(); }
+    /// There is a status notifier host.
+    [[nodiscard]] bool hosted() const { return hosted_.value_or(false); }
+    /// There is an X11 system tray.
+    [[nodiscard]] bool managed() const { return manager_ != 0; }
     /// The colour that an X11 system tray wants icons to have, if it says so.
     [[nodiscard]] std::optional<QColor> foreground() const;
 
@@ -41,7 +44,7 @@ private:
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
     QDBusConnection bus_;
-    bool hosted_ = false;
+    std::optional<bool> hosted_;
     std::uint32_t selection_ = 0;   // the atom of the tray's selection
     std::uint32_t managerAtom_ = 0; // of the message that tells of a new owner
     std::uint32_t manager_ = 0;     // the owner's window
