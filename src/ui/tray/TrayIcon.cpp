@@ -31,7 +31,11 @@ TrayIcon::TrayIcon(Store& store, Clock& clock, TrayActions actions, QDBusConnect
       watch_{std::move(bus)},
       refresher_{this, [this] { refresh(); }} {
     buildMenu();
-    connect(&watch_, &TrayWatch::changed, this, &TrayIcon::settle);
+    connect(&watch_, &TrayWatch::changed, this, [this] {
+        waited_ = false;
+        settle();
+    });
+    connect(&watch_, &TrayWatch::recoloured, this, &TrayIcon::redraw);
     refresher_.watch(store_, &Store::objectWillChange).refreshNow();
     settle();
 }
@@ -54,16 +58,23 @@ void TrayIcon::buildMenu() {
 
 bool TrayIcon::hasPlace() const {
     if (!watch_.known()) return false;
-    if (!overBus_) return watch_.hosted() || watch_.managed();
+    // Qt gives all icons of a process to the kind of place that there was for the first one: better
+    // wait for a status notifier host that is about to come than to take less than that for good.
+    if (!overBus_) return watch_.hosted() || (watch_.managed() && (waited_ || !watch_.watched()));
     return *overBus_ ? watch_.hosted() : watch_.managed();
 }
 
 void TrayIcon::settle() {
-    // Each new place gets a new icon.
+    // An icon on the bus stays where it is, whatever X11 trays do; any new place gets a new icon.
+    if (icon_ && overBus_.value_or(false) && watch_.hosted()) return redraw();
     icon_.reset();
     patience_.reset();
     if (!hasPlace()) {
-        patience_ = clock_.after(panelPatience, [this] { setMissing(true); });
+        if (waited_) return setMissing(true);
+        patience_ = clock_.after(panelPatience, [this] {
+            waited_ = true;
+            settle();
+        });
         return;
     }
     makeIcon();
@@ -80,6 +91,11 @@ void TrayIcon::makeIcon() {
                 if (reason == QSystemTrayIcon::Trigger) actions_.togglePanel(place());
             });
     icon_->show();
+    watch_.listen();
+}
+
+void TrayIcon::redraw() {
+    if (icon_) icon_->setIcon(image());
 }
 
 void TrayIcon::setMissing(bool missing) {
@@ -95,14 +111,15 @@ void TrayIcon::refresh() {
 }
 
 QIcon TrayIcon::image() const {
+    // Best in the very colour of the icons around it, where somebody tells.
+    if (const auto told = watch_.foreground()) return MenuBarIcon::image(*told);
     if (watch_.hosted() && QIcon::hasThemeIcon(themeIcon)) return QIcon::fromTheme(themeIcon);
-    const QColor text = QGuiApplication::palette().color(QPalette::WindowText);
-    return MenuBarIcon::image(watch_.foreground().value_or(text));
+    return MenuBarIcon::image(QGuiApplication::palette().color(QPalette::WindowText));
 }
 
 bool TrayIcon::eventFilter(QObject* watched, QEvent* event) {
     // The menu, as a widget, is told of the desktop's colours.
-    if (event->type() == QEvent::PaletteChange && icon_) icon_->setIcon(image());
+    if (event->type() == QEvent::PaletteChange) redraw();
     return QObject::eventFilter(watched, event);
 }
 

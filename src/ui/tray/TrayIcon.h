@@ -50,6 +50,7 @@ private:
     /// Gives the icon to whatever place there is now.
     void settle();
     void makeIcon();
+    void redraw();
     void setMissing(bool missing);
     void refresh();
     [[nodiscard]] QIcon image() const;
@@ -65,6 +66,7 @@ private:
     /// Whether Qt gives icons to a status notifier host, which it decides with the first one.
     std::optional<bool> overBus_;
     std::unique_ptr<Clock::Timer> patience_;
+    bool waited_ = false;
     bool missing_ = false;
     Refresher refresher_;
 };
