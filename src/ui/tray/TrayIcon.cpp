@@ -6,9 +6,13 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QImage>
 #include <QPalette>
+#include <QPixmap>
+#include <QScreen>
 
 #include <chrono>
+#include <cmath>
 #include <tuple>
 #include <utility>
 
@@ -18,6 +22,29 @@ namespace {
 
 /// The name under which the icon theme has the icon, for hosts that draw it in their own colour.
 const QString themeIcon = QStringLiteral("dev.vostrel.quillon-symbolic");
+
+/// An X11 tray has drawn the icon by then.
+constexpr std::chrono::milliseconds drawn{500};
+
+/// What is behind the icon: the colour in its corner, where it draws nothing itself.
+QColor groundOf(const QRect& place) {
+    QScreen* const screen = QGuiApplication::screenAt(place.topLeft());
+    if (!screen) return {};
+    const QPoint corner = place.topLeft() - screen->geometry().topLeft();
+    const QImage pixel = screen->grabWindow(0, corner.x(), corner.y(), 1, 1).toImage();
+    return pixel.isNull() ? QColor{} : pixel.pixelColor(0, 0);
+}
+
+/// The desktop's colour of texts, or that of its windows where it stands out better.
+QColor inkOn(const QColor& ground) {
+    const QPalette palette = QGuiApplication::palette();
+    const QColor text = palette.color(QPalette::WindowText);
+    const QColor window = palette.color(QPalette::Window);
+    const auto contrast = [&](const QColor& ink) {
+        return std::abs(ink.lightnessF() - ground.lightnessF());
+    };
+    return ground.isValid() && contrast(window) > contrast(text) ? window : text;
+}
 
 /// Longer than the desktop's panel takes to start, or to start again.
 constexpr std::chrono::seconds panelPatience{3};
@@ -69,6 +96,7 @@ void TrayIcon::settle() {
     if (icon_ && overBus_.value_or(false) && watch_.hosted()) return redraw();
     icon_.reset();
     patience_.reset();
+    look_.reset();
     if (!hasPlace()) {
         if (waited_) return setMissing(true);
         patience_ = clock_.after(panelPatience, [this] {
@@ -92,6 +120,11 @@ void TrayIcon::makeIcon() {
             });
     icon_->show();
     watch_.listen();
+    if (*overBus_) return;
+    look_ = clock_.after(drawn, [this] {
+        ground_ = groundOf(place());
+        redraw();
+    });
 }
 
 void TrayIcon::redraw() {
@@ -114,7 +147,7 @@ QIcon TrayIcon::image() const {
     // Best in the very colour of the icons around it, where somebody tells.
     if (const auto told = watch_.foreground()) return MenuBarIcon::image(*told);
     if (watch_.hosted() && QIcon::hasThemeIcon(themeIcon)) return QIcon::fromTheme(themeIcon);
-    return MenuBarIcon::image(QGuiApplication::palette().color(QPalette::WindowText));
+    return MenuBarIcon::image(inkOn(ground_));
 }
 
 bool TrayIcon::eventFilter(QObject* watched, QEvent* event) {

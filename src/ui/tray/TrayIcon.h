@@ -67,6 +67,9 @@ private:
     std::optional<bool> overBus_;
     std::unique_ptr<Clock::Timer> patience_;
     bool waited_ = false;
+    /// The colour of the X11 tray, once it has been looked at.
+    QColor ground_;
+    std::unique_ptr<Clock::Timer> look_;
     bool missing_ = false;
     Refresher refresher_;
 };
