@@ -1,5 +1,6 @@
 #include "cli/CommandLine.h"
 #include "cli/Detach.h"
+#include "cli/RemoteProgram.h"
 #include "cli/Session.h"
 #include "cli/Terminal.h"
 #include "platform/linux/Hardening.h"
@@ -30,6 +31,10 @@ int main(int argc, char** argv) {
     case Command::version:
         Terminal::print("quillon " + runningBundle().shortVersion());
         return exitDone;
+    case Command::settings:
+        if (const auto code = RemoteProgram::run(*invocation)) return *code;
+        runByAbsolutePath(argv);
+        return App::run(App::Start::withSettings);
     case Command::send:
         return Detach::run([&](Detach& detach) { return Session::run(*invocation, detach); });
     default:

@@ -21,6 +21,11 @@ const std::vector<Row>& rows() {
     static const Words json{"--json"};
     static const std::vector<Row> rows{
         {"send", Command::send, {}, false, "send what is on the clipboard"},
+        {"settings",
+         Command::settings,
+         {},
+         false,
+         "show the settings; starts Quillon if it is not running"},
         {"connect",
          Command::connect,
          {},
@@ -103,6 +108,7 @@ std::string_view commandName(Command command) {
 
 bool worksOnState(Command command) {
     switch (command) {
+    case Command::settings:
     case Command::uninstall:
     case Command::help:
     case Command::version:

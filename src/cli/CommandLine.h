@@ -10,6 +10,7 @@ namespace quillon {
 /// What the program can be asked for on the command line.
 enum class Command {
     send,
+    settings,
     connect,
     findGroup,
     createTopics,

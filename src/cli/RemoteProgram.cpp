@@ -1,6 +1,7 @@
 #include "cli/RemoteProgram.h"
 
 #include "cli/TerminalConsole.h"
+#include "platform/linux/FolderLock.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -96,6 +97,12 @@ std::optional<int> carryOut(const Invocation& invocation) {
     return judge(watcher, console);
 }
 
+int showSettings() {
+    if (activate(activationData())) return exitDone;
+    Terminal::printError(FolderLock::heldMessage);
+    return exitFailed;
+}
+
 /// Asks the running program to end; whoever needs its data waits until it has.
 void quit() {
     QDBusConnection::sessionBus().call(message("Quit"));
@@ -103,19 +110,22 @@ void quit() {
 
 } // namespace
 
-bool activate() {
+QVariantMap activationData() {
+    QVariantMap data;
+    for (const auto& [key, variable] : {std::pair{"activation-token", "XDG_ACTIVATION_TOKEN"},
+                                        std::pair{"desktop-startup-id", "DESKTOP_STARTUP_ID"}}) {
+        if (qEnvironmentVariableIsSet(variable))
+            data[QLatin1String{key}] = qEnvironmentVariable(variable);
+    }
+    return data;
+}
+
+bool activate(const QVariantMap& activationData) {
     QDBusMessage call = QDBusMessage::createMethodCall(
         QLatin1String{busName}, QLatin1String{objectPath},
         QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
     call.setAutoStartService(false);
-    // With this the running program may take the focus from whatever has it.
-    QVariantMap platformData;
-    for (const auto& [key, variable] : {std::pair{"activation-token", "XDG_ACTIVATION_TOKEN"},
-                                        std::pair{"desktop-startup-id", "DESKTOP_STARTUP_ID"}}) {
-        if (qEnvironmentVariableIsSet(variable))
-            platformData[QLatin1String{key}] = qEnvironmentVariable(variable);
-    }
-    call << platformData;
+    call << activationData;
     return QDBusConnection::sessionBus().call(call, QDBus::Block, activationTimeout).type() ==
            QDBusMessage::ReplyMessage;
 }
@@ -129,6 +139,7 @@ std::optional<int> run(const Invocation& invocation) {
     if (!bus.isConnected()) return std::nullopt;
     if (!bus.interface()->isServiceRegistered(QLatin1String{busName})) return std::nullopt;
     if (worksOnState(invocation.command)) return carryOut(invocation);
+    if (invocation.command == Command::settings) return showSettings();
     // The program would write again what is removed.
     if (invocation.command == Command::uninstall) quit();
     return std::nullopt;

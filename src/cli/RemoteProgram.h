@@ -3,6 +3,8 @@
 #include "cli/CommandLine.h"
 #include "platform/Bundle.h"
 
+#include <QVariantMap>
+
 #include <optional>
 
 namespace quillon {
@@ -21,9 +23,14 @@ inline constexpr const char* tokenPrompt = "Bot token: ";
 /// when no program runs, or when the command is one that this process has to carry out itself.
 [[nodiscard]] std::optional<int> run(const Invocation& invocation);
 
-/// Has the running program come to the front. False when none runs, or when it does not answer
-/// within 5 seconds. To be called while there is an application object.
-[[nodiscard]] bool activate();
+/// What lets the running program take the focus from whatever has it, as this process got it from
+/// the desktop that started it. To be asked for before there is an application object, which takes
+/// it for itself.
+[[nodiscard]] QVariantMap activationData();
+
+/// Has the running program show its settings window. False when none runs, or when it does not
+/// answer within 5 seconds. To be called while there is an application object.
+[[nodiscard]] bool activate(const QVariantMap& activationData);
 
 } // namespace RemoteProgram
 

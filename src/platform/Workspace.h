@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+class QWindow;
+
 namespace quillon {
 
 /// The desktop as a place where applications lie, run and end.
@@ -29,6 +31,9 @@ public:
 
     /// Brings this application's windows to the front.
     virtual void activate() = 0;
+    /// Gives one of this application's windows, which shows, the focus in front of all others, also
+    /// where the desktop keeps programs from taking it: the user has just asked for that window.
+    virtual void bringToFront(QWindow& window) = 0;
     /// Opens the application folder as soon as this process has ended. A failure is ignored.
     virtual void openAfterExit(const std::filesystem::path& application) = 0;
     /// Ends this process the normal way, on the next turn of the event loop.

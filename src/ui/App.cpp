@@ -34,22 +34,28 @@ void introduce() {
 
 /// A program that moves itself starts nothing else here.
 QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
-                     std::unique_ptr<Resident>& resident) {
+                     std::unique_ptr<Resident>& resident, App::Start start,
+                     QVariantMap activationData) {
     if (mover.shouldAsk() && !platform.defaults.flag(AppMover::declinedKey).value_or(false)) {
         const bool moved = co_await mover.ask();
         if (moved) co_return;
     }
     std::unique_ptr<Resident> claimed = co_await Resident::claim(platform, alerts, mover);
     resident = std::move(claimed);
-    if (resident) co_return resident->start();
-    const bool shown = RemoteProgram::activate();
+    if (resident) {
+        resident->start();
+        if (start == App::Start::withSettings) resident->showSettings();
+        co_return;
+    }
+    const bool shown = RemoteProgram::activate(activationData);
     if (!shown) std::cerr << FolderLock::heldMessage << std::endl;
     QCoreApplication::exit(shown ? exitDone : exitFailed);
 }
 
 } // namespace
 
-int App::run() {
+int App::run(Start start) {
+    const QVariantMap activationData = RemoteProgram::activationData();
     std::unique_ptr<Pasteboard> pasteboard = X11Pasteboard::open(nullptr);
     if (!pasteboard) {
         std::cerr << "There is no desktop to work on: no X server answers." << std::endl;
@@ -74,7 +80,8 @@ int App::run() {
     AlertWindows alerts;
     AppMover mover{platform, alerts};
     std::unique_ptr<Resident> resident;
-    QTimer::singleShot(0, &application, [&] { launch(platform, alerts, mover, resident); });
+    QTimer::singleShot(0, &application,
+                       [&] { launch(platform, alerts, mover, resident, start, activationData); });
     return QApplication::exec();
 }
 

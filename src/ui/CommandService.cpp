@@ -9,6 +9,7 @@
 #include <QDBusConnectionInterface>
 
 #include <array>
+#include <map>
 #include <utility>
 
 #include <sys/stat.h>
@@ -20,6 +21,10 @@ namespace {
 
 /// More than any token has, in bytes.
 constexpr std::size_t maximumInput = 4096;
+
+/// The actions of the desktop entry.
+const std::map<std::string, CommandService::Wish> wishNames{
+    {"send", &DesktopActions::send}, {"settings", &DesktopActions::showSettings}};
 
 /// The first line of a file; anything but a regular file, which never makes its reader wait, has
 /// none.
@@ -74,11 +79,11 @@ public:
 
 public Q_SLOTS:
     void Activate(const QVariantMap& platformData) {
-        // Where Qt's platform plugins look for it when a window asks for the focus.
-        const QByteArray token =
-            platformData.value(QStringLiteral("activation-token")).toString().toUtf8();
-        if (!token.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", token);
-        Q_EMIT service_.activated();
+        service_.wish(&DesktopActions::showSettings, platformData);
+    }
+    void ActivateAction(const QString& action, const QVariantList& /*parameter*/,
+                        const QVariantMap& platformData) {
+        service_.wishByName(action, platformData);
     }
 
 private:
@@ -105,9 +110,27 @@ CommandService::Publication CommandService::publish() {
                : Publication::noBus;
 }
 
-void CommandService::serve(CommandContext context) {
+void CommandService::serve(CommandContext context, DesktopActions actions) {
     context_.emplace(std::move(context));
+    actions_ = std::move(actions);
+    for (const Wish waiting : std::exchange(wishes_, {}))
+        (actions_.*waiting)();
     work();
+}
+
+void CommandService::wish(Wish wish, const QVariantMap& platformData) {
+    // Where Qt's platform plugins look for it when a window asks for the focus.
+    const QByteArray token =
+        platformData.value(QStringLiteral("activation-token")).toString().toUtf8();
+    if (!token.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", token);
+    if (!context_) return wishes_.push_back(wish);
+    (actions_.*wish)();
+}
+
+void CommandService::wishByName(const QString& action, const QVariantMap& platformData) {
+    const auto found = wishNames.find(action.toStdString());
+    if (found != wishNames.end()) return wish(found->second, platformData);
+    sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("There is no such action."));
 }
 
 int CommandService::Run(const QString& command, const QString& argument,

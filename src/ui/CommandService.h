@@ -6,12 +6,20 @@
 #include <QDBusMessage>
 #include <QDBusUnixFileDescriptor>
 #include <QObject>
+#include <QVariantMap>
 
 #include <deque>
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace quillon {
+
+/// What the desktop may ask of the program by its name on the bus.
+struct DesktopActions {
+    std::function<void()> showSettings;
+    std::function<void()> send;
+};
 
 /// Carries out, one after another, the commands that other processes of the program hand over on
 /// the session bus. The name on the bus also makes this program the session's only one.
@@ -32,7 +40,14 @@ public:
     [[nodiscard]] Publication publish();
     /// Carries out what waits and what comes. The context's console is not used: each command has
     /// one of its own.
-    void serve(CommandContext context);
+    void serve(CommandContext context, DesktopActions actions);
+
+    using Wish = std::function<void()> DesktopActions::*;
+    /// The user wants this, and has given the desktop's leave to take the focus with it
+    /// (org.freedesktop.Application's platform data). Waits until the program serves.
+    void wish(Wish wish, const QVariantMap& platformData);
+    /// The same by the name of an action of the desktop entry: "send" or "settings".
+    void wishByName(const QString& action, const QVariantMap& platformData);
 
 public Q_SLOTS:
     /// A command with its argument, as the command line takes them, and with what it reads from
@@ -42,8 +57,6 @@ public Q_SLOTS:
     Q_SCRIPTABLE void Quit();
 
 Q_SIGNALS:
-    /// The user has started the program again.
-    void activated();
     /// How many bytes of what the command does, as in "Sending…", are done.
     Q_SCRIPTABLE void Progress(const QString& activity, qlonglong done, qlonglong total);
 
@@ -57,6 +70,8 @@ private:
     QCoro::Task<> work();
 
     std::optional<CommandContext> context_;
+    DesktopActions actions_;
+    std::vector<Wish> wishes_;
     std::function<void()> quit_;
     std::deque<Call> calls_;
     bool working_ = false;

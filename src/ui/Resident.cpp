@@ -15,6 +15,7 @@
 
 #include <chrono>
 #include <iostream>
+#include <tuple>
 #include <utility>
 
 namespace quillon {
@@ -50,7 +51,8 @@ QCoro::Task<std::unique_ptr<Resident>> Resident::claim(Platform& platform, Alert
     // finds the name hands its command over.
     auto service =
         std::make_unique<CommandService>([&platform] { platform.workspace.terminate(); });
-    if (service->publish() == CommandService::Publication::takenByAnother) co_return std::unique_ptr<Resident>{};
+    if (service->publish() == CommandService::Publication::takenByAnother)
+        co_return std::unique_ptr<Resident>{};
     auto lock = FolderLock::take(platform.dataFolder);
     for (int tries = 1; !lock && tries < lockTries; ++tries) {
         co_await sleep(platform.clock, lockInterval);
@@ -74,8 +76,8 @@ Resident::Resident(Platform& platform, Alerts& alerts, AppMover& mover,
       uninstaller_{platform, store_, analytics_, alerts},
       settingsWindow_{platform.workspace,
                       [this](const SettingsWindow::Fit& fit) { return makeSettings(fit); }},
-      panelWindow_{compositor_, [this] { return makePanel(); }},
-      trayIcon_{store_, trayActions()},
+      panelWindow_{compositor_, platform.workspace, [this] { return makePanel(); }},
+      trayIcon_{store_, platform.clock, trayActions()},
       service_{std::move(service)} {}
 
 std::unique_ptr<QWidget> Resident::makeSettings(const SettingsWindow::Fit& fit) {
@@ -84,11 +86,17 @@ std::unique_ptr<QWidget> Resident::makeSettings(const SettingsWindow::Fit& fit) 
                                     hud_.show(std::move(text), std::move(symbol), ok, sticky);
                                 },
                             .activate = [this] { platform_.workspace.activate(); },
-                            .uninstall = [this] { return uninstaller_.run(); }};
+                            .uninstall = [this] { return uninstaller_.run(); },
+                            .openPanel = [this] { panelWindow_.open(trayIcon_.place()); }};
     auto view = std::make_unique<SettingsView>(store_, updater_, std::move(actions),
                                                QStringLiteral("setup"));
     QObject::connect(view.get(), &SettingsView::fittingHeightChanged, view.get(),
                      [fit](int height) { fit(height); });
+    const auto offerPanel = [this, view = view.get()] {
+        view->setPanelOffered(trayIcon_.missing());
+    };
+    QObject::connect(&trayIcon_, &TrayIcon::missingChanged, view.get(), offerPanel);
+    offerPanel();
     return view;
 }
 
@@ -122,9 +130,9 @@ void Resident::start() {
                   << std::endl;
     }
     if (!store_.isReady()) settingsWindow_.show();
-    QObject::connect(service_.get(), &CommandService::activated, &store_,
-                     [this] { settingsWindow_.show(); });
-    service_->serve({platform_, analytics_, store_, banner_, nullptr});
+    service_->serve({platform_, analytics_, store_, banner_, nullptr},
+                    {.showSettings = [this] { showSettings(); },
+                     .send = [this] { std::ignore = store_.sendClipboard("button"); }});
     loadFont();
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &store_,
                      [this] { analytics_.flushBeforeQuit(); });

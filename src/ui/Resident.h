@@ -31,6 +31,7 @@ public:
 
     /// Begins the work, in the order that its parts need each other.
     void start();
+    void showSettings() { settingsWindow_.show(); }
 
 private:
     Resident(Platform& platform, Alerts& alerts, AppMover& mover,

@@ -57,8 +57,7 @@ void SettingsWindow::show() {
     window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
     window_->show();
     workspace_.activate();
-    window_->raise();
-    window_->activateWindow();
+    workspace_.bringToFront(*window_->windowHandle());
 }
 
 void SettingsWindow::make() {

@@ -8,6 +8,7 @@ using namespace quillon;
 
 TEST(CommandLine, UnderstandsOneCommandAndItsOption) {
     EXPECT_EQ(parseCommandLine({"send"}), (Invocation{Command::send, ""}));
+    EXPECT_EQ(parseCommandLine({"settings"}), (Invocation{Command::settings, ""}));
     EXPECT_EQ(parseCommandLine({"--json", "status"}), (Invocation{Command::status, "--json"}));
     EXPECT_EQ(parseCommandLine({"history", "--json"}), (Invocation{Command::history, "--json"}));
     EXPECT_EQ(parseCommandLine({"launch-at-login", "off"}),

@@ -5,6 +5,8 @@
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 
+#include <QWindow>
+
 #include <map>
 #include <set>
 #include <string>
@@ -113,6 +115,11 @@ public:
     }
     void unlistApplication() override { log.emplace_back("unlist"); }
     void activate() override { log.emplace_back("activate"); }
+    void bringToFront(QWindow& window) override {
+        log.emplace_back("front");
+        window.raise();
+        window.requestActivate();
+    }
     void openAfterExit(const std::filesystem::path& application) override {
         log.push_back("open " + application.native());
     }

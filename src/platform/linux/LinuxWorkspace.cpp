@@ -5,6 +5,7 @@
 #include "platform/linux/Relaunch.h"
 #include "platform/linux/RunningPrograms.h"
 #include "platform/linux/Trash.h"
+#include "platform/linux/X11Activation.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -17,6 +18,18 @@
 #include <utility>
 
 namespace quillon {
+
+namespace {
+
+/// Not the banner, menus, tool tips or the icon in the desktop's panel.
+bool takesFocus(const QWindow& window) {
+    constexpr Qt::WindowFlags unmanaged =
+        Qt::WindowDoesNotAcceptFocus | Qt::BypassWindowManagerHint;
+    const bool passing = window.type() == Qt::Popup || window.type() == Qt::ToolTip;
+    return !passing && !(window.flags() & unmanaged);
+}
+
+} // namespace
 
 LinuxWorkspace::LinuxWorkspace(Folders folders) : folders_{std::move(folders)} {}
 
@@ -45,10 +58,12 @@ void LinuxWorkspace::unlistApplication() {
 void LinuxWorkspace::activate() {
     if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return;
     for (QWindow* window : QGuiApplication::topLevelWindows()) {
-        if (!window->isVisible() || (window->flags() & Qt::WindowDoesNotAcceptFocus)) continue;
-        window->raise();
-        window->requestActivate();
+        if (window->isVisible() && takesFocus(*window)) quillon::bringToFront(*window);
     }
+}
+
+void LinuxWorkspace::bringToFront(QWindow& window) {
+    quillon::bringToFront(window);
 }
 
 void LinuxWorkspace::openAfterExit(const std::filesystem::path& application) {

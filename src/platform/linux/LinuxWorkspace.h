@@ -16,6 +16,7 @@ public:
     void listApplication(const std::filesystem::path& application) override;
     void unlistApplication() override;
     void activate() override;
+    void bringToFront(QWindow& window) override;
     void openAfterExit(const std::filesystem::path& application) override;
     void terminate() override;
     void exitNow(int status) override;

@@ -1,6 +1,7 @@
 #include "ui/panel/PanelWindow.h"
 
 #include "platform/Compositor.h"
+#include "platform/Workspace.h"
 #include "ui/panel/PanelPlacement.h"
 #include "ui/panel/PanelView.h"
 #include "ui/views/Theme.h"
@@ -28,9 +29,10 @@ constexpr double cornerRadius = 10;
 
 } // namespace
 
-PanelWindow::PanelWindow(Compositor& compositor, MakePanel makePanel)
+PanelWindow::PanelWindow(Compositor& compositor, Workspace& workspace, MakePanel makePanel)
     : QWidget{nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint},
       compositor_{compositor},
+      workspace_{workspace},
       makePanel_{std::move(makePanel)} {
     setWindowTitle(QStringLiteral("Quillon"));
 }
@@ -68,7 +70,7 @@ void PanelWindow::open(const QRect& icon) {
     pointer_ = QCursor::pos();
     place();
     show();
-    activate();
+    workspace_.bringToFront(*windowHandle());
     panel_->focusMainAction();
 }
 
@@ -83,11 +85,6 @@ void PanelWindow::place() {
         size = {size.width() + scroll_->verticalScrollBar()->sizeHint().width(), most};
     setGeometry(icon_.isEmpty() ? panelInCorner(size, pointer_, room)
                                 : panelBesideIcon(size, icon_, screen->geometry(), room));
-}
-
-void PanelWindow::activate() {
-    raise();
-    activateWindow();
 }
 
 bool PanelWindow::eventFilter(QObject* watched, QEvent* event) {

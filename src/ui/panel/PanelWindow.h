@@ -13,6 +13,7 @@ namespace quillon {
 
 class Compositor;
 class PanelView;
+class Workspace;
 
 /// The small window that the panel is shown in. Opens beside the icon that was clicked and closes
 /// by itself: on Escape, when it loses the focus, and when the icon is clicked again.
@@ -23,7 +24,7 @@ public:
     using MakePanel = std::function<std::unique_ptr<PanelView>()>;
 
     /// The panel itself is made when it is first opened.
-    PanelWindow(Compositor& compositor, MakePanel makePanel);
+    PanelWindow(Compositor& compositor, Workspace& workspace, MakePanel makePanel);
     ~PanelWindow() override;
 
     /// Opens it, or closes it if it is open. `icon` is the icon's place on the screen, empty where
@@ -41,9 +42,9 @@ private:
     void makePanel();
     /// Gives the window the panel's size, at the place that it opened at.
     void place();
-    void activate();
 
     Compositor& compositor_;
+    Workspace& workspace_;
     MakePanel makePanel_;
     PanelView* panel_ = nullptr;
     QScrollArea* scroll_ = nullptr;

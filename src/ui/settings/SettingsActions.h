@@ -16,6 +16,8 @@ struct SettingsActions {
     std::function<void()> activate;
     /// Removes the program, and ends it.
     std::function<QCoro::Task<>()> uninstall;
+    /// Opens the panel, where no icon does.
+    std::function<void()> openPanel{};
 };
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #include "ui/settings/SettingsView.h"
 
 #include "ui/settings/GeneralView.h"
+#include "ui/settings/PanelOffer.h"
 #include "ui/settings/TabStrip.h"
 #include "ui/settings/TopicsView.h"
 #include "ui/setup/SetupView.h"
@@ -48,8 +49,10 @@ SettingsView::SettingsView(Store& store, Updater& updater, SettingsActions actio
       setup_{new SetupView{store}},
       tabs_{new TabStrip},
       pages_{new Pages},
+      offer_{new PanelOffer},
       measuring_{this, [this] { measure(); }} {
     build();
+    connect(offer_, &PanelOffer::openPanel, this, actions.openPanel);
     addPage(setup_);
     addPage(new TopicsView{store});
     addPage(new GeneralView{store, updater, std::move(actions)});
@@ -79,6 +82,13 @@ void SettingsView::build() {
     column->addSpacing(Space::small);
     column->addWidget(new Divider);
     column->addWidget(scroll_, 1);
+    column->addWidget(offer_);
+    offer_->hide();
+}
+
+void SettingsView::setPanelOffered(bool offered) {
+    offer_->setVisible(offered);
+    measuring_.schedule();
 }
 
 void SettingsView::addPage(QWidget* page) {
@@ -110,7 +120,8 @@ int SettingsView::fittingWidth() {
 int SettingsView::fittingHeight() const {
     const QWidget* page = pageList_.at(static_cast<std::size_t>(tabs_->currentIndex()));
     const int above = Space::small + tabs_->sizeHint().height() + Space::small + 1;
-    const int height = above + page->heightForWidth(fittingWidth());
+    const int below = offer_->isHidden() ? 0 : offer_->sizeHint().height();
+    const int height = above + page->heightForWidth(fittingWidth()) + below;
     if (page != setup_ || !setup_->moving()) return height;
     // The window changes once: before the guide's rows take more room, after they gave some back.
     return std::max(reported_, height + setup_->growthAhead());

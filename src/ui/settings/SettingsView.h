@@ -10,6 +10,7 @@ class QScrollArea;
 
 namespace quillon {
 
+class PanelOffer;
 class SetupView;
 class Store;
 class TabStrip;
@@ -28,6 +29,9 @@ public:
     [[nodiscard]] QString tab() const;
     /// A tag that no tab has changes nothing.
     void setTab(const QString& tag);
+
+    /// Whether to offer a way to the panel: there is no icon that opens it.
+    void setPanelOffered(bool offered);
 
     /// Its own, whatever the window's: 540 points, more where the text is larger than usual.
     [[nodiscard]] static int fittingWidth();
@@ -58,6 +62,7 @@ private:
     QWidget* pages_;
     std::vector<QWidget*> pageList_;
     QScrollArea* scroll_ = nullptr;
+    PanelOffer* offer_;
     int reported_ = 0;
     Refresher measuring_;
 };

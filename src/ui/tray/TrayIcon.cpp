@@ -6,8 +6,13 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QImage>
 #include <QPalette>
+#include <QPixmap>
+#include <QScreen>
 
+#include <chrono>
+#include <cmath>
 #include <tuple>
 #include <utility>
 
@@ -18,15 +23,46 @@ namespace {
 /// The name under which the icon theme has the icon, for hosts that draw it in their own colour.
 const QString themeIcon = QStringLiteral("dev.vostrel.quillon-symbolic");
 
+/// An X11 tray has drawn the icon by then.
+constexpr std::chrono::milliseconds drawn{500};
+
+/// What is behind the icon: the colour in its corner, where it draws nothing itself.
+QColor groundOf(const QRect& place) {
+    QScreen* const screen = QGuiApplication::screenAt(place.topLeft());
+    if (!screen) return {};
+    const QPoint corner = place.topLeft() - screen->geometry().topLeft();
+    const QImage pixel = screen->grabWindow(0, corner.x(), corner.y(), 1, 1).toImage();
+    return pixel.isNull() ? QColor{} : pixel.pixelColor(0, 0);
+}
+
+/// The desktop's colour of texts, or that of its windows where it stands out better.
+QColor inkOn(const QColor& ground) {
+    const QPalette palette = QGuiApplication::palette();
+    const QColor text = palette.color(QPalette::WindowText);
+    const QColor window = palette.color(QPalette::Window);
+    const auto contrast = [&](const QColor& ink) {
+        return std::abs(ink.lightnessF() - ground.lightnessF());
+    };
+    return ground.isValid() && contrast(window) > contrast(text) ? window : text;
+}
+
+/// Longer than the desktop's panel takes to start, or to start again.
+constexpr std::chrono::seconds panelPatience{3};
+
 } // namespace
 
-TrayIcon::TrayIcon(Store& store, TrayActions actions, QDBusConnection bus)
+TrayIcon::TrayIcon(Store& store, Clock& clock, TrayActions actions, QDBusConnection bus)
     : store_{store},
+      clock_{clock},
       actions_{std::move(actions)},
       watch_{std::move(bus)},
       refresher_{this, [this] { refresh(); }} {
     buildMenu();
-    connect(&watch_, &TrayWatch::changed, this, &TrayIcon::settle);
+    connect(&watch_, &TrayWatch::changed, this, [this] {
+        waited_ = false;
+        settle();
+    });
+    connect(&watch_, &TrayWatch::recoloured, this, &TrayIcon::redraw);
     refresher_.watch(store_, &Store::objectWillChange).refreshNow();
     settle();
 }
@@ -47,11 +83,34 @@ void TrayIcon::buildMenu() {
     menu_.installEventFilter(this);
 }
 
+bool TrayIcon::hasPlace() const {
+    if (!watch_.known()) return false;
+    // Qt gives all icons of a process to the kind of place that there was for the first one: better
+    // wait for a status notifier host that is about to come than to take less than that for good.
+    if (!overBus_) return watch_.hosted() || (watch_.managed() && (waited_ || !watch_.watched()));
+    return *overBus_ ? watch_.hosted() : watch_.managed();
+}
+
 void TrayIcon::settle() {
-    // Qt decides once, when the first icon is made, whether icons go over the bus: so none is made
-    // before there is a place for it, and each new place gets a new one.
+    // An icon on the bus stays where it is, whatever X11 trays do; any new place gets a new icon.
+    if (icon_ && overBus_.value_or(false) && watch_.hosted()) return redraw();
     icon_.reset();
-    if (!watch_.available()) return;
+    patience_.reset();
+    look_.reset();
+    if (!hasPlace()) {
+        if (waited_) return setMissing(true);
+        patience_ = clock_.after(panelPatience, [this] {
+            waited_ = true;
+            settle();
+        });
+        return;
+    }
+    makeIcon();
+    setMissing(false);
+}
+
+void TrayIcon::makeIcon() {
+    if (!overBus_) overBus_ = watch_.hosted();
     icon_ = std::make_unique<QSystemTrayIcon>(image());
     icon_->setToolTip(QStringLiteral("Quillon"));
     icon_->setContextMenu(&menu_);
@@ -60,6 +119,20 @@ void TrayIcon::settle() {
                 if (reason == QSystemTrayIcon::Trigger) actions_.togglePanel(place());
             });
     icon_->show();
+    watch_.listen();
+    if (*overBus_) return;
+    look_ = clock_.after(drawn, [this] {
+        ground_ = groundOf(place());
+        redraw();
+    });
+}
+
+void TrayIcon::redraw() {
+    if (icon_) icon_->setIcon(image());
+}
+
+void TrayIcon::setMissing(bool missing) {
+    if (std::exchange(missing_, missing) != missing) Q_EMIT missingChanged();
 }
 
 QRect TrayIcon::place() const {
@@ -71,14 +144,15 @@ void TrayIcon::refresh() {
 }
 
 QIcon TrayIcon::image() const {
+    // Best in the very colour of the icons around it, where somebody tells.
+    if (const auto told = watch_.foreground()) return MenuBarIcon::image(*told);
     if (watch_.hosted() && QIcon::hasThemeIcon(themeIcon)) return QIcon::fromTheme(themeIcon);
-    const QColor text = QGuiApplication::palette().color(QPalette::WindowText);
-    return MenuBarIcon::image(watch_.foreground().value_or(text));
+    return MenuBarIcon::image(inkOn(ground_));
 }
 
 bool TrayIcon::eventFilter(QObject* watched, QEvent* event) {
     // The menu, as a widget, is told of the desktop's colours.
-    if (event->type() == QEvent::PaletteChange && icon_) icon_->setIcon(image());
+    if (event->type() == QEvent::PaletteChange) redraw();
     return QObject::eventFilter(watched, event);
 }
 

@@ -68,7 +68,8 @@ void TrayWatch::askWatcher() {
     connect(pending, &QDBusPendingCallWatcher::finished, this, [this, pending] {
         const QDBusPendingReply<QDBusVariant> reply = *pending;
         pending->deleteLater();
-        setHosted(!reply.isError() && reply.value().variant().toBool());
+        watched_ = !reply.isError();
+        setHosted(watched_ && reply.value().variant().toBool());
     });
 }
 
@@ -83,6 +84,7 @@ void TrayWatch::watchManager() {
     if (!connection) return;
     selection_ = internAtom(connection, traySelection());
     managerAtom_ = internAtom(connection, "MANAGER");
+    coloursAtom_ = internAtom(connection, "_NET_SYSTEM_TRAY_COLORS");
     qApp->installNativeEventFilter(this);
     lookForManager();
 }
@@ -95,14 +97,16 @@ void TrayWatch::lookForManager() {
     const xcb_window_t owner = reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
     if (owner == manager_) return;
     manager_ = owner;
-    if (owner != XCB_WINDOW_NONE) {
-        // Its end is what tells that the tray is gone. Qt asks for these events too, if anyone
-        // does.
-        const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-        xcb_change_window_attributes(connection, owner, XCB_CW_EVENT_MASK, &events);
-        xcb_flush(connection);
-    }
+    listen();
     Q_EMIT changed();
+}
+
+void TrayWatch::listen() const {
+    xcb_connection_t* const connection = x11();
+    if (!connection || manager_ == XCB_WINDOW_NONE) return;
+    const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_change_window_attributes(connection, manager_, XCB_CW_EVENT_MASK, &events);
+    xcb_flush(connection);
 }
 
 bool TrayWatch::nativeEventFilter(const QByteArray& type, void* message, qintptr* /*result*/) {
@@ -117,6 +121,10 @@ bool TrayWatch::nativeEventFilter(const QByteArray& type, void* message, qintptr
     } else if (kind == XCB_DESTROY_NOTIFY) {
         const auto* const gone = reinterpret_cast<const xcb_destroy_notify_event_t*>(event);
         ours = manager_ != 0 && gone->window == manager_;
+    } else if (kind == XCB_PROPERTY_NOTIFY) {
+        const auto* const told = reinterpret_cast<const xcb_property_notify_event_t*>(event);
+        if (told->window == manager_ && told->atom == coloursAtom_)
+            QMetaObject::invokeMethod(this, &TrayWatch::recoloured, Qt::QueuedConnection);
     }
     // Later: Qt is in the middle of handling it.
     if (ours)
@@ -130,8 +138,7 @@ std::optional<QColor> TrayWatch::foreground() const {
     if (!connection || manager_ == 0) return std::nullopt;
     // Four colours, the first that of text and symbols, each of three cardinals up to 65535.
     const auto cookie =
-        xcb_get_property(connection, 0, manager_, internAtom(connection, "_NET_SYSTEM_TRAY_COLORS"),
-                         XCB_ATOM_CARDINAL, 0, 3);
+        xcb_get_property(connection, 0, manager_, coloursAtom_, XCB_ATOM_CARDINAL, 0, 3);
     const XcbPointer<xcb_get_property_reply_t> reply{
         xcb_get_property_reply(connection, cookie, nullptr)};
     if (!reply || reply->format != 32 || reply->value_len < 3) return std::nullopt;

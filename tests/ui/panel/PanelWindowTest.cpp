@@ -24,7 +24,7 @@ struct PanelWindowTest : testing::Test {
     Updater updater{world.platform, *world.analytics, {}};
     NoCompositor compositor;
     int made = 0;
-    PanelWindow window{compositor, [this] {
+    PanelWindow window{compositor, world.workspace, [this] {
                            ++made;
                            return std::make_unique<PanelView>(world.platform, *world.store, updater,
                                                               PanelActions{});

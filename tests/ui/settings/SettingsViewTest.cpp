@@ -57,6 +57,7 @@ struct SettingsTest : testing::Test {
     FakeFramework* framework = nullptr;
     Updater updater{world.platform, *world.analytics, fakeHooks(framework)};
     int uninstalls = 0;
+    int panels = 0;
     SettingsView view{
         *world.store, updater,
         SettingsActions{.showBanner =
@@ -67,7 +68,8 @@ struct SettingsTest : testing::Test {
                         .uninstall = [this]() -> QCoro::Task<> {
                             ++uninstalls;
                             co_return;
-                        }},
+                        },
+                        .openPanel = [this] { ++panels; }},
         QStringLiteral("setup")};
     Controls controls{view};
 };
@@ -93,6 +95,19 @@ TEST_F(SettingsTest, ReportsTheHeightOfEachTab) {
     EXPECT_GT(reported[1], reported[0]);
     show("nowhere");
     EXPECT_EQ(view.tab(), QStringLiteral("topics"));
+}
+
+TEST_F(SettingsTest, LeadsToThePanelWhereNoIconDoes) {
+    const int height = view.fittingHeight();
+    EXPECT_FALSE(shows("Open panel"));
+    view.setPanelOffered(true);
+    turn();
+    EXPECT_GT(view.fittingHeight(), height) << "takes no room from the tab";
+    controls.click(text("Open panel"));
+    EXPECT_EQ(panels, 1);
+    view.setPanelOffered(false);
+    EXPECT_FALSE(shows("Open panel"));
+    EXPECT_EQ(view.fittingHeight(), height);
 }
 
 TEST_F(SettingsTest, RegistersThePickedShortcutAndTellsOfOneThatIsTaken) {

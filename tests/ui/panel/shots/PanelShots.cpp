@@ -112,7 +112,7 @@ void take(const Shot& shot, const QDir& folder) {
                      .log = [](const std::string&) {}}};
     updater.start();
     NoCompositor compositor;
-    PanelWindow window{compositor, [&] {
+    PanelWindow window{compositor, world.workspace, [&] {
                            return std::make_unique<PanelView>(world.platform, *world.store, updater,
                                                               PanelActions{});
                        }};

@@ -1,0 +1,31 @@
+#include "ui/settings/PanelOffer.h"
+
+#include "ui/views/Buttons.h"
+#include "ui/views/Card.h"
+#include "ui/views/IconLabel.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+PanelOffer::PanelOffer(QWidget* parent) : QWidget{parent} {
+    auto* const text = new IconLabel{tr("This desktop shows no icon for Quillon."),
+                                     "info.circle",
+                                     {.style = Text::callout, .ink = Ink::secondary}};
+    auto* const open = new TextButton{tr("Open pane&l"), {}, {.style = Text::callout}};
+    connect(open, &TextButton::clicked, this, &PanelOffer::openPanel);
+
+    auto* const row = new QHBoxLayout;
+    row->setContentsMargins(Space::large, Space::small, Space::large, Space::small);
+    row->setSpacing(Space::small);
+    row->addWidget(text, 1, Qt::AlignVCenter);
+    row->addWidget(open);
+    auto* const column = new QVBoxLayout{this};
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addWidget(new Divider);
+    column->addLayout(row);
+}
+
+} // namespace quillon

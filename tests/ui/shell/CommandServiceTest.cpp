@@ -1,0 +1,28 @@
+#include "ui/CommandService.h"
+
+#include "cli/SpokenBanner.h"
+#include "support/World.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+TEST(CommandService, GrantsWhatWasWishedForBeforeItWasReady) {
+    const World world;
+    SpokenBanner banner{nullptr};
+    std::vector<std::string> granted;
+    const DesktopActions actions{.showSettings = [&] { granted.emplace_back("settings"); },
+                                 .send = [&] { granted.emplace_back("send"); }};
+    CommandService service{[] {}};
+    // As a bus does that has started the program for just this.
+    service.wishByName(QStringLiteral("send"), {});
+    service.wish(&DesktopActions::showSettings, {});
+    EXPECT_THAT(granted, testing::IsEmpty());
+    Platform platform = world.platform;
+    service.serve({platform, *world.analytics, *world.store, banner, nullptr}, actions);
+    EXPECT_THAT(granted, testing::ElementsAre("send", "settings"));
+    service.wishByName(QStringLiteral("settings"), {});
+    EXPECT_THAT(granted, testing::ElementsAre("send", "settings", "settings"));
+}
+
+} // namespace quillon::test
