@@ -70,9 +70,11 @@ Card* GeneralView::buildShortcut() {
         shortcut_->setItemAccessibleName(static_cast<int>(i), keyNames(allShortcutChoices.at(i)));
     connect(shortcut_, &SegmentedPicker::picked, this, &GeneralView::pickShortcut);
     auto* label = new TileLabel{tr("Send clipboard"), "keyboard.fill", Palette::blue};
+    shortcut_->setAccessibleLabel(label);
     card->body()->addLayout(settingRow(label, shortcut_));
     taken_ = new IconLabel{
         {}, "exclamationmark.triangle.fill", {.style = Text::callout, .ink = Ink::warning}};
+    taken_->setAccessibleRole(QAccessible::AlertMessage);
     card->body()->addWidget(taken_);
     return card;
 }
@@ -94,7 +96,8 @@ Card* GeneralView::buildSending() {
 }
 
 QWidget* GeneralView::buildPositions() {
-    positions_ = new QWidget;
+    positions_ = new View;
+    positions_->setAccessibleName(tr("Banner position"));
     auto* row = new QHBoxLayout{positions_};
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Space::small);
@@ -121,9 +124,12 @@ Card* GeneralView::buildTelegram() {
     group_ = makeValue();
     disconnect_ = new TextButton{
         tr("&Disconnect this Mac"), "xmark.circle.fill", {.kind = ButtonKind::destructive}};
-    card->body()->addLayout(settingRow(new TileLabel{tr("Bot"), "cpu.fill", Palette::teal}, bot_));
-    card->body()->addLayout(
-        settingRow(new TileLabel{tr("Group"), "person.3.fill", Palette::blue}, group_));
+    auto* bot = new TileLabel{tr("Bot"), "cpu.fill", Palette::teal};
+    auto* group = new TileLabel{tr("Group"), "person.3.fill", Palette::blue};
+    bot_->setAccessibleLabel(bot);
+    group_->setAccessibleLabel(group);
+    card->body()->addLayout(settingRow(bot, bot_));
+    card->body()->addLayout(settingRow(group, group_));
     card->body()->addWidget(disconnect_, 0, Qt::AlignLeading);
     connect(disconnect_, &TextButton::clicked, this, [this] { std::ignore = store_.forgetBot(); });
     return card;
@@ -154,9 +160,9 @@ void GeneralView::refreshShortcut() {
     const ShortcutChoice choice = store_.config().shortcut;
     shortcut_->setFixedWidth(static_cast<int>(std::ceil(Theme::length(pickerWidth))));
     shortcut_->setCurrentIndex(static_cast<int>(choice));
-    taken_->setVisible(store_.shortcutTaken());
     taken_->setText(tr("Another app already uses %1. Pick another one.")
                         .arg(QString::fromStdString(keysText(choice))));
+    taken_->setVisible(store_.shortcutTaken());
 }
 
 void GeneralView::refreshTelegram() {

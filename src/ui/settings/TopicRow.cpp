@@ -1,5 +1,6 @@
 #include "ui/settings/TopicRow.h"
 
+#include "ui/views/Accessibility.h"
 #include "ui/views/IconLabel.h"
 #include "ui/views/TextField.h"
 #include "ui/views/Tile.h"
@@ -76,12 +77,16 @@ TopicRow::TopicRow(QWidget* parent)
 void TopicRow::setTopic(const Topic& topic) {
     tile_->setSymbol(std::string{topic.symbol()}, QColor::fromRgb(static_cast<QRgb>(topic.color)));
     name_->setPlaceholderText(hint(topic.key));
-    name_->setAccessibleName(hint(topic.key));
-    name_->setAccessibleDescription(rule(topic.key));
+    if (name_->accessibleName() != hint(topic.key)) name_->setAccessibleName(hint(topic.key));
+    setDescription(*name_, rule(topic.key));
     rule_->setText(rule(topic.key));
     // What the user is typing is already the topic's name, so that this is a name from elsewhere.
     const QString name = QString::fromStdString(topic.name);
     if (name_->text() != name) name_->setText(name);
+}
+
+QWidget* TopicRow::field() const {
+    return name_;
 }
 
 void TopicRow::themeChanged() {

@@ -18,6 +18,9 @@ public:
 
     void setTopic(const Topic& topic);
 
+    /// What the keyboard goes to.
+    [[nodiscard]] QWidget* field() const;
+
 Q_SIGNALS:
     /// The user changed the name.
     void edited(const QString& name);

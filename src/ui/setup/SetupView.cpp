@@ -34,6 +34,7 @@ SetupView::SetupView(Store& store, QWidget* parent)
     spinner_ = new Spinner;
     column->addWidget(spinner_, 0, Qt::AlignHCenter);
     errorLine_ = new IconLabel{{}, "exclamationmark.triangle.fill", {.ink = Ink::warning}};
+    errorLine_->setAccessibleRole(QAccessible::AlertMessage);
     column->addWidget(errorLine_);
     column->addStretch(1);
     refresher_.watch(store, &Store::objectWillChange);
@@ -72,9 +73,9 @@ void SetupView::refresh() {
     refreshControls(now);
     closing_->setOpen(position > stepCount, animated);
     spinner_->setVisible(working_);
-    errorLine_->setVisible(error_.has_value());
     errorLine_->setText(
         TextBlock::verbatim(QString::fromStdString(error_.value_or(std::string{}))));
+    errorLine_->setVisible(error_.has_value());
 }
 
 void SetupView::refreshRows(const SetupProgress& now, bool animated) {

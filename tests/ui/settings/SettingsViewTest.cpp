@@ -79,12 +79,12 @@ TEST_F(SettingsTest, ReportsTheHeightOfEachTab) {
     QObject::connect(&view, &SettingsView::fittingHeightChanged, &view,
                      [&](int height) { reported.push_back(height); });
     auto& tabs = *view.findChild<QTabBar*>();
-    EXPECT_TRUE(shows("Create your bot"));
+    EXPECT_TRUE(shows("Step 1: Create your bot"));
     tabs.setFocus();
     QTest::keyClick(&tabs, Qt::Key_Right);
     turn();
     EXPECT_EQ(view.tab(), QStringLiteral("topics"));
-    EXPECT_FALSE(shows("Create your bot"));
+    EXPECT_FALSE(shows("Step 1: Create your bot"));
     ASSERT_THAT(reported, testing::SizeIs(1));
     EXPECT_EQ(reported.back(), view.fittingHeight());
     // One more topic makes the tab higher, without anybody's asking.
