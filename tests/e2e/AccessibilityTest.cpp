@@ -15,8 +15,8 @@ using testing::IsEmpty;
 
 const std::set<std::string> controlRoles{"push button",   "check box", "radio button", "text",
                                          "password text", "page tab",  "list item"};
-const std::set<std::string> contentRoles{"label", "image", "alert", "notification", "frame",
-                                         "dialog"};
+const std::set<std::string> contentRoles{"label",        "image", "alert",
+                                         "notification", "frame", "dialog"};
 
 /// What is wrong with what a window shows, in sentences.
 void collectFaults(const Control& control, std::map<std::string, int>& seen,
@@ -27,7 +27,7 @@ void collectFaults(const Control& control, std::map<std::string, int>& seen,
     const bool isControl = controlRoles.contains(role);
     if (name.empty() && (isControl || contentRoles.contains(role)))
         faults.push_back("a " + role + " has no name");
-    if (name.find_first_of("&*") != std::string::npos || name.find("⌃") != std::string::npos)
+    if (name.find("**") != std::string::npos || name.find("⌃") != std::string::npos)
         faults.push_back("\"" + name + "\" cannot be read out");
     if (isControl && control.is("sensitive") && role != "list item" && control.actions().empty())
         faults.push_back("nothing can be done with \"" + name + "\"");
@@ -77,7 +77,7 @@ protected:
 
 TEST_F(Accessibility, EveryWindowCanBeReadAndWorked) {
     Desk::click(Desk::icon().center());
-    EXPECT_EQ(reader.wait("push button", "Send clipboard to phone").description(), "1 character");
+    EXPECT_EQ(reader.wait("push button", "Send clipboard to phone").description(), "“a”");
     expectReadable("the panel");
     reader.wait("push button", "Settings…").press();
 
@@ -106,8 +106,8 @@ TEST_F(Accessibility, EveryWindowCanBeReadAndWorked) {
     reader.wait("page tab", "Topics").press();
     reader.wait("text", "Pictures").enter("Photos");
     reader.wait("push button", "Save names to Telegram").press();
-    EXPECT_TRUE(
-        waitUntil([&] { return std::ranges::count(reader.announcements(), "Saved to Telegram.") > 0; }));
+    EXPECT_TRUE(waitUntil(
+        [&] { return std::ranges::count(reader.announcements(), "Saved to Telegram.") > 0; }));
     expectReadable("the topics");
 
     general.press();

@@ -126,7 +126,7 @@ TEST_F(FirstPicture, WithTheKeyboardAlone) {
 
 TEST_F(FirstPicture, ThroughAssistiveTechnologyAlone) {
     const auto press = [this](const char* name) { reader.wait("push button", name).press(); };
-    reader.wait("password text", "Bot token").enter("nonsense");
+    reader.wait("password text", "Bot token").enter("123456789:AAwrong");
     press("Connect");
     EXPECT_TRUE(hears("Telegram didn't accept that bot token."));
     const Control field = reader.wait("password text", "Bot token");

@@ -86,10 +86,10 @@ Card* GeneralView::buildSending() {
     card->body()->addWidget(sound_);
     card->body()->addWidget(banner_);
     card->body()->addWidget(buildPositions());
-    connect(sound_, &Switch::clicked, this, [this](bool on) {
+    connect(sound_, &Switch::switched, this, [this](bool on) {
         store_.changeConfig([on](Config& config) { config.playSound = on; });
     });
-    connect(banner_, &Switch::clicked, this, [this](bool on) {
+    connect(banner_, &Switch::switched, this, [this](bool on) {
         store_.changeConfig([on](Config& config) { config.showBanner = on; });
     });
     return card;
@@ -114,7 +114,7 @@ Card* GeneralView::buildStartup() {
     auto* card = new Card{tr("Startup"), "macwindow"};
     login_ = new Switch{tr("&Open Quillon when I log in"), "power", Palette::green};
     card->body()->addWidget(login_);
-    connect(login_, &Switch::clicked, this, [this](bool on) { store_.setLaunchAtLogin(on); });
+    connect(login_, &Switch::switched, this, [this](bool on) { store_.setLaunchAtLogin(on); });
     return card;
 }
 
@@ -146,13 +146,13 @@ QWidget* GeneralView::buildUninstall() {
 void GeneralView::refresh() {
     const Config& config = store_.config();
     refreshShortcut();
-    sound_->setChecked(config.playSound);
-    banner_->setChecked(config.showBanner);
+    sound_->showOn(config.playSound);
+    banner_->showOn(config.showBanner);
     // What is disabled is drawn dimmed.
     positions_->setEnabled(config.showBanner);
     for (const auto& [position, card] : positionCards_)
         card->showSelected(config.bannerPosition == position);
-    login_->setChecked(store_.launchAtLogin());
+    login_->showOn(store_.launchAtLogin());
     refreshTelegram();
 }
 

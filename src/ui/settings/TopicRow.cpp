@@ -71,7 +71,12 @@ TopicRow::TopicRow(QWidget* parent)
     row->addWidget(name_, 1);
     row->addWidget(rule_);
     sizeRule();
-    connect(name_, &QLineEdit::textEdited, this, &TopicRow::edited);
+    // Assistive technology edits without what Qt takes for editing.
+    connect(name_, &QLineEdit::textChanged, this, [this](const QString& name) {
+        if (name == shown_) return;
+        shown_ = name;
+        Q_EMIT edited(name);
+    });
 }
 
 void TopicRow::setTopic(const Topic& topic) {
@@ -82,6 +87,7 @@ void TopicRow::setTopic(const Topic& topic) {
     rule_->setText(rule(topic.key));
     // What the user is typing is already the topic's name, so that this is a name from elsewhere.
     const QString name = QString::fromStdString(topic.name);
+    shown_ = name;
     if (name_->text() != name) name_->setText(name);
 }
 

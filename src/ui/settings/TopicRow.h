@@ -34,6 +34,7 @@ private:
     Tile* tile_;
     TextField* name_;
     IconLabel* rule_;
+    QString shown_; // the topic's name
 };
 
 } // namespace quillon
