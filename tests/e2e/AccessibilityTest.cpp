@@ -68,6 +68,13 @@ protected:
         return waitUntil([&] { return control.is(state) == on; });
     }
 
+    [[nodiscard]] testing::AssertionResult keyboardReaches(const std::string& name) {
+        if (waitUntil([&] { return reader.focused().name() == name; }, std::chrono::seconds{3}))
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure()
+               << reader.focused().name() << " has the keyboard, not " << name;
+    }
+
     Desk desk;
     ScreenReader reader;
     std::unique_ptr<QProcess> program;
@@ -115,6 +122,48 @@ TEST_F(Accessibility, EveryWindowCanBeReadAndWorked) {
     reader.wait("dialog", "Uninstall Quillon?");
     expectReadable("the question whether to uninstall");
     reader.wait("push button", "Cancel").press();
+}
+
+TEST_F(Accessibility, TheKeyboardReachesEverythingInOrder) {
+    EXPECT_EQ(quillon.run({}).code, 0);
+    // A group of choices is one stop, at the choice that is taken.
+    const std::vector<std::pair<std::string, std::vector<std::string>>> tabs{
+        {"Setup",
+         {"Step 1: Create your bot", "Step 2: Paste the token", "Step 3: Make your group",
+          "Step 4: Create the topics"}},
+        {"Topics", {"Text", "Pictures", "Files", "Videos"}},
+        {"General",
+         {"Control Alt V", "Play a sound", "Show a banner", "Banner in the top",
+          "Banner in the middle", "Banner in the bottom", "Open Quillon when I log in",
+          "Check for updates automatically", "Disconnect this Mac", "Uninstall Quillon…"}}};
+    for (const auto& [tab, controls] : tabs) {
+        EXPECT_TRUE(keyboardReaches(tab));
+        for (const std::string& control : controls) {
+            Desk::press("Tab");
+            EXPECT_TRUE(keyboardReaches(control));
+        }
+        Desk::press("Tab");
+        EXPECT_TRUE(keyboardReaches(tab)) << "and around";
+        Desk::press("ctrl+Next"); // Page Down
+    }
+    EXPECT_TRUE(keyboardReaches("Setup"));
+    Desk::press("ctrl+shift+Tab");
+    EXPECT_TRUE(keyboardReaches("General"));
+    Desk::press("Left");
+    EXPECT_TRUE(keyboardReaches("Topics"));
+    Desk::press("alt+g");
+    Desk::press("Tab Right");
+    EXPECT_TRUE(keyboardReaches("Control Alt P"));
+    EXPECT_TRUE(becomes(reader.wait("radio button", "Control Alt P"), "checked"));
+    Desk::press("Tab space");
+    EXPECT_TRUE(becomes(reader.wait("check box", "Play a sound"), "checked", false));
+    Desk::press("Return");
+    EXPECT_TRUE(becomes(reader.wait("check box", "Play a sound"), "checked"));
+
+    Desk::press("alt+u");
+    EXPECT_TRUE(keyboardReaches("Uninstall")) << "the sheet's default";
+    Desk::press("Escape");
+    EXPECT_TRUE(keyboardReaches("Play a sound")) << "where it was";
 }
 
 } // namespace quillon::test

@@ -178,7 +178,8 @@ Control ScreenReader::find(const Which& which) const {
     while (!waiting.empty()) {
         const Control control = waiting.front();
         waiting.pop_front();
-        if (which(control) && control.is("showing")) return control;
+        if (!control.is("showing")) continue; // nor does what is in it
+        if (which(control)) return control;
         const std::vector<Control> children = control.children();
         waiting.insert(waiting.end(), children.begin(), children.end());
     }
