@@ -98,7 +98,7 @@ TEST_F(SettingsTest, ReportsTheHeightOfEachTab) {
 TEST_F(SettingsTest, RegistersThePickedShortcutAndTellsOfOneThatIsTaken) {
     show("general");
     world.store->registerShortcut();
-    EXPECT_FALSE(shows("Another app already uses ⌃⌥P. Pick another one."));
+    EXPECT_FALSE(shows("Another app already uses Control Alt P. Pick another one."));
     std::set<PhysicalKey> all;
     for (const auto& key : world.hotKeys.registered)
         all.insert(key);
@@ -110,10 +110,10 @@ TEST_F(SettingsTest, RegistersThePickedShortcutAndTellsOfOneThatIsTaken) {
     world.hotKeys.takenByOthers = all;
     controls.click(text("Control Alt V"));
     turn();
-    EXPECT_TRUE(shows("Another app already uses ⌃⌥V. Pick another one."));
+    EXPECT_TRUE(shows("Another app already uses Control Alt V. Pick another one."));
     controls.click(text("Control Alt P"));
     turn();
-    EXPECT_FALSE(shows("Another app already uses ⌃⌥P. Pick another one."));
+    EXPECT_FALSE(shows("Another app already uses Control Alt P. Pick another one."));
 }
 
 TEST_F(SettingsTest, SwitchesWhatItSays) {
