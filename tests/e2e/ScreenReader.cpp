@@ -146,6 +146,10 @@ struct ScreenReader::Ears {
 };
 
 ScreenReader::ScreenReader() : ears_{std::make_unique<Ears>()} {
+    // It would tell of each program that it finds gone.
+    g_log_set_handler(
+        "dbind", G_LOG_LEVEL_WARNING, [](const char*, GLogLevelFlags, const char*, void*) {},
+        nullptr);
     turnOn(QStringLiteral("IsEnabled"));
     turnOn(QStringLiteral("ScreenReaderEnabled"));
     atspi_init();
@@ -176,7 +180,7 @@ Control ScreenReader::find(const Which& which) const {
     const std::vector<Control> roots = windows();
     std::deque<Control> waiting{roots.begin(), roots.end()};
     while (!waiting.empty()) {
-        const Control control = waiting.front();
+        Control control = waiting.front();
         waiting.pop_front();
         if (!control.is("showing")) continue; // nor does what is in it
         if (which(control)) return control;

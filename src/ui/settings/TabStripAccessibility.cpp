@@ -101,9 +101,10 @@ public:
 
     [[nodiscard]] QAccessibleInterface* child(int index) const override {
         if (index < 0 || index >= childCount()) return nullptr;
-        for (int next = static_cast<int>(tabs_.size()); next <= index; ++next)
-            tabs_.push_back(
-                QAccessible::registerAccessibleInterface(new TabDescription{strip_, next}));
+        for (int next = static_cast<int>(tabs_.size()); next <= index; ++next) {
+            auto* tab = new TabDescription{strip_, next}; // deleted with the strip's own
+            tabs_.push_back(QAccessible::registerAccessibleInterface(tab));
+        }
         return QAccessible::accessibleInterface(tabs_[static_cast<std::size_t>(index)]);
     }
 
