@@ -10,7 +10,6 @@ namespace quillon::test {
 
 namespace {
 
-using testing::Contains;
 using testing::IsEmpty;
 
 const std::set<std::string> controlRoles{"push button",   "check box", "radio button", "text",
