@@ -26,7 +26,7 @@ namespace {
 constexpr int noTimeout = std::numeric_limits<int>::max();
 
 /// A program that is well answers at once; in milliseconds.
-constexpr int activationTimeout = 5000;
+constexpr int activationTimeout = 4000;
 
 QDBusMessage message(const char* method) {
     QDBusMessage call =

@@ -3,6 +3,7 @@
 #include "desktop/HUDView.h"
 
 #include <QAccessible>
+#include <QAccessibleWidget>
 #include <QPainter>
 
 namespace quillon {
@@ -13,9 +14,16 @@ constexpr Qt::WindowFlags overlay = Qt::Tool | Qt::FramelessWindowHint | Qt::Win
                                     Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus |
                                     Qt::BypassWindowManagerHint | Qt::NoDropShadowWindowHint;
 
+/// A notification, which screen readers read out although it never has the focus.
+QAccessibleInterface* describe(const QString& className, QObject* object) {
+    if (className != QLatin1String{HUDPanel::staticMetaObject.className()}) return nullptr;
+    return new QAccessibleWidget{static_cast<QWidget*>(object), QAccessible::Notification};
+}
+
 } // namespace
 
 HUDPanel::HUDPanel() : QWidget{nullptr, overlay} {
+    QAccessible::installFactory(describe); // once, however often
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -32,6 +40,12 @@ void HUDPanel::setContent(const HUDView& view, const QString& text, double devic
     setAccessibleName(text);
     QAccessibleEvent announcement{this, QAccessible::Alert};
     QAccessible::updateAccessibility(&announcement);
+    // The accessibility bus is not told of alerts, but that a notification shows: here of one that
+    // shows already.
+    if (isVisible()) {
+        QAccessibleEvent shown{this, QAccessible::ObjectShow};
+        QAccessible::updateAccessibility(&shown);
+    }
     update();
 }
 

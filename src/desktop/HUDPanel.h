@@ -9,6 +9,8 @@ class HUDView;
 
 /// The banner's window: over everything on every workspace, never active, and nothing to the mouse.
 class HUDPanel : public QWidget {
+    Q_OBJECT
+
 public:
     HUDPanel();
 

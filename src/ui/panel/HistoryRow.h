@@ -24,6 +24,7 @@ public:
         return QAccessible::ListItem;
     }
     [[nodiscard]] QString accessibleText() const override;
+    [[nodiscard]] bool accessibleWhole() const override { return true; }
 
 private:
     void setFailed(bool failed);

@@ -51,6 +51,7 @@ PanelView::PanelView(Platform& platform, Store& store, const Updater& updater, P
       refresher_{this, [this] { refresh(); }} {
     build();
     connectActions();
+    warning_->setAccessibleRole(QAccessible::AlertMessage);
     refresher_.watch(store_, &Store::objectWillChange)
         .watch(updater_, &Updater::objectWillChange)
         .refreshNow();

@@ -11,6 +11,7 @@ RecentSends::RecentSends(QWidget* parent)
     : View{parent},
       none_{new IconLabel{
           tr("Nothing sent yet."), "tray", {.style = Text::callout, .ink = Ink::tertiary}}} {
+    setAccessibleName(tr("Recent"));
     none_->setContentsMargins(0, Space::tight, 0, Space::tight);
 
     auto* const column = new QVBoxLayout{this};

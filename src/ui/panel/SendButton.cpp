@@ -2,6 +2,7 @@
 
 #include "artwork/Brand.h"
 #include "ui/panel/Literal.h"
+#include "ui/views/Accessibility.h"
 #include "ui/views/Colors.h"
 #include "ui/views/IconLabel.h"
 #include "ui/views/Keycap.h"
@@ -68,8 +69,21 @@ void SendButton::setClip(const Clipboard::Summary& clip, bool busy) {
     symbol_->setSymbol(busy ? "arrow.up.circle" : clip.symbol);
     title_->setText(busy ? tr("Sending…") : tr("Send clipboard"));
     line_->setText(literal(line));
-    setEnabled(!busy);
-    setAccessibleDescription(busy ? tr("Sending…") : line);
+    setWaiting(busy);
+    setDescription(*this, busy ? tr("Sending…") : line);
+}
+
+void SendButton::setWaiting(bool waiting) {
+    if (waiting == !isEnabled()) return;
+    const bool hadFocus = hasFocus();
+    setEnabled(!waiting);
+    // What is disabled loses the keyboard; it comes back, unless the user went elsewhere.
+    QWidget* const now = window()->focusWidget();
+    if (waiting) {
+        focusMeanwhile_ = hadFocus ? now : nullptr;
+    } else if (focusMeanwhile_ && focusMeanwhile_ == now) {
+        setFocus(Qt::PopupFocusReason);
+    }
 }
 
 void SendButton::setShortcut(ShortcutChoice shortcut) {

@@ -4,6 +4,8 @@
 #include "state/ShortcutChoice.h"
 #include "ui/views/Buttons.h"
 
+#include <QPointer>
+
 #include <array>
 
 namespace quillon {
@@ -27,6 +29,10 @@ protected:
     [[nodiscard]] Tint focusTint() const override;
 
 private:
+    /// Takes no presses while it waits.
+    void setWaiting(bool waiting);
+
+    QPointer<QWidget> focusMeanwhile_;
     SymbolView* symbol_;
     IconLabel* title_;
     IconLabel* line_;

@@ -18,6 +18,7 @@ constexpr TextStyle titleStyle{14, QFont::Bold};
 SetupCard::SetupCard(QWidget* parent)
     : View{parent},
       invitation_{new IconLabel{{}, {}, {.style = Text::caption, .ink = Ink::secondary}}} {
+    setAccessibleName(tr("Connect your phone"));
     auto* const start = new TextButton{
         tr("Start setup"), "arrow.right.circle.fill", {.kind = ButtonKind::prominent}};
     connect(start, &TextButton::clicked, this, &SetupCard::startSetup);

@@ -70,9 +70,11 @@ Card* GeneralView::buildShortcut() {
         shortcut_->setItemAccessibleName(static_cast<int>(i), keyNames(allShortcutChoices.at(i)));
     connect(shortcut_, &SegmentedPicker::picked, this, &GeneralView::pickShortcut);
     auto* label = new TileLabel{tr("Send clipboard"), "keyboard.fill", Palette::blue};
+    shortcut_->setAccessibleLabel(label);
     card->body()->addLayout(settingRow(label, shortcut_));
     taken_ = new IconLabel{
         {}, "exclamationmark.triangle.fill", {.style = Text::callout, .ink = Ink::warning}};
+    taken_->setAccessibleRole(QAccessible::AlertMessage);
     card->body()->addWidget(taken_);
     return card;
 }
@@ -84,17 +86,18 @@ Card* GeneralView::buildSending() {
     card->body()->addWidget(sound_);
     card->body()->addWidget(banner_);
     card->body()->addWidget(buildPositions());
-    connect(sound_, &Switch::clicked, this, [this](bool on) {
+    connect(sound_, &Switch::switched, this, [this](bool on) {
         store_.changeConfig([on](Config& config) { config.playSound = on; });
     });
-    connect(banner_, &Switch::clicked, this, [this](bool on) {
+    connect(banner_, &Switch::switched, this, [this](bool on) {
         store_.changeConfig([on](Config& config) { config.showBanner = on; });
     });
     return card;
 }
 
 QWidget* GeneralView::buildPositions() {
-    positions_ = new QWidget;
+    positions_ = new View;
+    positions_->setAccessibleName(tr("Banner position"));
     auto* row = new QHBoxLayout{positions_};
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Space::small);
@@ -111,7 +114,7 @@ Card* GeneralView::buildStartup() {
     auto* card = new Card{tr("Startup"), "macwindow"};
     login_ = new Switch{tr("&Open Quillon when I log in"), "power", Palette::green};
     card->body()->addWidget(login_);
-    connect(login_, &Switch::clicked, this, [this](bool on) { store_.setLaunchAtLogin(on); });
+    connect(login_, &Switch::switched, this, [this](bool on) { store_.setLaunchAtLogin(on); });
     return card;
 }
 
@@ -121,9 +124,12 @@ Card* GeneralView::buildTelegram() {
     group_ = makeValue();
     disconnect_ = new TextButton{
         tr("&Disconnect this Mac"), "xmark.circle.fill", {.kind = ButtonKind::destructive}};
-    card->body()->addLayout(settingRow(new TileLabel{tr("Bot"), "cpu.fill", Palette::teal}, bot_));
-    card->body()->addLayout(
-        settingRow(new TileLabel{tr("Group"), "person.3.fill", Palette::blue}, group_));
+    auto* bot = new TileLabel{tr("Bot"), "cpu.fill", Palette::teal};
+    auto* group = new TileLabel{tr("Group"), "person.3.fill", Palette::blue};
+    bot_->setAccessibleLabel(bot);
+    group_->setAccessibleLabel(group);
+    card->body()->addLayout(settingRow(bot, bot_));
+    card->body()->addLayout(settingRow(group, group_));
     card->body()->addWidget(disconnect_, 0, Qt::AlignLeading);
     connect(disconnect_, &TextButton::clicked, this, [this] { std::ignore = store_.forgetBot(); });
     return card;
@@ -140,13 +146,13 @@ QWidget* GeneralView::buildUninstall() {
 void GeneralView::refresh() {
     const Config& config = store_.config();
     refreshShortcut();
-    sound_->setChecked(config.playSound);
-    banner_->setChecked(config.showBanner);
+    sound_->showOn(config.playSound);
+    banner_->showOn(config.showBanner);
     // What is disabled is drawn dimmed.
     positions_->setEnabled(config.showBanner);
     for (const auto& [position, card] : positionCards_)
         card->showSelected(config.bannerPosition == position);
-    login_->setChecked(store_.launchAtLogin());
+    login_->showOn(store_.launchAtLogin());
     refreshTelegram();
 }
 
@@ -154,9 +160,9 @@ void GeneralView::refreshShortcut() {
     const ShortcutChoice choice = store_.config().shortcut;
     shortcut_->setFixedWidth(static_cast<int>(std::ceil(Theme::length(pickerWidth))));
     shortcut_->setCurrentIndex(static_cast<int>(choice));
-    taken_->setVisible(store_.shortcutTaken());
     taken_->setText(tr("Another app already uses %1. Pick another one.")
                         .arg(QString::fromStdString(keysText(choice))));
+    taken_->setVisible(store_.shortcutTaken());
 }
 
 void GeneralView::refreshTelegram() {

@@ -8,6 +8,7 @@
 #include "ui/views/Card.h"
 
 #include <QScrollArea>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -34,6 +35,10 @@ constexpr std::array<Tab, 3> tabs{{
     {"general", QT_TRANSLATE_NOOP("quillon::SettingsView", "&General"), "gearshape.fill"},
 }};
 
+/// How far keys go along the tabs, from wherever the keyboard is.
+constexpr std::array<std::pair<const char*, int>, 4> tabKeys{
+    {{"Ctrl+Tab", 1}, {"Ctrl+Shift+Tab", -1}, {"Ctrl+PgDown", 1}, {"Ctrl+PgUp", -1}}};
+
 /// Holds the tabs' contents. They are as high as their width makes them, which their least heights,
 /// at the least width, say nothing about.
 class Pages : public QWidget {
@@ -57,6 +62,10 @@ SettingsView::SettingsView(Store& store, Updater& updater, SettingsActions actio
     addPage(new TopicsView{store});
     addPage(new GeneralView{store, updater, std::move(actions)});
     connect(tabs_, &QTabBar::currentChanged, this, &SettingsView::showPage);
+    for (const auto& [keys, step] : tabKeys) {
+        auto* shortcut = new QShortcut{QKeySequence{QLatin1String{keys}}, this};
+        connect(shortcut, &QShortcut::activated, this, [this, by = step] { stepTab(by); });
+    }
     setTab(tab);
     showPage(tabs_->currentIndex());
 }
@@ -92,6 +101,7 @@ void SettingsView::setPanelOffered(bool offered) {
 }
 
 void SettingsView::addPage(QWidget* page) {
+    page->setAccessibleName(QString{tr(tabs.at(pageList_.size()).title)}.remove(QLatin1Char{'&'}));
     page->hide();
     pages_->layout()->addWidget(page);
     pageList_.push_back(page);
@@ -105,6 +115,12 @@ void SettingsView::setTab(const QString& tag) {
     for (std::size_t i = 0; i < tabs.size(); ++i) {
         if (tag == QLatin1String{tabs.at(i).tag}) tabs_->setCurrentIndex(static_cast<int>(i));
     }
+}
+
+void SettingsView::stepTab(int by) {
+    const int count = tabs_->count();
+    tabs_->setCurrentIndex((tabs_->currentIndex() + by + count) % count);
+    tabs_->setFocus(Qt::TabFocusReason);
 }
 
 void SettingsView::showPage(int index) {

@@ -54,6 +54,8 @@ protected:
 private:
     void build();
     void addPage(QWidget* page);
+    /// Goes to the tab that many further along, around the ends.
+    void stepTab(int by);
     void showPage(int index);
     void measure();
 

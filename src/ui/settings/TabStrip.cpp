@@ -1,5 +1,6 @@
 #include "ui/settings/TabStrip.h"
 
+#include "ui/settings/TabStripAccessibility.h"
 #include "ui/views/SymbolView.h"
 
 #include <QFontMetricsF>
@@ -29,6 +30,7 @@ QFontMetricsF titleMetrics() {
 } // namespace
 
 TabStrip::TabStrip(QWidget* parent) : Themed{parent} {
+    describeTabStrips();
     setDrawBase(false);
     setExpanding(false);
     setUsesScrollButtons(false);

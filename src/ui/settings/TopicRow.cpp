@@ -1,5 +1,6 @@
 #include "ui/settings/TopicRow.h"
 
+#include "ui/views/Accessibility.h"
 #include "ui/views/IconLabel.h"
 #include "ui/views/TextField.h"
 #include "ui/views/Tile.h"
@@ -70,18 +71,28 @@ TopicRow::TopicRow(QWidget* parent)
     row->addWidget(name_, 1);
     row->addWidget(rule_);
     sizeRule();
-    connect(name_, &QLineEdit::textEdited, this, &TopicRow::edited);
+    // Assistive technology edits without what Qt takes for editing.
+    connect(name_, &QLineEdit::textChanged, this, [this](const QString& name) {
+        if (name == shown_) return;
+        shown_ = name;
+        Q_EMIT edited(name);
+    });
 }
 
 void TopicRow::setTopic(const Topic& topic) {
     tile_->setSymbol(std::string{topic.symbol()}, QColor::fromRgb(static_cast<QRgb>(topic.color)));
     name_->setPlaceholderText(hint(topic.key));
-    name_->setAccessibleName(hint(topic.key));
-    name_->setAccessibleDescription(rule(topic.key));
+    if (name_->accessibleName() != hint(topic.key)) name_->setAccessibleName(hint(topic.key));
+    setDescription(*name_, rule(topic.key));
     rule_->setText(rule(topic.key));
     // What the user is typing is already the topic's name, so that this is a name from elsewhere.
     const QString name = QString::fromStdString(topic.name);
+    shown_ = name;
     if (name_->text() != name) name_->setText(name);
+}
+
+QWidget* TopicRow::field() const {
+    return name_;
 }
 
 void TopicRow::themeChanged() {

@@ -18,6 +18,9 @@ public:
 
     void setTopic(const Topic& topic);
 
+    /// What the keyboard goes to.
+    [[nodiscard]] QWidget* field() const;
+
 Q_SIGNALS:
     /// The user changed the name.
     void edited(const QString& name);
@@ -31,6 +34,7 @@ private:
     Tile* tile_;
     TextField* name_;
     IconLabel* rule_;
+    QString shown_; // the topic's name
 };
 
 } // namespace quillon

@@ -32,6 +32,7 @@ Card* TopicsView::buildNames() {
     card->body()->addSpacing(Space::tight);
     card->body()->addWidget(save_, 0, Qt::AlignLeading);
     statusLine_ = new IconLabel{{}, {}, {.style = Text::callout, .ink = Ink::secondary}};
+    statusLine_->setAccessibleRole(QAccessible::Notification);
     card->body()->addWidget(statusLine_);
     connect(save_, &TextButton::clicked, this, &TopicsView::save);
     return card;
@@ -55,15 +56,17 @@ void TopicsView::refreshRows() {
                 [this, index = rows_.size()](const QString& name) { rename(index, name); });
         names_->addWidget(row);
         rows_.push_back(row);
+        // It comes later than the button below it, also where the keyboard goes.
+        setTabOrder(row->field(), save_);
     }
     for (std::size_t i = 0; i < topics.size(); ++i)
         rows_[i]->setTopic(topics[i]);
 }
 
 void TopicsView::refreshStatus() {
-    statusLine_->setVisible(status_ || !store_.isConnected());
     statusLine_->setSymbol(status_ ? "checkmark.circle.fill" : "info.circle");
     statusLine_->setText(status_.value_or(tr("Finish setup first")));
+    statusLine_->setVisible(status_ || !store_.isConnected());
 }
 
 void TopicsView::rename(std::size_t topic, const QString& name) {

@@ -21,7 +21,7 @@ UpdatesCard::UpdatesCard(Updater& updater, std::function<void()> activate, QWidg
       refresher_{this, [this] { refresh(); }} {
     body()->addWidget(automatic_);
     body()->addLayout(settingRow(version_, check_));
-    connect(automatic_, &Switch::clicked, this, &UpdatesCard::setAutomatic);
+    connect(automatic_, &Switch::switched, this, &UpdatesCard::setAutomatic);
     connect(check_, &TextButton::clicked, this, &UpdatesCard::checkNow);
     refresher_.watch(updater, &Updater::objectWillChange);
     refresh();
@@ -29,7 +29,7 @@ UpdatesCard::UpdatesCard(Updater& updater, std::function<void()> activate, QWidg
 
 void UpdatesCard::refresh() {
     const UpdateFramework* controller = updater_.controller();
-    automatic_->setChecked(controller && controller->automaticallyChecksForUpdates());
+    automatic_->showOn(controller && controller->automaticallyChecksForUpdates());
     version_->setTitle(tr("Version %1").arg(QString::fromStdString(updater_.version())));
     check_->setEnabled(updater_.canCheck());
 }

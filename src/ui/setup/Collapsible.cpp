@@ -8,7 +8,7 @@ Collapsible::Collapsible(QWidget* content, QWidget* parent)
     : View{parent},
       content_{content},
       openness_{0, [this](double openness) {
-                    setVisible(openness > 0);
+                    setVisible(openness > 0 || openness_.target() > 0);
                     updateGeometry();
                 }} {
     content_->setParent(this);
@@ -17,6 +17,7 @@ Collapsible::Collapsible(QWidget* content, QWidget* parent)
 }
 
 void Collapsible::setOpen(bool open, bool animated) {
+    if (open) show(); // from the start, so that the keyboard can go there at once
     openness_.go(open ? 1 : 0, animated);
 }
 

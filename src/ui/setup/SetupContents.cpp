@@ -150,9 +150,10 @@ QWidget* SetupView::buildClosing() {
     column->addWidget(
         new SymbolView{"checkmark.seal.fill", {.size = sealPoints, .ink = Palette::green}}, 0,
         Qt::AlignHCenter);
-    column->addWidget(
-        new IconLabel{tr("You're all set."), {}, {.style = Text::title, .align = Qt::AlignHCenter}},
-        0, Qt::AlignHCenter);
+    auto* ready =
+        new IconLabel{tr("You're all set."), {}, {.style = Text::title, .align = Qt::AlignHCenter}};
+    ready->setAccessibleRole(QAccessible::Notification);
+    column->addWidget(ready, 0, Qt::AlignHCenter);
     auto* sentence = new QHBoxLayout;
     sentence->setSpacing(Space::tight);
     sentence->addStretch(1);

@@ -34,6 +34,7 @@ SetupView::SetupView(Store& store, QWidget* parent)
     spinner_ = new Spinner;
     column->addWidget(spinner_, 0, Qt::AlignHCenter);
     errorLine_ = new IconLabel{{}, "exclamationmark.triangle.fill", {.ink = Ink::warning}};
+    errorLine_->setAccessibleRole(QAccessible::AlertMessage);
     column->addWidget(errorLine_);
     column->addStretch(1);
     refresher_.watch(store, &Store::objectWillChange);
@@ -64,6 +65,7 @@ QString SetupView::summary(int n) const {
 }
 
 void SetupView::refresh() {
+    const QWidget* const focused = window()->focusWidget();
     const SetupProgress now = progress();
     const int position = step(now);
     const bool animated = isVisible() && shownStep_ && *shownStep_ != position;
@@ -72,9 +74,11 @@ void SetupView::refresh() {
     refreshControls(now);
     closing_->setOpen(position > stepCount, animated);
     spinner_->setVisible(working_);
-    errorLine_->setVisible(error_.has_value());
     errorLine_->setText(
         TextBlock::verbatim(QString::fromStdString(error_.value_or(std::string{}))));
+    errorLine_->setVisible(error_.has_value());
+    // What was disabled or hidden here has passed the keyboard on: that was not the user.
+    if (focused && focused == focusMeanwhile_) focusMeanwhile_ = window()->focusWidget();
 }
 
 void SetupView::refreshRows(const SetupProgress& now, bool animated) {
@@ -117,11 +121,11 @@ void SetupView::toggle(int n) {
 }
 
 void SetupView::run(Action action) {
-    focusBefore_ = window()->focusWidget();
+    stepBefore_ = step(progress());
+    focusMeanwhile_ = focusBefore_ = window()->focusWidget();
     working_ = true;
     error_.reset();
     refresher_.refreshNow();
-    focusMeanwhile_ = window()->focusWidget();
     perform(this, std::move(action));
 }
 
@@ -150,7 +154,9 @@ void SetupView::restoreFocus() {
     // Whoever went elsewhere meanwhile stays there.
     const QWidget* now = window()->focusWidget();
     if (now && now != focusMeanwhile_ && usable(now)) return;
-    for (QWidget* control : {focusBefore_.data(), nextControl()}) {
+    // A row that is done still shows for a moment, while it closes.
+    const bool advanced = step(progress()) != stepBefore_;
+    for (QWidget* control : {advanced ? nullptr : focusBefore_.data(), nextControl()}) {
         if (usable(control)) return control->setFocus(Qt::TabFocusReason);
     }
 }
@@ -161,8 +167,10 @@ QWidget* SetupView::nextControl() const {
         return token_->mainControl();
     case 3:
         return findGroup_;
-    default:
+    case 4:
         return createTopics_;
+    default:
+        return rows_.back()->header();
     }
 }
 

@@ -67,8 +67,8 @@ private:
     static QCoro::Task<> perform(QPointer<SetupView> view, Action action);
     void finish(std::optional<std::string> error);
     void connectBot(const QString& token);
-    /// Gives the keyboard what it stood on when the action began or, where that is gone, what comes
-    /// next.
+    /// Gives the keyboard what comes next or, where the action failed, what it stood on when the
+    /// action began.
     void restoreFocus();
     [[nodiscard]] QWidget* nextControl() const;
 
@@ -78,6 +78,7 @@ private:
     std::set<int> opened_;
     /// The position shown last, for the animation to the next.
     std::optional<int> shownStep_;
+    int stepBefore_ = 1;
     QPointer<QWidget> focusBefore_;
     QPointer<QWidget> focusMeanwhile_;
 

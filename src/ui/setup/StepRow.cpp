@@ -2,6 +2,7 @@
 
 #include "ui/setup/Badge.h"
 #include "ui/setup/Collapsible.h"
+#include "ui/views/Accessibility.h"
 #include "ui/views/Buttons.h"
 #include "ui/views/IconLabel.h"
 #include "ui/views/SymbolView.h"
@@ -46,7 +47,8 @@ StepRow::StepRow(int n, const QString& title, const std::string& symbol, QWidget
 
 ContentButton* StepRow::buildHeader(const QString& title, const std::string& symbol) {
     auto* header = new ContentButton;
-    header->setAccessibleName(title);
+    // Its own button may be called as the step is.
+    header->setAccessibleName(tr("Step %1: %2").arg(n_).arg(title));
     header->setCornerRadius(Space::cardRadius - edge);
     auto* row = new QHBoxLayout{header};
     row->setContentsMargins(headerPadding, Space::small, headerPadding, Space::small);
@@ -87,7 +89,9 @@ void StepRow::showHeader(const State& state) {
     summary_->setVisible(summarized);
     chevron_->setVisible(state.done);
     chevron_->setSymbol(state.open ? "chevron.up" : "chevron.down");
-    header_->setAccessibleDescription(summarized ? state.summary : QString{});
+    setDescription(*header_,
+                   TextBlock::plain(state.done ? tr("Done") + QStringLiteral(". ") + state.summary
+                                               : QString{}));
     // The current step stays open whatever one clicks.
     header_->setExpanded(state.current ? std::nullopt : std::optional{state.open});
 }

@@ -35,6 +35,8 @@ public:
 
     void setState(const State& state, bool animated);
 
+    [[nodiscard]] ContentButton* header() const { return header_; }
+
     /// Its contents are on their way in or out; and by how many pixels it will then be higher.
     [[nodiscard]] bool moving() const;
     [[nodiscard]] int growthAhead() const;

@@ -22,7 +22,7 @@ void ContentButton::setSelected(bool selected) {
     selected_ = selected;
     update();
     QAccessible::State changed;
-    changed.selected = true;
+    changed.selected = changed.checked = true;
     announce(*this, changed);
 }
 

@@ -1,5 +1,7 @@
 #include "ui/views/IconLabel.h"
 
+#include "ui/views/Accessibility.h"
+#include "ui/views/Keycap.h"
 #include "ui/views/SymbolView.h"
 
 #include <QHelpEvent>
@@ -37,6 +39,7 @@ void IconLabel::setText(const QString& text) {
     text_ = text;
     themeChanged();
     announceText();
+    if (role_ != QAccessible::StaticText) readOut(*this);
 }
 
 void IconLabel::setSymbol(const std::string& symbol) {
@@ -108,11 +111,11 @@ int IconLabel::heightForWidth(int width) const {
 }
 
 QAccessible::Role IconLabel::accessibleRole() const {
-    return QAccessible::StaticText;
+    return role_;
 }
 
 QString IconLabel::accessibleText() const {
-    return TextBlock::plain(text_);
+    return spokenText(TextBlock::plain(text_));
 }
 
 void IconLabel::paintEvent(QPaintEvent* /*event*/) {

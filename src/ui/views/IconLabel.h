@@ -32,6 +32,9 @@ public:
 
     void setText(const QString& text);
     [[nodiscard]] QString text() const { return text_; }
+    /// What it is for assistive technology: as an alert or a notification it is read out as soon as
+    /// it shows.
+    void setAccessibleRole(QAccessible::Role role) { role_ = role; }
     /// An empty name takes the symbol away.
     void setSymbol(const std::string& symbol);
     void setLook(const LabelLook& look);
@@ -58,6 +61,7 @@ private:
     QString text_;
     std::string symbol_;
     LabelLook look_;
+    QAccessible::Role role_ = QAccessible::StaticText;
 };
 
 } // namespace quillon

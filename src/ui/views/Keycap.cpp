@@ -155,7 +155,7 @@ void KeyRow::setLabels(const QStringList& labels) {
 }
 
 QAccessible::Role KeyRow::accessibleRole() const {
-    return QAccessible::Grouping;
+    return QAccessible::StaticText;
 }
 
 QString KeyRow::accessibleText() const {
@@ -167,6 +167,14 @@ QString spokenKeys(const QStringList& labels) {
     for (const QString& label : labels)
         words += spokenKey(label);
     return words.join(QLatin1Char{' '});
+}
+
+QString spokenText(QString text) {
+    for (const KeyName& key : keyNames) {
+        if (text.contains(key.symbol))
+            text.replace(key.symbol, spokenKey(QString{key.symbol}) + QLatin1Char{' '});
+    }
+    return text;
 }
 
 } // namespace quillon

@@ -68,6 +68,7 @@ public:
 
     [[nodiscard]] QAccessible::Role accessibleRole() const override;
     [[nodiscard]] QString accessibleText() const override;
+    [[nodiscard]] bool accessibleWhole() const override { return true; }
 
 private:
     KeyKind kind_;
@@ -76,5 +77,8 @@ private:
 
 /// The keys in words, one after the other: "Control Alt V" for ⌃, ⌥ and V.
 [[nodiscard]] QString spokenKeys(const QStringList& labels);
+
+/// A text with the symbols of keys in words: "press Control Alt V" for "press ⌃⌥V".
+[[nodiscard]] QString spokenText(QString text);
 
 } // namespace quillon

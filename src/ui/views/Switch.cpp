@@ -53,7 +53,16 @@ Switch::Switch(const QString& title, std::string symbol, QColor color, QWidget* 
         position_ = value.toDouble();
         update();
     });
-    connect(this, &QCheckBox::toggled, this, &Switch::slide);
+    connect(this, &QCheckBox::toggled, this, [this](bool on) {
+        slide(on);
+        if (!showing_) Q_EMIT switched(on);
+    });
+}
+
+void Switch::showOn(bool on) {
+    showing_ = true;
+    setChecked(on);
+    showing_ = false;
 }
 
 void Switch::slide(bool on) {

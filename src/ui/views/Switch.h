@@ -12,7 +12,7 @@ namespace quillon {
 
 /// A switch at the trailing end of its row, with a tile and the title at the other end; all of the
 /// row switches it, as do Space, Return and the title's mnemonic. To assistive technology it is a
-/// check box. `clicked` tells of the user's switching, `toggled` of every change.
+/// check box.
 class Switch : public Themed<QCheckBox> {
     Q_OBJECT
 
@@ -21,10 +21,17 @@ public:
     explicit Switch(QWidget* parent = nullptr);
     Switch(const QString& title, std::string symbol, QColor color, QWidget* parent = nullptr);
 
+    /// Shows whether it is on, which is no switching.
+    void showOn(bool on);
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
     [[nodiscard]] int heightForWidth(int width) const override;
+
+Q_SIGNALS:
+    /// The user switched it, with whatever; assistive technology does so without a click.
+    void switched(bool on);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -46,6 +53,7 @@ private:
     QColor color_;
     QVariantAnimation slide_;
     double position_ = 0; // of the knob: 0 off, 1 on
+    bool showing_ = false;
 };
 
 } // namespace quillon

@@ -73,7 +73,7 @@ void TileLabel::setTitle(const QString& title) {
 }
 
 QAccessible::Role TileLabel::accessibleRole() const {
-    return QAccessible::Grouping;
+    return QAccessible::StaticText;
 }
 
 QString TileLabel::accessibleText() const {

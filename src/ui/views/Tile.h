@@ -41,6 +41,7 @@ public:
     void setTitle(const QString& title);
     [[nodiscard]] QAccessible::Role accessibleRole() const override;
     [[nodiscard]] QString accessibleText() const override;
+    [[nodiscard]] bool accessibleWhole() const override { return true; }
 
 private:
     IconLabel* title_;

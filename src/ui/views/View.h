@@ -3,13 +3,15 @@
 #include "ui/views/Themed.h"
 
 #include <QAccessible>
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
 namespace quillon {
 
 /// A widget that paints itself and takes no input: the base of everything that is only looked at.
-/// Tells assistive technology what it shows; one that says nothing counts as decoration there.
+/// Tells assistive technology what it shows; one that says nothing and holds nothing counts as
+/// decoration there.
 class View : public Themed<QWidget> {
     Q_OBJECT
 
@@ -22,10 +24,19 @@ public:
     [[nodiscard]] virtual QString accessibleText() const { return {}; }
     /// Works on something.
     [[nodiscard]] virtual bool accessibleBusy() const { return false; }
+    /// Says by itself all that the views in it would say.
+    [[nodiscard]] virtual bool accessibleWhole() const { return false; }
+
+    /// What stands beside it and says what it is the value or the choice of.
+    void setAccessibleLabel(QWidget* label) { label_ = label; }
+    [[nodiscard]] QWidget* accessibleLabel() const { return label_; }
 
 protected:
     /// To be called when what accessibleText() gives has changed.
     void announceText();
+
+private:
+    QPointer<QWidget> label_;
 };
 
 } // namespace quillon

@@ -1,4 +1,5 @@
 #include "ui/panel/PanelView.h"
+#include "ui/views/IconLabel.h"
 
 #include "maintenance/Updater.h"
 #include "support/ConnectedWorld.h"
@@ -53,7 +54,9 @@ struct PanelOn : testing::Test {
     [[nodiscard]] std::vector<std::string> seen() {
         std::vector<std::string> names;
         for (QWidget* widget : panel->template findChildren<QWidget*>()) {
-            const std::string name = text(widget, QAccessible::Name);
+            const auto* label = qobject_cast<const IconLabel*>(widget);
+            const std::string name = label ? TextBlock::plain(label->text()).toStdString()
+                                           : text(widget, QAccessible::Name);
             if (widget->isVisible() && !name.empty()) names.push_back(name);
         }
         return names;

@@ -81,12 +81,12 @@ TEST_F(SettingsTest, ReportsTheHeightOfEachTab) {
     QObject::connect(&view, &SettingsView::fittingHeightChanged, &view,
                      [&](int height) { reported.push_back(height); });
     auto& tabs = *view.findChild<QTabBar*>();
-    EXPECT_TRUE(shows("Create your bot"));
+    EXPECT_TRUE(shows("Step 1: Create your bot"));
     tabs.setFocus();
     QTest::keyClick(&tabs, Qt::Key_Right);
     turn();
     EXPECT_EQ(view.tab(), QStringLiteral("topics"));
-    EXPECT_FALSE(shows("Create your bot"));
+    EXPECT_FALSE(shows("Step 1: Create your bot"));
     ASSERT_THAT(reported, testing::SizeIs(1));
     EXPECT_EQ(reported.back(), view.fittingHeight());
     // One more topic makes the tab higher, without anybody's asking.
@@ -113,7 +113,7 @@ TEST_F(SettingsTest, LeadsToThePanelWhereNoIconDoes) {
 TEST_F(SettingsTest, RegistersThePickedShortcutAndTellsOfOneThatIsTaken) {
     show("general");
     world.store->registerShortcut();
-    EXPECT_FALSE(shows("Another app already uses ⌃⌥P. Pick another one."));
+    EXPECT_FALSE(shows("Another app already uses Control Alt P. Pick another one."));
     std::set<PhysicalKey> all;
     for (const auto& key : world.hotKeys.registered)
         all.insert(key);
@@ -125,10 +125,10 @@ TEST_F(SettingsTest, RegistersThePickedShortcutAndTellsOfOneThatIsTaken) {
     world.hotKeys.takenByOthers = all;
     controls.click(text("Control Alt V"));
     turn();
-    EXPECT_TRUE(shows("Another app already uses ⌃⌥V. Pick another one."));
+    EXPECT_TRUE(shows("Another app already uses Control Alt V. Pick another one."));
     controls.click(text("Control Alt P"));
     turn();
-    EXPECT_FALSE(shows("Another app already uses ⌃⌥P. Pick another one."));
+    EXPECT_FALSE(shows("Another app already uses Control Alt P. Pick another one."));
 }
 
 TEST_F(SettingsTest, SwitchesWhatItSays) {

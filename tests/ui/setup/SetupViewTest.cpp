@@ -95,9 +95,9 @@ TEST_F(NewUser, SeesTheFirstTwoStepsAndTheOthersDimmed) {
     for (const auto& [badge, opacity] : opacities)
         EXPECT_NEAR(controls.opacity(badge), opacity, 0.001) << badge.toStdString();
 
-    controls.click(QStringLiteral("Make your group"));
+    controls.click(QStringLiteral("Step 3: Make your group"));
     EXPECT_FALSE(controls.enabled(QStringLiteral("Find my group")));
-    controls.click(QStringLiteral("Make your group"));
+    controls.click(QStringLiteral("Step 3: Make your group"));
     EXPECT_FALSE(shows("Find my group"));
 }
 
@@ -165,12 +165,12 @@ TEST_F(KnownUser, SeesEachStepsResultAndCanOpenItAgain) {
     EXPECT_TRUE(shows("4 topics ready"));
     EXPECT_TRUE(shows("You're all set."));
     EXPECT_FALSE(shows("Topics ready"));
-    controls.click<ContentButton>(QStringLiteral("Create the topics"));
+    controls.click<ContentButton>(QStringLiteral("Step 4: Create the topics"));
     EXPECT_FALSE(shows("4 topics ready"));
     EXPECT_FALSE(controls.enabled(QStringLiteral("Topics ready")));
     for (const Topic& topic : world.store->config().topics)
         EXPECT_TRUE(shows(topic.name.c_str())) << topic.name;
-    controls.click<ContentButton>(QStringLiteral("Create the topics"));
+    controls.click<ContentButton>(QStringLiteral("Step 4: Create the topics"));
     EXPECT_TRUE(shows("4 topics ready"));
 
     std::vector<QString> keys;
@@ -188,7 +188,7 @@ TEST_F(KnownUser, IsAskedForTheTopicThatIsMissing) {
     EXPECT_TRUE(shows("Found 100% ours"));
     EXPECT_FALSE(shows("You're all set."));
     EXPECT_FALSE(shows("4 topics ready"));
-    controls.click<ContentButton>(QStringLiteral("Make your group"));
+    controls.click<ContentButton>(QStringLiteral("Step 3: Make your group"));
     EXPECT_TRUE(controls.enabled(QStringLiteral("Find again")));
 
     world.sandbox.failNext(refusal("getUpdates", 400, "Bad Request: **no** rights"));
@@ -211,14 +211,14 @@ TEST_F(KnownUser, HasOtherNamesWhereNothingIsKnown) {
 }
 
 TEST_F(KnownUser, GoesBackToTheStartWithAnotherBot) {
-    controls.click(QStringLiteral("Paste the token"));
+    controls.click(QStringLiteral("Step 2: Paste the token"));
     EXPECT_TRUE(shows("The token is kept in your Mac's Keychain."));
     controls.click(QStringLiteral("Use another bot"));
     EXPECT_FALSE(world.store->tokenSaved());
     EXPECT_TRUE(world.secrets.values.empty());
     EXPECT_TRUE(shows("Bot token"));
     EXPECT_FALSE(shows("You're all set."));
-    EXPECT_NEAR(controls.opacity(QStringLiteral("Make your group")), 0.45, 0.001);
+    EXPECT_NEAR(controls.opacity(QStringLiteral("Step 3: Make your group")), 0.45, 0.001);
 }
 
 TEST_F(KnownUser, ComesToTheSameAnimated) {

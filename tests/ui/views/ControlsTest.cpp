@@ -79,7 +79,7 @@ TEST(Switch, EveryWayToSwitchItWorksOverTheWholeRow) {
     view.resize(400, view.heightForWidth(400));
     show(view);
     view.setFocus();
-    const QSignalSpy clicked{&view, &Switch::clicked};
+    const QSignalSpy switched{&view, &Switch::switched};
     QTest::mouseClick(&view, Qt::LeftButton, {}, {200, view.height() / 2});
     EXPECT_TRUE(view.isChecked()) << "the empty middle of the row";
     QTest::keyClick(&view, Qt::Key_Space);
@@ -88,7 +88,12 @@ TEST(Switch, EveryWayToSwitchItWorksOverTheWholeRow) {
     EXPECT_TRUE(view.isChecked());
     QTest::keyClick(&view, Qt::Key_S, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !view.isChecked(); }));
-    EXPECT_EQ(clicked.size(), 4);
+    accessible(view).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(view.isChecked());
+    EXPECT_EQ(switched.size(), 5);
+    view.showOn(false);
+    EXPECT_FALSE(view.isChecked());
+    EXPECT_EQ(switched.size(), 5) << "what it shows was not switched";
     EXPECT_EQ(accessible(view).role(), QAccessible::CheckBox);
     EXPECT_EQ(accessibleName(view), "Play a sound");
 }

@@ -76,8 +76,8 @@ TEST(Views, TellAssistiveTechnologyWhatTheyShow) {
     EXPECT_EQ(spokenKeys({QStringLiteral("⌃"), QStringLiteral("⌥"), QStringLiteral("V")}),
               QStringLiteral("Control Alt V"));
     IconLabel label{QStringLiteral("one")};
-    label.setText(QStringLiteral("two"));
-    EXPECT_EQ(accessibleName(label), "two");
+    label.setText(QStringLiteral("Press **⌃⌥V**."));
+    EXPECT_EQ(accessibleName(label), "Press Control Alt V.");
 }
 
 TEST(Theme, TextKeepsItsContrastOnEveryGround) {

@@ -111,8 +111,8 @@ const std::map<std::string, Scene> scenes{
     {"setup-1-opened",
      {on("setup", {}, false),
       [](Stage& stage) {
-          stage.click("Make your group");
-          stage.click("Create the topics");
+          stage.click("Step 3: Make your group");
+          stage.click("Step 4: Create the topics");
       }}},
     {"setup-1-working",
      {on("setup", {}, false),
@@ -127,8 +127,8 @@ const std::map<std::string, Scene> scenes{
     {"setup-5-opened",
      {on("setup", longNames()),
       [](Stage& stage) {
-          stage.click("Paste the token");
-          stage.click("Create the topics");
+          stage.click("Step 2: Paste the token");
+          stage.click("Step 4: Create the topics");
       }}},
     {"setup-5-long", {on("setup", longNames())}},
     {"topics-unready", {on("topics", {}, false)}},

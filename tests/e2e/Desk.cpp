@@ -1,0 +1,110 @@
+#include "Desk.h"
+
+#include "support/Await.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+namespace quillon::test {
+
+namespace {
+
+constexpr const char* panelSettings = "panel_items = S\n"
+                                      "panel_size = 100% 32\n"
+                                      "panel_position = bottom center horizontal\n"
+                                      "systray_icon_size = 22\n";
+
+const QString pointerTool = QStringLiteral("xdotool");
+
+QStringList words(const std::string& line) {
+    return QString::fromStdString(line).split(QLatin1Char{' '});
+}
+
+/// What the X server tells of the panel's window and those in it.
+QString panelWindows() {
+    QProcess asking;
+    asking.start(QStringLiteral("xwininfo"), words("-name tint2 -tree"));
+    asking.waitForFinished();
+    return QString::fromUtf8(asking.readAllStandardOutput());
+}
+
+bool focusOther() {
+    // Fails for as long as the window is not on the screen.
+    return QProcess::execute(pointerTool,
+                             words("search --onlyvisible --name probe windowfocus --sync")) == 0;
+}
+
+} // namespace
+
+Desk::Desk() {
+    const QString settings = files_.filePath(QStringLiteral("panel"));
+    QFile file{settings};
+    EXPECT_TRUE(file.open(QFile::WriteOnly));
+    file.write(panelSettings);
+    file.close();
+    for (QProcess* process : {&panel_, &other_})
+        process->setStandardErrorFile(QProcess::nullDevice());
+    panel_.setStandardOutputFile(QProcess::nullDevice());
+    panel_.start(QStringLiteral("tint2"), {QStringLiteral("-c"), settings});
+    other_.start(QStringLiteral("xev"), words("-event keyboard -name probe"));
+    EXPECT_TRUE(waitUntil([] { return panelWindows().contains(QStringLiteral("tint2")); }));
+    EXPECT_TRUE(waitUntil(focusOther));
+}
+
+Desk::~Desk() {
+    for (QProcess* process : {&panel_, &other_}) {
+        process->kill();
+        process->waitForFinished();
+    }
+}
+
+void Desk::takePanelAway() {
+    panel_.kill();
+    EXPECT_TRUE(panel_.waitForFinished());
+}
+
+QRect Desk::icon() {
+    static const QRegularExpression line{
+        QStringLiteral(R"re("quillon" "quillon"\)\s+(\d+)x(\d+)\S+\s+\+(\d+)\+(\d+))re")};
+    const QRegularExpressionMatch match = line.match(panelWindows());
+    if (!match.hasMatch()) return {};
+    const auto number = [&](int group) { return match.captured(group).toInt(); };
+    return {number(3), number(4), number(1), number(2)};
+}
+
+void Desk::click(QPoint there) {
+    EXPECT_EQ(QProcess::execute(pointerTool, words("mousemove " + std::to_string(there.x()) + " " +
+                                                   std::to_string(there.y()) + " click 1")),
+              0);
+}
+
+void Desk::click(const Control& control) {
+    QRect before;
+    const auto rests = [&] {
+        const QRect place = control.place();
+        return !place.isEmpty() && std::exchange(before, place) == place;
+    };
+    EXPECT_TRUE(waitUntil([&] {
+        waitUntil([] { return false; }, std::chrono::milliseconds{50}); // a few frames
+        return rests();
+    })) << control.name();
+    click(before.center());
+}
+
+void Desk::press(const std::string& keys) {
+    EXPECT_EQ(QProcess::execute(pointerTool, words("key " + keys)), 0);
+}
+
+void Desk::type(const std::string& text) {
+    QProcess typing;
+    typing.start(pointerTool, words("type --file -"));
+    typing.write(text.data(), static_cast<qint64>(text.size()));
+    typing.closeWriteChannel();
+    EXPECT_TRUE(typing.waitForFinished());
+}
+
+void Desk::goToOtherWindow() {
+    EXPECT_TRUE(waitUntil(focusOther));
+}
+
+} // namespace quillon::test

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ScreenReader.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <string>
+
+namespace quillon::test {
+
+/// What a person has in front of them: a desktop panel with room for icons, the window of another
+/// program, a pointer and a keyboard.
+class Desk {
+public:
+    /// Returns once the panel and the other window are there.
+    Desk();
+    ~Desk();
+    Desk(const Desk&) = delete;
+    Desk& operator=(const Desk&) = delete;
+
+    /// Where the panel shows the program's icon; empty while it does not.
+    [[nodiscard]] static QRect icon();
+
+    static void click(QPoint there);
+    /// In the middle of a control that has come to rest.
+    static void click(const Control& control);
+    /// Keys by their X names, such as "ctrl+alt+v".
+    static void press(const std::string& keys);
+    static void type(const std::string& text);
+
+    /// As on desktops that have no room for icons.
+    void takePanelAway();
+
+    /// Gives the keyboard to the other program's window.
+    static void goToOtherWindow();
+
+private:
+    QTemporaryDir files_;
+    QProcess panel_;
+    QProcess other_;
+};
+
+} // namespace quillon::test

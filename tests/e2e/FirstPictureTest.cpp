@@ -1,0 +1,157 @@
+// A new user, from the program's first start to the first picture on the phone: with the pointer,
+// with the keyboard alone, and through assistive technology alone.
+#include "Desk.h"
+#include "EndToEndTest.h"
+
+#include <algorithm>
+
+namespace quillon::test {
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+class FirstPicture : public EndToEnd {
+protected:
+    void SetUp() override {
+        EndToEnd::SetUp();
+        program = quillon.start({});
+        // The guide comes by itself.
+        reader.wait("password text", "Bot token");
+    }
+
+    void TearDown() override {
+        if (program) program->terminate();
+        if (program) program->waitForFinished();
+        EndToEnd::TearDown();
+    }
+
+    static std::function<bool(const Control&)> named(const std::string& part) {
+        return [part](const Control& control) {
+            return control.name().find(part) != std::string::npos;
+        };
+    }
+
+    /// Copies a picture and presses the shortcut in another program's window.
+    void sendPicture() {
+        reader.forgetAnnouncements();
+        clipboard.copy("image/png", converted("png"));
+        Desk::goToOtherWindow();
+        Desk::press("ctrl+alt+v");
+        EXPECT_TRUE(waitUntil([&] { return !messages("📸 Images").empty(); }));
+    }
+
+    void expectPictureOnPhone() {
+        ASSERT_EQ(messages("📸 Images").size(), 1U);
+        const Json photo = messages("📸 Images").front();
+        EXPECT_EQ(photo["kind"], "photo");
+        EXPECT_EQ(photo["width"], 40);
+        EXPECT_EQ(photo["height"], 30);
+    }
+
+    void expectHistory() {
+        EXPECT_TRUE(waitUntil([&] { return bool{reader.find(named("Image · 40×30"))}; }))
+            << "the panel's history does not show the picture";
+    }
+
+    [[nodiscard]] bool hears(const std::string& text) {
+        return waitUntil([&] { return std::ranges::count(reader.announcements(), text) > 0; });
+    }
+
+    /// Goes along the controls until this one has the keyboard.
+    void tabTo(const std::string& name) {
+        constexpr int most = 20;
+        std::string passed;
+        for (int i = 0; i < most && reader.focused().name() != name; ++i) {
+            const std::string before = reader.focused().name();
+            passed += before + ", ";
+            Desk::press("Tab");
+            waitUntil([&] { return reader.focused().name() != before; });
+        }
+        EXPECT_EQ(reader.focused().name(), name) << "the keyboard went along " << passed;
+    }
+
+    void expectFocus(const std::string& name) {
+        EXPECT_TRUE(waitUntil([&] { return reader.focused().name() == name; }))
+            << reader.focused().name() << " has the keyboard, not " << name;
+    }
+
+    Desk desk;
+    ScreenReader reader;
+    std::unique_ptr<QProcess> program;
+};
+
+} // namespace
+
+TEST_F(FirstPicture, WithThePointer) {
+    const auto button = [this](const char* name) { return reader.wait("push button", name); };
+    ASSERT_TRUE(waitUntil([] { return !Desk::icon().isEmpty(); })) << "no icon in the panel";
+    Desk::click(Desk::icon().center());
+    Desk::click(button("Start setup"));
+
+    const Control field = reader.wait("password text", "Bot token");
+    Desk::click(field);
+    Desk::type(token);
+    Desk::click(button("Connect"));
+    phone.userSays(group, "hi");
+    Desk::click(button("Find my group"));
+    Desk::click(button("Create the topics"));
+    reader.wait("notification", "You're all set.");
+
+    sendPicture();
+    EXPECT_TRUE(waitUntil([&] { return reader.shows("notification", "Sent to 📸 Images"); }));
+    expectPictureOnPhone();
+    Desk::click(Desk::icon().center());
+    expectHistory();
+}
+
+TEST_F(FirstPicture, WithTheKeyboardAlone) {
+    desk.takePanelAway();
+    Desk::goToOtherWindow();
+    EXPECT_EQ(quillon.run({}).code, 0) << "as the desktop starts it";
+    tabTo("Bot token");
+    Desk::type(token);
+    Desk::press("Return");
+    phone.userSays(group, "hi");
+    // What comes next has the keyboard already.
+    expectFocus("Find my group");
+    Desk::press("Return");
+    expectFocus("Create the topics");
+    Desk::press("space");
+    reader.wait("notification", "You're all set.");
+
+    sendPicture();
+    expectPictureOnPhone();
+    EXPECT_EQ(quillon.run({}).code, 0);
+    tabTo("Open panel");
+    Desk::press("Return");
+    expectHistory();
+    expectFocus("Send clipboard to phone");
+    Desk::press("Escape");
+    EXPECT_TRUE(waitUntil([&] { return !reader.find(named("Image · 40×30")); }));
+}
+
+TEST_F(FirstPicture, ThroughAssistiveTechnologyAlone) {
+    desk.takePanelAway();
+    const auto press = [this](const char* name) { reader.wait("push button", name).press(); };
+    reader.wait("password text", "Bot token").enter("123456789:AAwrong");
+    press("Connect");
+    EXPECT_TRUE(hears("Telegram didn't accept that bot token."));
+    const Control field = reader.wait("password text", "Bot token");
+    field.enter(token);
+    EXPECT_THAT(field.text(), Not(HasSubstr("demo"))) << "the token is read out";
+    press("Connect");
+    phone.userSays(group, "hi");
+    press("Find my group");
+    press("Create the topics");
+    EXPECT_TRUE(hears("You're all set."));
+
+    sendPicture();
+    EXPECT_TRUE(hears("Sent to 📸 Images"));
+    expectPictureOnPhone();
+    press("Open panel");
+    expectHistory();
+}
+
+} // namespace quillon::test
