@@ -1,5 +1,7 @@
 #include "maintenance/MessageBoxAlerts.h"
 
+#include "base/Translate.h"
+
 #include <QMessageBox>
 #include <QPromise>
 #include <QPushButton>
@@ -34,7 +36,7 @@ QFuture<std::size_t> MessageBoxAlerts::show(Alert alert) {
     box->setTextFormat(Qt::PlainText);
     box->setText(QString::fromStdString(alert.message));
     box->setInformativeText(QString::fromStdString(alert.informativeText));
-    if (alert.buttons.empty()) alert.buttons.emplace_back("OK");
+    if (alert.buttons.empty()) alert.buttons.push_back(translate("Alert", "OK"));
     const QList<QAbstractButton*> buttons = addButtons(*box, alert);
 
     const auto promise = std::make_shared<QPromise<std::size_t>>();

@@ -1,6 +1,7 @@
 #include "maintenance/Uninstaller.h"
 
 #include "analytics/Analytics.h"
+#include "base/Translate.h"
 #include "maintenance/Alerts.h"
 #include "platform/FileTree.h"
 #include "platform/LoginItem.h"
@@ -20,10 +21,12 @@ using std::filesystem::path;
 
 Alert applicationStays() {
     return {.warning = false,
-            .message = "Quillon is cleaned up",
-            .informativeText = "It couldn't move itself to the Trash. Drag Quillon from "
-                               "Applications to the Trash to finish.",
-            .buttons = {"OK"}};
+            .message = translate("Uninstaller", "Quillon is cleaned up"),
+            .informativeText =
+                translate("Uninstaller", "It couldn't move itself to the Trash. Drag "
+                                         "Quillon from Applications to the Trash to "
+                                         "finish."),
+            .buttons = {translate("Uninstaller", "OK")}};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "send/Clipboard.h"
 
 #include "base/Text.h"
+#include "base/Translate.h"
 #include "platform/Pasteboard.h"
 #include "send/ClipboardFormats.h"
 #include "send/FileKind.h"
@@ -85,7 +86,8 @@ QCoro::Task<ClipContent> look(Pasteboard& pasteboard) {
 
 Summary summaryOf(const ClipFiles& files) {
     if (files.paths.size() != 1) {
-        return {"doc.on.doc", std::to_string(files.paths.size()) + " files"};
+        const int count = static_cast<int>(files.paths.size());
+        return {"doc.on.doc", translate("Clipboard", "%n files", nullptr, count)};
     }
     return {"doc", validUtf8(lastComponent(files.paths.front()).native())};
 }
@@ -94,18 +96,18 @@ Summary summaryOf(const ClipImage& image) {
     QBuffer buffer;
     buffer.setData(image.png);
     const QSize size = QImageReader{&buffer}.size();
-    if (size.isEmpty()) return {"photo", "Image"};
-    return {"photo",
-            "Image · " + std::to_string(size.width()) + "×" + std::to_string(size.height())};
+    if (size.isEmpty()) return {"photo", translate("Clipboard", "Image")};
+    return {"photo", filled(translate("Clipboard", "Image · %1×%2", "width and height in pixels"),
+                            {std::to_string(size.width()), std::to_string(size.height())})};
 }
 
 Summary summaryOf(const ClipText& text) {
     std::string line{trimmedSpaces(firstLine(text.text))};
-    return {"text.alignleft", "“" + line + "”"};
+    return {"text.alignleft", filled(translate("Clipboard", "“%1”", "a copied text"), {line})};
 }
 
 Summary summaryOf(const ClipEmpty& /*empty*/) {
-    return {"clipboard", "The clipboard is empty"};
+    return {"clipboard", translate("Clipboard", "The clipboard is empty")};
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ui/App.h"
 
+#include "base/Translate.h"
 #include "cli/CommandLine.h"
 #include "cli/RemoteProgram.h"
 #include "maintenance/AppMover.h"
@@ -32,24 +33,28 @@ QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
     resident = std::move(claimed);
     if (resident) co_return resident->start();
     const bool shown = RemoteProgram::activate();
-    if (!shown) std::cerr << FolderLock::heldMessage << std::endl;
+    if (!shown) std::cerr << FolderLock::heldMessage() << std::endl;
     QCoreApplication::exit(shown ? exitDone : exitFailed);
 }
 
 } // namespace
 
 int App::run() {
+    int argc = 1;
+    char name[] = "quillon";
+    char* argv[] = {name, nullptr};
     std::unique_ptr<Pasteboard> pasteboard = X11Pasteboard::open(nullptr);
     if (!pasteboard) {
-        std::cerr << "There is no desktop to work on: no X server answers." << std::endl;
+        const QCoreApplication speaker{argc, argv};
+        loadCatalogue();
+        std::cerr << translate("App", "There is no desktop to work on: no X server answers.")
+                  << std::endl;
         return exitFailed;
     }
     // The banner is an X11 window, also where the desktop offers Wayland as well.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
-    int argc = 1;
-    char name[] = "quillon";
-    char* argv[] = {name, nullptr};
     QApplication application{argc, argv};
+    loadCatalogue();
     QApplication::setQuitOnLastWindowClosed(false);
 
     std::unique_ptr<HotKeys> hotKeys = X11HotKeys::open(nullptr);

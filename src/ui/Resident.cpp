@@ -1,5 +1,6 @@
 #include "ui/Resident.h"
 
+#include "base/Translate.h"
 #include "maintenance/AppMover.h"
 #include "platform/FileSystem.h"
 #include "platform/LoginItem.h"
@@ -50,7 +51,8 @@ QCoro::Task<std::unique_ptr<Resident>> Resident::claim(Platform& platform, Alert
     // finds the name hands its command over.
     auto service =
         std::make_unique<CommandService>([&platform] { platform.workspace.terminate(); });
-    if (service->publish() == CommandService::Publication::takenByAnother) co_return std::unique_ptr<Resident>{};
+    if (service->publish() == CommandService::Publication::takenByAnother)
+        co_return std::unique_ptr<Resident>{};
     auto lock = FolderLock::take(platform.dataFolder);
     for (int tries = 1; !lock && tries < lockTries; ++tries) {
         co_await sleep(platform.clock, lockInterval);
@@ -117,8 +119,9 @@ void Resident::start() {
     }
     // For whoever started it from a terminal; the windows say the same.
     if (store_.shortcutTaken()) {
-        std::cerr << keysText(store_.config().shortcut)
-                  << " is already used by another app. Pick another shortcut in Settings."
+        std::cerr << filled(translate("quillon::PanelView", "%1 is already used by another app. "
+                                                            "Pick another shortcut in Settings."),
+                            {keysText(store_.config().shortcut)})
                   << std::endl;
     }
     if (!store_.isReady()) settingsWindow_.show();

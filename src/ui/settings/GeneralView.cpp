@@ -161,10 +161,9 @@ void GeneralView::refreshShortcut() {
 
 void GeneralView::refreshTelegram() {
     const Config& config = store_.config();
-    const std::string bot = config.botName.value_or(tr("connected").toStdString());
-    bot_->setText(store_.tokenSaved()
-                      ? tr("@%1").arg(TextBlock::verbatim(QString::fromStdString(bot)))
-                      : tr("Not connected"));
+    const QString bot = config.botName ? QString::fromStdString(*config.botName) : tr("connected");
+    bot_->setText(store_.tokenSaved() ? tr("@%1").arg(TextBlock::verbatim(bot))
+                                      : tr("Not connected"));
     group_->setText(config.chatTitle
                         ? TextBlock::verbatim(QString::fromStdString(*config.chatTitle))
                         : tr("Not found yet"));

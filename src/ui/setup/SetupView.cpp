@@ -59,7 +59,7 @@ QString SetupView::summary(int n) const {
     case 3:
         return tr("Found %1").arg(orElse(config.chatTitle, tr("your group")));
     default:
-        return tr("%1 topics ready").arg(config.topics.size());
+        return tr("%n topics ready", nullptr, static_cast<int>(config.topics.size()));
     }
 }
 

@@ -14,6 +14,8 @@ namespace quillon {
 /// A small window with the mark, a title, a line of text, and buttons below. Blocks nothing; on the
 /// heap, since it goes by itself.
 class UpdateDialog : public QDialog {
+    Q_OBJECT
+
 public:
     enum class Place {
         primary,   ///< at the right, pressed by Return

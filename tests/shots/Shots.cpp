@@ -1,0 +1,140 @@
+#include "shots/Shots.h"
+
+#include "shots/LayoutCheck.h"
+#include "shots/Pseudo.h"
+#include "support/Await.h"
+#include "ui/views/Motion.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFont>
+#include <QPalette>
+#include <QProxyStyle>
+#include <QWidget>
+
+#include <cstdio>
+#include <stdexcept>
+
+namespace quillon::test {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+bool wanted(const char* look) {
+    return qEnvironmentVariableIntValue(look) != 0;
+}
+
+/// Nothing moves, and no caret blinks.
+class StillStyle : public QProxyStyle {
+public:
+    StillStyle() : QProxyStyle{QStringLiteral("Fusion")} {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        if (hint == SH_Widget_Animate || hint == SH_Widget_Animation_Duration) return 0;
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+void dress() {
+    QApplication::setStyle(new StillStyle);
+    QApplication::setCursorFlashTime(0);
+    QApplication::setQuitOnLastWindowClosed(false);
+    setAnimationsEnabled(false);
+    QApplication::setPalette(QPalette{QColor{239, 240, 241}});
+    if (wanted("DARK")) {
+        QPalette palette{QColor{42, 44, 48}};
+        palette.setColor(QPalette::Window, QColor{36, 38, 42});
+        palette.setColor(QPalette::Base, QColor{27, 29, 32});
+        QApplication::setPalette(palette);
+    }
+    if (wanted("PSEUDO")) QCoreApplication::installTranslator(new PseudoTranslator{qApp});
+    if (wanted("RTL")) QApplication::setLayoutDirection(Qt::RightToLeft);
+    QFont font = QApplication::font();
+    const double text = qEnvironmentVariable("TEXT", QStringLiteral("1")).toDouble();
+    font.setPointSizeF(font.pointSizeF() * text);
+    QApplication::setFont(font);
+}
+
+/// What was found in the windows that pictures were taken of.
+struct Findings {
+    QStringList names;
+    QStringList faults;
+};
+
+Findings& findings() {
+    static Findings all;
+    return all;
+}
+
+bool complain(const Shot& shot, const QString& fault) {
+    std::fprintf(stderr, "%s: %s\n", shot.name.c_str(), qUtf8Printable(fault));
+    return false;
+}
+
+/// Without a folder, the windows are checked.
+bool take(const Shot& shot, const QString& folder) {
+    findings().faults.clear();
+    try {
+        const QPixmap picture = shot.take();
+        if (folder.isEmpty()) {
+            for (const QString& fault : findings().faults)
+                complain(shot, fault);
+            return findings().faults.isEmpty();
+        }
+        const QString file = QDir{folder}.filePath(QString::fromStdString(shot.name + ".png"));
+        return picture.save(file) || complain(shot, QStringLiteral("could not be saved"));
+    } catch (const std::exception& error) {
+        return complain(shot, QString::fromUtf8(error.what()));
+    }
+}
+
+} // namespace
+
+int takeShots(int argc, char** argv, const std::vector<Shot>& shots, const QStringList& names) {
+    const QApplication application{argc, argv};
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 2) {
+        std::fprintf(stderr, "usage: %s FOLDER|--check [NAME...] | --list\n", argv[0]);
+        return 2;
+    }
+    if (arguments[1] == QLatin1String{"--list"}) {
+        for (const Shot& shot : shots)
+            std::puts(shot.name.c_str());
+        return 0;
+    }
+    dress();
+    findings().names = names;
+    const QString folder = arguments[1] == QLatin1String{"--check"} ? QString{} : arguments[1];
+    bool all = folder.isEmpty() || QDir{}.mkpath(folder);
+    for (const Shot& shot : shots) {
+        const QString name = QString::fromStdString(shot.name);
+        if (arguments.size() == 2 || arguments.sliced(2).contains(name))
+            all = take(shot, folder) && all;
+    }
+    return all ? 0 : 1;
+}
+
+QString shown(const char* text) {
+    const QString words = QString::fromUtf8(text);
+    return wanted("PSEUDO") ? pseudo(words) : words;
+}
+
+QPixmap pictureOf(QWidget& window) {
+    waitUntil([] { return false; }, 60ms);
+    findings().faults += textFaults(window, findings().names);
+    return window.grab();
+}
+
+QWidget& onlyWindow() {
+    QWidgetList windows;
+    for (QWidget* each : QApplication::topLevelWidgets()) {
+        if (each->isVisible()) windows << each;
+    }
+    if (windows.size() != 1)
+        throw std::runtime_error{std::to_string(windows.size()) + " windows show"};
+    return *windows.first();
+}
+
+} // namespace quillon::test
