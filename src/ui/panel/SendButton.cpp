@@ -15,7 +15,6 @@ namespace quillon {
 namespace {
 
 constexpr int padding = 12;
-constexpr int keySpacing = 3;
 constexpr int leastGap = 6;
 constexpr double symbolSize = 18;
 constexpr double symbolFrame = 24;
@@ -36,7 +35,8 @@ SendButton::SendButton(QWidget* parent)
                           {},
                           {.style = Text::caption,
                            .ink = faded(Brand::navy, lineOpacity),
-                           .overflow = Overflow::elideEnd}}} {
+                           .overflow = Overflow::elideEnd}}},
+      keys_{new KeyRow{KeyKind::darkCap}} {
     setCornerRadius(Space::cardRadius);
     setAccessibleName(tr("Send clipboard to phone"));
     symbol_->setFrameWidth(symbolFrame);
@@ -46,13 +46,6 @@ SendButton::SendButton(QWidget* parent)
     column->addWidget(title_);
     column->addWidget(line_);
 
-    auto* const caps = new QHBoxLayout;
-    caps->setSpacing(keySpacing);
-    for (Keycap*& keycap : keycaps_) {
-        keycap = new Keycap{{}, true};
-        caps->addWidget(keycap);
-    }
-
     auto* const row = new QHBoxLayout{this};
     row->setContentsMargins(padding, padding, padding, padding);
     row->setSpacing(0);
@@ -60,7 +53,7 @@ SendButton::SendButton(QWidget* parent)
     row->addSpacing(Space::small);
     row->addLayout(column, 1);
     row->addSpacing(leastGap);
-    row->addLayout(caps);
+    row->addWidget(keys_, 0, Qt::AlignVCenter);
 }
 
 void SendButton::setClip(const Clipboard::Summary& clip, bool busy) {
@@ -68,14 +61,12 @@ void SendButton::setClip(const Clipboard::Summary& clip, bool busy) {
     symbol_->setSymbol(busy ? "arrow.up.circle" : clip.symbol);
     title_->setText(busy ? tr("Sending…") : tr("Send clipboard"));
     line_->setText(literal(line));
-    setEnabled(!busy);
+    setBusy(busy);
     setAccessibleDescription(busy ? tr("Sending…") : line);
 }
 
 void SendButton::setShortcut(ShortcutChoice shortcut) {
-    const auto labels = keys(shortcut);
-    for (std::size_t i = 0; i < labels.size(); ++i)
-        keycaps_[i]->setLabel(QString::fromUtf8(labels[i].data(), qsizetype(labels[i].size())));
+    keys_->setLabels(keyLabels(shortcut));
 }
 
 void SendButton::paintGround(QPainter& painter, const Theme& theme) {

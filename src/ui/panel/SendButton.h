@@ -9,7 +9,7 @@
 namespace quillon {
 
 class IconLabel;
-class Keycap;
+class KeyRow;
 class SymbolView;
 
 /// The panel's one big action: sends the clipboard, and tells what is on it.
@@ -30,7 +30,7 @@ private:
     SymbolView* symbol_;
     IconLabel* title_;
     IconLabel* line_;
-    std::array<Keycap*, 3> keycaps_{};
+    KeyRow* keys_;
 };
 
 } // namespace quillon

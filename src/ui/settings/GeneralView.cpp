@@ -31,13 +31,6 @@ IconLabel* makeValue() {
     return new IconLabel{{}, {}, {.ink = Ink::secondary, .overflow = Overflow::elideMiddle}};
 }
 
-QString keyNames(ShortcutChoice choice) {
-    QStringList labels;
-    for (const std::string_view key : keys(choice))
-        labels << QString::fromUtf8(key.data(), std::ssize(key));
-    return spokenKeys(labels);
-}
-
 } // namespace
 
 GeneralView::GeneralView(Store& store, Updater& updater, SettingsActions actions, QWidget* parent)
@@ -67,7 +60,8 @@ Card* GeneralView::buildShortcut() {
     shortcut_ = new SegmentedPicker{items};
     shortcut_->setAccessibleName(tr("Shortcut"));
     for (std::size_t i = 0; i < allShortcutChoices.size(); ++i)
-        shortcut_->setItemAccessibleName(static_cast<int>(i), keyNames(allShortcutChoices.at(i)));
+        shortcut_->setItemAccessibleName(static_cast<int>(i),
+                                         spokenKeys(keyLabels(allShortcutChoices.at(i))));
     connect(shortcut_, &SegmentedPicker::picked, this, &GeneralView::pickShortcut);
     auto* label = new TileLabel{tr("Send clipboard"), "keyboard.fill", Palette::blue};
     card->body()->addLayout(settingRow(label, shortcut_));

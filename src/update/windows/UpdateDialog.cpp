@@ -1,15 +1,15 @@
 #include "update/windows/UpdateDialog.h"
 
-#include "artwork/Brand.h"
-#include "artwork/Mark.h"
 #include "artwork/Palette.h"
+#include "ui/views/BrandViews.h"
+#include "ui/views/Buttons.h"
+#include "ui/views/View.h"
 
 #include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QImage>
 #include <QLabel>
 #include <QPainter>
-#include <QPushButton>
 #include <QTextBrowser>
 #include <QTextDocument>
 #include <QTextOption>
@@ -23,31 +23,38 @@ namespace quillon {
 
 namespace {
 
-constexpr int markSize = 56;
-constexpr int margin = 20;
-constexpr int gap = 10;
-constexpr int columnGap = 16;
-constexpr double titleScale = 1.15;
+constexpr double iconSize = 56;
+constexpr int gap = Space::small;
+constexpr int columnGap = Space::medium;
+constexpr TextStyle titleStyle{15, QFont::Bold};
 constexpr int highestMessage = 220;
 constexpr int lowestNotes = 160;
-/// Of 255.
-constexpr int darkLightness = 128;
 
-class MarkView : public QWidget {
+/// The ground that a text of several paragraphs stands on.
+class TextGround : public View {
 public:
-    MarkView() { setFixedSize(markSize, markSize); }
+    explicit TextGround(QWidget* text) {
+        auto* column = new QVBoxLayout{this};
+        column->setContentsMargins(Space::small, Space::small, Space::small, Space::small);
+        column->addWidget(text);
+    }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter{this};
         painter.setRenderHint(QPainter::Antialiasing);
-        paintMark(painter, rect(), palette().color(QPalette::WindowText), Brand::coral);
+        painter.setPen(theme().separator());
+        painter.setBrush(theme().cardFill());
+        painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), Space::cardRadius,
+                                Space::cardRadius);
     }
 };
 
 class TextView : public QTextBrowser {
 public:
     TextView() {
+        setFrameShape(QFrame::NoFrame);
+        viewport()->setAutoFillBackground(false);
         setOpenLinks(false);
         setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         connect(this, &QTextBrowser::anchorClicked, this, [](const QUrl& url) {
@@ -91,10 +98,7 @@ UpdateDialog::UpdateDialog(const QString& title, const QString& text)
       buttons_{new QHBoxLayout} {
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle(tr("Software Update"));
-    QFont bold = title_->font();
-    bold.setBold(true);
-    bold.setPointSizeF(bold.pointSizeF() * titleScale);
-    title_->setFont(bold);
+    title_->setFont(Theme::font(titleStyle));
     title_->setFixedWidth(textWidth);
     text_->setMinimumWidth(textWidth);
     setTexts(title, text);
@@ -105,11 +109,12 @@ UpdateDialog::UpdateDialog(const QString& title, const QString& text)
     column_->addStretch(0); // keeps the texts together where there is room to spare
     auto* body = new QHBoxLayout;
     body->setSpacing(columnGap);
-    body->addWidget(new MarkView, 0, Qt::AlignTop);
+    body->addWidget(new AppIconView{iconSize}, 0, Qt::AlignTop);
     body->addLayout(column_, 1);
+    buttons_->setSpacing(Space::small);
     buttons_->addStretch(1);
     auto* whole = new QVBoxLayout{this};
-    whole->setContentsMargins(margin, margin, margin, margin);
+    whole->setContentsMargins(Space::large, Space::large, Space::large, Space::large);
     whole->setSpacing(columnGap);
     whole->addLayout(body, 1);
     whole->addLayout(buttons_);
@@ -129,7 +134,8 @@ void UpdateDialog::addContent(QWidget* content, int stretch) {
 
 QPushButton* UpdateDialog::addButton(const QString& text, Place place,
                                      std::function<void()> pressed) {
-    auto* button = new QPushButton{text};
+    const ButtonKind kind = place == Place::primary ? ButtonKind::prominent : ButtonKind::bordered;
+    auto* button = new TextButton{text, {}, {.kind = kind}};
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, [this, pressed = std::move(pressed)] {
         leave();
@@ -139,7 +145,8 @@ QPushButton* UpdateDialog::addButton(const QString& text, Place place,
     case Place::primary:
         buttons_->addWidget(button);
         button->setDefault(true);
-        button->setFocus();
+        // Its colour tells that Return presses it; a ring comes with the first Tab.
+        button->setFocus(Qt::PopupFocusReason);
         break;
     case Place::secondary:
         buttons_->insertWidget(apart_ + 1, button);
@@ -165,21 +172,21 @@ void UpdateDialog::reject() {
 
 QWidget* makeTextView(const QString& html, const QString& accessibleName) {
     auto* view = new TextView;
-    // Not every dark theme has a colour for links, and the usual blue is lost on it.
-    if (view->palette().color(QPalette::Base).lightness() < darkLightness) {
-        view->document()->setDefaultStyleSheet(
-            QStringLiteral("a { color: %1 }").arg(Palette::blue.name()));
-    }
+    // Not every theme has a colour for links that can be read.
+    const QColor link = Theme{*view}.readable(Palette::blue);
+    view->document()->setDefaultStyleSheet(
+        QStringLiteral("a { color: %1 } h1, h2, h3 { font-size: "
+                       "medium; margin: 0 } ul, ol { -qt-list-indent: 0; margin-left: 14px }")
+            .arg(link.name()));
+    view->document()->setDocumentMargin(Space::tight);
     view->setHtml(html);
     view->setMinimumHeight(lowestNotes);
     view->setAccessibleName(accessibleName);
-    return view;
+    return new TextGround{view};
 }
 
 QWidget* makeMessageView(const QString& text) {
     auto* view = new TextView;
-    view->setFrameShape(QFrame::NoFrame);
-    view->viewport()->setAutoFillBackground(false);
     view->document()->setDocumentMargin(0);
     view->setPlainText(text);
     view->setAccessibleName(text);

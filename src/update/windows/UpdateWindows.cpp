@@ -1,11 +1,11 @@
 #include "update/windows/UpdateWindows.h"
 
+#include "ui/views/ProgressBar.h"
 #include "update/windows/Answer.h"
 #include "update/windows/ReleaseNotes.h"
 #include "update/windows/UpdateDialog.h"
 
 #include <QLocale>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
 
@@ -31,14 +31,6 @@ QString shownVersion(const std::string& version) {
 
 QString megabytes(qint64 bytes) {
     return QLocale{}.toString(static_cast<double>(bytes) / 1e6, 'f', 1);
-}
-
-QProgressBar* makeBar(const QString& name) {
-    auto* bar = new QProgressBar;
-    bar->setRange(0, 0);
-    bar->setTextVisible(false);
-    bar->setAccessibleName(name);
-    return bar;
 }
 
 } // namespace
@@ -90,7 +82,7 @@ QFuture<bool> UpdateWindows::askPermission() {
 
 void UpdateWindows::showChecking(std::stop_source cancel) {
     auto* dialog = new UpdateDialog{tr("Checking for updates…"), {}};
-    dialog->addContent(makeBar(tr("Checking for updates…")));
+    dialog->addContent(new ProgressBar(tr("Checking for updates…")));
     dialog->setEscape(dialog->addButton(tr("Cancel"), Place::secondary,
                                         [cancel]() mutable { cancel.request_stop(); }));
     dismiss();
@@ -136,7 +128,7 @@ void UpdateWindows::showPreparing(std::string version, std::stop_source cancel) 
     preparing_ = shownVersion(version);
     const QString title = tr("Downloading Quillon %1").arg(preparing_);
     auto* dialog = new UpdateDialog{title, tr("Connecting…")};
-    auto* bar = makeBar(title);
+    auto* bar = new ProgressBar{title};
     dialog->addContent(bar);
     dialog->setEscape(dialog->addButton(tr("Cancel"), Place::secondary,
                                         [cancel]() mutable { cancel.request_stop(); }));

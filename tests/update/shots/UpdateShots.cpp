@@ -5,6 +5,7 @@
 #include "update/windows/UpdateWindows.h"
 
 #include <QApplication>
+#include <QWidget>
 
 #include <algorithm>
 #include <map>

@@ -83,10 +83,13 @@ QAbstractButton& sendButton(PanelView& panel) {
     return *panel.findChild<SendButton*>();
 }
 
+/// Telegram makes it wait, on a clock that stands still.
 void sendForever(BotWorld& world, PanelView& panel) {
-    world.sandbox.failNext(fault(sandbox::FaultKind::hang));
+    world.sandbox.failNext(flood(1));
     sendButton(panel).click();
     waitUntil([&] { return world.store->busy(); });
+    const auto before = world.clock.pending();
+    waitUntil([&] { return world.clock.pending() > before; });
 }
 
 const FakePasteboard::Content shortText{{"UTF8_STRING", "Buy milk and bread"}};

@@ -113,9 +113,11 @@ const std::map<std::string, Scene> scenes{
     {"setup-1-working",
      {on("setup", {}, false),
       [](Stage& stage) {
-          stage.world.sandbox.failNext(fault(sandbox::FaultKind::hang));
+          // Telegram makes it wait, on a clock that stands still.
+          stage.world.sandbox.failNext(flood(1));
           stage.type("Bot token", BotWorld::token);
           stage.click("Connect");
+          waitUntil([&] { return stage.world.clock.pending() > 0; });
       }}},
     {"setup-3", {on("setup", onlyBot())}},
     {"setup-4", {on("setup", found())}},
