@@ -180,6 +180,10 @@ QString shown(const char* text) {
     return wanted("PSEUDO") ? pseudo(words) : words;
 }
 
+void until(const std::function<bool()>& so) {
+    if (!waitUntil(so)) throw std::runtime_error{"what was waited for did not happen"};
+}
+
 QPixmap pictureOf(QWidget& window) {
     QWidget& frame = *window.window();
     if (frame.windowFlags() & Qt::WindowDoesNotAcceptFocus) {

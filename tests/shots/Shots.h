@@ -31,6 +31,9 @@ struct Shot {
 /// A text of the program as it shows now, in the pseudo-language if that is on.
 [[nodiscard]] QString shown(const char* text);
 
+/// Turns the event loop until it is so; throws when that takes too long.
+void until(const std::function<bool()>& so);
+
 /// The window as it is when all that it was told to do is done.
 [[nodiscard]] QPixmap pictureOf(QWidget& window);
 

@@ -1,6 +1,5 @@
 // Takes pictures of the update windows.
 #include "shots/Shots.h"
-#include "support/Await.h"
 #include "update/Errors.h"
 #include "update/windows/UpdateWindows.h"
 
@@ -68,8 +67,7 @@ const std::map<std::string, Show> shows{
 QPixmap take(const Show& show) {
     UpdateWindows windows;
     show(windows);
-    waitUntil(
-        [] { return std::ranges::any_of(QApplication::topLevelWidgets(), &QWidget::isVisible); });
+    until([] { return std::ranges::any_of(QApplication::topLevelWidgets(), &QWidget::isVisible); });
     return pictureOf(onlyWindow());
 }
 

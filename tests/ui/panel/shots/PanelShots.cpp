@@ -87,9 +87,9 @@ QAbstractButton& sendButton(PanelView& panel) {
 void sendForever(BotWorld& world, PanelView& panel) {
     world.sandbox.failNext(flood(1));
     sendButton(panel).click();
-    waitUntil([&] { return world.store->busy(); });
+    until([&] { return world.store->busy(); });
     const auto before = world.clock.pending();
-    waitUntil([&] { return world.clock.pending() > before; });
+    until([&] { return world.clock.pending() > before; });
 }
 
 const FakePasteboard::Content shortText{{"UTF8_STRING", "Buy milk and bread"}};
@@ -114,7 +114,11 @@ const std::vector<Scene> scenes{
      .group = longGroup},
     {.name = "focus",
      .clipboard = shortText,
-     .act = [](BotWorld&, PanelView& panel) { sendButton(panel).setFocus(Qt::TabFocusReason); }},
+     .act =
+         [](BotWorld&, PanelView& panel) {
+             sendButton(panel).clearFocus(); // it had it, without a ring
+             sendButton(panel).setFocus(Qt::TabFocusReason);
+         }},
     {.name = "hover",
      .clipboard = shortText,
      .act =
@@ -162,7 +166,7 @@ QPixmap take(const Scene& scene) {
                            return made;
                        }};
     window.open({});
-    waitUntil([&] { return world.store->tokenSaved() || !scene.ready; });
+    until([&] { return world.store->tokenSaved() || !scene.ready; });
     waitUntil([] { return false; }, 50ms);
     window.show(); // another window of the display may have taken the focus
     if (scene.act) scene.act(world, *panel);
