@@ -11,6 +11,7 @@
 #include <QTabBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon::test {
 
@@ -18,7 +19,7 @@ namespace {
 
 class Check {
 public:
-    Check(QWidget& window, const QStringList& names) : window_{window}, names_{names} {
+    Check(QWidget& window, QStringList names) : window_{window}, names_{std::move(names)} {
         // A name may be part of another.
         std::ranges::sort(names_, [](auto& one, auto& other) { return one.size() > other.size(); });
     }

@@ -145,8 +145,7 @@ QPushButton* UpdateDialog::addButton(const QString& text, Place place,
     case Place::primary:
         buttons_->addWidget(button);
         button->setDefault(true);
-        // Its colour tells that Return presses it; a ring comes with the first Tab.
-        button->setFocus(Qt::PopupFocusReason);
+        button->setFocus();
         break;
     case Place::secondary:
         buttons_->insertWidget(apart_ + 1, button);
