@@ -1,3 +1,4 @@
+#include "base/Translate.h"
 #include "cli/CommandLine.h"
 #include "cli/Detach.h"
 #include "cli/RemoteProgram.h"
@@ -8,7 +9,20 @@
 #include "platform/linux/RunningPrograms.h"
 #include "ui/App.h"
 
+#include <QCoreApplication>
+
 #include <csignal>
+
+namespace {
+
+/// In the user's language, which takes an application object.
+std::string help(int argc, char** argv) {
+    const QCoreApplication application{argc, argv};
+    quillon::loadCatalogue();
+    return quillon::helpText();
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     using namespace quillon;
@@ -21,12 +35,12 @@ int main(int argc, char** argv) {
     }
     const auto invocation = parseCommandLine({argv + 1, argv + argc});
     if (!invocation) {
-        Terminal::printErrorText(helpText());
+        Terminal::printErrorText(help(argc, argv));
         return exitUsage;
     }
     switch (invocation->command) {
     case Command::help:
-        Terminal::printText(helpText());
+        Terminal::printText(help(argc, argv));
         return exitDone;
     case Command::version:
         Terminal::print("quillon " + runningBundle().shortVersion());

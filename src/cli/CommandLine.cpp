@@ -1,5 +1,7 @@
 #include "cli/CommandLine.h"
 
+#include "base/Translate.h"
+
 #include <algorithm>
 
 namespace quillon {
@@ -14,50 +16,73 @@ struct Row {
     /// What may follow the command.
     Words arguments;
     bool needsArgument;
-    std::string_view purpose;
+    const char* purpose;
 };
 
 const std::vector<Row>& rows() {
     static const Words json{"--json"};
     static const std::vector<Row> rows{
-        {"send", Command::send, {}, false, "send what is on the clipboard"},
+        {"send",
+         Command::send,
+         {},
+         false,
+         QT_TRANSLATE_NOOP("CommandLine", "send what is on the clipboard")},
         {"settings",
          Command::settings,
          {},
          false,
-         "show the settings; starts Quillon if it is not running"},
+         QT_TRANSLATE_NOOP("CommandLine",
+                           "show the settings; starts Quillon if it is not running")},
         {"connect",
          Command::connect,
          {},
          false,
-         "connect your bot; reads its token from standard input"},
+         QT_TRANSLATE_NOOP("CommandLine", "connect your bot; reads its token from standard input")},
         {"find-group",
          Command::findGroup,
          {},
          false,
-         "find the group in which you wrote to the bot"},
+         QT_TRANSLATE_NOOP("CommandLine", "find the group in which you wrote to the bot")},
         {"create-topics",
          Command::createTopics,
          {},
          false,
-         "create the four topics, or find them again"},
-        {"rename-topics", Command::renameTopics, {}, false, "give the topics the names set here"},
-        {"forget", Command::forget, {}, false, "forget the bot, the group and the topics"},
-        {"status", Command::status, json, false, "tell what is set up"},
-        {"history", Command::history, json, false, "list what was sent, newest first"},
+         QT_TRANSLATE_NOOP("CommandLine", "create the four topics, or find them again")},
+        {"rename-topics",
+         Command::renameTopics,
+         {},
+         false,
+         QT_TRANSLATE_NOOP("CommandLine", "give the topics the names set here")},
+        {"forget",
+         Command::forget,
+         {},
+         false,
+         QT_TRANSLATE_NOOP("CommandLine", "forget the bot, the group and the topics")},
+        {"status", Command::status, json, false,
+         QT_TRANSLATE_NOOP("CommandLine", "tell what is set up")},
+        {"history", Command::history, json, false,
+         QT_TRANSLATE_NOOP("CommandLine", "list what was sent, newest first")},
         {"launch-at-login",
          Command::launchAtLogin,
          {"on", "off", "status"},
          true,
-         "open Quillon at login, or do not"},
+         QT_TRANSLATE_NOOP("CommandLine", "open Quillon at login, or do not")},
         {"check-for-updates",
          Command::checkForUpdates,
          {"--install"},
          false,
-         "tell whether there is a newer version; install it"},
-        {"uninstall", Command::uninstall, {"--yes"}, true, "remove Quillon and all it has stored"},
-        {"--help", Command::help, {}, false, "print this"},
-        {"--version", Command::version, {}, false, "print the version"},
+         QT_TRANSLATE_NOOP("CommandLine", "tell whether there is a newer version; install it")},
+        {"uninstall",
+         Command::uninstall,
+         {"--yes"},
+         true,
+         QT_TRANSLATE_NOOP("CommandLine", "remove Quillon and all it has stored")},
+        {"--help", Command::help, {}, false, QT_TRANSLATE_NOOP("CommandLine", "print this")},
+        {"--version",
+         Command::version,
+         {},
+         false,
+         QT_TRANSLATE_NOOP("CommandLine", "print the version")},
     };
     return rows;
 }
@@ -120,15 +145,19 @@ bool worksOnState(Command command) {
 
 std::string helpText() {
     std::string text =
-        "Quillon sends what you copy to your phone, through your own Telegram bot.\n\n"
-        "Usage: quillon [COMMAND]\n\n"
-        "Without a command it stays, and sends whenever you press its shortcut.\n\n";
+        translate("CommandLine",
+                  "Quillon sends what you copy to your phone, through your own Telegram bot.\n\n"
+                  "Usage: quillon [COMMAND]\n\n"
+                  "Without a command it stays, and sends whenever you press its shortcut.\n\n");
     for (const Row& row : rows()) {
         std::string words = usage(row);
         words.resize(std::max(usageWidth, words.size()), ' ');
-        text += "  " + words + "  " + std::string{row.purpose} + "\n";
+        text += "  " + words + "  " + translate("CommandLine", row.purpose) + "\n";
     }
-    return text + "\nExit status: 0 done, 1 failed, 2 the command line was not understood.\n";
+    return text + "\n" +
+           translate("CommandLine",
+                     "Exit status: 0 done, 1 failed, 2 the command line was not understood.") +
+           "\n";
 }
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #include "cli/Commands.h"
 
 #include "base/Text.h"
+#include "base/Translate.h"
 #include "cli/Console.h"
 #include "cli/RemoteProgram.h"
 #include "cli/Reports.h"
@@ -26,7 +27,7 @@ QCoro::Task<int> send(CommandContext context, Invocation /*invocation*/) {
     const std::size_t before = context.store.history().size();
     context.banner.forget();
     context.store.setSendProgress([console = context.console](qint64 sent, qint64 total) {
-        console->progress("Sending…", sent, total);
+        console->progress(translate("Send", "Sending…"), sent, total);
     });
     co_await context.store.sendClipboard("command");
     context.store.setSendProgress({});
@@ -36,7 +37,9 @@ QCoro::Task<int> send(CommandContext context, Invocation /*invocation*/) {
     const auto added = static_cast<std::ptrdiff_t>(history.size() - before);
     // Nothing was sent at all: the banner told why, unless the shortcut came first.
     if (added == 0) {
-        throw TelegramError{context.banner.problem().value_or("Another send is still running.")};
+        const std::optional<std::string> problem = context.banner.problem();
+        throw TelegramError{problem ? *problem
+                                    : translate("Command", "Another send is still running.")};
     }
 
     int code = exitDone;
@@ -51,21 +54,24 @@ QCoro::Task<int> send(CommandContext context, Invocation /*invocation*/) {
 }
 
 QCoro::Task<int> connect(CommandContext context, Invocation /*invocation*/) {
-    const std::string token = context.console->readSecret(RemoteProgram::tokenPrompt).value_or("");
+    const std::string token =
+        context.console->readSecret(RemoteProgram::tokenPrompt()).value_or("");
     const std::string name = co_await context.store.connectBot(token);
     // The next command can only have it from there.
     const std::optional<std::string> kept = co_await context.platform.secrets.read(botTokenItem());
     if (kept != trimmed(token)) {
-        throw TelegramError{"The bot answers, but no keyring could keep its token."};
+        throw TelegramError{
+            translate("Command", "The bot answers, but no keyring could keep its token.")};
     }
-    context.console->print("Connected to " + name);
+    context.console->print(filled(translate("Command", "Connected to %1"), {name}));
     co_return exitDone;
 }
 
 QCoro::Task<int> findGroup(CommandContext context, Invocation /*invocation*/) {
     co_await context.store.findGroup();
-    context.console->print("Found “" + context.store.config().chatTitle.value_or("your group") +
-                           "”");
+    const std::optional<std::string> title = context.store.config().chatTitle;
+    context.console->print(filled(translate("Command", "Found “%1”"),
+                                  {title ? *title : translate("Command", "your group")}));
     co_return exitDone;
 }
 
@@ -85,7 +91,8 @@ QCoro::Task<int> renameTopics(CommandContext context, Invocation /*invocation*/)
 QCoro::Task<int> forget(CommandContext context, Invocation /*invocation*/) {
     const bool forgotten = co_await context.store.forgetBot();
     if (!forgotten) {
-        throw TelegramError{"The keyring still holds the bot's token. Unlock it and try again."};
+        throw TelegramError{translate(
+            "Command", "The keyring still holds the bot's token. Unlock it and try again.")};
     }
     co_return exitDone;
 }
@@ -102,22 +109,24 @@ QCoro::Task<int> history(CommandContext context, Invocation invocation) {
     co_return exitDone;
 }
 
-/// In the order of LoginItem::Status.
+/// In the order of LoginItem::Status. The first two are the words that the command takes.
 constexpr std::array loginStatusTexts{
-    "off", "on", "switched off in the desktop's settings",
-    "on, but what it would open is not there: switch it on again"};
+    "off", "on", QT_TRANSLATE_NOOP("Command", "switched off in the desktop's settings"),
+    QT_TRANSLATE_NOOP("Command", "on, but what it would open is not there: switch it on again")};
 
 QCoro::Task<int> launchAtLogin(CommandContext context, Invocation invocation) {
     const LoginItem& item = context.platform.loginItem;
     if (invocation.argument == "status") {
-        context.console->print(loginStatusTexts.at(static_cast<std::size_t>(item.status())));
+        const char* const text = loginStatusTexts.at(static_cast<std::size_t>(item.status()));
+        context.console->print(translate("Command", text));
         co_return exitDone;
     }
     const bool on = invocation.argument == "on";
     context.store.setLaunchAtLogin(on);
     if (item.status() != (on ? LoginItem::Status::enabled : LoginItem::Status::notRegistered)) {
-        throw TelegramError{on ? "Quillon could not be set to open at login."
-                               : "Quillon could not be kept from opening at login."};
+        throw TelegramError{
+            on ? translate("Command", "Quillon could not be set to open at login.")
+               : translate("Command", "Quillon could not be kept from opening at login.")};
     }
     co_return exitDone;
 }
@@ -130,7 +139,8 @@ QCoro::Task<int> uninstall(CommandContext context, Invocation /*invocation*/) {
     TerminalAlerts alerts;
     Uninstaller uninstaller{context.platform, context.store, context.analytics, alerts};
     const std::function<void()> tell = [console = context.console] {
-        console->print("Quillon and all it has stored are gone; the app is in the Trash");
+        console->print(translate(
+            "Command", "Quillon and all it has stored are gone; the app is in the Trash"));
     };
     co_await uninstaller.run(tell);
     // The process has ended.

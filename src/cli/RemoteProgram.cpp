@@ -1,5 +1,6 @@
 #include "cli/RemoteProgram.h"
 
+#include "base/Translate.h"
 #include "cli/TerminalConsole.h"
 #include "platform/linux/FolderLock.h"
 
@@ -76,7 +77,7 @@ std::optional<int> judge(const QDBusPendingReply<int, QString, QString>& reply,
     }
     // Gone before the call arrived.
     if (reply.error().type() == QDBusError::ServiceUnknown) return std::nullopt;
-    console.printError("Quillon ended before it was done.");
+    console.printError(translate("Command", "Quillon ended before it was done."));
     return exitFailed;
 }
 
@@ -85,7 +86,7 @@ std::optional<int> carryOut(const Invocation& invocation) {
     const ProgressListener listener{console};
     std::string secret;
     if (invocation.command == Command::connect)
-        secret = console.readSecret(tokenPrompt).value_or("");
+        secret = console.readSecret(tokenPrompt()).value_or("");
     QDBusMessage call = message("Run");
     call << QString::fromStdString(std::string{commandName(invocation.command)})
          << QString::fromStdString(invocation.argument) << QVariant::fromValue(inMemory(secret));
@@ -99,7 +100,7 @@ std::optional<int> carryOut(const Invocation& invocation) {
 
 int showSettings() {
     if (activate(activationData())) return exitDone;
-    Terminal::printError(FolderLock::heldMessage);
+    Terminal::printError(FolderLock::heldMessage());
     return exitFailed;
 }
 
@@ -109,6 +110,10 @@ void quit() {
 }
 
 } // namespace
+
+std::string tokenPrompt() {
+    return translate("Command", "Bot token: ");
+}
 
 QVariantMap activationData() {
     QVariantMap data;
@@ -135,6 +140,7 @@ std::optional<int> run(const Invocation& invocation) {
     char name[] = "quillon";
     char* argv[] = {name, nullptr};
     const QCoreApplication application{argc, argv};
+    loadCatalogue();
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) return std::nullopt;
     if (!bus.interface()->isServiceRegistered(QLatin1String{busName})) return std::nullopt;

@@ -6,6 +6,7 @@
 #include <QVariantMap>
 
 #include <optional>
+#include <string>
 
 namespace quillon {
 
@@ -17,7 +18,7 @@ inline constexpr const char* objectPath = "/dev/vostrel/quillon";
 inline constexpr const char* interfaceName = applicationIdentifier;
 
 /// The prompt with which a command asks for the bot's token.
-inline constexpr const char* tokenPrompt = "Bot token: ";
+[[nodiscard]] std::string tokenPrompt();
 
 /// Has the running program carry out the command, prints what it says and gives the exit code. None
 /// when no program runs, or when the command is one that this process has to carry out itself.

@@ -1,6 +1,7 @@
 #include "cli/Reports.h"
 
 #include "base/Json.h"
+#include "base/Translate.h"
 #include "base/Uuid.h"
 #include "cli/Terminal.h"
 #include "state/Store.h"
@@ -18,10 +19,9 @@ QDateTime dateTime(Date date) {
 }
 
 std::string row(const std::string& name, const std::string& value) {
-    constexpr std::size_t width = 10;
-    std::string label = name + ":";
-    label.resize(std::max(width, label.size()), ' ');
-    return Terminal::harmless(label + value) + "\n";
+    constexpr int width = 10;
+    const QString label = QString::fromStdString(name + ":").leftJustified(width);
+    return Terminal::harmless(label.toStdString() + value) + "\n";
 }
 
 } // namespace
@@ -33,13 +33,20 @@ std::string sendLine(const Sent& entry) {
 std::string statusText(const Store& store) {
     const Config& config = store.config();
     std::string text =
-        row("Bot", store.tokenSaved() ? config.botName.value_or("connected") : "not connected");
-    text += row("Group", config.chatId ? config.chatTitle.value_or("your group") : "not found yet");
+        row(translate("Status", "Bot"),
+            store.tokenSaved() ? config.botName.value_or(translate("Status", "connected"))
+                               : translate("Status", "not connected"));
+    text += row(translate("Status", "Group"),
+                config.chatId ? config.chatTitle.value_or(translate("Status", "your group"))
+                              : translate("Status", "not found yet"));
     for (const Topic& topic : config.topics) {
-        text += row("Topic", topic.name + (topic.threadId ? "" : " (not created yet)"));
+        const std::string shown =
+            topic.threadId ? "%1" : translate("Status", "%1 (not created yet)");
+        text += row(translate("Status", "Topic"), filled(shown, {topic.name}));
     }
-    text += row("Shortcut", keysText(config.shortcut));
-    return text + row("Ready", store.isReady() ? "yes" : "no");
+    text += row(translate("Status", "Shortcut"), keysText(config.shortcut));
+    return text + row(translate("Status", "Ready"),
+                      store.isReady() ? translate("Status", "yes") : translate("Status", "no"));
 }
 
 std::string statusJson(const Store& store) {

@@ -1,6 +1,7 @@
 #include "cli/Session.h"
 
 #include "analytics/Analytics.h"
+#include "base/Translate.h"
 #include "cli/Commands.h"
 #include "cli/Detach.h"
 #include "cli/RemoteProgram.h"
@@ -63,19 +64,23 @@ QCoro::Task<> sendToExit(Invocation invocation, CommandContext context, const HU
 
 int Session::run(Invocation invocation, Detach& detach) {
     if (const auto code = RemoteProgram::run(invocation)) return *code;
+    static int argc = 1;
+    static char name[] = "quillon";
+    static char* argv[] = {name, nullptr};
     std::unique_ptr<Pasteboard> pasteboard = X11Pasteboard::open(nullptr);
     if (!pasteboard) {
-        Terminal::printError("There is no clipboard to read: no X server answers.");
+        const QCoreApplication speaker{argc, argv};
+        loadCatalogue();
+        Terminal::printError(
+            translate("Session", "There is no clipboard to read: no X server answers."));
         return exitFailed;
     }
     // The banner is an X11 window, also where the desktop offers Wayland as well.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
-    static int argc = 1;
-    static char name[] = "quillon";
-    static char* argv[] = {name, nullptr};
     // Never destroyed, for it goes with the process: where no banner was shown, Qt would look
     // through all fonts of the system only to let go of them.
     [[maybe_unused]] const auto* application = new QApplication{argc, argv};
+    loadCatalogue();
     QApplication::setQuitOnLastWindowClosed(false);
 
     LinuxPlatform services{std::move(pasteboard)};
@@ -83,7 +88,7 @@ int Session::run(Invocation invocation, Detach& detach) {
     platform.files.createFolder(platform.dataFolder);
     auto lock = FolderLock::take(platform.dataFolder);
     if (!lock) {
-        Terminal::printError(FolderLock::heldMessage);
+        Terminal::printError(FolderLock::heldMessage());
         return exitFailed;
     }
     Analytics analytics{platform};
@@ -107,6 +112,7 @@ int Session::run(Invocation invocation) {
     char name[] = "quillon";
     char* argv[] = {name, nullptr};
     QCoreApplication application{argc, argv};
+    loadCatalogue();
     LinuxPlatform services{std::make_unique<EmptyPasteboard>()};
     Platform& platform = services.platform();
     platform.files.createFolder(platform.dataFolder);
@@ -114,7 +120,7 @@ int Session::run(Invocation invocation) {
     const auto lock =
         reads ? std::optional<FolderLock>{} : FolderLock::take(platform.dataFolder, lockPatience);
     if (!lock && !reads) {
-        Terminal::printError(FolderLock::heldMessage);
+        Terminal::printError(FolderLock::heldMessage());
         return exitFailed;
     }
     Analytics analytics{platform};

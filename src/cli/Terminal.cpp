@@ -1,5 +1,6 @@
 #include "cli/Terminal.h"
 
+#include "base/Translate.h"
 #include "base/Utf8.h"
 
 #include <array>
@@ -125,8 +126,10 @@ void Progress::end() {
 }
 
 void Progress::draw() const {
-    std::cerr << clearLine << what_ << ' ' << megabytes(done_) << " of " << megabytes(total_)
-              << " MB" << std::flush;
+    std::cerr << clearLine
+              << filled(translate("Terminal", "%1 %2 of %3 MB", "what is done, and how far it is"),
+                        {what_, megabytes(done_), megabytes(total_)})
+              << std::flush;
 }
 
 } // namespace quillon::Terminal

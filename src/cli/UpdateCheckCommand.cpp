@@ -1,6 +1,7 @@
 #include "cli/UpdateCheckCommand.h"
 
 #include "analytics/Analytics.h"
+#include "base/Translate.h"
 #include "cli/Console.h"
 #include "platform/Platform.h"
 #include "telegram/TelegramError.h"
@@ -28,23 +29,23 @@ public:
     }
     void showChecking(std::stop_source /*cancel*/) override {}
     void showUpToDate(std::string version) override {
-        console_->print("Quillon " + version + " is up to date.");
+        console_->print(filled(translate("Command", "Quillon %1 is up to date."), {version}));
     }
     [[nodiscard]] QFuture<UpdateChoice> showUpdate(UpdateOffer offer) override {
         if (install_) return QtFuture::makeReadyFuture(UpdateChoice::install);
-        console_->print("Quillon " + offer.version + " is available.");
+        console_->print(filled(translate("Command", "Quillon %1 is available."), {offer.version}));
         return QtFuture::makeReadyFuture(UpdateChoice::later);
     }
     void showPreparing(std::string /*version*/, std::stop_source /*cancel*/) override {}
     void showProgress(UpdateProgress progress) override {
-        console_->progress("Downloading…", progress.received, progress.total);
+        console_->progress(translate("Command", "Downloading…"), progress.received, progress.total);
     }
     [[nodiscard]] QFuture<InstallTime> showReady(std::string /*version*/) override {
         dismiss();
         return QtFuture::makeReadyFuture(InstallTime::now);
     }
     void showInstalled(std::string version) override {
-        console_->print("Quillon " + version + " is installed.");
+        console_->print(filled(translate("Command", "Quillon %1 is installed."), {version}));
     }
     void showError(UpdateError error) override {
         dismiss();
@@ -83,7 +84,7 @@ private:
 QCoro::Task<int> runUpdateCheck(CommandContext context, bool install) {
     const Bundle& bundle = context.platform.bundle;
     if (!bundle.isApplication() || !bundle.text("SUFeedURL"))
-        throw TelegramError{"This copy of Quillon does not update itself."};
+        throw TelegramError{translate("Command", "This copy of Quillon does not update itself.")};
     ConsoleUpdateDriver driver{context.console, install};
     CheckRecorder recorder{context.analytics};
     BundleUpdater updater{context.platform, driver, BundleUpdater::Schedule::none};

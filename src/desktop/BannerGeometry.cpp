@@ -57,6 +57,12 @@ BannerLayout layOutBanner(QSizeF text) {
     return layout;
 }
 
+BannerLayout mirrored(BannerLayout layout) {
+    for (QRectF* const box : {&layout.mark, &layout.text, &layout.symbol})
+        box->moveRight(layout.window.width() - box->left());
+    return layout;
+}
+
 QRect bannerFrame(QRect visible, QSize window, BannerPosition position) {
     const int x = visible.x() + (visible.width() - window.width()) / 2;
     int y = visible.y();

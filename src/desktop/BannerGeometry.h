@@ -22,6 +22,9 @@ struct BannerLayout {
 
 BannerLayout layOutBanner(QSizeF text);
 
+/// The same row for writing that goes from right to left.
+BannerLayout mirrored(BannerLayout layout);
+
 /// The window's frame on a screen, given the part of the screen that no panel or dock covers.
 QRect bannerFrame(QRect visible, QSize window, BannerPosition position);
 

@@ -49,7 +49,9 @@ HUDView::HUDView(const std::string& text, std::string symbol, bool ok)
       layout_{layOutBanner({text_.width, std::ceil(QFontMetricsF{font_}.height()) *
                                              static_cast<double>(text_.lines.size())})},
       symbol_{std::move(symbol)},
-      ok_{ok} {}
+      ok_{ok} {
+    if (QGuiApplication::isRightToLeft()) layout_ = mirrored(layout_);
+}
 
 QPixmap HUDView::render(double devicePixelRatio, bool blended) const {
     QPixmap pixmap{(QSizeF{layout_.window} * devicePixelRatio).toSize()};
@@ -85,10 +87,14 @@ void HUDView::paintRow(QPainter& painter, double devicePixelRatio) const {
     paintMark(painter, layout_.mark, Qt::white, Brand::coral);
     painter.setFont(font_);
     painter.setPen(Qt::white);
+    const QFontMetricsF metrics{font_};
     const double height = layout_.text.height() / static_cast<double>(text_.lines.size());
-    double baseline = layout_.text.top() + std::round(QFontMetricsF{font_}.ascent());
+    double baseline = layout_.text.top() + std::round(metrics.ascent());
     for (const QString& line : text_.lines) {
-        painter.drawText(QPointF{layout_.text.left(), baseline}, line);
+        const double left = QGuiApplication::isRightToLeft()
+                                ? layout_.text.right() - metrics.horizontalAdvance(line)
+                                : layout_.text.left();
+        painter.drawText(QPointF{left, baseline}, line);
         baseline += height;
     }
     const QPixmap symbol = symbolPixmap(symbol_, layout_.symbol.width(), ok_ ? Brand::coral : amber,

@@ -1,5 +1,6 @@
 #include "maintenance/AppMover.h"
 
+#include "base/Translate.h"
 #include "platform/FileSystem.h"
 #include "platform/FileTree.h"
 #include "platform/LoginItem.h"
@@ -22,26 +23,31 @@ constexpr std::string_view translocation = "/AppTranslocation/";
 /// The mark of what was downloaded, an extended attribute.
 constexpr const char* quarantine = "user.com.apple.quarantine";
 
-constexpr const char* hiddenCopy =
+constexpr const char* hiddenCopy = QT_TRANSLATE_NOOP(
+    "AppMover",
     "macOS is running Quillon from a hidden copy. Open your Downloads folder and drag Quillon into "
-    "Applications yourself, then open it from there.";
-constexpr const char* noFolder =
+    "Applications yourself, then open it from there.");
+constexpr const char* noFolder = QT_TRANSLATE_NOOP(
+    "AppMover",
     "Your Mac didn't allow Quillon to write to the Applications folder. Open your Downloads folder "
-    "and drag Quillon into Applications yourself, then open it from there.";
-constexpr const char* olderIsOpen =
-    "An older Quillon is open from Applications. Quit it from its menu, then try again.";
-constexpr const char* olderStays =
+    "and drag Quillon into Applications yourself, then open it from there.");
+constexpr const char* olderIsOpen = QT_TRANSLATE_NOOP(
+    "AppMover",
+    "An older Quillon is open from Applications. Quit it from its menu, then try again.");
+constexpr const char* olderStays = QT_TRANSLATE_NOOP(
+    "AppMover",
     "Couldn't replace the older Quillon in Applications. Move it to the Trash yourself, then try "
-    "again.";
-constexpr const char* notAllowed =
+    "again.");
+constexpr const char* notAllowed = QT_TRANSLATE_NOOP(
+    "AppMover",
     "Your Mac didn't allow the move. Open your Downloads folder and drag Quillon into Applications "
-    "yourself, then open it from there.";
+    "yourself, then open it from there.");
 
 Alert failure(const std::exception& error) {
     return {.warning = true,
-            .message = "Quillon couldn't move itself",
+            .message = translate("AppMover", "Quillon couldn't move itself"),
             .informativeText = error.what(),
-            .buttons = {"OK"}};
+            .buttons = {translate("AppMover", "OK")}};
 }
 
 } // namespace
@@ -85,7 +91,7 @@ path AppMover::source() const {
     const path& url = platform_.bundle.url;
     if (url.native().find(translocation) == std::string::npos) return url;
     const auto original = originalURL(url);
-    if (!original) throw MoveError{hiddenCopy};
+    if (!original) throw MoveError{translate("AppMover", hiddenCopy)};
     return *original;
 }
 
@@ -94,7 +100,7 @@ path AppMover::targetFolder() const {
     if (platform_.trees.isWritable(shared)) return shared;
     path own = homeApplications();
     platform_.files.createFolder(own);
-    if (!platform_.trees.isWritable(own)) throw MoveError{noFolder};
+    if (!platform_.trees.isWritable(own)) throw MoveError{translate("AppMover", noFolder)};
     return own;
 }
 
@@ -108,16 +114,16 @@ bool AppMover::isRunning(const path& application) const {
 /// Sends what lies at the destination to the trash.
 QCoro::Task<> AppMover::makeRoom(path destination) {
     if (!platform_.trees.exists(destination)) co_return;
-    if (isRunning(destination)) throw MoveError{olderIsOpen};
+    if (isRunning(destination)) throw MoveError{translate("AppMover", olderIsOpen)};
     const bool trashed = co_await platform_.workspace.trash(destination);
-    if (!trashed) throw MoveError{olderStays};
+    if (!trashed) throw MoveError{translate("AppMover", olderStays)};
 }
 
 QCoro::Task<path> AppMover::move() {
     const path from = source();
     const path to = targetFolder() / from.filename();
     // Somebody else may have moved it since it was started: what is there now is no older copy.
-    if (!platform_.trees.exists(from)) throw MoveError{notAllowed};
+    if (!platform_.trees.exists(from)) throw MoveError{translate("AppMover", notAllowed)};
     co_await makeRoom(to);
     bool moved = false;
     if (platform_.trees.isDeletable(from)) {
@@ -125,7 +131,7 @@ QCoro::Task<path> AppMover::move() {
     } else {
         moved = co_await platform_.trees.copy(from, to);
     }
-    if (!moved) throw MoveError{notAllowed};
+    if (!moved) throw MoveError{translate("AppMover", notAllowed)};
     co_await platform_.trees.removeAttribute(to, quarantine);
     platform_.workspace.listApplication(to);
     const Bundle& bundle = platform_.bundle;
@@ -144,9 +150,9 @@ void AppMover::relaunch(const path& at) {
 
 Alert AppMover::makeAlert() {
     return {.warning = false,
-            .message = "Move Quillon to your Applications folder?",
-            .informativeText = "It needs to be there to update itself.",
-            .buttons = {"Move", "Not now"}};
+            .message = translate("AppMover", "Move Quillon to your Applications folder?"),
+            .informativeText = translate("AppMover", "It needs to be there to update itself."),
+            .buttons = {translate("AppMover", "Move"), translate("AppMover", "Not now")}};
 }
 
 } // namespace quillon

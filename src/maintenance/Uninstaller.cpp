@@ -1,6 +1,7 @@
 #include "maintenance/Uninstaller.h"
 
 #include "analytics/Analytics.h"
+#include "base/Translate.h"
 #include "maintenance/Alerts.h"
 #include "platform/FileTree.h"
 #include "platform/LoginItem.h"
@@ -21,15 +22,18 @@ using std::filesystem::path;
 /// Tells how to finish: with an application folder by hand, with an executable alone the way it was
 /// installed.
 Alert applicationStays(const Bundle& bundle) {
-    const char* const left = bundle.isApplication()
-                                 ? "It couldn't move itself to the Trash. Drag Quillon from "
-                                   "Applications to the Trash to finish."
-                                 : "It couldn't move itself to the Trash. Remove Quillon with your "
-                                   "package manager to finish.";
+    const char* const left =
+        bundle.isApplication()
+            ? QT_TRANSLATE_NOOP("Uninstaller",
+                                "It couldn't move itself to the Trash. Drag Quillon from "
+                                "Applications to the Trash to finish.")
+            : QT_TRANSLATE_NOOP("Uninstaller",
+                                "It couldn't move itself to the Trash. Remove Quillon with your "
+                                "package manager to finish.");
     return {.warning = false,
-            .message = "Quillon is cleaned up",
-            .informativeText = left,
-            .buttons = {"OK"}};
+            .message = translate("Uninstaller", "Quillon is cleaned up"),
+            .informativeText = translate("Uninstaller", left),
+            .buttons = {translate("Uninstaller", "OK")}};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "send/Clipboard.h"
 
 #include "base/Text.h"
+#include "base/Translate.h"
 #include "platform/Pasteboard.h"
 #include "send/ClipboardFormats.h"
 #include "send/FileKind.h"
@@ -83,9 +84,10 @@ QCoro::Task<ClipContent> look(Pasteboard& pasteboard) {
     co_return ClipEmpty{};
 }
 
-/// The size in pixels that a PNG's header tells: after the signature comes the chunk IHDR with width
-/// and height as its first fields (W3C, PNG, 11.2.1). Empty when these bytes are something else. Not
-/// left to QImageReader, which loads every plugin there is before it looks at the first byte.
+/// The size in pixels that a PNG's header tells: after the signature comes the chunk IHDR with
+/// width and height as its first fields (W3C, PNG, 11.2.1). Empty when these bytes are something
+/// else. Not left to QImageReader, which loads every plugin there is before it looks at the first
+/// byte.
 QSize pngSize(const QByteArray& png) {
     constexpr qsizetype widthAt = 16;
     constexpr qsizetype heightAt = 20;
@@ -96,25 +98,26 @@ QSize pngSize(const QByteArray& png) {
 
 Summary summaryOf(const ClipFiles& files) {
     if (files.paths.size() != 1) {
-        return {"doc.on.doc", std::to_string(files.paths.size()) + " files"};
+        const int count = static_cast<int>(files.paths.size());
+        return {"doc.on.doc", translate("Clipboard", "%n files", nullptr, count)};
     }
     return {"doc", validUtf8(lastComponent(files.paths.front()).native())};
 }
 
 Summary summaryOf(const ClipImage& image) {
     const QSize size = pngSize(image.png);
-    if (size.isEmpty()) return {"photo", "Image"};
-    return {"photo",
-            "Image · " + std::to_string(size.width()) + "×" + std::to_string(size.height())};
+    if (size.isEmpty()) return {"photo", translate("Clipboard", "Image")};
+    return {"photo", filled(translate("Clipboard", "Image · %1×%2", "width and height in pixels"),
+                            {std::to_string(size.width()), std::to_string(size.height())})};
 }
 
 Summary summaryOf(const ClipText& text) {
     std::string line{trimmedSpaces(firstLine(text.text))};
-    return {"text.alignleft", "“" + line + "”"};
+    return {"text.alignleft", filled(translate("Clipboard", "“%1”", "a copied text"), {line})};
 }
 
 Summary summaryOf(const ClipEmpty& /*empty*/) {
-    return {"clipboard", "The clipboard is empty"};
+    return {"clipboard", translate("Clipboard", "The clipboard is empty")};
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // The one action that everything else is there for: what is on the clipboard goes to its topic.
 #include "analytics/Analytics.h"
+#include "base/Translate.h"
 #include "desktop/Banner.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
@@ -48,9 +49,10 @@ Sent makeEntry(const Clock& clock, std::string_view symbol, std::string title, s
 }
 
 /// The item, which a request failed to deliver.
-Store::Item failed(Store::Item item, const std::string& message) {
-    item.first.error = message;
-    item.second.reason = message.starts_with(unreachable) ? "no_internet" : "telegram_error";
+Store::Item failed(Store::Item item, const TelegramError& error) {
+    item.first.error = error.message;
+    const bool offline = error.cause == TelegramError::Cause::unreachable;
+    item.second.reason = offline ? "no_internet" : "telegram_error";
     return item;
 }
 
@@ -76,13 +78,16 @@ std::optional<FileProblem> problem(const FileReading& reading, const std::string
     case FileReading::Outcome::read:
         return std::nullopt;
     case FileReading::Outcome::directory:
-        return FileProblem{"folder", "Folders can't be sent yet: " + name};
+        return FileProblem{"folder",
+                           filled(translate("Send", "Folders can't be sent yet: %1"), {name})};
     case FileReading::Outcome::tooBig:
-        return FileProblem{"too_big", name + " is over 50 MB (Telegram's limit for bots)"};
+        return FileProblem{
+            "too_big",
+            filled(translate("Send", "%1 is over 50 MB (Telegram's limit for bots)"), {name})};
     case FileReading::Outcome::unreadable:
         break;
     }
-    return FileProblem{"unreadable", "Couldn't read " + name};
+    return FileProblem{"unreadable", filled(translate("Send", "Couldn't read %1"), {name})};
 }
 
 } // namespace
@@ -99,7 +104,7 @@ QCoro::Task<> Store::sendClipboard(std::string via) {
 
     const ClipContent content = co_await Clipboard::read(platform_.pasteboard);
     if (std::holds_alternative<ClipEmpty>(content)) {
-        banner_.show("The clipboard is empty", "clipboard", false, false);
+        banner_.show(translate("Clipboard", "The clipboard is empty"), "clipboard", false, false);
         co_return;
     }
 
@@ -107,7 +112,8 @@ QCoro::Task<> Store::sendClipboard(std::string via) {
     const auto idle = qScopeGuard([this] { publish(busy_, false); });
     std::unique_ptr<Clock::Timer> sending = platform_.clock.after(patience, [this] {
         // Whoever wants no banners would be left with this one, since no other would replace it.
-        if (config_.showBanner) banner_.show("Sending…", "arrow.up.circle", true, true);
+        if (!config_.showBanner) return;
+        banner_.show(translate("Send", "Sending…"), "arrow.up.circle", true, true);
     });
     std::vector<Item> items;
     if (const auto* text = std::get_if<ClipText>(&content)) {
@@ -124,7 +130,8 @@ QCoro::Task<> Store::sendClipboard(std::string via) {
 }
 
 void Store::refuseToSend() {
-    banner_.show("Finish setting up Quillon first", "exclamationmark.circle", false, false);
+    banner_.show(translate("Send", "Finish setting up Quillon first"), "exclamationmark.circle",
+                 false, false);
     analytics_.track("send_failed", {{"reason", "not_set_up"}});
 }
 
@@ -216,12 +223,12 @@ QCoro::Task<Store::Item> Store::sendFile(std::filesystem::path path, Telegram tg
     co_return failure ? failed(std::move(item), *failure) : item;
 }
 
-QCoro::Task<std::optional<std::string>>
+QCoro::Task<std::optional<TelegramError>>
 Store::failureOf(Telegram tg, std::string method, Json params, std::optional<Upload> upload) {
     try {
         co_await tg.call(std::move(method), std::move(params), std::move(upload), sendProgress_);
     } catch (const TelegramError& error) {
-        co_return error.message;
+        co_return error;
     }
     co_return std::nullopt;
 }

@@ -1,6 +1,7 @@
 // Connecting the user's bot and forgetting it again.
 #include "analytics/Analytics.h"
 #include "base/Text.h"
+#include "base/Translate.h"
 #include "platform/Platform.h"
 #include "state/Store.h"
 
@@ -11,7 +12,8 @@ namespace quillon {
 QCoro::Task<std::string> Store::connectBot(std::string pasted) {
     const std::string token{trimmed(pasted)};
     if (token.find(':') == token.npos) {
-        throw TelegramError{"That doesn't look like a bot token. It looks like 123456:ABC-DEF…"};
+        throw TelegramError{translate(
+            "Setup", "That doesn't look like a bot token. It looks like 123456:ABC-DEF…")};
     }
     const Telegram tg = telegramFor(token);
     const Json me = co_await tg.call("getMe", Json::object());

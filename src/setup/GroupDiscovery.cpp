@@ -1,5 +1,6 @@
 // Finding the user's group through the bot's recent updates.
 #include "analytics/Analytics.h"
+#include "base/Translate.h"
 #include "setup/GroupUpdates.h"
 #include "state/Store.h"
 
@@ -7,25 +8,29 @@ namespace quillon {
 
 namespace {
 
-constexpr const char* noGroup = "No group found yet. Add the bot to your group, then send “hi” in "
-                                "the group and try again.";
+std::string noGroup() {
+    return translate("Setup", "No group found yet. Add the bot to your group, then send “hi” in "
+                              "the group and try again.");
+}
 
 std::string topicsAreOff(const Json& chat) {
-    return "Found “" + textMember(chat, "title").value_or("your group") +
-           "”, but Topics are off. Turn on Topics in the group settings.";
+    const auto title = textMember(chat, "title");
+    return filled(translate("Setup", "Found “%1”, but Topics are off. Turn on Topics in the group "
+                                     "settings."),
+                  {title ? *title : translate("Setup", "your group")});
 }
 
 } // namespace
 
 QCoro::Task<> Store::findGroup() {
     const std::optional<Telegram> tg = co_await telegram();
-    if (!tg) throw TelegramError{"Connect your bot first."};
+    if (!tg) throw TelegramError{translate("Setup", "Connect your bot first.")};
 
     // Without an offset the updates stay with Telegram, and creating the topics reads them again.
     Json params{{"allowed_updates", Json::array({"message", "my_chat_member"})}};
     const Json updates = co_await tg->call("getUpdates", std::move(params));
     const std::optional<std::int64_t> group = latestGroup(updates);
-    if (!group) throw TelegramError{noGroup};
+    if (!group) throw TelegramError{noGroup()};
 
     Json question{{"chat_id", *group}};
     const Json chat = co_await tg->call("getChat", std::move(question));

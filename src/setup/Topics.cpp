@@ -1,5 +1,6 @@
 // Creating the forum topics, finding them again, and giving them new names.
 #include "analytics/Analytics.h"
+#include "base/Translate.h"
 #include "setup/GroupUpdates.h"
 #include "state/Store.h"
 
@@ -8,9 +9,6 @@
 namespace quillon {
 
 namespace {
-
-constexpr const char* cannotCreate =
-    "Couldn't create topics. Make the bot an admin with “Manage Topics” and try again.";
 
 /// Telegram's answer to an edit that changes nothing, which proves that the topic exists.
 bool saysNotModified(const TelegramError& error) {
@@ -61,21 +59,25 @@ QCoro::Task<std::optional<std::int64_t>> createTopic(Telegram tg, std::int64_t c
     try {
         created = co_await tg.call("createForumTopic", std::move(params));
     } catch (const TelegramError&) {
-        throw TelegramError{cannotCreate};
+        throw TelegramError{translate(
+            "Setup",
+            "Couldn't create topics. Make the bot an admin with “Manage Topics” and try again.")};
     }
     co_return integerMember(created, "message_thread_id");
 }
 
 std::string welcome(ShortcutChoice shortcut) {
-    return "✅ Quillon is connected. Press " + keysText(shortcut) +
-           " on your Mac to send what you copied.";
+    return filled(translate("Setup",
+                            "✅ Quillon is connected. Press %1 on your Mac to send what you "
+                            "copied."),
+                  {keysText(shortcut)});
 }
 
 } // namespace
 
 QCoro::Task<> Store::createTopics() {
     const std::optional<Telegram> tg = co_await telegram();
-    if (!tg || !config_.chatId) throw TelegramError{"Find your group first."};
+    if (!tg || !config_.chatId) throw TelegramError{translate("Setup", "Find your group first.")};
     const std::int64_t chat = *config_.chatId;
     const TopicThreads known = co_await knownTopics(*tg, chat);
 

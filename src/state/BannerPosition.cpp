@@ -1,19 +1,21 @@
 #include "state/BannerPosition.h"
 
+#include "base/Translate.h"
+
 namespace quillon {
 
 namespace {
 
 struct Row {
     std::string_view rawValue;
-    std::string_view label;
+    const char* label;
     std::string_view symbol;
 };
 
 constexpr std::array<Row, allBannerPositions.size()> rows{{
-    {"top", "Top", "inset.filled.topthird.rectangle"},
-    {"middle", "Middle", "inset.filled.center.rectangle"},
-    {"bottom", "Bottom", "inset.filled.bottomthird.rectangle"},
+    {"top", QT_TRANSLATE_NOOP("BannerPosition", "Top"), "inset.filled.topthird.rectangle"},
+    {"middle", QT_TRANSLATE_NOOP("BannerPosition", "Middle"), "inset.filled.center.rectangle"},
+    {"bottom", QT_TRANSLATE_NOOP("BannerPosition", "Bottom"), "inset.filled.bottomthird.rectangle"},
 }};
 
 const Row& row(BannerPosition position) {
@@ -33,8 +35,8 @@ std::optional<BannerPosition> bannerPosition(std::string_view raw) {
     return std::nullopt;
 }
 
-std::string_view label(BannerPosition position) {
-    return row(position).label;
+std::string label(BannerPosition position) {
+    return translate("BannerPosition", row(position).label);
 }
 
 std::string_view symbol(BannerPosition position) {

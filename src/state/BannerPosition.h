@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace quillon {
@@ -17,7 +18,7 @@ inline constexpr std::array allBannerPositions{BannerPosition::top, BannerPositi
 [[nodiscard]] std::optional<BannerPosition> bannerPosition(std::string_view rawValue);
 
 /// What the position picker shows: a word and a symbol name.
-[[nodiscard]] std::string_view label(BannerPosition position);
+[[nodiscard]] std::string label(BannerPosition position);
 [[nodiscard]] std::string_view symbol(BannerPosition position);
 
 } // namespace quillon

@@ -136,7 +136,7 @@ private:
     [[nodiscard]] QCoro::Task<Item> sendFile(std::filesystem::path path, Telegram tg,
                                              std::int64_t chat);
     /// Makes one call; gives what went wrong.
-    [[nodiscard]] QCoro::Task<std::optional<std::string>>
+    [[nodiscard]] QCoro::Task<std::optional<TelegramError>>
     failureOf(Telegram tg, std::string method, Json params, std::optional<Upload> upload);
     void refuseToSend();
     void finishSend(std::vector<Item> items, const std::string& via);

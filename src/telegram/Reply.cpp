@@ -1,20 +1,24 @@
 #include "telegram/Reply.h"
 
 #include "base/Bytes.h"
+#include "base/Translate.h"
 
 namespace quillon {
 
 namespace {
 
-constexpr std::string_view refusedToken = "Telegram didn't accept that bot token.";
-
 /// The shortest wait that makes sense: −1 stands for an immediate repeat, since a second is added.
 constexpr std::int64_t leastRetryAfter = -1;
 
+Refusal refusedToken() {
+    return Refusal{translate("Telegram", "Telegram didn't accept that bot token.")};
+}
+
 Verdict judgeWithoutEnvelope(int status) {
-    if (status == 401 || status == 404) return Refusal{std::string{refusedToken}};
-    return Refusal{"Telegram sent an empty reply (error " + std::to_string(status) +
-                   "). Try again in a moment."};
+    if (status == 401 || status == 404) return refusedToken();
+    return Refusal{filled(translate("Telegram", "Telegram sent an empty reply (error %1). Try "
+                                                "again in a moment."),
+                          {std::to_string(status)})};
 }
 
 std::optional<std::int64_t> retryAfter(const Json& envelope) {
@@ -36,8 +40,9 @@ Verdict judge(const HttpReply& reply) {
         seconds && *seconds >= leastRetryAfter && *seconds < longestWait.count()) {
         return Wait{std::chrono::seconds{*seconds + 1}};
     }
-    if (integerMember(*envelope, "error_code") == 401) return Refusal{std::string{refusedToken}};
-    return Refusal{textMember(*envelope, "description").value_or("Telegram said no.")};
+    if (integerMember(*envelope, "error_code") == 401) return refusedToken();
+    const auto description = textMember(*envelope, "description");
+    return Refusal{description ? *description : translate("Telegram", "Telegram said no.")};
 }
 
 } // namespace quillon

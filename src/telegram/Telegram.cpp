@@ -1,5 +1,6 @@
 #include "telegram/Telegram.h"
 
+#include "base/Translate.h"
 #include "platform/HttpTransport.h"
 #include "platform/Sleep.h"
 #include "telegram/Multipart.h"
@@ -59,14 +60,17 @@ QCoro::Task<Json> Telegram::call(std::string method, Json params, std::optional<
     HttpTransport& http = *http_;
     Clock& clock = *clock_;
     const std::string url = api_ + "/bot" + token_ + "/" + method;
-    if (!isUrlText(url)) throw TelegramError{"That bot token doesn't look right."};
+    if (!isUrlText(url))
+        throw TelegramError{translate("Telegram", "That bot token doesn't look right.")};
 
     for (;;) {
         HttpRequest request = makeRequest(url, params, upload);
         request.progress = progress;
         const std::optional<HttpReply> reply = co_await http.post(std::move(request));
         if (!reply) {
-            throw TelegramError{std::string{unreachable} + ". Check your internet connection."};
+            throw TelegramError{
+                translate("Telegram", "Couldn't reach Telegram. Check your internet connection."),
+                TelegramError::Cause::unreachable};
         }
         Verdict verdict = co_await judged(*reply);
         if (auto* success = std::get_if<Success>(&verdict)) co_return std::move(success->result);

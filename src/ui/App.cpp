@@ -1,5 +1,6 @@
 #include "ui/App.h"
 
+#include "base/Translate.h"
 #include "cli/CommandLine.h"
 #include "cli/RemoteProgram.h"
 #include "maintenance/AppMover.h"
@@ -27,7 +28,8 @@ namespace {
 /// How the desktop knows the program: by its name, its icon and its desktop entry.
 void introduce() {
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setApplicationDisplayName(QStringLiteral("Quillon"));
+    // Not as the display name, which Qt would put behind the title of every window.
+    QApplication::setApplicationName(QStringLiteral("Quillon"));
     QApplication::setDesktopFileName(QString::fromLatin1(applicationIdentifier));
     QApplication::setWindowIcon(appIcon());
 }
@@ -48,7 +50,7 @@ QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
         co_return;
     }
     const bool shown = RemoteProgram::activate(activationData);
-    if (!shown) std::cerr << FolderLock::heldMessage << std::endl;
+    if (!shown) std::cerr << FolderLock::heldMessage() << std::endl;
     QCoreApplication::exit(shown ? exitDone : exitFailed);
 }
 
@@ -56,17 +58,21 @@ QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
 
 int App::run(Start start) {
     const QVariantMap activationData = RemoteProgram::activationData();
+    int argc = 1;
+    char name[] = "quillon";
+    char* argv[] = {name, nullptr};
     std::unique_ptr<Pasteboard> pasteboard = X11Pasteboard::open(nullptr);
     if (!pasteboard) {
-        std::cerr << "There is no desktop to work on: no X server answers." << std::endl;
+        const QCoreApplication speaker{argc, argv};
+        loadCatalogue();
+        std::cerr << translate("App", "There is no desktop to work on: no X server answers.")
+                  << std::endl;
         return exitFailed;
     }
     // The banner is an X11 window, also where the desktop offers Wayland as well.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
-    int argc = 1;
-    char name[] = "quillon";
-    char* argv[] = {name, nullptr};
     QApplication application{argc, argv};
+    loadCatalogue();
     introduce();
     Looks looks;
     LinuxAppearance appearance;

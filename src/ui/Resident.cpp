@@ -1,5 +1,6 @@
 #include "ui/Resident.h"
 
+#include "base/Translate.h"
 #include "maintenance/AppMover.h"
 #include "platform/FileSystem.h"
 #include "platform/LoginItem.h"
@@ -125,8 +126,9 @@ void Resident::start() {
     }
     // For whoever started it from a terminal; the windows say the same.
     if (store_.shortcutTaken()) {
-        std::cerr << keysText(store_.config().shortcut)
-                  << " is already used by another app. Pick another shortcut in Settings."
+        std::cerr << filled(translate("quillon::PanelView", "%1 is already used by another app. "
+                                                            "Pick another shortcut in Settings."),
+                            {keysText(store_.config().shortcut)})
                   << std::endl;
     }
     if (!store_.isReady()) settingsWindow_.show();

@@ -65,7 +65,7 @@ void Desk::takePanelAway() {
 
 QRect Desk::icon() {
     static const QRegularExpression line{
-        QStringLiteral(R"re("quillon" "quillon"\)\s+(\d+)x(\d+)\S+\s+\+(\d+)\+(\d+))re")};
+        QStringLiteral(R"re("quillon" "Quillon"\)\s+(\d+)x(\d+)\S+\s+\+(\d+)\+(\d+))re")};
     const QRegularExpressionMatch match = line.match(panelWindows());
     if (!match.hasMatch()) return {};
     const auto number = [&](int group) { return match.captured(group).toInt(); };

@@ -169,7 +169,7 @@ ScreenReader::~ScreenReader() {
 std::vector<Control> ScreenReader::windows() {
     std::vector<Control> all;
     for (const Control& application : Control{atspi_get_desktop(0)}.children()) {
-        if (application.name() != "quillon") continue;
+        if (application.name() != "Quillon") continue;
         for (const Control& window : application.children())
             all.push_back(window);
     }

@@ -1,5 +1,7 @@
 #include "platform/linux/FolderLock.h"
 
+#include "base/Translate.h"
+
 #include <cerrno>
 #include <thread>
 #include <utility>
@@ -15,6 +17,11 @@ namespace {
 constexpr std::chrono::milliseconds retryInterval{20};
 
 } // namespace
+
+std::string FolderLock::heldMessage() {
+    return translate("FolderLock",
+                     "Another Quillon is at work. Quit it, or wait until it is done.");
+}
 
 std::optional<FolderLock> FolderLock::take(const std::filesystem::path& folder,
                                            std::chrono::milliseconds patience) {

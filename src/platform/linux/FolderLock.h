@@ -3,6 +3,7 @@
 #include <chrono>
 #include <filesystem>
 #include <optional>
+#include <string>
 
 namespace quillon {
 
@@ -11,8 +12,7 @@ namespace quillon {
 class FolderLock {
 public:
     /// What to tell whoever was turned away.
-    static constexpr const char* heldMessage =
-        "Another Quillon is at work. Quit it, or wait until it is done.";
+    [[nodiscard]] static std::string heldMessage();
 
     /// Waits for at most `patience`; none when another process holds the folder for longer.
     [[nodiscard]] static std::optional<FolderLock> take(const std::filesystem::path& folder,

@@ -1,5 +1,6 @@
 #include "ui/alerts/AlertWindows.h"
 
+#include "base/Translate.h"
 #include "ui/views/Answer.h"
 #include "ui/views/MessageWindow.h"
 #include "ui/views/TextViews.h"
@@ -31,7 +32,7 @@ void addButtons(MessageWindow& window, const std::vector<std::string>& texts,
 } // namespace
 
 QFuture<std::size_t> AlertWindows::show(Alert alert) {
-    if (alert.buttons.empty()) alert.buttons.emplace_back("OK");
+    if (alert.buttons.empty()) alert.buttons.push_back(translate("Alert", "OK"));
     const QString text = QString::fromStdString(alert.informativeText);
     const bool isLong = alert.informativeText.size() > longText;
     auto* window = new MessageWindow{QString::fromStdString(alert.message),

@@ -46,7 +46,7 @@ QString age(Date date, Date now, const std::string& locale) {
     const auto elapsed = now - date;
     const auto* const unit = std::ranges::find_if(
         units, [elapsed](const Unit& candidate) { return elapsed >= candidate.length; });
-    if (unit == units.end()) return QCoreApplication::translate("PanelView", "just now");
+    if (unit == units.end()) return QCoreApplication::translate("quillon::PanelView", "just now");
     return inWords(std::floor(elapsed / unit->length), unit->unit, locale);
 }
 

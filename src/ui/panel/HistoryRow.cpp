@@ -53,7 +53,8 @@ void HistoryRow::setEntry(const Sent& entry, Date now, const std::string& locale
         detail_->setText(literal(QString::fromStdString(*entry.error)));
     } else {
         const QString topic = QString::fromStdString(entry.topic);
-        detail_->setText(literal(topic + QStringLiteral(" · ") + age(entry.date, now, locale)));
+        detail_->setText(
+            literal(tr("%1 · %2", "topic and age").arg(topic, age(entry.date, now, locale))));
     }
     setFailed(entry.error.has_value());
 }

@@ -16,7 +16,6 @@ namespace quillon {
 namespace {
 
 constexpr int padding = 12;
-constexpr int keySpacing = 3;
 constexpr int leastGap = 6;
 constexpr double symbolSize = 18;
 constexpr double symbolFrame = 24;
@@ -37,7 +36,8 @@ SendButton::SendButton(QWidget* parent)
                           {},
                           {.style = Text::caption,
                            .ink = faded(Brand::navy, lineOpacity),
-                           .overflow = Overflow::elideEnd}}} {
+                           .overflow = Overflow::elideEnd}}},
+      keys_{new KeyRow{KeyKind::darkCap}} {
     setCornerRadius(Space::cardRadius);
     setAccessibleName(tr("Send clipboard to phone"));
     symbol_->setFrameWidth(symbolFrame);
@@ -47,13 +47,6 @@ SendButton::SendButton(QWidget* parent)
     column->addWidget(title_);
     column->addWidget(line_);
 
-    auto* const caps = new QHBoxLayout;
-    caps->setSpacing(keySpacing);
-    for (Keycap*& keycap : keycaps_) {
-        keycap = new Keycap{{}, true};
-        caps->addWidget(keycap);
-    }
-
     auto* const row = new QHBoxLayout{this};
     row->setContentsMargins(padding, padding, padding, padding);
     row->setSpacing(0);
@@ -61,7 +54,7 @@ SendButton::SendButton(QWidget* parent)
     row->addSpacing(Space::small);
     row->addLayout(column, 1);
     row->addSpacing(leastGap);
-    row->addLayout(caps);
+    row->addWidget(keys_, 0, Qt::AlignVCenter);
 }
 
 void SendButton::setClip(const Clipboard::Summary& clip, bool busy) {
@@ -69,27 +62,12 @@ void SendButton::setClip(const Clipboard::Summary& clip, bool busy) {
     symbol_->setSymbol(busy ? "arrow.up.circle" : clip.symbol);
     title_->setText(busy ? tr("Sending…") : tr("Send clipboard"));
     line_->setText(literal(line));
-    setWaiting(busy);
+    setBusy(busy);
     setDescription(*this, busy ? tr("Sending…") : line);
 }
 
-void SendButton::setWaiting(bool waiting) {
-    if (waiting == !isEnabled()) return;
-    const bool hadFocus = hasFocus();
-    setEnabled(!waiting);
-    // What is disabled loses the keyboard; it comes back, unless the user went elsewhere.
-    QWidget* const now = window()->focusWidget();
-    if (waiting) {
-        focusMeanwhile_ = hadFocus ? now : nullptr;
-    } else if (focusMeanwhile_ && focusMeanwhile_ == now) {
-        setFocus(Qt::PopupFocusReason);
-    }
-}
-
 void SendButton::setShortcut(ShortcutChoice shortcut) {
-    const auto labels = keys(shortcut);
-    for (std::size_t i = 0; i < labels.size(); ++i)
-        keycaps_[i]->setLabel(QString::fromUtf8(labels[i].data(), qsizetype(labels[i].size())));
+    keys_->setLabels(keyLabels(shortcut));
 }
 
 void SendButton::paintGround(QPainter& painter, const Theme& theme) {

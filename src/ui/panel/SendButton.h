@@ -4,14 +4,10 @@
 #include "state/ShortcutChoice.h"
 #include "ui/views/Buttons.h"
 
-#include <QPointer>
-
-#include <array>
-
 namespace quillon {
 
 class IconLabel;
-class Keycap;
+class KeyRow;
 class SymbolView;
 
 /// The panel's one big action: sends the clipboard, and tells what is on it.
@@ -29,14 +25,10 @@ protected:
     [[nodiscard]] Tint focusTint() const override;
 
 private:
-    /// Takes no presses while it waits.
-    void setWaiting(bool waiting);
-
-    QPointer<QWidget> focusMeanwhile_;
     SymbolView* symbol_;
     IconLabel* title_;
     IconLabel* line_;
-    std::array<Keycap*, 3> keycaps_{};
+    KeyRow* keys_;
 };
 
 } // namespace quillon

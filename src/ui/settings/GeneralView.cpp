@@ -31,13 +31,6 @@ IconLabel* makeValue() {
     return new IconLabel{{}, {}, {.ink = Ink::secondary, .overflow = Overflow::elideMiddle}};
 }
 
-QString keyNames(ShortcutChoice choice) {
-    QStringList labels;
-    for (const std::string_view key : keys(choice))
-        labels << QString::fromUtf8(key.data(), std::ssize(key));
-    return spokenKeys(labels);
-}
-
 } // namespace
 
 GeneralView::GeneralView(Store& store, Updater& updater, SettingsActions actions, QWidget* parent)
@@ -67,7 +60,8 @@ Card* GeneralView::buildShortcut() {
     shortcut_ = new SegmentedPicker{items};
     shortcut_->setAccessibleName(tr("Shortcut"));
     for (std::size_t i = 0; i < allShortcutChoices.size(); ++i)
-        shortcut_->setItemAccessibleName(static_cast<int>(i), keyNames(allShortcutChoices.at(i)));
+        shortcut_->setItemAccessibleName(static_cast<int>(i),
+                                         spokenKeys(keyLabels(allShortcutChoices.at(i))));
     connect(shortcut_, &SegmentedPicker::picked, this, &GeneralView::pickShortcut);
     auto* label = new TileLabel{tr("Send clipboard"), "keyboard.fill", Palette::blue};
     shortcut_->setAccessibleLabel(label);
@@ -167,10 +161,9 @@ void GeneralView::refreshShortcut() {
 
 void GeneralView::refreshTelegram() {
     const Config& config = store_.config();
-    const std::string bot = config.botName.value_or(tr("connected").toStdString());
-    bot_->setText(store_.tokenSaved()
-                      ? tr("@%1").arg(TextBlock::verbatim(QString::fromStdString(bot)))
-                      : tr("Not connected"));
+    const QString bot = config.botName ? QString::fromStdString(*config.botName) : tr("connected");
+    bot_->setText(store_.tokenSaved() ? tr("@%1").arg(TextBlock::verbatim(bot))
+                                      : tr("Not connected"));
     group_->setText(config.chatTitle
                         ? TextBlock::verbatim(QString::fromStdString(*config.chatTitle))
                         : tr("Not found yet"));

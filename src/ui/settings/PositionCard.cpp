@@ -5,10 +5,10 @@
 #include "ui/views/IconLabel.h"
 #include "ui/views/SymbolView.h"
 
-#include <QCoreApplication>
-#include <QLocale>
 #include <QPainter>
 #include <QVBoxLayout>
+
+#include <array>
 
 namespace quillon {
 
@@ -19,19 +19,21 @@ constexpr double borderWidth = 1.5;
 constexpr double selectedFill = 0.12;
 constexpr double cardCorner = 9;
 
-/// The position's name as the catalogue has it.
-QString nameOf(BannerPosition position) {
-    return QCoreApplication::translate("BannerPosition", label(position).data());
-}
+/// In the order of BannerPosition: what a language makes of "in the" goes with the word.
+constexpr std::array spokenNames{
+    QT_TRANSLATE_NOOP("quillon::PositionCard", "Banner in the top"),
+    QT_TRANSLATE_NOOP("quillon::PositionCard", "Banner in the middle"),
+    QT_TRANSLATE_NOOP("quillon::PositionCard", "Banner in the bottom"),
+};
 
 } // namespace
 
 PositionCard::PositionCard(BannerPosition position, QWidget* parent)
     : ContentButton{parent},
       symbol_{new SymbolView{std::string{symbol(position)}, {.size = symbolPoints}}},
-      label_{new IconLabel{nameOf(position)}} {
+      label_{new IconLabel{QString::fromStdString(label(position))}} {
     setCornerRadius(cardCorner);
-    setAccessibleName(tr("Banner in the %1").arg(locale().toLower(nameOf(position))));
+    setAccessibleName(tr(spokenNames.at(static_cast<std::size_t>(position))));
     auto* column = new QVBoxLayout{this};
     column->setContentsMargins(Space::small, Space::small + Space::hair, Space::small,
                                Space::small);

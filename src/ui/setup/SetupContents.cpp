@@ -160,10 +160,8 @@ QWidget* SetupView::buildClosing() {
     sentence->addWidget(
         new IconLabel{tr("Copy anything, then press"), {}, {.ink = Ink::secondary}});
     sentence->addSpacing(Space::hair);
-    for (const std::string_view key : keys(store_.config().shortcut)) {
-        keys_.push_back(new KeyLabel{QString::fromUtf8(key.data(), std::ssize(key))});
-        sentence->addWidget(keys_.back());
-    }
+    keys_ = new KeyRow{KeyKind::label};
+    sentence->addWidget(keys_);
     sentence->addStretch(1);
     column->addLayout(sentence);
     return closing;

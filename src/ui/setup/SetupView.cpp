@@ -60,7 +60,7 @@ QString SetupView::summary(int n) const {
     case 3:
         return tr("Found %1").arg(orElse(config.chatTitle, tr("your group")));
     default:
-        return tr("%1 topics ready").arg(config.topics.size());
+        return tr("%n topics ready", nullptr, static_cast<int>(config.topics.size()));
     }
 }
 
@@ -101,9 +101,7 @@ void SetupView::refreshControls(const SetupProgress& now) {
     createTopics_->setSymbol(now.connected ? "checkmark.circle.fill"
                                            : "plus.rectangle.on.rectangle");
     createTopics_->setEnabled(now.groupFound && !now.connected && !working_);
-    const auto keys = quillon::keys(store_.config().shortcut);
-    for (std::size_t i = 0; i < keys_.size(); ++i)
-        keys_[i]->setLabel(QString::fromUtf8(keys.at(i).data(), std::ssize(keys.at(i))));
+    keys_->setLabels(keyLabels(store_.config().shortcut));
 }
 
 bool SetupView::moving() const {

@@ -20,7 +20,7 @@ namespace quillon {
 
 class Collapsible;
 class IconLabel;
-class KeyLabel;
+class KeyRow;
 class Spinner;
 class StepRow;
 class Store;
@@ -87,7 +87,7 @@ private:
     TextButton* createTopics_ = nullptr;
     TopicChips* chips_ = nullptr;
     std::array<StepRow*, stepCount> rows_{};
-    std::vector<KeyLabel*> keys_;
+    KeyRow* keys_ = nullptr;
     Collapsible* closing_ = nullptr;
     Spinner* spinner_ = nullptr;
     IconLabel* errorLine_ = nullptr;

@@ -104,6 +104,7 @@ private:
     std::optional<bool> selected_;
     std::optional<bool> expanded_;
     bool busy_ = false;
+    bool hadFocus_ = false; // when it became busy
     double radius_ = Space::controlRadius;
 };
 

@@ -38,7 +38,13 @@ void ContentButton::setBusy(bool busy) {
     if (busy_ == busy) return;
     busy_ = busy;
     setBrightWhileDisabled(*this, busy);
+    // The focus comes back, instead of going on to the next control as it does from what is
+    // disabled for good.
+    const bool focused = hasFocus();
+    if (busy && focused) clearFocus();
     setEnabled(!busy);
+    if (!busy && hadFocus_ && !window()->focusWidget()) setFocus(Qt::ActiveWindowFocusReason);
+    hadFocus_ = focused;
     QAccessible::State changed;
     changed.busy = true;
     announce(*this, changed);

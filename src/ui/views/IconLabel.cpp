@@ -56,8 +56,12 @@ void IconLabel::setLook(const LabelLook& look) {
     themeChanged();
 }
 
+QString IconLabel::wholeText() const {
+    return TextBlock::plain(text_);
+}
+
 QString IconLabel::shownText() const {
-    if (look_.overflow == Overflow::wrap) return TextBlock::plain(text_);
+    if (look_.overflow == Overflow::wrap) return wholeText();
     TextBlock text = block();
     layOut(text, width() - indent());
     return text.shownText();
@@ -115,7 +119,7 @@ QAccessible::Role IconLabel::accessibleRole() const {
 }
 
 QString IconLabel::accessibleText() const {
-    return spokenText(TextBlock::plain(text_));
+    return spokenText(wholeText());
 }
 
 void IconLabel::paintEvent(QPaintEvent* /*event*/) {

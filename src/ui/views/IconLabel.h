@@ -38,7 +38,9 @@ public:
     /// An empty name takes the symbol away.
     void setSymbol(const std::string& symbol);
     void setLook(const LabelLook& look);
-    /// What is on the screen: the text without stars and without what did not fit.
+    /// The text without stars.
+    [[nodiscard]] QString wholeText() const;
+    /// What of it is on the screen: without what did not fit.
     [[nodiscard]] QString shownText() const;
 
     [[nodiscard]] QSize sizeHint() const override;

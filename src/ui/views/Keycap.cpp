@@ -162,6 +162,13 @@ QString KeyRow::accessibleText() const {
     return spokenKeys(labels_);
 }
 
+QStringList keyLabels(ShortcutChoice shortcut) {
+    QStringList labels;
+    for (const std::string_view key : keys(shortcut))
+        labels << QString::fromUtf8(key.data(), std::ssize(key));
+    return labels;
+}
+
 QString spokenKeys(const QStringList& labels) {
     QStringList words;
     for (const QString& label : labels)

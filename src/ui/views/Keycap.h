@@ -1,5 +1,6 @@
 #pragma once
 
+#include "state/ShortcutChoice.h"
 #include "ui/views/View.h"
 
 #include <QStringList>
@@ -74,6 +75,9 @@ private:
     KeyKind kind_;
     QStringList labels_;
 };
+
+/// The labels of a shortcut's keys, in their order.
+[[nodiscard]] QStringList keyLabels(ShortcutChoice shortcut);
 
 /// The keys in words, one after the other: "Control Alt V" for ⌃, ⌥ and V.
 [[nodiscard]] QString spokenKeys(const QStringList& labels);

@@ -135,6 +135,9 @@ TextButton* MessageWindow::addButton(const QString& text, Place place,
 
 void MessageWindow::showEvent(QShowEvent* event) {
     Themed::showEvent(event);
+    // Without a primary button, Return presses nothing that the user has not gone to: it may have
+    // been meant for the window before.
+    if (!focusWidget()) setFocus();
     QAccessibleEvent announcement{this, QAccessible::Alert};
     QAccessible::updateAccessibility(&announcement);
 }

@@ -1,8 +1,11 @@
 #include "ui/views/SymbolView.h"
 
+#include <QGuiApplication>
 #include <QPainter>
+#include <QTransform>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -43,10 +46,24 @@ void SymbolView::paintEvent(QPaintEvent* /*event*/) {
                 look_.weight);
 }
 
+namespace {
+
+/// Symbols that point along the line of writing.
+constexpr std::array<std::string_view, 3> directed{"arrow.right.circle.fill", "checklist",
+                                                   "text.alignleft"};
+
+bool isMirrored(const std::string& symbol) {
+    return QGuiApplication::isRightToLeft() &&
+           std::ranges::find(directed, symbol) != directed.end();
+}
+
+} // namespace
+
 void paintSymbol(QPainter& painter, const QRectF& frame, const std::string& symbol, double size,
                  QColor color, SymbolWeight weight) {
-    const QPixmap pixmap =
+    QPixmap pixmap =
         symbolPixmap(symbol, size, color, painter.device()->devicePixelRatioF(), weight);
+    if (isMirrored(symbol)) pixmap = pixmap.transformed(QTransform::fromScale(-1, 1));
     const QTransform toDevice = painter.deviceTransform();
     const QPointF corner{frame.center() - QPointF{size / 2, size / 2}};
     const QPointF whole = toDevice.map(corner).toPoint();

@@ -2,11 +2,11 @@
 
 #include "ui/views/Answer.h"
 #include "ui/views/MessageWindow.h"
+#include "ui/views/ProgressBar.h"
 #include "ui/views/TextViews.h"
 #include "update/windows/ReleaseNotes.h"
 
 #include <QLocale>
-#include <QProgressBar>
 #include <QTimer>
 
 #include <chrono>
@@ -32,14 +32,6 @@ QString shownVersion(const std::string& version) {
 
 QString megabytes(qint64 bytes) {
     return QLocale{}.toString(static_cast<double>(bytes) / 1e6, 'f', 1);
-}
-
-QProgressBar* makeBar(const QString& name) {
-    auto* bar = new QProgressBar;
-    bar->setRange(0, 0);
-    bar->setTextVisible(false);
-    bar->setAccessibleName(name);
-    return bar;
 }
 
 MessageWindow* makeWindow(const QString& title, const QString& text = {}, bool warning = false) {
@@ -105,7 +97,7 @@ QFuture<bool> UpdateWindows::askPermission() {
 
 void UpdateWindows::showChecking(std::stop_source cancel) {
     auto* dialog = makeWindow(tr("Checking for updates…"));
-    dialog->addContent(makeBar(tr("Checking for updates…")));
+    dialog->addContent(new ProgressBar{tr("Checking for updates…")});
     dialog->setEscape(dialog->addButton(tr("Cancel"), Place::secondary,
                                         [cancel]() mutable { cancel.request_stop(); }));
     dismiss();
@@ -151,7 +143,7 @@ void UpdateWindows::showPreparing(std::string version, std::stop_source cancel) 
     preparing_ = shownVersion(version);
     const QString title = tr("Downloading Quillon %1").arg(preparing_);
     auto* dialog = makeWindow(title, tr("Connecting…"));
-    auto* bar = makeBar(title);
+    auto* bar = new ProgressBar{title};
     dialog->addContent(bar);
     dialog->setEscape(dialog->addButton(tr("Cancel"), Place::secondary,
                                         [cancel]() mutable { cancel.request_stop(); }));

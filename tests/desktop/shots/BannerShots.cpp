@@ -1,43 +1,98 @@
-// Shows banners on the real display, to be looked at and taken pictures of. Arguments: a position
-// and then, for each banner, "good", "bad" or "sticky" and its text; one follows the other by a
-// second.
+// Takes pictures of banners over a bit of desktop: with a compositor, which blends them in, and
+// without one.
 #include "desktop/HUD.h"
-#include "platform/linux/QtClock.h"
-#include "platform/linux/X11Compositor.h"
+#include "desktop/HUDPanel.h"
+#include "platform/Compositor.h"
+#include "shots/Shots.h"
+#include "support/Await.h"
+#include "support/FakeClock.h"
 
 #include <QApplication>
-#include <QTimer>
-
-#include <cstdio>
+#include <QPainter>
 
 namespace {
 
 using namespace quillon;
+using namespace quillon::test;
+using namespace std::chrono_literals;
 
-BannerPosition positionNamed(const QString& name) {
-    if (name == QLatin1String{"middle"}) return BannerPosition::middle;
-    return name == QLatin1String{"bottom"} ? BannerPosition::bottom : BannerPosition::top;
+struct Scene {
+    const char* name;
+    const char* text;
+    const char* symbol = "checkmark.circle.fill";
+    bool ok = true;
+    bool blended = true;
+};
+
+constexpr const char* warning = "exclamationmark.triangle";
+
+constexpr Scene scenes[]{
+    {"sent", "Sent to 📝 Notes & text"},
+    {"sending", "Sending…", "arrow.up.circle"},
+    {"items", "Sent 3 items"},
+    {"partly", "2 sent, 1 failed", warning, false},
+    {"empty", "The clipboard is empty", "clipboard", false},
+    {"not-set-up", "Finish setting up Quillon first", "exclamationmark.circle", false},
+    {"error", "Couldn't reach Telegram. Check your internet connection.", warning, false},
+    {"error-long",
+     "holiday in the mountains, second evening, uncut and with all the outtakes that nobody asked "
+     "for.mp4 is over 50 MB (Telegram's limit for bots)",
+     warning, false},
+    {"cut-out", "Sent to 📝 Notes & text", "checkmark.circle.fill", true, false},
+};
+
+struct FixedCompositor : Compositor {
+    explicit FixedCompositor(bool blends) : blends_{blends} {}
+    [[nodiscard]] bool active() const override { return blends_; }
+
+private:
+    bool blends_;
+};
+
+QPixmap overDesktop(const QPixmap& banner) {
+    constexpr int margin = 24;
+    const bool dark = qEnvironmentVariableIntValue("DARK") != 0;
+    const double ratio = banner.devicePixelRatio();
+    const QSizeF size = banner.deviceIndependentSize() + QSizeF{2 * margin, 2 * margin};
+    QPixmap picture{(size * ratio).toSize()};
+    picture.setDevicePixelRatio(ratio);
+    QPainter painter{&picture};
+    QLinearGradient sky{0, 0, size.width(), size.height()};
+    sky.setColorAt(0, dark ? QColor{28, 42, 66} : QColor{201, 222, 238});
+    sky.setColorAt(1, dark ? QColor{56, 40, 72} : QColor{243, 226, 214});
+    painter.fillRect(QRectF{{}, size}, sky);
+    painter.drawPixmap(margin, margin, banner);
+    return picture;
+}
+
+QPixmap take(const Scene& scene) {
+    FakeClock clock;
+    const FixedCompositor compositor{scene.blended};
+    HUD hud{clock, compositor, [] { return BannerPosition::top; }};
+    hud.show(shown(scene.text).toStdString(), scene.symbol, scene.ok, false);
+    clock.advance(200ms);
+    QWidget& window = onlyWindow();
+    const QPixmap banner = pictureOf(window);
+    if (scene.blended) return overDesktop(banner);
+    QPixmap cutOut{banner.size()};
+    cutOut.setDevicePixelRatio(banner.devicePixelRatio());
+    cutOut.fill(Qt::transparent);
+    QPainter painter{&cutOut};
+    painter.setClipRegion(window.mask());
+    painter.drawPixmap(0, 0, banner);
+    painter.end();
+    return overDesktop(cutOut);
+}
+
+std::vector<Shot> shots() {
+    std::vector<Shot> shots;
+    for (const Scene& scene : scenes)
+        shots.push_back({scene.name, [&scene] { return take(scene); }});
+    return shots;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const QApplication application{argc, argv};
-    const QStringList arguments = QApplication::arguments();
-    if (arguments.size() < 4 || arguments.size() % 2 != 0) {
-        std::fputs("usage: banner_shots top|middle|bottom (good|bad|sticky TEXT)...\n", stderr);
-        return 2;
-    }
-    QtClock clock;
-    const X11Compositor compositor;
-    HUD hud{clock, compositor, [&] { return positionNamed(arguments[1]); }};
-    for (qsizetype i = 2; i < arguments.size(); i += 2) {
-        QTimer::singleShot(std::chrono::seconds{i / 2 - 1}, &application, [&, i] {
-            const bool good = arguments[i] != QLatin1String{"bad"};
-            const bool sticky = arguments[i] == QLatin1String{"sticky"};
-            hud.show(arguments[i + 1].toStdString(),
-                     good ? "checkmark.circle.fill" : "exclamationmark.triangle", good, sticky);
-        });
-    }
-    return QApplication::exec();
+    return takeShots(argc, argv, shots(), {});
 }

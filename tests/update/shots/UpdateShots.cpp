@@ -1,71 +1,86 @@
-// Shows one of the update windows on the real display, to be looked at and taken pictures of.
-// Arguments: the window's name and, where it takes one, a text. DARK=1 gives dark colours.
+// Takes pictures of the update windows.
+#include "shots/Shots.h"
+#include "update/Errors.h"
 #include "update/windows/UpdateWindows.h"
 
 #include <QApplication>
-#include <QPalette>
+#include <QWidget>
 
-#include <cstdio>
-#include <functional>
+#include <algorithm>
 #include <map>
-#include <string>
 
 namespace {
 
 using namespace quillon;
+using namespace quillon::test;
 
-UpdateError failure(const std::string& text) {
-    return {.domain = std::string{SUSparkleErrorDomain}, .code = 1, .description = text};
-}
+constexpr const char* notes =
+    "<h2>What is new</h2><ul><li>Files of up to 50 MB</li><li>A banner that can stand at the top, "
+    "in the middle or at the bottom</li><li>See <a href=\"https://example.org\">the whole "
+    "list</a></li></ul>";
+constexpr const char* longError =
+    "/home/anna/Applications/Quillon.app/Contents/Resources/a-very-long-name-without-any-space-in-"
+    "it.txt could not be written: the file system said no, and then no again.";
 
 UpdateProgress downloaded(qint64 received) {
     return {.stage = UpdateProgress::Stage::downloading, .received = received, .total = 12'400'000};
 }
 
-using Show = std::function<void(UpdateWindows&, const std::string& text)>;
+using Show = std::function<void(UpdateWindows&)>;
 
 const std::map<std::string, Show> shows{
-    {"permission", [](auto& windows, auto&) { std::ignore = windows.askPermission(); }},
-    {"checking", [](auto& windows, auto&) { windows.showChecking(std::stop_source{}); }},
-    {"current", [](auto& windows, auto&) { windows.showUpToDate("1.0"); }},
+    {"permission", [](UpdateWindows& windows) { std::ignore = windows.askPermission(); }},
+    {"checking", [](UpdateWindows& windows) { windows.showChecking(std::stop_source{}); }},
+    {"current", [](UpdateWindows& windows) { windows.showUpToDate("1.0"); }},
     {"update",
-     [](auto& windows, auto& text) {
-         std::ignore = windows.showUpdate({"1.0", "1.1", text});
+     [](UpdateWindows& windows) {
+         std::ignore = windows.showUpdate({"1.0", "1.1", notes});
      }},
     {"gently",
-     [](auto& windows, auto& text) {
-         std::ignore = windows.showUpdate({"1.0", "1.1", text, true});
+     [](UpdateWindows& windows) {
+         std::ignore = windows.showUpdate({"1.0", "1.1", notes, true});
      }},
-    {"connecting", [](auto& windows, auto&) { windows.showPreparing("1.1", std::stop_source{}); }},
+    {"connecting",
+     [](UpdateWindows& windows) { windows.showPreparing("1.1", std::stop_source{}); }},
     {"progress",
-     [](auto& windows, auto&) {
+     [](UpdateWindows& windows) {
          windows.showPreparing("1.1", std::stop_source{});
          windows.showProgress(downloaded(3'210'000));
      }},
     {"unpacking",
-     [](auto& windows, auto&) {
+     [](UpdateWindows& windows) {
          windows.showPreparing("1.1", std::stop_source{});
          windows.showProgress({.stage = UpdateProgress::Stage::unpacking});
      }},
-    {"ready", [](auto& windows, auto&) { std::ignore = windows.showReady("1.1"); }},
-    {"installed", [](auto& windows, auto&) { windows.showInstalled("1.1"); }},
-    {"error", [](auto& windows, auto& text) { windows.showError(failure(text)); }},
+    {"ready", [](UpdateWindows& windows) { std::ignore = windows.showReady("1.1"); }},
+    {"installed", [](UpdateWindows& windows) { windows.showInstalled("1.1"); }},
+    {"error",
+     [](UpdateWindows& windows) { windows.showError(updateError(updateFeedUnreachable)); }},
+    {"error-long",
+     [](UpdateWindows& windows) {
+         UpdateError error = updateError(updateCopyFailed);
+         error.description = longError;
+         windows.showError(error);
+     }},
 };
+
+QPixmap take(const Show& show) {
+    UpdateWindows windows;
+    show(windows);
+    until([] { return std::ranges::any_of(QApplication::topLevelWidgets(), &QWidget::isVisible); });
+    return pictureOf(onlyWindow());
+}
+
+std::vector<Shot> shots() {
+    std::vector<Shot> all;
+    for (const auto& [name, show] : shows)
+        all.push_back({name, [&show] { return take(show); }});
+    return all;
+}
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const QApplication application{argc, argv};
-    if (qEnvironmentVariableIsSet("DARK")) QApplication::setPalette(QColor{45, 45, 48});
-    const QStringList arguments = QApplication::arguments();
-    const auto show = shows.find(arguments.value(1).toStdString());
-    if (show == shows.end()) {
-        std::fputs("usage: update_shots WINDOW [TEXT]\n", stderr);
-        for (const auto& [name, action] : shows)
-            std::fprintf(stderr, "  %s\n", name.c_str());
-        return 2;
-    }
-    UpdateWindows windows;
-    show->second(windows, arguments.value(2).toStdString());
-    return QApplication::exec();
+    return takeShots(argc, argv, shots(),
+                     {QString::fromLatin1(longError), QStringLiteral("Quillon")});
 }

@@ -1,18 +1,18 @@
-// Renders the panel in each of its states into the folder given as argument, one PNG for each.
-// DARK=1 gives dark colours; QT_SCALE_FACTOR and QT_FONT_DPI do what they do for every program.
+// Takes pictures of the panel in each of its states.
 #include "maintenance/Updater.h"
 #include "platform/Compositor.h"
-#include "support/Await.h"
-#include "support/World.h"
+#include "shots/Shots.h"
+#include "support/ConnectedWorld.h"
+#include "support/FakeFramework.h"
+#include "support/Faults.h"
+#include "ui/panel/Age.h"
+#include "ui/panel/PanelFooter.h"
 #include "ui/panel/PanelView.h"
 #include "ui/panel/PanelWindow.h"
+#include "ui/panel/SendButton.h"
 
-#include <QApplication>
-#include <QDir>
-#include <QPalette>
+#include <QTest>
 
-#include <cstdio>
-#include <functional>
 #include <utility>
 
 namespace {
@@ -26,14 +26,6 @@ public:
     [[nodiscard]] bool active() const override { return false; }
 };
 
-struct Framework : UpdateFramework {
-    std::optional<UpdateError> start(UpdaterDelegate& /*told*/) override { return std::nullopt; }
-    void observeCanCheck(std::function<void(bool)> observer) override { observer(true); }
-    void checkForUpdates() override {}
-    [[nodiscard]] bool automaticallyChecksForUpdates() const override { return false; }
-    void setAutomaticallyChecksForUpdates(bool /*automatically*/) override {}
-};
-
 Sent sent(std::string symbol, std::string title, std::string topic, std::chrono::seconds ago) {
     return {QUuid::createUuid(), std::move(symbol),       std::move(title),
             std::move(topic),    FakeClock{}.now() - ago, {}};
@@ -45,18 +37,32 @@ Sent failed(Sent entry, std::string error) {
 }
 
 const std::vector<Sent> history{
-    sent("text.alignleft", "“The tram leaves at 18:42 from platform 3”", "📝 Notes", 12s),
+    sent("text.alignleft", "“The tram leaves at 18:42 from platform 3”", "📝 Notes & text", 12s),
     sent("photo", "Image · 2560×1440", "📸 Images", 4min),
-    failed(sent("film", "holiday in the mountains, second evening, uncut.mp4", "🎬 Videos", 1h),
-           "The file is 3.1 GB. A Telegram bot can send files up to 50 MB."),
-    sent("doc", "Quarterly report with all appendices and the corrections of May.pdf", "📄 Files",
-         26h),
-    sent("text.alignleft", "“https://example.com/a/very/long/address?with=parameters”", "📝 Notes",
-         24h * 9),
-    sent("doc", "never shown.zip", "📄 Files", 24h * 10),
+    failed(
+        sent("film.fill", "holiday in the mountains, second evening.mp4", "🎬 Videos", 1h),
+        "holiday in the mountains, second evening.mp4 is over 50 MB (Telegram's limit for bots)"),
+    sent("doc.fill", "Quarterly report with all appendices and the corrections of May.pdf",
+         "📎 Files", 26h),
+    sent("text.alignleft", "“https://example.com/a/very/long/address?with=parameters”",
+         "📝 Notes & text", 24h * 9),
+    sent("doc.fill", "sixth.zip", "📎 Files", 24h * 10),
+    sent("doc.fill", "seventh.zip", "📎 Files", 24h * 11),
 };
 
-struct Shot {
+constexpr const char* longGroup =
+    "The group of everybody who ever wanted to send something to a phone";
+constexpr const char* longText = "A sentence that is by far too long for the line it stands in";
+
+const std::vector<Sent> longHistory{
+    failed(sent("text.alignleft", "“" + std::string{longText} + "”", longGroup, 12s),
+           "Bad Request: the message could not be sent, for reasons that take more than two lines "
+           "of this narrow panel to be told"),
+    sent("doc.fill", "Eine-sehr-lange-Datei-mit-einem-Namen-ohne-Ende-Fassung-3.pdf", longGroup,
+         24h * 400),
+};
+
+struct Scene {
     const char* name;
     bool ready = true;
     std::vector<Sent> history{};
@@ -64,76 +70,138 @@ struct Shot {
     const char* group = "Anna & Phone";
     bool updates = true;
     bool taken = false;
+    void (*act)(BotWorld&, PanelView&) = nullptr;
 };
 
-const std::vector<Shot> shots{
-    {.name = "new", .ready = false, .group = "", .updates = false},
-    {.name = "new-taken", .ready = false, .group = "", .taken = true},
-    {.name = "ready", .history = history, .clipboard = {{"UTF8_STRING", "Buy milk and bread"}}},
-    {.name = "no-history", .clipboard = {}, .updates = false},
+/// As if the pointer were on it.
+void hover(QWidget& widget) {
+    widget.setAttribute(Qt::WA_UnderMouse);
+    widget.update();
+}
+
+QAbstractButton& sendButton(PanelView& panel) {
+    return *panel.findChild<SendButton*>();
+}
+
+/// Telegram makes it wait, on a clock that stands still.
+void sendForever(BotWorld& world, PanelView& panel) {
+    world.sandbox.failNext(flood(1));
+    sendButton(panel).click();
+    until([&] { return world.store->busy(); });
+    const auto before = world.clock.pending();
+    until([&] { return world.clock.pending() > before; });
+}
+
+const FakePasteboard::Content shortText{{"UTF8_STRING", "Buy milk and bread"}};
+
+const std::vector<Scene> scenes{
+    {.name = "not-set-up", .ready = false, .group = "", .updates = false},
+    {.name = "not-set-up-taken", .ready = false, .group = "", .taken = true},
+    {.name = "ready", .history = {history.begin(), history.begin() + 2}, .clipboard = shortText},
+    {.name = "busy",
+     .history = {history.begin(), history.begin() + 2},
+     .clipboard = shortText,
+     .act = sendForever},
     {.name = "taken",
-     .history = {history[0], history[1]},
+     .history = {history.begin(), history.begin() + 2},
      .clipboard = {{"UTF8_STRING", "https://example.com"}},
      .taken = true},
+    {.name = "no-history", .clipboard = {}, .updates = false},
+    {.name = "seven", .history = history, .clipboard = shortText},
     {.name = "long",
-     .history = history,
-     .clipboard = {{"UTF8_STRING", "A sentence that is by far too long for the line it stands in"}},
-     .group = "The group of everybody who ever wanted to send something to a phone"},
+     .history = longHistory,
+     .clipboard = {{"UTF8_STRING", longText}},
+     .group = longGroup},
+    {.name = "focus",
+     .clipboard = shortText,
+     .act =
+         [](BotWorld&, PanelView& panel) {
+             sendButton(panel).clearFocus(); // it had it, without a ring
+             sendButton(panel).setFocus(Qt::TabFocusReason);
+         }},
+    {.name = "hover",
+     .clipboard = shortText,
+     .act =
+         [](BotWorld&, PanelView& panel) {
+             hover(sendButton(panel));
+             hover(*panel.findChild<PanelFooter*>()->findChild<QAbstractButton*>());
+         }},
+    {.name = "pressed",
+     .clipboard = shortText,
+     .act = [](BotWorld&, PanelView& panel) { sendButton(panel).setDown(true); }},
 };
 
-void seed(World& world, const Shot& shot) {
+void seed(World& world, const Scene& scene) {
     world.platform.system.locale = "en_US";
-    world.setContent("history.json", encodeHistory(shot.history));
-    world.pasteboard.copy(shot.clipboard);
-    if (shot.taken) world.hotKeys.takenByOthers = {PhysicalKey::v, PhysicalKey::p, PhysicalKey::c};
-    if (shot.ready) {
+    world.setContent("history.json", encodeHistory(scene.history));
+    world.pasteboard.copy(scene.clipboard);
+    if (scene.taken) world.hotKeys.takenByOthers = {PhysicalKey::v, PhysicalKey::p, PhysicalKey::c};
+    if (scene.ready) {
         Config config;
         config.chatId = -100'1;
-        config.chatTitle = shot.group;
+        config.chatTitle = scene.group;
         for (Topic& topic : config.topics)
             topic.threadId = 7;
         world.setContent("config.json", encodeConfig(config));
         const KeychainItem& item = botTokenItem();
-        world.secrets.values[{item.service, item.account}] = "1:x";
+        world.secrets.values[{item.service, item.account}] = BotWorld::token;
     }
-    if (shot.updates) world.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
+    if (scene.updates) world.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
     world.restart();
     world.store->registerShortcut();
 }
 
-void take(const Shot& shot, const QDir& folder) {
-    World world;
-    seed(world, shot);
-    Updater updater{world.platform,
-                    *world.analytics,
-                    {.makeFramework = [] { return std::make_unique<Framework>(); },
-                     .shouldAskToMove = {},
-                     .askToMove = {},
-                     .log = [](const std::string&) {}}};
+QPixmap take(const Scene& scene) {
+    BotWorld world;
+    seed(world, scene);
+    FakeFramework* framework = nullptr;
+    Updater updater{world.platform, *world.analytics, fakeHooks(framework)};
     updater.start();
     NoCompositor compositor;
+    PanelView* panel = nullptr;
     PanelWindow window{compositor, world.workspace, [&] {
-                           return std::make_unique<PanelView>(world.platform, *world.store, updater,
-                                                              PanelActions{});
+                           auto made = std::make_unique<PanelView>(world.platform, *world.store,
+                                                                   updater, PanelActions{});
+                           panel = made.get();
+                           return made;
                        }};
     window.open({});
-    waitUntil([] { return false; }, 200ms);
+    until([&] { return world.store->tokenSaved() || !scene.ready; });
+    waitUntil([] { return false; }, 50ms);
     window.show(); // another window of the display may have taken the focus
-    waitUntil([] { return false; }, 100ms);
-    window.grab().save(folder.filePath(QString::fromLatin1(shot.name) + QStringLiteral(".png")));
+    if (scene.act) scene.act(world, *panel);
+    return pictureOf(window);
+}
+
+std::vector<Shot> shots() {
+    std::vector<Shot> shots;
+    for (const Scene& scene : scenes)
+        shots.push_back({scene.name, [&scene] { return take(scene); }});
+    return shots;
+}
+
+/// What is shown of the world outside: titles, topics, groups and ages.
+QStringList names() {
+    QStringList names{QStringLiteral("Quillon"),
+                      QStringLiteral("Anna & Phone"),
+                      QString::fromUtf8(longGroup),
+                      QString::fromUtf8(longText),
+                      QStringLiteral("Buy milk and bread"),
+                      QStringLiteral("https://example.com"),
+                      QStringLiteral("V")};
+    for (const auto& entries : {history, longHistory}) {
+        for (const Sent& entry : entries) {
+            names << QString::fromStdString(entry.title) << QString::fromStdString(entry.topic)
+                  << QString::fromStdString(entry.error.value_or(""))
+                  << age(entry.date, FakeClock{}.now(), "en_US");
+        }
+    }
+    names.removeAll(QString{});
+    return names;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const QApplication application{argc, argv};
-    if (qEnvironmentVariableIsSet("DARK")) QApplication::setPalette(QColor{45, 45, 48});
-    const QStringList arguments = QApplication::arguments();
-    if (arguments.size() != 2 || !QDir{}.mkpath(arguments[1])) {
-        std::fputs("usage: panel_shots FOLDER\n", stderr);
-        return 2;
-    }
-    for (const Shot& shot : shots)
-        take(shot, QDir{arguments[1]});
-    return 0;
+    return takeShots(argc, argv, shots(), names());
 }

@@ -1,20 +1,15 @@
-// Takes pictures of the settings window in every condition. Arguments: the folder to put them in
-// and, if it shall not be all of them, the names of some. DARK=1 gives dark colours,
-// QT_SCALE_FACTOR larger pixels, and TEXT=1.5 larger text.
+// Takes pictures of the settings window in every condition.
 #include "maintenance/Updater.h"
+#include "shots/Shots.h"
 #include "support/ConnectedWorld.h"
 #include "support/Controls.h"
 #include "support/FakeFramework.h"
 #include "support/Faults.h"
 #include "ui/settings/SettingsView.h"
 #include "ui/settings/UninstallSheet.h"
-#include "ui/views/Motion.h"
 
-#include <QApplication>
 #include <QLineEdit>
-#include <QStyle>
 
-#include <cstdio>
 #include <map>
 
 namespace {
@@ -48,12 +43,16 @@ struct Stage {
         controls.emplace(*view);
     }
 
-    void click(const char* name) const { controls->click(QString::fromUtf8(name)); }
+    void click(const char* name) const { controls->click(shown(name)); }
+    void open(int step, const char* title) const {
+        controls->click(shown("Step %1: %2").arg(step).arg(shown(title)));
+    }
     void type(const char* field, const char* text) const {
-        auto& edit = controls->get<QLineEdit>(QString::fromUtf8(field));
+        auto& edit = controls->get<QLineEdit>(shown(field));
         edit.setFocus();
         edit.selectAll();
         QTest::keyClicks(&edit, QString::fromUtf8(text));
+        QCoreApplication::processEvents(); // for what the text enables
     }
 
     BotWorld world;
@@ -89,10 +88,11 @@ Config longNames() {
     return config;
 }
 
-using Shot = std::function<void(Stage&)>;
+using Act = std::function<void(Stage&)>;
+
 struct Scene {
     std::function<std::unique_ptr<Stage>()> make;
-    Shot act = [](Stage&) {};
+    Act act = [](Stage&) {};
 };
 
 std::function<std::unique_ptr<Stage>()> on(const char* tab, const Config& config,
@@ -111,15 +111,17 @@ const std::map<std::string, Scene> scenes{
     {"setup-1-opened",
      {on("setup", {}, false),
       [](Stage& stage) {
-          stage.click("Step 3: Make your group");
-          stage.click("Step 4: Create the topics");
+          stage.open(3, "Make your group");
+          stage.open(4, "Create the topics");
       }}},
     {"setup-1-working",
      {on("setup", {}, false),
       [](Stage& stage) {
-          stage.world.sandbox.failNext(fault(sandbox::FaultKind::hang));
+          // Telegram makes it wait, on a clock that stands still.
+          stage.world.sandbox.failNext(flood(1));
           stage.type("Bot token", BotWorld::token);
           stage.click("Connect");
+          until([&] { return stage.world.clock.pending() > 0; });
       }}},
     {"setup-3", {on("setup", onlyBot())}},
     {"setup-4", {on("setup", found())}},
@@ -127,8 +129,8 @@ const std::map<std::string, Scene> scenes{
     {"setup-5-opened",
      {on("setup", longNames()),
       [](Stage& stage) {
-          stage.click("Step 2: Paste the token");
-          stage.click("Step 4: Create the topics");
+          stage.open(2, "Paste the token");
+          stage.open(4, "Create the topics");
       }}},
     {"setup-5-long", {on("setup", longNames())}},
     {"topics-unready", {on("topics", {}, false)}},
@@ -142,8 +144,10 @@ const std::map<std::string, Scene> scenes{
           stage.world.sandbox.failNext(
               refusal("editForumTopic", 400, "Bad Request: not enough rights to manage topics"));
           stage.click("Save names to Telegram");
-          waitUntil([&] { return !stage.world.methods().empty(); });
-          waitUntil([] { return false; }, std::chrono::milliseconds{500});
+          until([&] {
+              return stage.controls->shows(
+                  QStringLiteral("Bad Request: not enough rights to manage topics"));
+          });
       }}},
     {"general", {on("general", connected()), [](Stage& stage) { stage.updater->start(); }}},
     {"general-long", {on("general", longNames())}},
@@ -169,43 +173,47 @@ const std::map<std::string, Scene> scenes{
       }}},
 };
 
-void take(const std::string& name, const QString& folder) {
-    const Scene& scene = scenes.at(name);
+QPixmap take(const Scene& scene) {
     const std::unique_ptr<Stage> stage = scene.make();
     scene.act(*stage);
     waitUntil([] { return false; }, std::chrono::milliseconds{50});
     SettingsView& view = *stage->view;
     view.resize(SettingsView::fittingWidth(), std::max(200, view.fittingHeight()));
-    waitUntil([] { return false; }, std::chrono::milliseconds{50});
     QWidget* sheet = view.findChild<UninstallSheet*>();
-    QWidget& shown = sheet ? *sheet : view;
-    shown.grab().save(folder + QLatin1Char{'/'} + QString::fromStdString(name) +
-                      QStringLiteral(".png"));
-    std::printf("%s %dx%d\n", name.c_str(), shown.width(), shown.height());
+    return pictureOf(sheet ? *sheet : static_cast<QWidget&>(view));
+}
+
+std::vector<Shot> shots() {
+    std::vector<Shot> shots;
+    for (const auto& [name, scene] : scenes)
+        shots.push_back({name, [&scene] { return take(scene); }});
+    return shots;
+}
+
+/// What Telegram and the user call things.
+QStringList names() {
+    QStringList names{QString::fromUtf8(longName),
+                      QStringLiteral("the_bot_with_the_longest_name_bot"),
+                      QStringLiteral("quillon_demo_bot"),
+                      QStringLiteral("My Outbox"),
+                      QStringLiteral("Papers"),
+                      QStringLiteral("nonsense"),
+                      QString::fromUtf8(BotWorld::token),
+                      QStringLiteral("Bad Request: not enough rights to manage topics"),
+                      QStringLiteral("Quillon"),
+                      QStringLiteral("⌃⌥V"),
+                      QStringLiteral("⌃⌥P"),
+                      QStringLiteral("⌃⌥C"),
+                      QStringLiteral("V"),
+                      QStringLiteral("P"),
+                      QStringLiteral("C")};
+    for (const Topic& topic : Topic::defaults())
+        names << QString::fromStdString(topic.name);
+    return names;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const QApplication application{argc, argv};
-    setAnimationsEnabled(false);
-    if (qEnvironmentVariableIsSet("DARK")) {
-        QPalette palette{QColor{45, 45, 48}};
-        palette.setColor(QPalette::Base, QColor{30, 30, 32});
-        QApplication::setPalette(palette);
-    }
-    QFont font = QApplication::font();
-    const double text = qEnvironmentVariable("TEXT", QStringLiteral("1")).toDouble();
-    font.setPointSizeF(font.pointSizeF() * text);
-    QApplication::setFont(font);
-    const QStringList arguments = QApplication::arguments();
-    if (arguments.size() < 2) {
-        std::fputs("usage: settings_shots FOLDER [NAME...]\n", stderr);
-        return 2;
-    }
-    for (const auto& [name, scene] : scenes) {
-        if (arguments.size() == 2 || arguments.contains(QString::fromStdString(name)))
-            take(name, arguments[1]);
-    }
-    return 0;
+    return takeShots(argc, argv, shots(), names());
 }

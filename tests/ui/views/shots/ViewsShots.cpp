@@ -1,8 +1,7 @@
-// Shows every view in one window, to be looked at and taken pictures of. Arguments: "light" or
-// "dark", then optionally the size of the font in percent and "rtl". Pressing D changes between
-// light and dark, as a desktop does while programs run; + and - change the font.
+// Takes a picture of every view, in the states that a window never has all at once.
 #include "artwork/Brand.h"
 #include "artwork/Palette.h"
+#include "shots/Shots.h"
 #include "state/Topic.h"
 #include "ui/views/BrandViews.h"
 #include "ui/views/Buttons.h"
@@ -16,11 +15,9 @@
 #include "ui/views/SymbolView.h"
 #include "ui/views/Tile.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <initializer_list>
@@ -31,21 +28,6 @@ using namespace quillon;
 
 QString operator""_q(const char* text, std::size_t size) {
     return QString::fromUtf8(text, static_cast<qsizetype>(size));
-}
-
-QPalette paletteOf(bool dark) {
-    if (!dark) return QPalette{QColor{239, 240, 241}};
-    QPalette palette{QColor{42, 46, 50}};
-    palette.setColor(QPalette::Window, QColor{36, 38, 42});
-    palette.setColor(QPalette::Base, QColor{27, 29, 32});
-    return palette;
-}
-
-void setFontPercent(int percent) {
-    static const QFont normal = QApplication::font();
-    QFont font = normal;
-    font.setPointSizeF(normal.pointSizeF() * percent / 100);
-    QApplication::setFont(font);
 }
 
 /// The send button, as a panel would make it.
@@ -66,6 +48,17 @@ QHBoxLayout* row(std::initializer_list<QWidget*> views, int spacing = Space::sma
         row->addWidget(view);
     row->addStretch(1);
     return row;
+}
+
+/// As if the pointer were on it.
+QWidget* hovered(QAbstractButton* button) {
+    button->setAttribute(Qt::WA_UnderMouse);
+    return button;
+}
+
+QWidget* pressed(QAbstractButton* button) {
+    button->setDown(true);
+    return button;
 }
 
 QWidget* disabled(QWidget* view) {
@@ -174,6 +167,10 @@ Card* buttonsCard() {
         {button("Settings…", "gearshape.fill", borderless), button("Quit", "power", borderless),
          button("Plain", "trash", plain), button("", "chevron.down", bordered),
          new TextButton{"Save names to Telegram"_q, telegramSymbol, {.symbolInk = telegramBlue}}}));
+    for (const ButtonKind kind : {prominent, bordered, borderless}) {
+        card->body()->addLayout(row(
+            {hovered(button("Hovered", "link", kind)), pressed(button("Pressed", "link", kind))}));
+    }
     card->body()->addWidget(sendButton());
     auto* busy = sendButton();
     busy->setBusy(true);
@@ -181,31 +178,8 @@ Card* buttonsCard() {
     return card;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    const QApplication application{argc, argv};
-    const QStringList arguments = QApplication::arguments();
-    bool dark = arguments.value(1) == "dark"_q;
-    int percent = arguments.size() > 2 ? arguments[2].toInt() : 100;
-    QApplication::setStyle("Fusion"_q);
-    QApplication::setPalette(paletteOf(dark));
-    setFontPercent(percent);
-    if (arguments.contains("rtl"_q)) QApplication::setLayoutDirection(Qt::RightToLeft);
-
-    QWidget window;
-    window.setWindowTitle("Views"_q);
-    window.setWindowIcon(MenuBarIcon::image(dark ? Qt::white : Qt::black));
-    auto* columns = new QHBoxLayout{&window};
-    columns->setContentsMargins(Space::large, Space::large, Space::large, Space::large);
-    columns->setSpacing(Space::medium);
-    auto* left = new QVBoxLayout;
-    left->addWidget(textCard());
-    left->addStretch(1);
-    auto* right = new QVBoxLayout;
-    right->setSpacing(Space::medium);
-    right->addWidget(rowsCard());
-    right->addWidget(buttonsCard());
+QHBoxLayout* menuBarIcons() {
+    const bool dark = qEnvironmentVariableIntValue("DARK") != 0;
     auto* icons = new QHBoxLayout;
     for (const int side : {16, 22, 24, 32, 48}) {
         auto* icon = new QLabel;
@@ -213,19 +187,33 @@ int main(int argc, char** argv) {
         icons->addWidget(icon);
     }
     icons->addStretch(1);
-    right->addLayout(icons);
+    return icons;
+}
+
+QPixmap gallery() {
+    QWidget window;
+    auto* columns = new QHBoxLayout{&window};
+    columns->setContentsMargins(Space::large, Space::large, Space::large, Space::large);
+    columns->setSpacing(Space::medium);
+    auto* left = new QVBoxLayout;
+    left->setSpacing(Space::medium);
+    left->addWidget(textCard());
+    left->addLayout(menuBarIcons());
+    left->addStretch(1);
+    auto* right = new QVBoxLayout;
+    right->setSpacing(Space::medium);
+    right->addWidget(rowsCard());
+    right->addWidget(buttonsCard());
     right->addStretch(1);
     columns->addLayout(left, 1);
     columns->addLayout(right, 1);
-
-    const auto key = [&](const char* sequence, auto act) {
-        auto* shortcut = new QShortcut{QKeySequence{QString::fromLatin1(sequence)}, &window};
-        QObject::connect(shortcut, &QShortcut::activated, &window, act);
-    };
-    key("D", [&] { QApplication::setPalette(paletteOf(dark = !dark)); });
-    key("+", [&] { setFontPercent(percent += 25); });
-    key("-", [&] { setFontPercent(percent -= 25); });
     window.resize(static_cast<int>(Theme::length(820)), 10);
     window.show();
-    return QApplication::exec();
+    return test::pictureOf(window);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    return test::takeShots(argc, argv, {{"gallery", gallery}}, {});
 }

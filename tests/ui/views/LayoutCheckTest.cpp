@@ -1,0 +1,58 @@
+#include "shots/LayoutCheck.h"
+#include "shots/Pseudo.h"
+#include "ui/views/Buttons.h"
+#include "ui/views/IconLabel.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+
+namespace {
+
+TEST(Pseudo, KeepsWhatACatalogueHasToKeep) {
+    struct Case {
+        const char* text;
+        const char* result;
+    };
+    const Case cases[]{
+        {"%1 of %n", "%1 óóƒ %n"},
+        {"&Play", "&Þļááýý"},
+        {"open **@Bot**", "óóþééñ **@Ɓóóţ**"},
+        {"<a href=\"x\">list</a> ⌃⌥", "<a href=\"x\">ļííšţé</a> ⌃⌥"},
+        {"…", "…"},
+    };
+    for (const Case& each : cases) {
+        const QString made = pseudo(QString::fromUtf8(each.text));
+        EXPECT_EQ(made.toStdString(), QString::fromUtf8(each.result).toStdString());
+        EXPECT_FALSE(isUntranslated(made)) << each.text;
+    }
+}
+
+/// What is found in a window with a label and a button, `width` pixels each, the button `apart`
+/// pixels further down.
+QStringList faults(const char* label, int width, int apart) {
+    QWidget window;
+    window.resize(400, 200);
+    auto* words =
+        new IconLabel{QString::fromUtf8(label), {}, {.overflow = Overflow::elideEnd}, &window};
+    words->setGeometry(0, 0, width, 30);
+    auto* button = new TextButton{QStringLiteral("áéíóú áéíóú"), {}, {}, &window};
+    button->setGeometry(0, apart, width, 40);
+    window.show();
+    return textFaults(window, {QStringLiteral("Anna")});
+}
+
+TEST(LayoutCheck, FindsEachFaultAlone) {
+    EXPECT_EQ(faults("áéí óú", 300, 40).size(), 0);
+    EXPECT_EQ(faults("áéí Anna óú", 300, 40).size(), 0);
+    EXPECT_TRUE(faults("left", 300, 40).join(u' ').contains(u"not translated"));
+    EXPECT_TRUE(faults("áéí óú", 300, 20).join(u' ').contains(u"lies over"));
+    EXPECT_TRUE(faults("áéí óú", 300, 190).join(u' ').contains(u"sticks out"));
+    EXPECT_EQ(faults("áéíóú áéíóú áéíóú", 60, 40).filter(QStringLiteral("cut off")).size(), 2);
+    // A name may be of any length.
+    EXPECT_EQ(faults("Anna áéíóú áéíóú", 60, 40).filter(QStringLiteral("cut off")).size(), 1);
+}
+
+} // namespace
+
+} // namespace quillon::test
