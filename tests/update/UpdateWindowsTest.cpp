@@ -108,6 +108,7 @@ TEST(UpdateWindows, FollowsADownloadThatOnlyItsUserCancels) {
     UpdateWindows windows;
     const std::stop_source cancel;
     windows.showPreparing("1.1", cancel);
+    pressReturn(); // meant for the window before
     // More bytes than an int counts.
     windows.showProgress({UpdateProgress::Stage::downloading, 3'000'000'000, 6'000'000'000});
     EXPECT_THAT(texts(shown()), HasSubstr("3,000.0 of 6,000.0 MB"));

@@ -121,7 +121,6 @@ TextButton* MessageWindow::addButton(const QString& text, Place place,
     case Place::primary:
         buttons_->addWidget(button);
         button->setDefault(true);
-        button->setFocus();
         break;
     case Place::secondary:
         buttons_->insertWidget(apart_ + 1, button);
@@ -135,8 +134,8 @@ TextButton* MessageWindow::addButton(const QString& text, Place place,
 
 void MessageWindow::showEvent(QShowEvent* event) {
     Themed::showEvent(event);
-    // Without a primary button, Return presses nothing that the user has not gone to: it may have
-    // been meant for the window before.
+    // Return presses the primary button. Where there is none, it presses nothing that the user has
+    // not gone to: it may have been meant for the window before.
     if (!focusWidget()) setFocus();
     QAccessibleEvent announcement{this, QAccessible::Alert};
     QAccessible::updateAccessibility(&announcement);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/views/Themed.h"
+#include "ui/views/View.h"
 
 #include <QTextBrowser>
 
@@ -16,6 +16,8 @@ public:
 
     /// Structured text, whose links have the theme's colour.
     void setStructuredText(const QString& html);
+    /// How high it would be without scrolling, in pixels.
+    [[nodiscard]] int heightFor(double width) const;
 
 protected:
     void themeChanged() override;
@@ -26,8 +28,19 @@ private:
     QString html_;
 };
 
-/// The sentences of a message below its title, without a frame, and as high as they need up to a limit, beyond
-/// which they scroll.
+/// The ground that a long text stands on.
+class TextGround : public View {
+    Q_OBJECT
+
+public:
+    explicit TextGround(ReadOnlyText* text);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// The sentences of a message below its title, as high as they need up to a limit, beyond which
+/// they scroll.
 class MessageText : public ReadOnlyText {
     Q_OBJECT
 

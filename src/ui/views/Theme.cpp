@@ -101,12 +101,15 @@ QColor Theme::onTile(QColor tile) {
 
 void Theme::paintFocusRing(QPainter& painter, const QRectF& box, double radius,
                            const Tint& tint) const {
-    const double half = Space::focusWidth / 2;
+    // On a fill, a rim of it stays outside: the ring may have the colour of what is around.
+    const bool onFill = std::holds_alternative<QColor>(tint);
+    const double inset = Space::focusWidth * (onFill ? 1.5 : 0.5);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen{color(tint), Space::focusWidth});
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(box.adjusted(half, half, -half, -half), radius - half, radius - half);
+    painter.drawRoundedRect(box.adjusted(inset, inset, -inset, -inset), radius - inset,
+                            radius - inset);
     painter.restore();
 }
 

@@ -74,8 +74,8 @@ public:
     /// White or navy, whichever suits symbols on a tile of this colour.
     [[nodiscard]] static QColor onTile(QColor tile);
 
-    /// The ring of what has the keyboard's focus, just inside of `box`. Fills in the accent colour
-    /// give their text's colour, which stands out from them.
+    /// The ring of what has the keyboard's focus, just inside of `box`. What is filled
+    /// gives a certain colour, which stands out from the fill.
     void paintFocusRing(QPainter& painter, const QRectF& box, double radius,
                         const Tint& tint = Ink::accent) const;
 

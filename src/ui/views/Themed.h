@@ -9,6 +9,9 @@
 
 namespace quillon {
 
+/// Whether the user last moved the focus with the keyboard, and not with the pointer.
+inline bool keyboardInUse = false;
+
 /// Adds to a widget class what all views have in common: they measure and paint themselves again
 /// when colours, font, style or writing direction change, and know whether to show the focus, which
 /// they do only for those who use the keyboard.
@@ -44,9 +47,21 @@ protected:
     }
 
     void focusInEvent(QFocusEvent* event) override {
-        const Qt::FocusReason reason = event->reason();
-        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
-            byKeyboard_ = reason != Qt::MouseFocusReason;
+        switch (event->reason()) {
+        case Qt::MouseFocusReason:
+            byKeyboard_ = keyboardInUse = false;
+            break;
+        case Qt::TabFocusReason:
+        case Qt::BacktabFocusReason:
+        case Qt::ShortcutFocusReason:
+            byKeyboard_ = keyboardInUse = true;
+            break;
+        case Qt::OtherFocusReason: // moved by the program
+            byKeyboard_ = keyboardInUse;
+            break;
+        default: // comes back
+            break;
+        }
         Base::focusInEvent(event);
         this->update();
     }

@@ -9,7 +9,9 @@
 #include <QLocale>
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
+#include <cmath>
 
 namespace quillon {
 
@@ -23,8 +25,9 @@ constexpr int barSteps = 1'000;
 constexpr qsizetype longestVersion = 40;
 /// A quicker check shows nothing but what it came to.
 constexpr std::chrono::milliseconds checkPatience{400};
-constexpr int offerHeight = 420;
-constexpr int lowestNotes = 160;
+/// Of the notes, in points; higher ones scroll.
+constexpr double lowestNotes = 60;
+constexpr double highestNotes = 240;
 
 QString shownVersion(const std::string& version) {
     return QString::fromStdString(version).simplified().left(longestVersion);
@@ -43,9 +46,12 @@ MessageWindow* makeWindow(const QString& title, const QString& text = {}, bool w
 QWidget* makeNotes(const std::string& notes) {
     auto* view = new ReadOnlyText;
     view->setStructuredText(releaseNotesHtml(notes));
-    view->setMinimumHeight(lowestNotes);
+    const int height = view->heightFor(Theme::length(MessageWindow::textWidth) - 2 * Space::small);
+    view->setMinimumHeight(std::clamp(height, static_cast<int>(lowestNotes),
+                                      static_cast<int>(std::ceil(Theme::length(highestNotes)))));
+    view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     view->setAccessibleName(UpdateWindows::tr("Release notes"));
-    return view;
+    return new TextGround{view};
 }
 
 } // namespace
@@ -126,10 +132,7 @@ QFuture<UpdateChoice> UpdateWindows::showUpdate(UpdateOffer offer) {
         makeWindow(tr("A new version of Quillon is available"),
                    tr("You have Quillon %1. Version %2 can be installed now.")
                        .arg(shownVersion(offer.installedVersion), shownVersion(offer.version)));
-    if (!offer.notes.empty()) {
-        dialog->addContent(makeNotes(offer.notes), true);
-        dialog->resize(dialog->sizeHint().width(), offerHeight);
-    }
+    if (!offer.notes.empty()) dialog->addContent(makeNotes(offer.notes), true);
     dialog->addButton(tr("Install"), Place::primary,
                       [answer] { answer.give(UpdateChoice::install); });
     dialog->setEscape(dialog->addButton(tr("Later"), Place::secondary));
