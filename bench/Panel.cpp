@@ -1,13 +1,14 @@
 // bench_Panel: opens the panel of the program and prints how long its first frame took, in ms, then
 // that of opening it once more. Then, for each line on standard input, it watches the open panel
 // for three seconds and prints the most processor time that the window thread took within one
-// second.
+// second, and what the panel then says is on the clipboard.
 #include "bench/Pulse.h"
 #include "bench/RunningProgram.h"
 #include "maintenance/Updater.h"
 #include "platform/Sleep.h"
 #include "ui/panel/PanelView.h"
 #include "ui/panel/PanelWindow.h"
+#include "ui/panel/SendButton.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -87,6 +88,8 @@ QCoro::Task<> measure(PanelWindow& panel, Clock& clock) {
         QCoro::Task<double> watching = busiestSecond(clock);
         const double most = co_await watching;
         print(most);
+        std::puts(qUtf8Printable(panel.findChild<SendButton*>()->accessibleDescription()));
+        std::fflush(stdout);
     }
     QCoreApplication::exit(panel.isVisible() ? EXIT_SUCCESS : EXIT_FAILURE);
 }
@@ -101,7 +104,7 @@ int main(int argc, char** argv) {
     bench::RunningProgram program{std::move(pasteboard)};
     Platform& platform = program.services.platform();
     const Updater updater{platform, program.analytics, {}};
-    PanelWindow panel{program.compositor, [&] {
+    PanelWindow panel{program.compositor, platform.workspace, [&] {
                           return std::make_unique<PanelView>(platform, program.store, updater,
                                                              PanelActions{});
                       }};

@@ -5,6 +5,7 @@ import os
 import re
 import select
 import shutil
+import signal
 import statistics
 import subprocess
 import sys
@@ -26,7 +27,8 @@ class Tray:
     def __enter__(self):
         self.process = subprocess.Popen([BUILD / "bench/bench_TrayHost"], text=True, bufsize=1,
                                         stdin=subprocess.PIPE, stdout=subprocess.PIPE)
-        self.process.stdout.readline()
+        if self.process.stdout.readline() != "ready\n":
+            sys.exit("there is no tray")
         return self
 
     def __exit__(self, *_):
@@ -43,23 +45,24 @@ class Tray:
         self.process.stdin.write("\n")
 
 
-def end(process):
+def end(process, expected=0):
     process.terminate()
-    process.wait()
+    if process.wait() != expected:
+        sys.exit(f"{process.args[0]} ended with {process.returncode}")
 
 
 def start(telegram):
     """From the start of the process to its icon in the tray."""
-    commands = {"ours": BUILD / "src/quillon", "peer": BUILD / "bench/bench_EmptyTray"}
-    took = {name: [] for name in commands}
+    commands = {BUILD / "src/quillon": 0, BUILD / "bench/bench_EmptyTray": -signal.SIGTERM}
+    took = {command: [] for command in commands}
     with Tray() as tray:
         for _ in range(START_ROUNDS):
-            for name, command in commands.items():
+            for command, status in commands.items():
                 begin = time.monotonic()
                 process = subprocess.Popen([command], env=telegram.env)
-                took[name].append((tray.await_icon() - begin) * 1000)
+                took[command].append((tray.await_icon() - begin) * 1000)
                 time.sleep(0.2)
-                end(process)
+                end(process, status)
     ours, peer = (statistics.median(times) for times in took.values())
     yield Row("start to the icon in the tray", f"{ours:.0f} ms", f"empty {peer:.0f} ms",
               ours / peer, 2)
@@ -105,7 +108,7 @@ def idling(telegram):
         tray.await_icon()
         time.sleep(2)
         empty = memory(peer)
-        end(peer)
+        end(peer, -signal.SIGTERM)
 
         process = subprocess.Popen([BUILD / "src/quillon"], env=telegram.env)
         tray.await_icon()
@@ -140,6 +143,13 @@ def make_picture():
 
 def panel(telegram, text):
     """Opening the panel, and what it takes while it is open and a large picture is copied."""
+    def watch(program, content):
+        program.stdin.write("\n")
+        busiest, shown = float(program.stdout.readline()), program.stdout.readline()
+        if content not in shown:
+            sys.exit(f"the panel says {shown}")
+        return busiest
+
     picture = make_picture()
     firsts, agains, quiet, reading = [], [], [], []
     for _ in range(PANEL_ROUNDS):
@@ -148,11 +158,9 @@ def panel(telegram, text):
                                        bufsize=1, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
             firsts.append(float(program.stdout.readline()))
             agains.append(float(program.stdout.readline()))
-            program.stdin.write("\n")
-            quiet.append(float(program.stdout.readline()))
+            quiet.append(watch(program, "short"))
         with copied("image/png", picture):
-            program.stdin.write("\n")
-            reading.append(float(program.stdout.readline()))
+            reading.append(watch(program, "Image"))
             program.stdin.close()
             if program.wait() != 0:
                 sys.exit("the panel did not stay open")

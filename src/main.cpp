@@ -46,9 +46,11 @@ int main(int argc, char** argv) {
         Terminal::print("quillon " + runningBundle().shortVersion());
         return exitDone;
     case Command::settings:
+    case Command::panel:
         if (const auto code = RemoteProgram::run(*invocation)) return *code;
         runByAbsolutePath(argv);
-        return App::run(App::Start::withSettings);
+        return App::run(invocation->command == Command::panel ? App::Start::withPanel
+                                                              : App::Start::withSettings);
     case Command::send:
         return Detach::run([&](Detach& detach) { return Session::run(*invocation, detach); });
     default:

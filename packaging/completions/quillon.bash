@@ -3,8 +3,8 @@ _quillon() {
     local words=
     case $COMP_CWORD in
     1)
-        words='send settings connect find-group create-topics rename-topics forget status history
-            launch-at-login check-for-updates uninstall --help --version'
+        words='send panel settings connect find-group create-topics rename-topics forget status
+            history launch-at-login check-for-updates uninstall --help --version'
         ;;
     2)
         case ${COMP_WORDS[1]} in

@@ -12,6 +12,7 @@ end
 
 complete -c quillon -f
 complete -c quillon -n __quillon_first -a send -d 'Send what is on the clipboard'
+complete -c quillon -n __quillon_first -a panel -d 'Show the panel; starts Quillon if it is not running'
 complete -c quillon -n __quillon_first -a settings -d 'Show the settings; starts Quillon if it is not running'
 complete -c quillon -n __quillon_first -a connect -d 'Connect your bot; reads its token from standard input'
 complete -c quillon -n __quillon_first -a find-group -d 'Find the group in which you wrote to the bot'

@@ -27,6 +27,11 @@ const std::vector<Row>& rows() {
          {},
          false,
          QT_TRANSLATE_NOOP("CommandLine", "send what is on the clipboard")},
+        {"panel",
+         Command::panel,
+         {},
+         false,
+         QT_TRANSLATE_NOOP("CommandLine", "show the panel; starts Quillon if it is not running")},
         {"settings",
          Command::settings,
          {},
@@ -134,6 +139,7 @@ std::string_view commandName(Command command) {
 bool worksOnState(Command command) {
     switch (command) {
     case Command::settings:
+    case Command::panel:
     case Command::uninstall:
     case Command::help:
     case Command::version:

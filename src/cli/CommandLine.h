@@ -11,6 +11,7 @@ namespace quillon {
 enum class Command {
     send,
     settings,
+    panel,
     connect,
     findGroup,
     createTopics,

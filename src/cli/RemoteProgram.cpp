@@ -68,15 +68,16 @@ private:
     TerminalConsole& console_;
 };
 
+/// `canRepeat`: whether this process can still carry the command out itself.
 std::optional<int> judge(const QDBusPendingReply<int, QString, QString>& reply,
-                         TerminalConsole& console) {
+                         TerminalConsole& console, bool canRepeat) {
     if (!reply.isError()) {
         console.printText(reply.argumentAt<1>().toStdString());
         Terminal::printErrorText(reply.argumentAt<2>().toStdString());
         return reply.argumentAt<0>();
     }
     // Gone before the call arrived.
-    if (reply.error().type() == QDBusError::ServiceUnknown) return std::nullopt;
+    if (canRepeat && reply.error().type() == QDBusError::ServiceUnknown) return std::nullopt;
     console.printError(translate("Command", "Quillon ended before it was done."));
     return exitFailed;
 }
@@ -95,11 +96,13 @@ std::optional<int> carryOut(const Invocation& invocation) {
     QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
     if (!watcher.isFinished()) loop.exec();
     console.endProgress();
-    return judge(watcher, console);
+    // What was read from standard input cannot be read again.
+    return judge(watcher, console, secret.empty());
 }
 
-int showSettings() {
-    if (activate(activationData())) return exitDone;
+int show(Command wanted) {
+    const std::string name{commandName(wanted)};
+    if (activate(name.c_str(), activationData())) return exitDone;
     Terminal::printError(FolderLock::heldMessage());
     return exitFailed;
 }
@@ -125,12 +128,12 @@ QVariantMap activationData() {
     return data;
 }
 
-bool activate(const QVariantMap& activationData) {
+bool activate(const char* wanted, const QVariantMap& activationData) {
     QDBusMessage call = QDBusMessage::createMethodCall(
         QLatin1String{busName}, QLatin1String{objectPath},
-        QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+        QStringLiteral("org.freedesktop.Application"), QStringLiteral("ActivateAction"));
     call.setAutoStartService(false);
-    call << activationData;
+    call << QString::fromLatin1(wanted) << QVariantList{} << activationData;
     return QDBusConnection::sessionBus().call(call, QDBus::Block, activationTimeout).type() ==
            QDBusMessage::ReplyMessage;
 }
@@ -145,7 +148,8 @@ std::optional<int> run(const Invocation& invocation) {
     if (!bus.isConnected()) return std::nullopt;
     if (!bus.interface()->isServiceRegistered(QLatin1String{busName})) return std::nullopt;
     if (worksOnState(invocation.command)) return carryOut(invocation);
-    if (invocation.command == Command::settings) return showSettings();
+    if (invocation.command == Command::settings || invocation.command == Command::panel)
+        return show(invocation.command);
     // The program would write again what is removed.
     if (invocation.command == Command::uninstall) quit();
     return std::nullopt;

@@ -29,9 +29,9 @@ inline constexpr const char* interfaceName = applicationIdentifier;
 /// it for itself.
 [[nodiscard]] QVariantMap activationData();
 
-/// Has the running program show its settings window. False when none runs, or when it does not
-/// answer within 5 seconds. To be called while there is an application object.
-[[nodiscard]] bool activate(const QVariantMap& activationData);
+/// Has the running program show its "settings" or its "panel". False when none runs, or when it
+/// does not answer within 4 seconds. To be called while there is an application object.
+[[nodiscard]] bool activate(const char* wanted, const QVariantMap& activationData);
 
 } // namespace RemoteProgram
 

@@ -47,9 +47,11 @@ QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
     if (resident) {
         resident->start();
         if (start == App::Start::withSettings) resident->showSettings();
+        if (start == App::Start::withPanel) resident->showPanel();
         co_return;
     }
-    const bool shown = RemoteProgram::activate(activationData);
+    const char* const wanted = start == App::Start::withPanel ? "panel" : "settings";
+    const bool shown = RemoteProgram::activate(wanted, activationData);
     if (!shown) std::cerr << FolderLock::heldMessage() << std::endl;
     QCoreApplication::exit(shown ? exitDone : exitFailed);
 }
@@ -83,7 +85,7 @@ int App::run(Start start) {
     LinuxPlatform services{std::move(pasteboard), std::move(hotKeys)};
     Platform& platform = services.platform();
     const QuitSignals signals{[&platform] { platform.workspace.terminate(); }};
-    AlertWindows alerts;
+    AlertWindows alerts{platform.workspace};
     AppMover mover{platform, alerts};
     std::unique_ptr<Resident> resident;
     QTimer::singleShot(0, &application,

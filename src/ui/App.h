@@ -8,6 +8,7 @@ public:
     enum class Start {
         quiet,        ///< with the settings window while the setup is not finished
         withSettings, ///< with the settings window in any case
+        withPanel,    ///< with the panel
     };
 
     /// Builds the program's objects, runs to the end and gives the exit code.

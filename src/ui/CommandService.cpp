@@ -24,7 +24,9 @@ constexpr std::size_t maximumInput = 4096;
 
 /// The actions of the desktop entry.
 const std::map<std::string, CommandService::Wish> wishNames{
-    {"send", &DesktopActions::send}, {"settings", &DesktopActions::showSettings}};
+    {"send", &DesktopActions::send},
+    {"panel", &DesktopActions::showPanel},
+    {"settings", &DesktopActions::showSettings}};
 
 /// The first line of a file; anything but a regular file, which never makes its reader wait, has
 /// none.
@@ -160,8 +162,14 @@ QCoro::Task<> CommandService::work() {
         const Call call = std::move(calls_.front());
         calls_.pop_front();
         const auto console = std::make_shared<DistantConsole>(
-            call.input, [this](std::string_view activity, qint64 done, qint64 total) {
-                Q_EMIT Progress(QString::fromStdString(std::string{activity}), done, total);
+            call.input, [caller = call.message.service()](std::string_view activity, qint64 done,
+                                                          qint64 total) {
+                // To nobody else: others may be waiting for their own commands.
+                QDBusMessage progress = QDBusMessage::createTargetedSignal(
+                    caller, QLatin1String{RemoteProgram::objectPath},
+                    QLatin1String{RemoteProgram::interfaceName}, QStringLiteral("Progress"));
+                progress << QString::fromStdString(std::string{activity}) << done << total;
+                QDBusConnection::sessionBus().send(progress);
             });
         CommandContext context = *context_;
         context.console = console;

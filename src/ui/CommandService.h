@@ -18,6 +18,7 @@ namespace quillon {
 /// What the desktop may ask of the program by its name on the bus.
 struct DesktopActions {
     std::function<void()> showSettings;
+    std::function<void()> showPanel;
     std::function<void()> send;
 };
 
@@ -46,19 +47,18 @@ public:
     /// The user wants this, and has given the desktop's leave to take the focus with it
     /// (org.freedesktop.Application's platform data). Waits until the program serves.
     void wish(Wish wish, const QVariantMap& platformData);
-    /// The same by the name of an action of the desktop entry: "send" or "settings".
+    /// The same by the name of an action of the desktop entry: "send", "panel" or
+    /// "settings".
     void wishByName(const QString& action, const QVariantMap& platformData);
 
 public Q_SLOTS:
     /// A command with its argument, as the command line takes them, and with what it reads from
     /// standard input. Gives the exit code, and what went to standard output and standard error.
+    /// Meanwhile the caller is sent the signal Progress with how many bytes of what the command
+    /// does, as in "Sending…", are done, and of how many.
     Q_SCRIPTABLE int Run(const QString& command, const QString& argument,
                          const QDBusUnixFileDescriptor& input, QString& output, QString& errors);
     Q_SCRIPTABLE void Quit();
-
-Q_SIGNALS:
-    /// How many bytes of what the command does, as in "Sending…", are done.
-    Q_SCRIPTABLE void Progress(const QString& activity, qlonglong done, qlonglong total);
 
 private:
     struct Call {

@@ -134,6 +134,7 @@ void Resident::start() {
     if (!store_.isReady()) settingsWindow_.show();
     service_->serve({platform_, analytics_, store_, banner_, nullptr},
                     {.showSettings = [this] { showSettings(); },
+                     .showPanel = [this] { showPanel(); },
                      .send = [this] { std::ignore = store_.sendClipboard("button"); }});
     loadFont();
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &store_,

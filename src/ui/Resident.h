@@ -32,6 +32,8 @@ public:
     /// Begins the work, in the order that its parts need each other.
     void start();
     void showSettings() { settingsWindow_.show(); }
+    /// Hanging from the icon where there is one.
+    void showPanel() { panelWindow_.open(trayIcon_.place()); }
 
 private:
     Resident(Platform& platform, Alerts& alerts, AppMover& mover,

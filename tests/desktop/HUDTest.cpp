@@ -1,7 +1,7 @@
 #include "desktop/HUD.h"
 #include "desktop/HUDPanel.h"
-#include "platform/Compositor.h"
 #include "support/FakeClock.h"
+#include "support/FakeCompositor.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -13,11 +13,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-struct Blending : Compositor {
-    [[nodiscard]] bool active() const override { return on; }
-    bool on = true;
-};
-
 class HUDTest : public testing::Test {
 protected:
     [[nodiscard]] bool visible() const { return hud.panel() && hud.panel()->isVisible(); }
@@ -26,7 +21,7 @@ protected:
     void bad() { hud.show("No", "exclamationmark.triangle", false, false); }
 
     test::FakeClock clock;
-    Blending compositor;
+    test::FakeCompositor compositor{true};
     BannerPosition position = BannerPosition::top;
     HUD hud{clock, compositor, [this] { return position; }};
 };
@@ -108,7 +103,7 @@ TEST_F(HUDTest, AChangedPositionMovesTheNextBanner) {
 }
 
 TEST_F(HUDTest, IsASolidCapsuleThatComesAndGoesAtOnceWhereNothingBlends) {
-    compositor.on = false;
+    compositor.blending = false;
     good();
     EXPECT_EQ(alpha(), 1);
     const QRect window = hud.panel()->rect();
@@ -117,7 +112,7 @@ TEST_F(HUDTest, IsASolidCapsuleThatComesAndGoesAtOnceWhereNothingBlends) {
     EXPECT_FALSE(mask.contains(QPoint{17, 17}));
     clock.advance(1800ms);
     EXPECT_FALSE(visible());
-    compositor.on = true;
+    compositor.blending = true;
     good();
     EXPECT_TRUE(hud.panel()->mask().isEmpty());
 }

@@ -56,7 +56,9 @@ protected:
 
     void expectReadable(const std::string& what) {
         std::vector<std::string> faults;
-        for (const Control& window : ScreenReader::windows()) {
+        const std::vector<Control> windows = ScreenReader::windows();
+        ASSERT_FALSE(windows.empty()) << what;
+        for (const Control& window : windows) {
             std::map<std::string, int> seen;
             collectFaults(window, seen, faults);
         }
@@ -84,6 +86,7 @@ protected:
 TEST_F(Accessibility, EveryWindowCanBeReadAndWorked) {
     Desk::click(Desk::icon().center());
     EXPECT_EQ(reader.wait("push button", "Send clipboard to phone").description(), "“a”");
+    EXPECT_FALSE(reader.shows("page tab", "Setup")) << "once set up, it starts without a window";
     expectReadable("the panel");
     reader.wait("push button", "Settings…").press();
 
@@ -121,6 +124,12 @@ TEST_F(Accessibility, EveryWindowCanBeReadAndWorked) {
     reader.wait("dialog", "Uninstall Quillon?");
     expectReadable("the question whether to uninstall");
     reader.wait("push button", "Cancel").press();
+    EXPECT_TRUE(waitUntil([&] { return !reader.shows("dialog", "Uninstall Quillon?"); }));
+
+    Desk::press("alt+F4");
+    EXPECT_TRUE(waitUntil([&] { return !reader.shows("page tab", "General"); }));
+    EXPECT_EQ(quillon.run({}).code, 0);
+    EXPECT_TRUE(becomes(reader.wait("page tab", "General"), "selected")) << "where it was";
 }
 
 TEST_F(Accessibility, TheKeyboardReachesEverythingInOrder) {

@@ -44,8 +44,8 @@ std::string content(const path& file) {
     return {std::istreambuf_iterator<char>{stream}, {}};
 }
 
-/// Whether such a window is there; if so, gives it the focus and presses Return.
-bool answer(const std::string& title) {
+/// Whether such a window is there; if so, gives it the focus and presses the keys.
+bool answer(const std::string& title, const QStringList& keys = {QStringLiteral("Return")}) {
     const QString tool = QStringLiteral("xdotool");
     const QStringList focus{
         QStringLiteral("search"),      QStringLiteral("--onlyvisible"),
@@ -53,7 +53,7 @@ bool answer(const std::string& title) {
         QStringLiteral("windowfocus"), QStringLiteral("--sync")};
     // Two runs, for a key that is pressed in the first would be sent to the window itself.
     return QProcess::execute(tool, focus) == 0 &&
-           QProcess::execute(tool, {QStringLiteral("key"), QStringLiteral("Return")}) == 0;
+           QProcess::execute(tool, QStringList{QStringLiteral("key")} + keys) == 0;
 }
 
 /// The makers' web server, with a feed that announces one archive.
@@ -62,6 +62,7 @@ public:
     explicit Feed(const path& folder) : folder_{folder} {}
 
     [[nodiscard]] std::string url() const { return server_.url("/feed.xml"); }
+    [[nodiscard]] bool asked() const { return server_.connections() > 0; }
 
     void announce(const std::string& version, const std::string& archive,
                   const std::string& signature, std::size_t length) const {
@@ -106,8 +107,16 @@ protected:
         EndToEnd::TearDown();
     }
 
+    /// Makes the makers' key, and leaves version 1.0 unpacked as it comes from the web.
+    void download() {
+        output("openssl", {"genpkey", "-algorithm", "ed25519", "-out", pem});
+        key = output(QUILLON_SOURCE "/packaging/sign", {"--public-key", pem});
+        output("tar", {"-xf", shop / makeBundle("1.0"), "-C", home / "Downloads"});
+        quillon.executable = downloaded / inside;
+    }
+
     /// Makes the archive of a version, and gives its name.
-    [[nodiscard]] std::string makeBundle(const std::string& version, const std::string& key) const {
+    [[nodiscard]] std::string makeBundle(const std::string& version) const {
         const std::string made = output(QUILLON_SOURCE "/packaging/bundle",
                                         {"--program", QUILLON, "--version", version, "--feed",
                                          feed.url(), "--key", key, "--output", shop.native()});
@@ -141,6 +150,8 @@ protected:
 
     path home = data.path().toStdString() + "/person";
     path shop = data.path().toStdString() + "/shop";
+    std::string pem = shop / "key.pem";
+    std::string key; ///< its public half
     path inside = "Contents/Linux/quillon";
     path downloaded = home / "Downloads/Quillon.app";
     path installed = home / "Applications/Quillon.app";
@@ -150,15 +161,23 @@ protected:
 
 } // namespace
 
+TEST_F(WholeLife, OffersOnceToMove) {
+    download();
+    for (const bool asks : {true, false}) {
+        resident = quillon.start({});
+        ASSERT_TRUE(!asks ||
+                    waitUntil([] { return answer("Quillon", {QStringLiteral("Escape")}); }));
+        ASSERT_TRUE(waitUntil(Program::hasName)) << "it has gone, or asks again";
+        resident->terminate();
+        ASSERT_EQ(Program::finish(*resident).code, 0);
+    }
+    EXPECT_TRUE(std::filesystem::exists(downloaded));
+}
+
 TEST_F(WholeLife, FromTheDownloadToTheTrash) {
-    const std::string pem = shop / "key.pem";
-    output("openssl", {"genpkey", "-algorithm", "ed25519", "-out", pem});
-    const std::string key = output(QUILLON_SOURCE "/packaging/sign", {"--public-key", pem});
-    const std::string first = makeBundle("1.0", key);
-    output("tar", {"-xf", shop / first, "-C", home / "Downloads"});
+    download();
 
     // It offers to move, and moves.
-    quillon.executable = downloaded / inside;
     EXPECT_EQ(quillon.run({"--version"}).out, "quillon 1.0\n");
     resident = quillon.start({});
     ASSERT_TRUE(waitUntil([] { return answer("Quillon"); }));
@@ -180,12 +199,18 @@ TEST_F(WholeLife, FromTheDownloadToTheTrash) {
     EXPECT_EQ(told("sent"), 1);
 
     // On its second start it asks whether to look for updates, finds one, and installs it.
-    const std::string second = makeBundle("1.1", key);
+    const std::string second = makeBundle("1.1");
     const std::string signature = output(QUILLON_SOURCE "/packaging/sign", {pem, shop / second});
     feed.announce("1.1", second, signature.substr(0, signature.find(' ')),
                   std::filesystem::file_size(shop / second));
     startInstalled();
     const std::vector<int> old = residents();
+    ASSERT_TRUE(waitUntil([&] { return answer("Software Update") && feed.asked(); }, 30s));
+    // The offer takes no Return that may have been meant for another program.
+    const QString tab = QStringLiteral("Tab");
+    ASSERT_TRUE(waitUntil([&] {
+        return answer("Software Update", {tab, tab, QStringLiteral("Return")});
+    }));
     ASSERT_TRUE(waitUntil(
         [&] {
             answer("Software Update");

@@ -29,6 +29,12 @@ std::string content(const path& file) {
     return {std::istreambuf_iterator<char>{stream}, {}};
 }
 
+/// The first child of the process; empty while it has none.
+std::string childOf(const std::string& process) {
+    const std::string children = content(path{"/proc"} / process / "task" / process / "children");
+    return children.substr(0, children.find(' '));
+}
+
 /// A process that runs this program until the end of the scope.
 class Running {
 public:
@@ -221,11 +227,15 @@ TEST_F(LinuxWorkspaceTest, OpensTheApplicationOnlyWhenTheProcessHasEnded) {
         ::setenv("OLD", std::to_string(::getpid()).c_str(), 1);
         ::dup2(::open((root / "leak").c_str(), O_RDONLY), 77);
         LinuxWorkspace{{}}.openAfterExit(app);
-        // Long enough for the shell to have asked at least once.
-        ::usleep(500'000);
-        ::_exit(0);
+        // The shell has asked at least once when it sleeps.
+        const std::string self = std::to_string(::getpid());
+        for (int i = 0; i < 5'000 && childOf(childOf(self)).empty(); ++i)
+            ::usleep(1'000);
+        ::_exit(childOf(childOf(self)).empty() ? 1 : 0);
     }
-    ::waitpid(child, nullptr, 0);
+    int status = -1;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0) << "the shell does not wait";
     ASSERT_TRUE(waitUntil([&] { return fs::exists(report); }));
     const std::string told = content(report);
     EXPECT_THAT(told, testing::StartsWith(app.native() + "/Contents/Linux/quillon\n/\n"));

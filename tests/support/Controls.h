@@ -1,14 +1,32 @@
 #pragma once
 
+#include "ui/views/IconLabel.h"
+
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QApplication>
 #include <QGraphicsOpacityEffect>
 #include <QTest>
 #include <QWidget>
 
+#include <gtest/gtest.h>
+
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace quillon::test {
+
+/// The only window that shows; null when none does.
+inline QWidget* shownWindow() {
+    QWidget* found = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible()) continue;
+        EXPECT_EQ(found, nullptr) << "two windows at once";
+        found = window;
+    }
+    return found;
+}
 
 /// What a user of assistive technology, a mouse or a keyboard finds in a window: the widgets that
 /// show, by their accessible names.
@@ -20,9 +38,21 @@ public:
         QCoreApplication::processEvents();
     }
 
-    [[nodiscard]] static QString nameOf(QWidget* widget) {
+    [[nodiscard]] static QString nameOf(QWidget* widget,
+                                        QAccessible::Text kind = QAccessible::Name) {
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
-        return accessible ? accessible->text(QAccessible::Name) : QString{};
+        return accessible ? accessible->text(kind) : QString{};
+    }
+
+    /// All there is to be seen: texts as they are written, other things by name.
+    [[nodiscard]] std::vector<std::string> seen() const {
+        std::vector<std::string> names;
+        for (QWidget* widget : root_.findChildren<QWidget*>()) {
+            const auto* label = qobject_cast<const IconLabel*>(widget);
+            const QString name = label ? label->wholeText() : nameOf(widget);
+            if (widget->isVisible() && !name.isEmpty()) names.push_back(name.toStdString());
+        }
+        return names;
     }
 
     /// Null when none shows.

@@ -7,6 +7,8 @@ namespace quillon {
 namespace {
 
 constexpr int soVersion = 4; // libcurl.so.4, since 2006
+/// 7.87, as in curl_version_info_data: older ones would ignore which protocols are allowed.
+constexpr unsigned oldestVersion = 0x075700;
 
 LibCurl functions{};
 
@@ -22,7 +24,8 @@ bool load() {
 #define QUILLON_FIND(name) found = find(library, "curl_" #name, functions.name) && found;
     QUILLON_CURL_FUNCTIONS(QUILLON_FIND)
 #undef QUILLON_FIND
-    return found && functions.global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK;
+    return found && functions.version_info(CURLVERSION_NOW)->version_num >= oldestVersion &&
+           functions.global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK;
 }
 
 } // namespace

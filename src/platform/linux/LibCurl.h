@@ -8,7 +8,7 @@
         each(global_init) each(multi_add_handle) each(multi_cleanup) each(multi_info_read)         \
             each(multi_init) each(multi_perform) each(multi_poll) each(multi_remove_handle)        \
                 each(multi_wakeup) each(slist_append) each(slist_free_all) each(url)               \
-                    each(url_cleanup) each(url_get) each(url_set)
+                    each(url_cleanup) each(url_get) each(url_set) each(version_info)
 
 namespace quillon {
 

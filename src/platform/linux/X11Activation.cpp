@@ -77,9 +77,9 @@ void askWindowManager(xcb_connection_t* connection, xcb_window_t window) {
 } // namespace
 
 void bringToFront(QWindow& window) {
-    const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 && isActivationSupported(x11->connection()))
-        return askWindowManager(x11->connection(), static_cast<xcb_window_t>(window.winId()));
+    xcb_connection_t* const connection = qtConnection();
+    if (connection && isActivationSupported(connection))
+        return askWindowManager(connection, static_cast<xcb_window_t>(window.winId()));
     window.raise();
     window.requestActivate();
 }

@@ -1,5 +1,7 @@
 #include "platform/linux/X11Connection.h"
 
+#include <QGuiApplication>
+
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
@@ -30,6 +32,12 @@ int millisecondsUntil(std::optional<X11Connection::Time> deadline) {
 }
 
 } // namespace
+
+xcb_connection_t* qtConnection() {
+    const auto* const native =
+        qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    return native ? native->connection() : nullptr;
+}
 
 xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name) {
     const auto cookie =

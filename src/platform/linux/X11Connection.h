@@ -18,6 +18,9 @@ struct FreeDeleter {
 template <typename T>
 using XcbPointer = std::unique_ptr<T, FreeDeleter>;
 
+/// The connection that Qt's windows are on, whose events are Qt's to take; null on other platforms.
+[[nodiscard]] xcb_connection_t* qtConnection();
+
 /// The atom of this name, which is made where there is none yet. Waits for the server;
 /// XCB_ATOM_NONE when that is gone.
 [[nodiscard]] xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name);

@@ -20,11 +20,6 @@ constexpr quint8 littleEndian = 0;
 constexpr int colorBytes = 8;
 constexpr std::uint8_t sentFlag = 0x80;
 
-xcb_connection_t* x11() {
-    const auto* const native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return native ? native->connection() : nullptr;
-}
-
 /// Texts are filled up to whole units of four bytes. Ends the stream where it is too short.
 QByteArray readText(QDataStream& in, quint32 length) {
     if (length > largestProperty * 4) {
@@ -81,7 +76,7 @@ XSettingsValues parseXSettings(const QByteArray& property) {
 
 XSettings::XSettings(std::function<void(const XSettingsValues&)> changed)
     : changed_{std::move(changed)} {
-    xcb_connection_t* const connection = x11();
+    xcb_connection_t* const connection = qtConnection();
     if (!connection) return;
     selection_ = managerSelection(connection, "_XSETTINGS");
     property_ = internAtom(connection, "_XSETTINGS_SETTINGS");
@@ -100,7 +95,7 @@ void XSettings::later(void (XSettings::*action)()) {
 }
 
 void XSettings::lookForManager() {
-    xcb_connection_t* const connection = x11();
+    xcb_connection_t* const connection = qtConnection();
     const auto cookie = xcb_get_selection_owner(connection, selection_);
     const XcbPointer<xcb_get_selection_owner_reply_t> reply{
         xcb_get_selection_owner_reply(connection, cookie, nullptr)};
@@ -113,7 +108,7 @@ void XSettings::lookForManager() {
 }
 
 void XSettings::read() {
-    xcb_connection_t* const connection = x11();
+    xcb_connection_t* const connection = qtConnection();
     const auto cookie = xcb_get_property(connection, 0, manager_, property_,
                                          XCB_GET_PROPERTY_TYPE_ANY, 0, largestProperty);
     const XcbPointer<xcb_get_property_reply_t> reply{

@@ -1,6 +1,7 @@
 #include "ui/alerts/AlertWindows.h"
 
 #include "base/Translate.h"
+#include "platform/Workspace.h"
 #include "ui/views/Answer.h"
 #include "ui/views/MessageWindow.h"
 #include "ui/views/TextViews.h"
@@ -43,8 +44,7 @@ QFuture<std::size_t> AlertWindows::show(Alert alert) {
     addButtons(*window, alert.buttons, answer);
     window->setWindowModality(Qt::ApplicationModal);
     window->show();
-    window->raise();
-    window->activateWindow();
+    workspace_.bringToFront(*window->windowHandle());
     return answer.future();
 }
 

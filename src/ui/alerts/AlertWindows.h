@@ -4,11 +4,18 @@
 
 namespace quillon {
 
+class Workspace;
+
 /// Alerts as windows in front of all others of the program, which take no input meanwhile. The
 /// event loop goes on.
 class AlertWindows final : public Alerts {
 public:
+    explicit AlertWindows(Workspace& workspace) : workspace_{workspace} {}
+
     [[nodiscard]] QFuture<std::size_t> show(Alert alert) override;
+
+private:
+    Workspace& workspace_;
 };
 
 } // namespace quillon

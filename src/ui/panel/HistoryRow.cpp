@@ -2,9 +2,9 @@
 
 #include "artwork/Brand.h"
 #include "ui/panel/Age.h"
-#include "ui/panel/Literal.h"
 #include "ui/views/IconLabel.h"
 #include "ui/views/SymbolView.h"
+#include "ui/views/TextBlock.h"
 
 #include <QHBoxLayout>
 
@@ -47,16 +47,18 @@ HistoryRow::HistoryRow(QWidget* parent)
 }
 
 void HistoryRow::setEntry(const Sent& entry, Date now, const std::string& locale) {
+    const QString before = accessibleText();
     symbol_->setSymbol(entry.symbol);
-    title_->setText(literal(QString::fromStdString(entry.title)));
+    title_->setText(TextBlock::verbatim(QString::fromStdString(entry.title)));
     if (entry.error) {
-        detail_->setText(literal(QString::fromStdString(*entry.error)));
+        detail_->setText(TextBlock::verbatim(QString::fromStdString(*entry.error)));
     } else {
         const QString topic = QString::fromStdString(entry.topic);
-        detail_->setText(
-            literal(tr("%1 · %2", "topic and age").arg(topic, age(entry.date, now, locale))));
+        detail_->setText(TextBlock::verbatim(
+            tr("%1 · %2", "topic and age").arg(topic, age(entry.date, now, locale))));
     }
     setFailed(entry.error.has_value());
+    if (accessibleText() != before) announceText();
 }
 
 void HistoryRow::setFailed(bool failed) {

@@ -1,9 +1,9 @@
 #include "ui/panel/PanelHeader.h"
 
-#include "ui/panel/Literal.h"
 #include "ui/views/BrandViews.h"
 #include "ui/views/IconLabel.h"
 #include "ui/views/SymbolView.h"
+#include "ui/views/TextBlock.h"
 
 #include <QHBoxLayout>
 
@@ -49,7 +49,8 @@ void PanelHeader::setStatus(bool ready, const std::optional<std::string>& group)
     connected_->setVisible(ready);
     notSetUp_->setVisible(!ready);
     const QString name = group ? QString::fromStdString(*group) : tr("your group");
-    status_->setText(ready ? tr("Connected · %1").arg(literal(name)) : tr("Not set up yet"));
+    status_->setText(ready ? tr("Connected · %1").arg(TextBlock::verbatim(name))
+                           : tr("Not set up yet"));
 }
 
 } // namespace quillon

@@ -1,12 +1,12 @@
 #include "ui/panel/SendButton.h"
 
 #include "artwork/Brand.h"
-#include "ui/panel/Literal.h"
 #include "ui/views/Accessibility.h"
 #include "ui/views/Colors.h"
 #include "ui/views/IconLabel.h"
 #include "ui/views/Keycap.h"
 #include "ui/views/SymbolView.h"
+#include "ui/views/TextBlock.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -61,7 +61,7 @@ void SendButton::setClip(const Clipboard::Summary& clip, bool busy) {
     const QString line = QString::fromStdString(clip.line);
     symbol_->setSymbol(busy ? "arrow.up.circle" : clip.symbol);
     title_->setText(busy ? tr("Sending…") : tr("Send clipboard"));
-    line_->setText(literal(line));
+    line_->setText(TextBlock::verbatim(line));
     setBusy(busy);
     setDescription(*this, busy ? tr("Sending…") : line);
 }

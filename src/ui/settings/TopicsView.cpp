@@ -98,6 +98,8 @@ void TopicsView::finish(const std::optional<std::string>& error, int editsBefore
     // Names typed meanwhile are not saved, and have taken the place of this one's status.
     if (edits_ != editsBefore && !error) return;
     if (!error) edited_ = false;
+    // Disabled, it would pass the keyboard on to a name, which the next key would overwrite.
+    if (!error && save_->hasFocus()) save_->clearFocus();
     status_ =
         error ? TextBlock::verbatim(QString::fromStdString(*error)) : tr("Saved to Telegram.");
     refresher_.refreshNow();

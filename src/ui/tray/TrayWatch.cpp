@@ -9,30 +9,12 @@
 #include <QDBusVariant>
 #include <QGuiApplication>
 
-#include <array>
-#include <span>
-#include <string>
-
 namespace quillon {
 
 namespace {
 
 const QString watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");
 const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
-
-xcb_connection_t* x11() {
-    const auto* const native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return native ? native->connection() : nullptr;
-}
-
-/// The selection that the tray of the default screen owns.
-std::string traySelection() {
-    int screen = 0;
-    char* host = nullptr;
-    int display = 0;
-    if (xcb_parse_display(nullptr, &host, &display, &screen)) std::free(host); // NOLINT: malloc'd
-    return "_NET_SYSTEM_TRAY_S" + std::to_string(screen);
-}
 
 } // namespace
 
@@ -80,9 +62,9 @@ void TrayWatch::setHosted(bool hosted) {
 }
 
 void TrayWatch::watchManager() {
-    xcb_connection_t* const connection = x11();
+    xcb_connection_t* const connection = qtConnection();
     if (!connection) return;
-    selection_ = internAtom(connection, traySelection());
+    selection_ = managerSelection(connection, "_NET_SYSTEM_TRAY");
     managerAtom_ = internAtom(connection, "MANAGER");
     coloursAtom_ = internAtom(connection, "_NET_SYSTEM_TRAY_COLORS");
     qApp->installNativeEventFilter(this);
@@ -90,7 +72,7 @@ void TrayWatch::watchManager() {
 }
 
 void TrayWatch::lookForManager() {
-    xcb_connection_t* const connection = x11();
+    xcb_connection_t* const connection = qtConnection();
     const auto cookie = xcb_get_selection_owner(connection, selection_);
     const XcbPointer<xcb_get_selection_owner_reply_t> reply{
         xcb_get_selection_owner_reply(connection, cookie, nullptr)};
@@ -102,7 +84,7 @@ void TrayWatch::lookForManager() {
 }
 
 void TrayWatch::listen() const {
-    xcb_connection_t* const connection = x11();
+    xcb_connection_t* const connection = qtConnection();
     if (!connection || manager_ == XCB_WINDOW_NONE) return;
     const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(connection, manager_, XCB_CW_EVENT_MASK, &events);
@@ -134,7 +116,7 @@ bool TrayWatch::nativeEventFilter(const QByteArray& type, void* message, qintptr
 }
 
 std::optional<QColor> TrayWatch::foreground() const {
-    xcb_connection_t* const connection = x11();
+    xcb_connection_t* const connection = qtConnection();
     if (!connection || manager_ == 0) return std::nullopt;
     // Four colours, the first that of text and symbols, each of three cardinals up to 65535.
     const auto cookie =

@@ -29,7 +29,6 @@ const KindLook& kindLook(ButtonKind kind) {
         KindLook{12, 4, 28, Ink::primary},     // bordered
         KindLook{14, 4, 28, Brand::navy},      // prominent
         KindLook{6, 3, 0, Ink::secondary},     // borderless
-        KindLook{0, 1, 0, Ink::primary},       // plain
         KindLook{12, 4, 28, Ink::destructive}, // destructive
     };
     return table.at(static_cast<std::size_t>(kind));
@@ -64,17 +63,11 @@ void TextButton::setSymbol(const std::string& symbol) {
     themeChanged();
 }
 
-void TextButton::setLook(const ButtonLook& look) {
-    look_ = look;
-    themeChanged();
-}
-
 int TextButton::inset() const {
     return kindLook(look_.kind).beside;
 }
 
 Tint TextButton::ink() const {
-    if (look_.ink) return *look_.ink;
     const bool lit = look_.kind == ButtonKind::borderless && underMouse();
     return lit ? Tint{Ink::primary} : kindLook(look_.kind).ink;
 }
@@ -135,8 +128,6 @@ void TextButton::paintGround(QPainter& painter, const Theme& theme) const {
         if (!lit && !isDown()) return;
         painter.setBrush(isDown() ? theme.hoverFill() : theme.quaternaryFill());
         break;
-    case ButtonKind::plain:
-        return;
     }
     const double inset = framed(look_.kind) ? 0.5 : 0;
     painter.drawRoundedRect(QRectF{rect()}.adjusted(inset, inset, -inset, -inset),

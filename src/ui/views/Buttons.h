@@ -13,7 +13,6 @@ enum class ButtonKind {
     bordered,
     prominent,  // the one thing to do here
     borderless, // text with room around it that lights up under the pointer
-    plain,      // text alone
     destructive,
 };
 
@@ -21,9 +20,7 @@ enum class ButtonKind {
 struct ButtonLook {
     ButtonKind kind = ButtonKind::bordered;
     TextStyle style = Text::body;
-    /// The colour of text and symbol where it is not the kind's own.
-    std::optional<Tint> ink{};
-    /// The symbol's where it is not the text's.
+    /// The symbol's colour where it is not the text's.
     std::optional<Tint> symbolInk{};
 };
 
@@ -37,7 +34,6 @@ public:
                         QWidget* parent = nullptr);
 
     void setSymbol(const std::string& symbol);
-    void setLook(const ButtonLook& look);
 
     /// Room between the edge and the text on either side, for those who line its text up with other
     /// texts.

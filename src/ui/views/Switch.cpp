@@ -37,14 +37,11 @@ QColor mixed(QColor from, QColor to, double share) {
 
 } // namespace
 
-Switch::Switch(QWidget* parent) : Switch{{}, {}, {}, parent} {}
-
 Switch::Switch(const QString& title, std::string symbol, QColor color, QWidget* parent)
     : Themed{title, parent},
       symbol_{std::move(symbol)},
       color_{color} {
-    QSizePolicy policy{title.isEmpty() ? QSizePolicy::Fixed : QSizePolicy::Preferred,
-                       QSizePolicy::Minimum};
+    QSizePolicy policy{QSizePolicy::Preferred, QSizePolicy::Minimum};
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     slide_.setDuration(static_cast<int>(changeDuration.count()));
@@ -101,7 +98,6 @@ QSize Switch::minimumSizeHint() const {
 }
 
 QSize Switch::hintFor(double mostTitle) const {
-    if (text().isEmpty()) return trackSize().toSize();
     const double title = std::min(titleBlock().naturalWidth(), Theme::length(mostTitle));
     const int width = static_cast<int>(std::ceil(title + besideTitle()));
     return {width, heightForWidth(width)};
@@ -110,10 +106,8 @@ QSize Switch::hintFor(double mostTitle) const {
 int Switch::heightForWidth(int width) const {
     double height = trackSize().height();
     if (!symbol_.empty()) height = std::max(height, Tile::side());
-    if (!text().isEmpty()) {
-        TextBlock title = titleBlock();
-        height = std::max(height, title.wrap(std::max(1.0, width - besideTitle())).height());
-    }
+    TextBlock title = titleBlock();
+    height = std::max(height, title.wrap(std::max(1.0, width - besideTitle())).height());
     return static_cast<int>(std::ceil(height));
 }
 
@@ -129,7 +123,7 @@ void Switch::keyPressEvent(QKeyEvent* event) {
 void Switch::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
-    if (!text().isEmpty()) paintTitle(painter);
+    paintTitle(painter);
     paintTrack(painter);
 }
 

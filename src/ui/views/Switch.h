@@ -17,8 +17,6 @@ class Switch : public Themed<QCheckBox> {
     Q_OBJECT
 
 public:
-    /// The switch alone; it needs an accessible name.
-    explicit Switch(QWidget* parent = nullptr);
     Switch(const QString& title, std::string symbol, QColor color, QWidget* parent = nullptr);
 
     /// Shows whether it is on, which is no switching.

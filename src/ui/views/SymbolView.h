@@ -25,6 +25,7 @@ public:
     explicit SymbolView(std::string symbol, SymbolLook look = {}, QWidget* parent = nullptr);
 
     void setSymbol(const std::string& symbol);
+    [[nodiscard]] const std::string& symbol() const { return symbol_; }
     void setLook(const SymbolLook& look);
     /// The width of the frame it stands in, in points of the design, so that symbols of several
     /// rows stand below each other.

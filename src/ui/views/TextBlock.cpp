@@ -90,7 +90,9 @@ TextBlock TextBlock::title(const QString& text, const QFont& font, Qt::LayoutDir
 
 /// Between the stars comes what is never seen: a word joiner.
 QString TextBlock::verbatim(QString text) {
-    return text.replace(stars(), QStringLiteral("*\u2060*"));
+    while (text.contains(stars())) // three stars make two pairs
+        text.replace(stars(), QStringLiteral("*\u2060*"));
+    return text;
 }
 
 QString TextBlock::plain(const QString& text) {

@@ -11,8 +11,8 @@
 namespace quillon {
 namespace {
 
-constexpr double sidePoints = 22;
-constexpr double symbolShare = 0.58;
+constexpr double sidePoints = 20;
+constexpr double symbolShare = 0.55;
 constexpr double cornerShare = 0.27;
 
 } // namespace
@@ -47,7 +47,8 @@ void Tile::paint(QPainter& painter, const QRectF& box, const std::string& symbol
     painter.setBrush(theme.fill(color));
     const double radius = box.width() * cornerShare;
     painter.drawRoundedRect(box, radius, radius);
-    paintSymbol(painter, box, symbol, std::round(box.width() * symbolShare), Theme::onTile(color));
+    paintSymbol(painter, box, symbol, std::round(box.width() * symbolShare), Theme::onTile(color),
+                SymbolWeight::semibold);
     painter.restore();
 }
 

@@ -57,6 +57,11 @@ private:
     int depth_ = 0;
 };
 
+/// Text between two tags, where "<" begins none.
+QString between(QString text) {
+    return text.replace(QLatin1Char{'<'}, QLatin1String{"&lt;"});
+}
+
 } // namespace
 
 QString releaseNotesHtml(const std::string& notes) {
@@ -70,7 +75,7 @@ QString releaseNotesHtml(const std::string& notes) {
     qsizetype end = 0;
     for (auto match = tag.globalMatch(html); match.hasNext();) {
         const auto found = match.next();
-        structured += QStringView{html}.mid(end, found.capturedStart() - end);
+        structured += between(html.mid(end, found.capturedStart() - end));
         structured +=
             tags.keep(found.captured(2).toLower(), !found.captured(1).isEmpty(), found.captured(3));
         end = found.capturedEnd();

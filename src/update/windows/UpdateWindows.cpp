@@ -133,8 +133,10 @@ QFuture<UpdateChoice> UpdateWindows::showUpdate(UpdateOffer offer) {
                    tr("You have Quillon %1. Version %2 can be installed now.")
                        .arg(shownVersion(offer.installedVersion), shownVersion(offer.version)));
     if (!offer.notes.empty()) dialog->addContent(makeNotes(offer.notes), true);
-    dialog->addButton(tr("Install"), Place::primary,
-                      [answer] { answer.give(UpdateChoice::install); });
+    TextButton* const install = dialog->addButton(tr("Install"), Place::primary,
+                                                  [answer] { answer.give(UpdateChoice::install); });
+    // A window that nobody asked for takes no Return that was meant for another program.
+    install->setDefault(!offer.gently);
     dialog->setEscape(dialog->addButton(tr("Later"), Place::secondary));
     dialog->addButton(tr("Skip this version"), Place::apart,
                       [answer] { answer.give(UpdateChoice::skip); });

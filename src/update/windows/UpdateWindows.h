@@ -3,11 +3,7 @@
 #include "update/UpdateUserDriver.h"
 
 #include <QCoreApplication>
-#include <QPoint>
 #include <QPointer>
-
-#include <memory>
-#include <optional>
 
 class QProgressBar;
 

@@ -2,10 +2,10 @@
 // without one.
 #include "desktop/HUD.h"
 #include "desktop/HUDPanel.h"
-#include "platform/Compositor.h"
 #include "shots/Shots.h"
 #include "support/Await.h"
 #include "support/FakeClock.h"
+#include "support/FakeCompositor.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -41,14 +41,6 @@ constexpr Scene scenes[]{
     {"cut-out", "Sent to 📝 Notes & text", "checkmark.circle.fill", true, false},
 };
 
-struct FixedCompositor : Compositor {
-    explicit FixedCompositor(bool blends) : blends_{blends} {}
-    [[nodiscard]] bool active() const override { return blends_; }
-
-private:
-    bool blends_;
-};
-
 QPixmap overDesktop(const QPixmap& banner) {
     constexpr int margin = 24;
     const bool dark = qEnvironmentVariableIntValue("DARK") != 0;
@@ -67,7 +59,7 @@ QPixmap overDesktop(const QPixmap& banner) {
 
 QPixmap take(const Scene& scene) {
     FakeClock clock;
-    const FixedCompositor compositor{scene.blended};
+    const FakeCompositor compositor{scene.blended};
     HUD hud{clock, compositor, [] { return BannerPosition::top; }};
     hud.show(shown(scene.text).toStdString(), scene.symbol, scene.ok, false);
     clock.advance(200ms);

@@ -2,23 +2,17 @@
 
 #include "support/Await.h"
 #include "support/Controls.h"
-
-#include <QApplication>
+#include "support/FakeDesktop.h"
 
 namespace quillon::test {
 namespace {
+
+FakeWorkspace workspace;
 
 const Alert question{.warning = true,
                      .message = "Move <b>it</b> **now**?",
                      .informativeText = "It needs to.",
                      .buttons = {"Move", "Later", "Not now"}};
-
-QWidget* shownWindow() {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible()) return window;
-    }
-    return nullptr;
-}
 
 TEST(AlertWindowsTest, AnswersWithTheButtonHoweverItWasPressed) {
     struct Case {
@@ -38,7 +32,7 @@ TEST(AlertWindowsTest, AnswersWithTheButtonHoweverItWasPressed) {
         {"first", click("Move"), 0},        {"second", click("Later"), 1},
     };
     for (const Case& each : cases) {
-        QFuture<std::size_t> answer = AlertWindows{}.show(question);
+        QFuture<std::size_t> answer = AlertWindows{workspace}.show(question);
         ASSERT_TRUE(shownWindow()) << "it is shown without a turn of the event loop";
         EXPECT_FALSE(answer.isFinished());
         each.answer(*shownWindow());
@@ -48,7 +42,7 @@ TEST(AlertWindowsTest, AnswersWithTheButtonHoweverItWasPressed) {
 }
 
 TEST(AlertWindowsTest, ShowsItsTextAsItIsToEverybody) {
-    auto answer = AlertWindows{}.show(question);
+    auto answer = AlertWindows{workspace}.show(question);
     QWidget& window = *shownWindow();
     EXPECT_TRUE(window.isModal());
     const Controls controls{window};
@@ -69,7 +63,7 @@ TEST(AlertWindowsTest, StaysASmallWindowWhateverTheTextIs) {
     for (const std::string& text : {sentences, std::string(2'000, 'x')}) {
         Alert alert = question;
         alert.informativeText = text;
-        auto answer = AlertWindows{}.show(alert);
+        auto answer = AlertWindows{workspace}.show(alert);
         const QWidget& window = *shownWindow();
         EXPECT_LE(window.width(), 700);
         EXPECT_LE(window.height(), 500);
@@ -84,7 +78,7 @@ TEST(AlertWindowsTest, FollowsTheSizeOfTheDesktopsTextsWhileItShows) {
     for (const std::string& text : {std::string{"It needs to."}, std::string(400, 'x')}) {
         Alert alert = question;
         alert.informativeText = text;
-        auto answer = AlertWindows{}.show(alert);
+        auto answer = AlertWindows{workspace}.show(alert);
         QWidget& window = *shownWindow();
         const auto scaleTexts = [&](double scale) {
             QFont font = usual;

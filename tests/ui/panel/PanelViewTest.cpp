@@ -1,14 +1,12 @@
 #include "ui/panel/PanelView.h"
-#include "ui/views/IconLabel.h"
 
 #include "maintenance/Updater.h"
 #include "support/ConnectedWorld.h"
+#include "support/Controls.h"
 #include "support/FakeFramework.h"
 #include "support/Faults.h"
-
-#include <QAbstractButton>
-#include <QAccessible>
-#include <QTest>
+#include "ui/views/Keycap.h"
+#include "ui/views/SymbolView.h"
 
 #include <gmock/gmock.h>
 
@@ -23,7 +21,9 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 
-/// A panel in front of the user, who sees and finds things by what assistive technology says.
+constexpr const char* sendName = "Send clipboard to phone";
+
+/// A panel in front of the user.
 template <typename Computer>
 struct PanelOn : testing::Test {
     PanelOn() {
@@ -37,7 +37,7 @@ struct PanelOn : testing::Test {
             PanelActions{.showSettings = [this] { log.emplace_back("settings"); },
                          .checkForUpdates = [this] { checkForUpdates(updater, world.workspace); },
                          .quit = [this] { log.emplace_back("quit"); }});
-        panel->show();
+        controls.emplace(*panel);
         turn();
     }
 
@@ -46,33 +46,19 @@ struct PanelOn : testing::Test {
             QCoreApplication::processEvents();
     }
 
-    [[nodiscard]] static std::string text(QWidget* widget, QAccessible::Text kind) {
-        return QAccessible::queryAccessibleInterface(widget)->text(kind).toStdString();
+    [[nodiscard]] std::vector<std::string> seen() const { return controls->seen(); }
+    [[nodiscard]] QAbstractButton* button(const char* name) const {
+        return controls->find<QAbstractButton>(QString::fromUtf8(name));
     }
-
-    /// What is to be seen, in the order of the panel; lists' entries as a whole as well.
-    [[nodiscard]] std::vector<std::string> seen() {
-        std::vector<std::string> names;
-        for (QWidget* widget : panel->template findChildren<QWidget*>()) {
-            const auto* label = qobject_cast<const IconLabel*>(widget);
-            const std::string name = label ? TextBlock::plain(label->text()).toStdString()
-                                           : text(widget, QAccessible::Name);
-            if (widget->isVisible() && !name.empty()) names.push_back(name);
-        }
-        return names;
-    }
-
-    [[nodiscard]] QAbstractButton* button(const std::string& name) {
-        for (auto* button : panel->template findChildren<QAbstractButton*>())
-            if (button->isVisible() && text(button, QAccessible::Name) == name) return button;
-        return nullptr;
-    }
-
-    void click(const std::string& name) {
-        QAbstractButton* const found = button(name);
-        ASSERT_TRUE(found) << name;
-        QTest::mouseClick(found, Qt::LeftButton);
+    void click(const char* name) {
+        controls->click(QString::fromUtf8(name));
         turn();
+    }
+    [[nodiscard]] std::string clipLine() const {
+        return Controls::nameOf(button(sendName), QAccessible::Description).toStdString();
+    }
+    [[nodiscard]] std::string clipSymbol() const {
+        return button(sendName)->template findChild<SymbolView*>()->symbol();
     }
 
     Computer world;
@@ -80,12 +66,11 @@ struct PanelOn : testing::Test {
     Updater updater{world.platform, *world.analytics, fakeHooks(framework)};
     std::vector<std::string> log;
     std::optional<PanelView> panel;
+    std::optional<Controls> controls;
 };
 
 using NewPanel = PanelOn<World>;
 using ReadyPanel = PanelOn<ConnectedWorld>;
-
-const std::string sendName = "Send clipboard to phone";
 
 Sent sent(std::string title, Date date, std::optional<std::string> error = {}) {
     return {QUuid::createUuid(), "doc", std::move(title), "📄 Files", date, std::move(error)};
@@ -108,8 +93,15 @@ TEST_F(NewPanel, LeadsIntoTheSetupBeforeItIsDone) {
     EXPECT_THAT(log, ElementsAre("settings", "settings", "quit"));
 }
 
-TEST_F(NewPanel, WarnsOfAShortcutThatAnotherProgramHas) {
+TEST_F(ReadyPanel, ShowsTheShortcutAndWarnsWhileAnotherProgramHasIt) {
     open();
+    const auto keys = [this] {
+        QString labels;
+        for (const KeyView* key : button(sendName)->findChildren<KeyView*>())
+            labels += key->label();
+        return labels.toStdString();
+    };
+    EXPECT_EQ(keys(), "⌃⌥V");
     const std::string warning =
         "⌃⌥V is already used by another app. Pick another shortcut in Settings.";
     EXPECT_THAT(seen(), Not(Contains(warning)));
@@ -118,6 +110,12 @@ TEST_F(NewPanel, WarnsOfAShortcutThatAnotherProgramHas) {
     world.store->registerShortcut();
     turn();
     EXPECT_THAT(seen(), Contains(warning));
+    world.hotKeys.takenByOthers.clear();
+    world.store->changeConfig([](Config& config) { config.shortcut = ShortcutChoice::ctrlOptP; });
+    world.store->registerShortcut();
+    turn();
+    EXPECT_THAT(seen(), Not(Contains(testing::HasSubstr("already used"))));
+    EXPECT_EQ(keys(), "⌃⌥P");
 }
 
 TEST_F(NewPanel, OffersUpdatesWhereTheProgramCanBeUpdated) {
@@ -134,16 +132,21 @@ TEST_F(NewPanel, OffersUpdatesWhereTheProgramCanBeUpdated) {
 }
 
 TEST_F(ReadyPanel, SendsTheClipboardAndSaysSo) {
-    world.pasteboard.copy({{"UTF8_STRING", "  milk **and** eggs"}});
     open();
     ASSERT_TRUE(button(sendName));
-    EXPECT_EQ(text(button(sendName), QAccessible::Description), "“milk **and** eggs”");
+    EXPECT_EQ(clipSymbol(), "clipboard");
+    world.pasteboard.copy({{"UTF8_STRING", "  milk **and** eggs"}});
+    world.clock.advance(1s);
+    turn();
+    EXPECT_EQ(clipLine(), "“milk **and** eggs”");
+    EXPECT_EQ(clipSymbol(), "text.alignleft");
     EXPECT_THAT(seen(), Contains("Send clipboard"));
     world.sandbox.failNext(flood(1)); // Telegram makes it wait on the test's clock
     click(sendName);
     ASSERT_TRUE(waitUntil([&] { return world.store->busy(); }));
     turn();
     EXPECT_THAT(seen(), AllOf(Contains("Sending…"), Not(Contains("Send clipboard"))));
+    EXPECT_EQ(clipSymbol(), "arrow.up.circle");
     click(sendName); // does nothing
     ASSERT_TRUE(waitUntil([&] { return !world.sandbox.requests().empty(); }));
     ASSERT_TRUE(waitUntil([&] {
@@ -152,6 +155,7 @@ TEST_F(ReadyPanel, SendsTheClipboardAndSaysSo) {
     }));
     turn();
     EXPECT_THAT(seen(), Contains("Send clipboard"));
+    EXPECT_EQ(clipSymbol(), "text.alignleft");
     EXPECT_THAT(world.messages("notes"), testing::SizeIs(1));
     EXPECT_TRUE(button(sendName)->isEnabled());
 }
@@ -173,15 +177,14 @@ TEST_F(ReadyPanel, NamesTheGroupItIsConnectedTo) {
 TEST_F(ReadyPanel, LooksAtTheClipboardOnceASecondAndOnlyWhileShown) {
     world.pasteboard.copy({{"UTF8_STRING", "one"}});
     open();
-    const auto line = [this] { return text(button(sendName), QAccessible::Description); };
-    EXPECT_EQ(line(), "“one”");
+    EXPECT_EQ(clipLine(), "“one”");
     world.pasteboard.copy({{"UTF8_STRING", "two"}});
     world.clock.advance(999ms);
     turn();
-    EXPECT_EQ(line(), "“one”");
+    EXPECT_EQ(clipLine(), "“one”");
     world.clock.advance(1ms);
     turn();
-    EXPECT_EQ(line(), "“two”");
+    EXPECT_EQ(clipLine(), "“two”");
 
     const int reads = world.pasteboard.reads["UTF8_STRING"];
     world.clock.advance(10s);
@@ -194,7 +197,7 @@ TEST_F(ReadyPanel, LooksAtTheClipboardOnceASecondAndOnlyWhileShown) {
     turn();
     panel->show();
     turn();
-    EXPECT_EQ(line(), "“three”");
+    EXPECT_EQ(clipLine(), "“three”");
 
     // A program that hangs: the panel goes away before the answer comes.
     world.pasteboard.hesitates = true;
@@ -232,7 +235,7 @@ TEST_F(ReadyPanel, IsWorkedWithTheKeyboardAlone) {
     turn();
     std::vector<std::string> order;
     for (int i = 0; i < 5; ++i) {
-        order.push_back(text(QApplication::focusWidget(), QAccessible::Name));
+        order.push_back(Controls::nameOf(QApplication::focusWidget()).toStdString());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
     EXPECT_THAT(order, ElementsAre(sendName, "Settings…", "Check for Updates…", "Quit", sendName));

@@ -1,8 +1,8 @@
 #include "ui/panel/PanelWindow.h"
 
 #include "maintenance/Updater.h"
-#include "platform/Compositor.h"
 #include "support/Await.h"
+#include "support/FakeCompositor.h"
 #include "support/World.h"
 #include "ui/panel/PanelView.h"
 
@@ -14,15 +14,10 @@ namespace quillon::test {
 
 namespace {
 
-class NoCompositor : public Compositor {
-public:
-    [[nodiscard]] bool active() const override { return false; }
-};
-
 struct PanelWindowTest : testing::Test {
     World world;
     Updater updater{world.platform, *world.analytics, {}};
-    NoCompositor compositor;
+    FakeCompositor compositor;
     int made = 0;
     PanelWindow window{compositor, world.workspace, [this] {
                            ++made;

@@ -1,5 +1,4 @@
 #include "ui/panel/Age.h"
-#include "ui/panel/Literal.h"
 #include "ui/panel/PanelPlacement.h"
 
 #include "ui/views/TextBlock.h"
@@ -31,7 +30,7 @@ TEST(Age, IsTheLargestWholeUnitInTheUsersLanguage) {
 
 TEST(Literal, KeepsStarsOfTheUsersFromMakingThingsBold) {
     for (const char* const text : {"**", "a **b** c", "*****", "no stars"}) {
-        QString shown = TextBlock::plain(literal(QString::fromUtf8(text)));
+        QString shown = TextBlock::plain(TextBlock::verbatim(QString::fromUtf8(text)));
         EXPECT_EQ(shown.remove(QChar{0x2060}), QString::fromUtf8(text));
     }
 }

@@ -12,6 +12,7 @@ TEST(CommandService, GrantsWhatWasWishedForBeforeItWasReady) {
     SpokenBanner banner{nullptr};
     std::vector<std::string> granted;
     const DesktopActions actions{.showSettings = [&] { granted.emplace_back("settings"); },
+                                 .showPanel = [&] { granted.emplace_back("panel"); },
                                  .send = [&] { granted.emplace_back("send"); }};
     CommandService service{[] {}};
     // As a bus does that has started the program for just this.

@@ -2,6 +2,7 @@
 #include "maintenance/AppMover.h"
 #include "shots/Shots.h"
 #include "support/Await.h"
+#include "support/FakeDesktop.h"
 #include "ui/alerts/AlertWindows.h"
 
 #include <QApplication>
@@ -13,6 +14,8 @@ namespace {
 
 using namespace quillon;
 using namespace quillon::test;
+
+FakeWorkspace workspace;
 
 std::string words(const char* text) {
     return shown(text).toStdString();
@@ -36,7 +39,7 @@ Alert failure(std::string reason) {
 }
 
 QPixmap take(Alert alert) {
-    auto answer = AlertWindows{}.show(std::move(alert));
+    auto answer = AlertWindows{workspace}.show(std::move(alert));
     until([] { return QApplication::activeModalWidget() != nullptr; });
     QWidget& window = onlyWindow();
     QPixmap picture = pictureOf(window);

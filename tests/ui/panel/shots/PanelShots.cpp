@@ -1,8 +1,8 @@
 // Takes pictures of the panel in each of its states.
 #include "maintenance/Updater.h"
-#include "platform/Compositor.h"
 #include "shots/Shots.h"
 #include "support/ConnectedWorld.h"
+#include "support/FakeCompositor.h"
 #include "support/FakeFramework.h"
 #include "support/Faults.h"
 #include "ui/panel/Age.h"
@@ -20,11 +20,6 @@ namespace {
 using namespace quillon;
 using namespace quillon::test;
 using namespace std::chrono_literals;
-
-class NoCompositor : public Compositor {
-public:
-    [[nodiscard]] bool active() const override { return false; }
-};
 
 Sent sent(std::string symbol, std::string title, std::string topic, std::chrono::seconds ago) {
     return {QUuid::createUuid(), std::move(symbol),       std::move(title),
@@ -157,7 +152,7 @@ QPixmap take(const Scene& scene) {
     FakeFramework* framework = nullptr;
     Updater updater{world.platform, *world.analytics, fakeHooks(framework)};
     updater.start();
-    NoCompositor compositor;
+    FakeCompositor compositor;
     PanelView* panel = nullptr;
     PanelWindow window{compositor, world.workspace, [&] {
                            auto made = std::make_unique<PanelView>(world.platform, *world.store,

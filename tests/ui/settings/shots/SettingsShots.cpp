@@ -20,6 +20,8 @@ using namespace quillon::test;
 constexpr const char* longName =
     "The outbox of everybody in the family who has a phone and a computer";
 
+constexpr const char* noRights = "Bad Request: not enough rights to manage topics";
+
 /// The window over a store in one state of its setup.
 struct Stage {
     Stage(const char* tab, const Config& config, bool token = true) {
@@ -54,6 +56,12 @@ struct Stage {
         QTest::keyClicks(&edit, QString::fromUtf8(text));
         QCoreApplication::processEvents(); // for what the text enables
     }
+    /// One of the program's, or one that Telegram gives.
+    void awaitText(const char* text) const {
+        until([&] {
+            return controls->shows(shown(text)) || controls->shows(QString::fromUtf8(text));
+        });
+    }
 
     BotWorld world;
     std::optional<Updater> updater;
@@ -81,6 +89,12 @@ Config onlyBot() {
     return config;
 }
 
+Config unnamed() {
+    Config config = connected();
+    config.botName.reset();
+    return config;
+}
+
 Config longNames() {
     Config config = connected(true, longName);
     config.botName = "the_bot_with_the_longest_name_bot";
@@ -105,6 +119,13 @@ const std::map<std::string, Scene> scenes{
     {"setup-1-error",
      {on("setup", {}, false),
       [](Stage& stage) {
+          stage.type("Bot token", "1:nonsense");
+          stage.click("Connect");
+          stage.awaitText("Telegram didn't accept that bot token.");
+      }}},
+    {"setup-1-malformed",
+     {on("setup", {}, false),
+      [](Stage& stage) {
           stage.type("Bot token", "nonsense");
           stage.click("Connect");
       }}},
@@ -124,7 +145,22 @@ const std::map<std::string, Scene> scenes{
           until([&] { return stage.world.clock.pending() > 0; });
       }}},
     {"setup-3", {on("setup", onlyBot())}},
+    {"setup-3-working",
+     {on("setup", onlyBot()),
+      [](Stage& stage) {
+          stage.world.sandbox.failNext(flood(1));
+          stage.click("Find my group");
+          until([&] { return stage.world.clock.pending() > 0; });
+      }}},
     {"setup-4", {on("setup", found())}},
+    {"setup-4-error",
+     {on("setup", found()),
+      [](Stage& stage) {
+          stage.world.sandbox.failNext(refusal("createForumTopic", 400, noRights));
+          stage.click("Create the topics");
+          stage.awaitText("Couldn't create topics. Make the bot an admin with “Manage Topics” and "
+                          "try again.");
+      }}},
     {"setup-5", {on("setup", connected())}},
     {"setup-5-opened",
      {on("setup", longNames()),
@@ -137,19 +173,28 @@ const std::map<std::string, Scene> scenes{
     {"topics",
      {on("topics", longNames()),
       [](Stage& stage) { stage.type("Text", ""), stage.type("Files", "Papers"); }}},
+    {"topics-ready", {on("topics", connected())}},
+    {"topics-saved",
+     {on("topics", connected()),
+      [](Stage& stage) {
+          stage.type("Files", "Papers");
+          sandbox::Fault success = answer("editForumTopic", sandbox::Json(true));
+          success.count = 4;
+          stage.world.sandbox.failNext(success);
+          stage.click("Save names to Telegram");
+          stage.awaitText("Saved to Telegram.");
+      }}},
     {"topics-error",
      {on("topics", connected()),
       [](Stage& stage) {
           stage.type("Files", "Papers");
-          stage.world.sandbox.failNext(
-              refusal("editForumTopic", 400, "Bad Request: not enough rights to manage topics"));
+          stage.world.sandbox.failNext(refusal("editForumTopic", 400, noRights));
           stage.click("Save names to Telegram");
-          until([&] {
-              return stage.controls->shows(
-                  QStringLiteral("Bad Request: not enough rights to manage topics"));
-          });
+          stage.awaitText(noRights);
       }}},
     {"general", {on("general", connected()), [](Stage& stage) { stage.updater->start(); }}},
+    {"general-no-icon",
+     {on("general", unnamed()), [](Stage& stage) { stage.view->setPanelOffered(true); }}},
     {"general-long", {on("general", longNames())}},
     {"general-off",
      {on("general", {}, false),
@@ -198,8 +243,9 @@ QStringList names() {
                       QStringLiteral("My Outbox"),
                       QStringLiteral("Papers"),
                       QStringLiteral("nonsense"),
+                      QStringLiteral("1:nonsense"),
                       QString::fromUtf8(BotWorld::token),
-                      QStringLiteral("Bad Request: not enough rights to manage topics"),
+                      QString::fromUtf8(noRights),
                       QStringLiteral("Quillon"),
                       QStringLiteral("⌃⌥V"),
                       QStringLiteral("⌃⌥P"),

@@ -165,7 +165,7 @@ Card* buttonsCard() {
              disabled(button("Disconnect", "xmark.circle.fill", destructive))}));
     card->body()->addLayout(row(
         {button("Settings…", "gearshape.fill", borderless), button("Quit", "power", borderless),
-         button("Plain", "trash", plain), button("", "chevron.down", bordered),
+         button("", "chevron.down", bordered),
          new TextButton{"Save names to Telegram"_q, telegramSymbol, {.symbolInk = telegramBlue}}}));
     for (const ButtonKind kind : {prominent, bordered, borderless}) {
         card->body()->addLayout(row(
