@@ -4,6 +4,7 @@
 #include "cli/CommandLine.h"
 #include "cli/RemoteProgram.h"
 #include "maintenance/AppMover.h"
+#include "platform/Sleep.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 #include "platform/linux/LinuxAppearance.h"
@@ -19,6 +20,7 @@
 #include <QApplication>
 #include <QTimer>
 
+#include <chrono>
 #include <iostream>
 
 namespace quillon {
@@ -45,6 +47,8 @@ QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
     std::unique_ptr<Resident> claimed = co_await Resident::claim(platform, alerts, mover);
     resident = std::move(claimed);
     if (resident) {
+        // The icon is in its place before everything else begins.
+        co_await sleep(platform.clock, std::chrono::milliseconds{0});
         resident->start();
         if (start == App::Start::withSettings) resident->showSettings();
         if (start == App::Start::withPanel) resident->showPanel();

@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QFontMetrics>
+#include <QTimer>
 
 #include <chrono>
 #include <iostream>
@@ -23,12 +24,15 @@ namespace quillon {
 
 namespace {
 
+/// After the start, when the icon is in its place.
+constexpr std::chrono::milliseconds quietMoment{100};
+
 /// Together longer than a command takes, unless the network makes it wait.
 constexpr int lockTries = 100;
 constexpr std::chrono::milliseconds lockInterval{50};
 
 /// The first text to be drawn has Qt look through the fonts, which takes longer than a frame:
-/// better now than when the first banner fades in.
+/// better soon after the start than when the first banner fades in.
 void loadFont() {
     [[maybe_unused]] const int width =
         QFontMetrics{QApplication::font()}.horizontalAdvance(QLatin1Char('Q'));
@@ -136,7 +140,7 @@ void Resident::start() {
                     {.showSettings = [this] { showSettings(); },
                      .showPanel = [this] { showPanel(); },
                      .send = [this] { std::ignore = store_.sendClipboard("button"); }});
-    loadFont();
+    QTimer::singleShot(quietMoment, &store_, loadFont);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &store_,
                      [this] { analytics_.flushBeforeQuit(); });
 }

@@ -14,6 +14,7 @@
 #include "ui/views/IconLabel.h"
 
 #include <QPointer>
+#include <QThreadPool>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -134,13 +135,16 @@ QCoro::Task<> PanelView::readClipboard() {
     if (reading_ || readAt_ == count) co_return;
     reading_ = true;
     const QPointer<PanelView> self{this};
-    const ClipContent content = co_await Clipboard::read(platform_.pasteboard);
+    ClipContent content = co_await Clipboard::read(platform_.pasteboard);
     if (!self) co_return;
     reading_ = false;
     readAt_ = count;
     if (std::holds_alternative<ClipEmpty>(content)) readAt_.reset();
     clip_ = Clipboard::summary(content);
     refresher_.schedule();
+    // It takes the system milliseconds to get back the memory of a large picture.
+    if (std::holds_alternative<ClipImage>(content))
+        QThreadPool::globalInstance()->start([gone = std::move(content)] {});
 }
 
 } // namespace quillon
