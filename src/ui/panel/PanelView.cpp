@@ -30,6 +30,8 @@ namespace {
 constexpr double panelWidth = 320;
 constexpr int padding = 14;
 constexpr int spacing = 14;
+/// What the footer's buttons have above and below their texts.
+constexpr int footerRoom = 3;
 constexpr std::chrono::seconds tickInterval{1};
 
 } // namespace
@@ -69,8 +71,8 @@ void PanelView::build() {
     const int inset = footer_->inset();
     parts->setContentsMargins(inset, 0, inset, 0);
     auto* const column = new QVBoxLayout{this};
-    column->setContentsMargins(padding - inset, padding, padding - inset, Space::small);
-    column->setSpacing(Space::small);
+    column->setContentsMargins(padding - inset, padding, padding - inset, padding - footerRoom);
+    column->setSpacing(spacing - footerRoom);
     column->addLayout(parts);
     column->addWidget(footer_);
 }
