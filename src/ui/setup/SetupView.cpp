@@ -65,6 +65,7 @@ QString SetupView::summary(int n) const {
 }
 
 void SetupView::refresh() {
+    const QWidget* const focused = window()->focusWidget();
     const SetupProgress now = progress();
     const int position = step(now);
     const bool animated = isVisible() && shownStep_ && *shownStep_ != position;
@@ -76,6 +77,8 @@ void SetupView::refresh() {
     errorLine_->setText(
         TextBlock::verbatim(QString::fromStdString(error_.value_or(std::string{}))));
     errorLine_->setVisible(error_.has_value());
+    // What was hidden here has passed the keyboard on: that was not the user.
+    if (focused && focused == focusMeanwhile_) focusMeanwhile_ = window()->focusWidget();
 }
 
 void SetupView::refreshRows(const SetupProgress& now, bool animated) {
@@ -120,6 +123,7 @@ void SetupView::run(Action action) {
     focusBefore_ = window()->focusWidget();
     // A button would pass the keyboard on to the next control when it is disabled.
     if (qobject_cast<QAbstractButton*>(focusBefore_)) focusBefore_->clearFocus();
+    focusMeanwhile_ = window()->focusWidget();
     working_ = true;
     error_.reset();
     refresher_.refreshNow();
@@ -138,19 +142,19 @@ QCoro::Task<> SetupView::perform(QPointer<SetupView> view, Action action) {
 }
 
 void SetupView::finish(std::optional<std::string> error) {
-    // Whoever went elsewhere meanwhile stays there.
-    const QWidget* const focused = window()->focusWidget();
-    const bool stays = focused && focused != focusBefore_;
     working_ = false;
     error_ = std::move(error);
     refresher_.refreshNow();
-    if (!stays) restoreFocus();
+    restoreFocus();
 }
 
 void SetupView::restoreFocus() {
     const auto usable = [](const QWidget* control) {
         return control && control->isVisible() && control->isEnabled();
     };
+    // Whoever went elsewhere meanwhile stays there.
+    const QWidget* now = window()->focusWidget();
+    if (now && now != focusMeanwhile_ && usable(now)) return;
     // A row that is done still shows for a moment, while it closes.
     const bool advanced = step(progress()) != stepBefore_;
     for (QWidget* control : {advanced ? nullptr : focusBefore_.data(), nextControl()}) {

@@ -80,6 +80,7 @@ private:
     std::optional<int> shownStep_;
     int stepBefore_ = 1;
     QPointer<QWidget> focusBefore_;
+    QPointer<QWidget> focusMeanwhile_;
 
     TokenStep* token_ = nullptr;
     TextButton* findGroup_ = nullptr;
