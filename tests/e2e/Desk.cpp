@@ -20,18 +20,24 @@ QStringList words(const std::string& line) {
     return QString::fromStdString(line).split(QLatin1Char{' '});
 }
 
-/// What the X server tells of the panel's window and those in it.
-QString panelWindows() {
+QString answer(const QString& tool, const char* question) {
     QProcess asking;
-    asking.start(QStringLiteral("xwininfo"), words("-name tint2 -tree"));
+    asking.start(tool, words(question));
     asking.waitForFinished();
     return QString::fromUtf8(asking.readAllStandardOutput());
 }
 
+/// What the X server tells of the panel's window and those in it.
+QString panelWindows() {
+    return answer(QStringLiteral("xwininfo"), "-name tint2 -tree");
+}
+
 bool focusOther() {
-    // Fails for as long as the window is not on the screen.
-    return QProcess::execute(pointerTool,
-                             words("search --onlyvisible --name probe windowfocus --sync")) == 0;
+    // Fails for as long as the window is not on the screen, or the window manager gives the focus
+    // to another that has just come.
+    return QProcess::execute(pointerTool, words("search --onlyvisible --name probe windowfocus")) ==
+               0 &&
+           answer(pointerTool, "getwindowfocus getwindowname").trimmed() == u"probe";
 }
 
 } // namespace
