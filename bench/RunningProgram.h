@@ -5,8 +5,8 @@
 #include "cli/SpokenBanner.h"
 #include "desktop/HUD.h"
 #include "platform/linux/LinuxPlatform.h"
-#include "platform/linux/X11Compositor.h"
-#include "platform/linux/X11Pasteboard.h"
+#include "platform/linux/x11/X11Compositor.h"
+#include "platform/linux/x11/X11Pasteboard.h"
 #include "state/Store.h"
 
 #include <algorithm>

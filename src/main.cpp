@@ -5,8 +5,8 @@
 #include "cli/Session.h"
 #include "cli/Terminal.h"
 #include "platform/linux/Hardening.h"
-#include "platform/linux/LinuxBundle.h"
-#include "platform/linux/RunningPrograms.h"
+#include "platform/linux/desktop/LinuxBundle.h"
+#include "platform/linux/desktop/RunningPrograms.h"
 #include "ui/App.h"
 
 #include <QCoreApplication>

@@ -14,89 +14,82 @@ struct Row {
     std::string_view name;
     Command command;
     /// What may follow the command.
-    Words arguments;
-    bool needsArgument;
+    Words arguments{};
+    bool needsArgument = false;
+    /// Works on what the running program holds, which then carries it out.
+    bool worksOnState = true;
     const char* purpose;
 };
 
-const std::vector<Row>& rows() {
-    static const Words json{"--json"};
-    static const std::vector<Row> rows{
-        {"send",
-         Command::send,
-         {},
-         false,
-         QT_TRANSLATE_NOOP("CommandLine", "send what is on the clipboard")},
-        {"panel",
-         Command::panel,
-         {},
-         false,
+const std::vector<Row> rows{
+    {.name = "send",
+     .command = Command::send,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "send what is on the clipboard")},
+    {.name = "panel",
+     .command = Command::panel,
+     .worksOnState = false,
+     .purpose =
          QT_TRANSLATE_NOOP("CommandLine", "show the panel; starts Quillon if it is not running")},
-        {"settings",
-         Command::settings,
-         {},
-         false,
-         QT_TRANSLATE_NOOP("CommandLine",
-                           "show the settings; starts Quillon if it is not running")},
-        {"connect",
-         Command::connect,
-         {},
-         false,
+    {.name = "settings",
+     .command = Command::settings,
+     .worksOnState = false,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine",
+                                  "show the settings; starts Quillon if it is not running")},
+    {.name = "connect",
+     .command = Command::connect,
+     .purpose =
          QT_TRANSLATE_NOOP("CommandLine", "connect your bot; reads its token from standard input")},
-        {"find-group",
-         Command::findGroup,
-         {},
-         false,
-         QT_TRANSLATE_NOOP("CommandLine", "find the group in which you wrote to the bot")},
-        {"create-topics",
-         Command::createTopics,
-         {},
-         false,
-         QT_TRANSLATE_NOOP("CommandLine", "create the four topics, or find them again")},
-        {"rename-topics",
-         Command::renameTopics,
-         {},
-         false,
-         QT_TRANSLATE_NOOP("CommandLine", "give the topics the names set here")},
-        {"forget",
-         Command::forget,
-         {},
-         false,
-         QT_TRANSLATE_NOOP("CommandLine", "forget the bot, the group and the topics")},
-        {"status", Command::status, json, false,
-         QT_TRANSLATE_NOOP("CommandLine", "tell what is set up")},
-        {"history", Command::history, json, false,
-         QT_TRANSLATE_NOOP("CommandLine", "list what was sent, newest first")},
-        {"launch-at-login",
-         Command::launchAtLogin,
-         {"on", "off", "status"},
-         true,
-         QT_TRANSLATE_NOOP("CommandLine", "open Quillon at login, or do not")},
-        {"check-for-updates",
-         Command::checkForUpdates,
-         {"--install"},
-         false,
+    {.name = "find-group",
+     .command = Command::findGroup,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "find the group in which you wrote to the bot")},
+    {.name = "create-topics",
+     .command = Command::createTopics,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "create the four topics, or find them again")},
+    {.name = "rename-topics",
+     .command = Command::renameTopics,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "give the topics the names set here")},
+    {.name = "forget",
+     .command = Command::forget,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "forget the bot, the group and the topics")},
+    {.name = "status",
+     .command = Command::status,
+     .arguments = {"--json"},
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "tell what is set up")},
+    {.name = "history",
+     .command = Command::history,
+     .arguments = {"--json"},
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "list what was sent, newest first")},
+    {.name = "launch-at-login",
+     .command = Command::launchAtLogin,
+     .arguments = {"on", "off", "status"},
+     .needsArgument = true,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "open Quillon at login, or do not")},
+    {.name = "check-for-updates",
+     .command = Command::checkForUpdates,
+     .arguments = {"--install"},
+     .purpose =
          QT_TRANSLATE_NOOP("CommandLine", "tell whether there is a newer version; install it")},
-        {"uninstall",
-         Command::uninstall,
-         {"--yes"},
-         true,
-         QT_TRANSLATE_NOOP("CommandLine", "remove Quillon and all it has stored")},
-        {"--help", Command::help, {}, false, QT_TRANSLATE_NOOP("CommandLine", "print this")},
-        {"--version",
-         Command::version,
-         {},
-         false,
-         QT_TRANSLATE_NOOP("CommandLine", "print the version")},
-    };
-    return rows;
-}
+    {.name = "uninstall",
+     .command = Command::uninstall,
+     .arguments = {"--yes"},
+     .needsArgument = true,
+     .worksOnState = false,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "remove Quillon and all it has stored")},
+    {.name = "--help",
+     .command = Command::help,
+     .worksOnState = false,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "print this")},
+    {.name = "--version",
+     .command = Command::version,
+     .worksOnState = false,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "print the version")},
+};
 
 /// The command of this word with the others as what follows it; none where they make no such
 /// command.
 std::optional<Invocation> commandAt(std::size_t place, const std::vector<std::string>& words) {
-    const auto row = std::ranges::find(rows(), words[place], &Row::name);
-    if (row == rows().end()) return std::nullopt;
+    const auto row = std::ranges::find(rows, words[place], &Row::name);
+    if (row == rows.end()) return std::nullopt;
     Invocation invocation{.command = row->command, .argument = {}};
     for (std::size_t other = 0; other < words.size(); ++other) {
         if (other == place) continue;
@@ -133,20 +126,11 @@ std::optional<Invocation> parseCommandLine(const std::vector<std::string>& argum
 }
 
 std::string_view commandName(Command command) {
-    return std::ranges::find(rows(), command, &Row::command)->name;
+    return std::ranges::find(rows, command, &Row::command)->name;
 }
 
 bool worksOnState(Command command) {
-    switch (command) {
-    case Command::settings:
-    case Command::panel:
-    case Command::uninstall:
-    case Command::help:
-    case Command::version:
-        return false;
-    default:
-        return true;
-    }
+    return std::ranges::find(rows, command, &Row::command)->worksOnState;
 }
 
 std::string helpText() {
@@ -155,7 +139,7 @@ std::string helpText() {
                   "Quillon sends what you copy to your phone, through your own Telegram bot.\n\n"
                   "Usage: quillon [COMMAND]\n\n"
                   "Without a command it stays, and sends whenever you press its shortcut.\n\n");
-    for (const Row& row : rows()) {
+    for (const Row& row : rows) {
         std::string words = usage(row);
         words.resize(std::max(usageWidth, words.size()), ' ');
         text += "  " + words + "  " + translate("CommandLine", row.purpose) + "\n";

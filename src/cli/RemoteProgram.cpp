@@ -2,7 +2,7 @@
 
 #include "base/Translate.h"
 #include "cli/TerminalConsole.h"
-#include "platform/linux/FolderLock.h"
+#include "platform/linux/files/FolderLock.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

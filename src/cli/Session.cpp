@@ -12,10 +12,11 @@
 #include "platform/EmptyPasteboard.h"
 #include "platform/FileSystem.h"
 #include "platform/Sleep.h"
-#include "platform/linux/FolderLock.h"
 #include "platform/linux/LinuxPlatform.h"
-#include "platform/linux/X11Compositor.h"
-#include "platform/linux/X11Pasteboard.h"
+#include "platform/linux/files/FolderLock.h"
+#include "platform/linux/x11/X11Compositor.h"
+#include "platform/linux/x11/X11Connection.h"
+#include "platform/linux/x11/X11Pasteboard.h"
 #include "state/Store.h"
 
 #include <QApplication>
@@ -75,8 +76,7 @@ int Session::run(Invocation invocation, Detach& detach) {
             translate("Session", "There is no clipboard to read: no X server answers."));
         return exitFailed;
     }
-    // The banner is an X11 window, also where the desktop offers Wayland as well.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+    preferX11();
     // Never destroyed, for it goes with the process: where no banner was shown, Qt would look
     // through all fonts of the system only to let go of them.
     [[maybe_unused]] const auto* application = new QApplication{argc, argv};

@@ -64,6 +64,12 @@ std::string Updater::version() const {
     return build.empty() || build == version ? version : version + " (" + build + ")";
 }
 
+void Updater::checkForUpdates() const {
+    if (!controller()) return;
+    platform_.workspace.activate();
+    controller()->checkForUpdates();
+}
+
 void Updater::noteVersion() {
     const std::string current = platform_.bundle.shortVersion();
     const auto last = platform_.defaults.text(lastVersionKey);

@@ -50,6 +50,10 @@ public:
         return available_ ? framework_.get() : nullptr;
     }
 
+    /// The user wants to know now: has the framework look for a new version, in front of all other
+    /// windows. Does nothing where it has not started.
+    void checkForUpdates() const;
+
 Q_SIGNALS:
     /// canCheck or available is about to change.
     void objectWillChange();

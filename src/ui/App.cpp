@@ -7,15 +7,16 @@
 #include "platform/Sleep.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
-#include "platform/linux/LinuxAppearance.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/QuitSignals.h"
-#include "platform/linux/X11HotKeys.h"
-#include "platform/linux/X11Pasteboard.h"
+#include "platform/linux/desktop/LinuxAppearance.h"
+#include "platform/linux/x11/X11Connection.h"
+#include "platform/linux/x11/X11HotKeys.h"
+#include "platform/linux/x11/X11Pasteboard.h"
 #include "ui/Resident.h"
 #include "ui/alerts/AlertWindows.h"
-#include "ui/views/AppIcon.h"
-#include "ui/views/Looks.h"
+#include "ui/controls/AppIcon.h"
+#include "ui/theme/Looks.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -75,8 +76,7 @@ int App::run(Start start) {
                   << std::endl;
         return exitFailed;
     }
-    // The banner is an X11 window, also where the desktop offers Wayland as well.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+    preferX11();
     QApplication application{argc, argv};
     loadCatalogue();
     introduce();

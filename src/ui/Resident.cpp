@@ -90,9 +90,8 @@ std::unique_ptr<QWidget> Resident::makeSettings(const SettingsWindow::Fit& fit) 
                                 [this](std::string text, std::string symbol, bool ok, bool sticky) {
                                     hud_.show(std::move(text), std::move(symbol), ok, sticky);
                                 },
-                            .activate = [this] { platform_.workspace.activate(); },
                             .uninstall = [this] { return uninstaller_.run(); },
-                            .openPanel = [this] { panelWindow_.open(trayIcon_.place()); }};
+                            .openPanel = [this] { showPanel(); }};
     auto view = std::make_unique<SettingsView>(store_, updater_, std::move(actions),
                                                QStringLiteral("setup"));
     QObject::connect(view.get(), &SettingsView::fittingHeightChanged, view.get(),
@@ -109,7 +108,6 @@ std::unique_ptr<PanelView> Resident::makePanel() {
     return std::make_unique<PanelView>(
         platform_, store_, updater_,
         PanelActions{.showSettings = [this] { settingsWindow_.show(); },
-                     .checkForUpdates = [this] { checkForUpdates(updater_, platform_.workspace); },
                      .quit = [this] { platform_.workspace.terminate(); }});
 }
 
@@ -129,12 +127,8 @@ void Resident::start() {
         store_.registerShortcut();
     }
     // For whoever started it from a terminal; the windows say the same.
-    if (store_.shortcutTaken()) {
-        std::cerr << filled(translate("quillon::PanelView", "%1 is already used by another app. "
-                                                            "Pick another shortcut in Settings."),
-                            {keysText(store_.config().shortcut)})
-                  << std::endl;
-    }
+    if (store_.shortcutTaken())
+        std::cerr << PanelView::takenText(store_.config().shortcut).toStdString() << std::endl;
     if (!store_.isReady()) settingsWindow_.show();
     service_->serve({platform_, analytics_, store_, banner_, nullptr},
                     {.showSettings = [this] { showSettings(); },

@@ -5,14 +5,14 @@
 #include "desktop/HUD.h"
 #include "maintenance/Uninstaller.h"
 #include "maintenance/Updater.h"
-#include "platform/linux/FolderLock.h"
-#include "platform/linux/X11Compositor.h"
+#include "platform/linux/files/FolderLock.h"
+#include "platform/linux/x11/X11Compositor.h"
 #include "state/Store.h"
 #include "ui/CommandService.h"
 #include "ui/SettingsWindow.h"
 #include "ui/panel/PanelWindow.h"
 #include "ui/tray/TrayIcon.h"
-#include "update/windows/UpdateWindows.h"
+#include "ui/updates/UpdateWindows.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 #include "ui/SettingsWindow.h"
 
 #include "platform/Workspace.h"
-#include "ui/views/Theme.h"
+#include "ui/theme/Theme.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -1,6 +1,6 @@
 #include "update/Installation.h"
 
-#include "platform/linux/LinuxBundle.h"
+#include "platform/linux/desktop/LinuxBundle.h"
 #include "update/Errors.h"
 #include "update/ProgramOutput.h"
 #include "update/Version.h"

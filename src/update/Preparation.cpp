@@ -3,7 +3,7 @@
 #include "base/Bytes.h"
 #include "platform/FileSystem.h"
 #include "platform/HttpTransport.h"
-#include "platform/linux/PosixFileSystem.h"
+#include "platform/linux/files/PosixFileSystem.h"
 #include "update/Archive.h"
 #include "update/Errors.h"
 #include "update/Version.h"

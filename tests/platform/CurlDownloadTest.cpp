@@ -1,4 +1,4 @@
-#include "platform/linux/CurlTransport.h"
+#include "platform/linux/http/CurlTransport.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/LibsecretStore.h"
+#include "platform/linux/keyring/LibsecretStore.h"
 #include "platform/SessionBus.h"
 #include "support/Await.h"
 

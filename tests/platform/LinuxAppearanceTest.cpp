@@ -1,4 +1,4 @@
-#include "platform/linux/LinuxAppearance.h"
+#include "platform/linux/desktop/LinuxAppearance.h"
 
 #include "platform/SessionBus.h"
 #include "support/Await.h"

@@ -1,6 +1,6 @@
-#include "platform/linux/LinuxWorkspace.h"
-#include "platform/linux/RunningPrograms.h"
-#include "platform/linux/Trash.h"
+#include "platform/linux/desktop/LinuxWorkspace.h"
+#include "platform/linux/desktop/RunningPrograms.h"
+#include "platform/linux/files/Trash.h"
 #include "support/Await.h"
 #include "support/Unprivileged.h"
 

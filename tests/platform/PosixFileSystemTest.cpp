@@ -1,4 +1,4 @@
-#include "platform/linux/PosixFileSystem.h"
+#include "platform/linux/files/PosixFileSystem.h"
 
 #include <QTemporaryDir>
 

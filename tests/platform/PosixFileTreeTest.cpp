@@ -1,6 +1,6 @@
-#include "platform/linux/PosixFileTree.h"
-#include "platform/linux/Descriptor.h"
-#include "platform/linux/TreeCopy.h"
+#include "platform/linux/files/PosixFileTree.h"
+#include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/TreeCopy.h"
 #include "support/Await.h"
 #include "support/Unprivileged.h"
 

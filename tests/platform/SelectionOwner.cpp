@@ -1,6 +1,6 @@
 #include "platform/SelectionOwner.h"
 
-#include "platform/linux/X11Connection.h"
+#include "platform/linux/x11/X11Connection.h"
 
 #include <poll.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/GlibSteps.h"
+#include "platform/linux/keyring/GlibSteps.h"
 
 #include <QProcess>
 #include <QTemporaryDir>

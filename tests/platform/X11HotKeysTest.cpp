@@ -1,4 +1,4 @@
-#include "platform/linux/X11HotKeys.h"
+#include "platform/linux/x11/X11HotKeys.h"
 
 #include "support/Await.h"
 #include "support/XServer.h"

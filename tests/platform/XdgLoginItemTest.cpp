@@ -1,8 +1,8 @@
-#include "platform/linux/XdgLoginItem.h"
+#include "platform/linux/desktop/XdgLoginItem.h"
 
-#include "platform/linux/DesktopEntries.h"
-#include "platform/linux/DesktopEntry.h"
-#include "platform/linux/PosixFileSystem.h"
+#include "platform/linux/desktop/DesktopEntries.h"
+#include "platform/linux/desktop/DesktopEntry.h"
+#include "platform/linux/files/PosixFileSystem.h"
 
 #include <QTemporaryDir>
 

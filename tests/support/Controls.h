@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/views/IconLabel.h"
+#include "ui/text/IconLabel.h"
 
 #include <QAbstractButton>
 #include <QAccessible>

@@ -1,4 +1,4 @@
-#include "platform/linux/LinuxBundle.h"
+#include "platform/linux/desktop/LinuxBundle.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
 #include "support/World.h"

@@ -1,9 +1,9 @@
-#include "update/windows/UpdateWindows.h"
+#include "ui/updates/UpdateWindows.h"
 
 #include "support/Await.h"
 #include "support/Controls.h"
 #include "support/RawServer.h"
-#include "update/windows/ReleaseNotes.h"
+#include "ui/updates/ReleaseNotes.h"
 
 #include <QTextBrowser>
 

@@ -1,6 +1,6 @@
 #include "platform/linux/LinuxFolders.h"
 
-#include "platform/linux/Environment.h"
+#include "base/Environment.h"
 
 #include <algorithm>
 

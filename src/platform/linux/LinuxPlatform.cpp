@@ -1,9 +1,9 @@
 #include "platform/linux/LinuxPlatform.h"
 
-#include "platform/linux/Environment.h"
-#include "platform/linux/LinuxBundle.h"
+#include "base/Environment.h"
 #include "platform/linux/LinuxFolders.h"
 #include "platform/linux/LinuxSystemInfo.h"
+#include "platform/linux/desktop/LinuxBundle.h"
 
 namespace quillon {
 

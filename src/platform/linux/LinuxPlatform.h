@@ -3,15 +3,15 @@
 #include "platform/HotKeys.h"
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
-#include "platform/linux/CanberraSounds.h"
-#include "platform/linux/CurlTransport.h"
-#include "platform/linux/LibsecretStore.h"
-#include "platform/linux/LinuxWorkspace.h"
-#include "platform/linux/PosixFileSystem.h"
-#include "platform/linux/PosixFileTree.h"
 #include "platform/linux/QtClock.h"
 #include "platform/linux/QtUserDefaults.h"
-#include "platform/linux/XdgLoginItem.h"
+#include "platform/linux/desktop/CanberraSounds.h"
+#include "platform/linux/desktop/LinuxWorkspace.h"
+#include "platform/linux/desktop/XdgLoginItem.h"
+#include "platform/linux/files/PosixFileSystem.h"
+#include "platform/linux/files/PosixFileTree.h"
+#include "platform/linux/http/CurlTransport.h"
+#include "platform/linux/keyring/LibsecretStore.h"
 
 #include <memory>
 

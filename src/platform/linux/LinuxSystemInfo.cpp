@@ -1,6 +1,6 @@
 #include "platform/linux/LinuxSystemInfo.h"
 
-#include "platform/linux/PosixFileSystem.h"
+#include "platform/linux/files/PosixFileSystem.h"
 
 #include <QLocale>
 

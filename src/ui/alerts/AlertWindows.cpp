@@ -2,9 +2,9 @@
 
 #include "base/Translate.h"
 #include "platform/Workspace.h"
-#include "ui/views/Answer.h"
-#include "ui/views/MessageWindow.h"
-#include "ui/views/TextViews.h"
+#include "ui/controls/Answer.h"
+#include "ui/controls/MessageWindow.h"
+#include "ui/text/TextViews.h"
 
 namespace quillon {
 

@@ -2,9 +2,9 @@
 
 #include "artwork/Brand.h"
 #include "ui/panel/Age.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/SymbolView.h"
-#include "ui/views/TextBlock.h"
+#include "ui/text/IconLabel.h"
+#include "ui/text/SymbolView.h"
+#include "ui/text/TextBlock.h"
 
 #include <QHBoxLayout>
 

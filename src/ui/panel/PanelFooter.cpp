@@ -1,6 +1,6 @@
 #include "ui/panel/PanelFooter.h"
 
-#include "ui/views/Buttons.h"
+#include "ui/controls/Buttons.h"
 
 #include <QHBoxLayout>
 

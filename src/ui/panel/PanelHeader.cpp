@@ -1,9 +1,9 @@
 #include "ui/panel/PanelHeader.h"
 
-#include "ui/views/BrandViews.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/SymbolView.h"
-#include "ui/views/TextBlock.h"
+#include "ui/controls/BrandViews.h"
+#include "ui/text/IconLabel.h"
+#include "ui/text/SymbolView.h"
+#include "ui/text/TextBlock.h"
 
 #include <QHBoxLayout>
 

@@ -4,14 +4,14 @@
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
 #include "state/Store.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Card.h"
 #include "ui/panel/PanelFooter.h"
 #include "ui/panel/PanelHeader.h"
 #include "ui/panel/RecentSends.h"
 #include "ui/panel/SendButton.h"
 #include "ui/panel/SetupCard.h"
-#include "ui/views/Buttons.h"
-#include "ui/views/Card.h"
-#include "ui/views/IconLabel.h"
+#include "ui/text/IconLabel.h"
 
 #include <QPointer>
 #include <QThreadPool>
@@ -82,7 +82,7 @@ void PanelView::connectActions() {
             [this] { std::ignore = store_.sendClipboard("button"); });
     connect(setup_, &SetupCard::startSetup, this, [this] { actions_.showSettings(); });
     connect(footer_, &PanelFooter::settings, this, [this] { actions_.showSettings(); });
-    connect(footer_, &PanelFooter::checkForUpdates, this, [this] { actions_.checkForUpdates(); });
+    connect(footer_, &PanelFooter::checkForUpdates, this, [this] { updater_.checkForUpdates(); });
     connect(footer_, &PanelFooter::quit, this, [this] { actions_.quit(); });
 }
 
@@ -97,12 +97,16 @@ void PanelView::refresh() {
     send_->setClip(clip_, store_.busy());
     send_->setShortcut(config.shortcut);
     send_->setVisible(ready);
-    warning_->setText(
-        tr("%1 is already used by another app. Pick another shortcut in Settings.").arg(keys));
+    warning_->setText(takenText(config.shortcut));
     warning_->setVisible(store_.shortcutTaken());
     recent_->setHistory(store_.history(), platform_.clock.now(), platform_.system.locale);
     footer_->setUpdates(updater_.available(), updater_.canCheck());
     updateGeometry();
+}
+
+QString PanelView::takenText(ShortcutChoice shortcut) {
+    return tr("%1 is already used by another app. Pick another shortcut in Settings.")
+        .arg(QString::fromStdString(keysText(shortcut)));
 }
 
 void PanelView::focusMainAction() {

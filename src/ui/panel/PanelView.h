@@ -2,8 +2,9 @@
 
 #include "platform/Clock.h"
 #include "send/Clipboard.h"
+#include "state/ShortcutChoice.h"
+#include "ui/controls/Refresher.h"
 #include "ui/panel/PanelActions.h"
-#include "ui/views/Refresher.h"
 
 #include <QCoroTask>
 #include <QWidget>
@@ -35,6 +36,9 @@ public:
 
     /// Gives the keyboard to the one thing to do here.
     void focusMainAction();
+
+    /// What it says of a shortcut that another program has.
+    [[nodiscard]] static QString takenText(ShortcutChoice shortcut);
 
     /// The panel has one width, however long its texts are; the height follows from it.
     [[nodiscard]] QSize sizeHint() const override;

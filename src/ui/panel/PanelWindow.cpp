@@ -4,7 +4,7 @@
 #include "platform/Workspace.h"
 #include "ui/panel/PanelPlacement.h"
 #include "ui/panel/PanelView.h"
-#include "ui/views/Theme.h"
+#include "ui/theme/Theme.h"
 
 #include <QCursor>
 #include <QGuiApplication>

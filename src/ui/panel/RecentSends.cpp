@@ -1,7 +1,7 @@
 #include "ui/panel/RecentSends.h"
 
 #include "ui/panel/HistoryRow.h"
-#include "ui/views/IconLabel.h"
+#include "ui/text/IconLabel.h"
 
 #include <QVBoxLayout>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "state/Sent.h"
-#include "ui/views/View.h"
+#include "ui/accessibility/View.h"
 
 #include <array>
 #include <string>

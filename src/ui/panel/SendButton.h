@@ -2,7 +2,7 @@
 
 #include "send/Clipboard.h"
 #include "state/ShortcutChoice.h"
-#include "ui/views/Buttons.h"
+#include "ui/controls/Buttons.h"
 
 namespace quillon {
 

@@ -1,7 +1,7 @@
 #include "ui/panel/SetupCard.h"
 
-#include "ui/views/Buttons.h"
-#include "ui/views/IconLabel.h"
+#include "ui/controls/Buttons.h"
+#include "ui/text/IconLabel.h"
 
 #include <QPainter>
 #include <QVBoxLayout>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/views/View.h"
+#include "ui/accessibility/View.h"
 
 namespace quillon {
 

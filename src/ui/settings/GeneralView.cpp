@@ -3,16 +3,16 @@
 #include "artwork/Palette.h"
 #include "maintenance/Updater.h"
 #include "state/Store.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Card.h"
+#include "ui/controls/SegmentedPicker.h"
+#include "ui/controls/Switch.h"
 #include "ui/settings/PositionCard.h"
 #include "ui/settings/SettingRow.h"
 #include "ui/settings/UninstallSheet.h"
 #include "ui/settings/UpdatesCard.h"
-#include "ui/views/Buttons.h"
-#include "ui/views/Card.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/Keycap.h"
-#include "ui/views/SegmentedPicker.h"
-#include "ui/views/Switch.h"
+#include "ui/text/IconLabel.h"
+#include "ui/text/Keycap.h"
 
 #include <QVBoxLayout>
 
@@ -44,7 +44,7 @@ GeneralView::GeneralView(Store& store, Updater& updater, SettingsActions actions
     column->addWidget(buildShortcut());
     column->addWidget(buildSending());
     column->addWidget(buildStartup());
-    column->addWidget(new UpdatesCard{updater, actions_.activate});
+    column->addWidget(new UpdatesCard{updater});
     column->addWidget(buildTelegram());
     column->addWidget(buildUninstall(), 0, Qt::AlignLeading);
     column->addStretch(1);

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "state/BannerPosition.h"
+#include "ui/accessibility/View.h"
+#include "ui/controls/Refresher.h"
 #include "ui/settings/SettingsActions.h"
-#include "ui/views/Refresher.h"
-#include "ui/views/View.h"
 
 #include <QPointer>
 

@@ -1,8 +1,8 @@
 #include "ui/settings/PanelOffer.h"
 
-#include "ui/views/Buttons.h"
-#include "ui/views/Card.h"
-#include "ui/views/IconLabel.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Card.h"
+#include "ui/text/IconLabel.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

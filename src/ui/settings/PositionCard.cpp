@@ -1,9 +1,9 @@
 #include "ui/settings/PositionCard.h"
 
 #include "artwork/Brand.h"
-#include "ui/views/Colors.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/SymbolView.h"
+#include "ui/text/IconLabel.h"
+#include "ui/text/SymbolView.h"
+#include "ui/theme/Colors.h"
 
 #include <QPainter>
 #include <QVBoxLayout>

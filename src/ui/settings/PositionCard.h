@@ -1,7 +1,7 @@
 #pragma once
 
 #include "state/BannerPosition.h"
-#include "ui/views/Buttons.h"
+#include "ui/controls/Buttons.h"
 
 namespace quillon {
 

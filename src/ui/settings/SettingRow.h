@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/views/Tile.h"
+#include "ui/controls/Tile.h"
 
 #include <QHBoxLayout>
 

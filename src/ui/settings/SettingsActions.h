@@ -12,8 +12,6 @@ namespace quillon {
 struct SettingsActions {
     /// Shows a banner, as Banner::show does.
     std::function<void(std::string text, std::string symbol, bool ok, bool sticky)> showBanner;
-    /// Brings the application's windows to the front.
-    std::function<void()> activate;
     /// Removes the program, and ends it.
     std::function<QCoro::Task<>()> uninstall;
     /// Opens the panel, where no icon does.

@@ -1,11 +1,11 @@
 #include "ui/settings/SettingsView.h"
 
+#include "ui/controls/Card.h"
 #include "ui/settings/GeneralView.h"
 #include "ui/settings/PanelOffer.h"
 #include "ui/settings/TabStrip.h"
 #include "ui/settings/TopicsView.h"
 #include "ui/setup/SetupView.h"
-#include "ui/views/Card.h"
 
 #include <QScrollArea>
 #include <QShortcut>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "ui/accessibility/View.h"
+#include "ui/controls/Refresher.h"
 #include "ui/settings/SettingsActions.h"
-#include "ui/views/Refresher.h"
-#include "ui/views/View.h"
 
 #include <vector>
 

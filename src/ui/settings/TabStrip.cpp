@@ -1,7 +1,7 @@
 #include "ui/settings/TabStrip.h"
 
 #include "ui/settings/TabStripAccessibility.h"
-#include "ui/views/SymbolView.h"
+#include "ui/text/SymbolView.h"
 
 #include <QFontMetricsF>
 #include <QHoverEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/views/Themed.h"
+#include "ui/theme/Themed.h"
 
 #include <QTabBar>
 

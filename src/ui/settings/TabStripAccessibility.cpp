@@ -1,5 +1,6 @@
 #include "ui/settings/TabStripAccessibility.h"
 
+#include "ui/accessibility/Accessibility.h"
 #include "ui/settings/TabStrip.h"
 
 #include <QAccessibleWidget>
@@ -129,20 +130,10 @@ private:
     mutable std::vector<QAccessible::Id> tabs_; // as far as they have been asked for
 };
 
-QAccessibleInterface* describe(const QString& className, QObject* object) {
-    if (className == QLatin1String{TabStrip::staticMetaObject.className()})
-        return new StripDescription{static_cast<TabStrip*>(object)};
-    return nullptr;
-}
-
 } // namespace
 
 void describeTabStrips() {
-    static const bool installed = [] {
-        QAccessible::installFactory(describe);
-        return true;
-    }();
-    (void)installed;
+    describeAs<TabStrip, StripDescription>();
 }
 
 } // namespace quillon

@@ -1,9 +1,9 @@
 #include "ui/settings/TopicRow.h"
 
-#include "ui/views/Accessibility.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/TextField.h"
-#include "ui/views/Tile.h"
+#include "ui/accessibility/Accessibility.h"
+#include "ui/controls/TextField.h"
+#include "ui/controls/Tile.h"
+#include "ui/text/IconLabel.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "state/Topic.h"
-#include "ui/views/View.h"
+#include "ui/accessibility/View.h"
 
 namespace quillon {
 

@@ -1,11 +1,11 @@
 #include "ui/settings/TopicsView.h"
 
 #include "state/Store.h"
+#include "ui/controls/BrandViews.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Card.h"
 #include "ui/settings/TopicRow.h"
-#include "ui/views/BrandViews.h"
-#include "ui/views/Buttons.h"
-#include "ui/views/Card.h"
-#include "ui/views/IconLabel.h"
+#include "ui/text/IconLabel.h"
 
 #include <QVBoxLayout>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/views/Refresher.h"
-#include "ui/views/View.h"
+#include "ui/accessibility/View.h"
+#include "ui/controls/Refresher.h"
 
 #include <QCoroTask>
 #include <QPointer>

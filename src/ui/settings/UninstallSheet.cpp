@@ -1,12 +1,12 @@
 #include "ui/settings/UninstallSheet.h"
 
 #include "artwork/Palette.h"
-#include "ui/views/BrandViews.h"
-#include "ui/views/Buttons.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/Spinner.h"
-#include "ui/views/SymbolView.h"
-#include "ui/views/Tile.h"
+#include "ui/controls/BrandViews.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Spinner.h"
+#include "ui/controls/Tile.h"
+#include "ui/text/IconLabel.h"
+#include "ui/text/SymbolView.h"
 
 #include <QPainter>
 #include <QVBoxLayout>

@@ -2,18 +2,15 @@
 
 #include "artwork/Palette.h"
 #include "maintenance/Updater.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Switch.h"
 #include "ui/settings/SettingRow.h"
-#include "ui/views/Buttons.h"
-#include "ui/views/Switch.h"
-
-#include <utility>
 
 namespace quillon {
 
-UpdatesCard::UpdatesCard(Updater& updater, std::function<void()> activate, QWidget* parent)
+UpdatesCard::UpdatesCard(Updater& updater, QWidget* parent)
     : Card{tr("Updates"), "arrow.down.circle.fill", parent},
       updater_{updater},
-      activate_{std::move(activate)},
       automatic_{new Switch{tr("Check for updates &automatically"), "arrow.triangle.2.circlepath",
                             Palette::purple}},
       version_{new TileLabel{{}, "info.circle.fill", Palette::gray}},
@@ -22,7 +19,7 @@ UpdatesCard::UpdatesCard(Updater& updater, std::function<void()> activate, QWidg
     body()->addWidget(automatic_);
     body()->addLayout(settingRow(version_, check_));
     connect(automatic_, &Switch::switched, this, &UpdatesCard::setAutomatic);
-    connect(check_, &TextButton::clicked, this, &UpdatesCard::checkNow);
+    connect(check_, &TextButton::clicked, this, [this] { updater_.checkForUpdates(); });
     refresher_.watch(updater, &Updater::objectWillChange);
     refresh();
 }
@@ -38,11 +35,6 @@ void UpdatesCard::setAutomatic(bool automatically) {
     if (UpdateFramework* controller = updater_.controller())
         controller->setAutomaticallyChecksForUpdates(automatically);
     Q_EMIT updater_.objectWillChange();
-}
-
-void UpdatesCard::checkNow() {
-    activate_();
-    if (UpdateFramework* controller = updater_.controller()) controller->checkForUpdates();
 }
 
 } // namespace quillon

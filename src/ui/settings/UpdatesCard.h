@@ -1,9 +1,7 @@
 #pragma once
 
-#include "ui/views/Card.h"
-#include "ui/views/Refresher.h"
-
-#include <functional>
+#include "ui/controls/Card.h"
+#include "ui/controls/Refresher.h"
 
 namespace quillon {
 
@@ -18,16 +16,13 @@ class UpdatesCard : public Card {
     Q_OBJECT
 
 public:
-    /// `activate` brings the application to the front, where a check shows its windows.
-    UpdatesCard(Updater& updater, std::function<void()> activate, QWidget* parent = nullptr);
+    explicit UpdatesCard(Updater& updater, QWidget* parent = nullptr);
 
 private:
     void refresh();
     void setAutomatic(bool automatically);
-    void checkNow();
 
     Updater& updater_;
-    std::function<void()> activate_;
     Switch* automatic_;
     TileLabel* version_;
     TextButton* check_;

@@ -1,7 +1,7 @@
 #include "ui/setup/GroupStep.h"
 
 #include "ui/setup/Badge.h"
-#include "ui/views/IconLabel.h"
+#include "ui/text/IconLabel.h"
 
 #include <QHBoxLayout>
 

@@ -1,16 +1,16 @@
 // What the guide consists of, from top to bottom.
 #include "artwork/Palette.h"
 #include "state/Store.h"
+#include "ui/controls/BrandViews.h"
+#include "ui/controls/Buttons.h"
 #include "ui/setup/GroupStep.h"
 #include "ui/setup/SetupView.h"
 #include "ui/setup/StepRow.h"
 #include "ui/setup/TokenStep.h"
 #include "ui/setup/TopicChips.h"
-#include "ui/views/BrandViews.h"
-#include "ui/views/Buttons.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/Keycap.h"
-#include "ui/views/SymbolView.h"
+#include "ui/text/IconLabel.h"
+#include "ui/text/Keycap.h"
+#include "ui/text/SymbolView.h"
 
 #include <QDesktopServices>
 #include <QUrl>

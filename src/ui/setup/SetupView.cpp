@@ -1,14 +1,14 @@
 #include "ui/setup/SetupView.h"
 
 #include "state/Store.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Spinner.h"
 #include "ui/setup/Collapsible.h"
 #include "ui/setup/StepRow.h"
 #include "ui/setup/TokenStep.h"
 #include "ui/setup/TopicChips.h"
-#include "ui/views/Buttons.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/Keycap.h"
-#include "ui/views/Spinner.h"
+#include "ui/text/IconLabel.h"
+#include "ui/text/Keycap.h"
 
 #include <QApplication>
 #include <QVBoxLayout>

@@ -1,11 +1,11 @@
 #include "ui/setup/StepRow.h"
 
+#include "ui/accessibility/Accessibility.h"
+#include "ui/controls/Buttons.h"
 #include "ui/setup/Badge.h"
 #include "ui/setup/Collapsible.h"
-#include "ui/views/Accessibility.h"
-#include "ui/views/Buttons.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/SymbolView.h"
+#include "ui/text/IconLabel.h"
+#include "ui/text/SymbolView.h"
 
 #include <QHBoxLayout>
 #include <QPainter>

@@ -1,8 +1,8 @@
 #include "ui/setup/TokenStep.h"
 
-#include "ui/views/Buttons.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/TextField.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/TextField.h"
+#include "ui/text/IconLabel.h"
 
 #include <QHBoxLayout>
 

@@ -1,7 +1,7 @@
 #include "ui/setup/TopicChips.h"
 
 #include "ui/setup/FlowLayout.h"
-#include "ui/views/Chip.h"
+#include "ui/text/Chip.h"
 
 namespace quillon {
 

@@ -1,6 +1,6 @@
 #include "ui/setup/Transition.h"
 
-#include "ui/views/Motion.h"
+#include "ui/theme/Motion.h"
 
 #include <utility>
 

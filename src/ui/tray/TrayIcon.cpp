@@ -1,7 +1,7 @@
 #include "ui/tray/TrayIcon.h"
 
 #include "state/Store.h"
-#include "ui/views/MenuBarIcon.h"
+#include "ui/controls/MenuBarIcon.h"
 
 #include <QEvent>
 #include <QGuiApplication>

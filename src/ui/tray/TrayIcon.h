@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Clock.h"
+#include "ui/controls/Refresher.h"
 #include "ui/tray/TrayWatch.h"
-#include "ui/views/Refresher.h"
 
 #include <QMenu>
 #include <QObject>

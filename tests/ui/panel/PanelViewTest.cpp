@@ -5,8 +5,8 @@
 #include "support/Controls.h"
 #include "support/FakeFramework.h"
 #include "support/Faults.h"
-#include "ui/views/Keycap.h"
-#include "ui/views/SymbolView.h"
+#include "ui/text/Keycap.h"
+#include "ui/text/SymbolView.h"
 
 #include <gmock/gmock.h>
 
@@ -32,11 +32,9 @@ struct PanelOn : testing::Test {
     }
 
     void open() {
-        panel.emplace(
-            world.platform, *world.store, updater,
-            PanelActions{.showSettings = [this] { log.emplace_back("settings"); },
-                         .checkForUpdates = [this] { checkForUpdates(updater, world.workspace); },
-                         .quit = [this] { log.emplace_back("quit"); }});
+        panel.emplace(world.platform, *world.store, updater,
+                      PanelActions{.showSettings = [this] { log.emplace_back("settings"); },
+                                   .quit = [this] { log.emplace_back("quit"); }});
         controls.emplace(*panel);
         turn();
     }

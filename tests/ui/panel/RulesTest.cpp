@@ -1,7 +1,7 @@
 #include "ui/panel/Age.h"
 #include "ui/panel/PanelPlacement.h"
 
-#include "ui/views/TextBlock.h"
+#include "ui/text/TextBlock.h"
 
 #include <gmock/gmock.h>
 

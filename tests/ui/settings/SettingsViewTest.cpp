@@ -5,10 +5,10 @@
 #include "support/Controls.h"
 #include "support/FakeFramework.h"
 #include "support/Faults.h"
+#include "ui/controls/Switch.h"
 #include "ui/settings/PositionCard.h"
 #include "ui/settings/UninstallSheet.h"
-#include "ui/views/Motion.h"
-#include "ui/views/Switch.h"
+#include "ui/theme/Motion.h"
 
 #include <QLineEdit>
 #include <QRadioButton>
@@ -64,7 +64,6 @@ struct SettingsTest : testing::Test {
                             [this](std::string said, std::string symbol, bool ok, bool sticky) {
                                 world.banner.show(std::move(said), std::move(symbol), ok, sticky);
                             },
-                        .activate = [this] { world.workspace.activate(); },
                         .uninstall = [this]() -> QCoro::Task<> {
                             ++uninstalls;
                             co_return;

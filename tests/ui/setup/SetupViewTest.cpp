@@ -3,10 +3,10 @@
 #include "support/ConnectedWorld.h"
 #include "support/Controls.h"
 #include "support/Faults.h"
-#include "ui/views/Buttons.h"
-#include "ui/views/Keycap.h"
-#include "ui/views/Motion.h"
-#include "ui/views/Spinner.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Spinner.h"
+#include "ui/text/Keycap.h"
+#include "ui/theme/Motion.h"
 
 #include <QDesktopServices>
 #include <QLineEdit>

@@ -1,12 +1,12 @@
 #include "Accessible.h"
 
 #include "artwork/Palette.h"
-#include "ui/views/Buttons.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/Motion.h"
-#include "ui/views/SegmentedPicker.h"
-#include "ui/views/Spinner.h"
-#include "ui/views/Switch.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/SegmentedPicker.h"
+#include "ui/controls/Spinner.h"
+#include "ui/controls/Switch.h"
+#include "ui/text/IconLabel.h"
+#include "ui/theme/Motion.h"
 
 #include <QApplication>
 #include <QLineEdit>

@@ -2,11 +2,11 @@
 
 #include "artwork/Brand.h"
 #include "artwork/Palette.h"
-#include "ui/views/Card.h"
-#include "ui/views/Colors.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/Keycap.h"
-#include "ui/views/SymbolView.h"
+#include "ui/controls/Card.h"
+#include "ui/text/IconLabel.h"
+#include "ui/text/Keycap.h"
+#include "ui/text/SymbolView.h"
+#include "ui/theme/Colors.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 #include "shots/LayoutCheck.h"
 #include "shots/Pseudo.h"
-#include "ui/views/Buttons.h"
-#include "ui/views/IconLabel.h"
+#include "ui/controls/Buttons.h"
+#include "ui/text/IconLabel.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "ui/views/Looks.h"
+#include "ui/theme/Looks.h"
 
 #include "support/FakeAppearance.h"
-#include "ui/views/IconLabel.h"
-#include "ui/views/Motion.h"
+#include "ui/text/IconLabel.h"
+#include "ui/theme/Motion.h"
 
 #include <QApplication>
 

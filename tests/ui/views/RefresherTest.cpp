@@ -1,4 +1,4 @@
-#include "ui/views/Refresher.h"
+#include "ui/controls/Refresher.h"
 
 #include "Model.h"
 

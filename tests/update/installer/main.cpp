@@ -1,6 +1,6 @@
 #include "base/Bytes.h"
-#include "platform/linux/LinuxBundle.h"
-#include "platform/linux/PosixFileSystem.h"
+#include "platform/linux/desktop/LinuxBundle.h"
+#include "platform/linux/files/PosixFileSystem.h"
 #include "update/Archive.h"
 #include "update/Installation.h"
 

@@ -1,0 +1,264 @@
+// Takes pictures of the settings window in every condition.
+#include "maintenance/Updater.h"
+#include "shots/Shots.h"
+#include "support/ConnectedWorld.h"
+#include "support/Controls.h"
+#include "support/FakeFramework.h"
+#include "support/Faults.h"
+#include "ui/settings/SettingsView.h"
+#include "ui/settings/UninstallSheet.h"
+
+#include <QLineEdit>
+
+#include <map>
+
+namespace {
+
+using namespace quillon;
+using namespace quillon::test;
+
+constexpr const char* longName =
+    "The outbox of everybody in the family who has a phone and a computer";
+
+constexpr const char* noRights = "Bad Request: not enough rights to manage topics";
+
+/// The window over a store in one state of its setup.
+struct Stage {
+    Stage(const char* tab, const Config& config, bool token = true) {
+        world.sandbox.userSays(world.sandbox.addGroup(), "hi");
+        world.setContent("config.json", encodeConfig(config));
+        const KeychainItem& item = botTokenItem();
+        if (token) world.secrets.values[{item.service, item.account}] = BotWorld::token;
+        world.restart();
+        world.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
+        updater.emplace(
+            world.platform, *world.analytics,
+            UpdaterHooks{.makeFramework = [] { return std::make_unique<FakeFramework>(); },
+                         .shouldAskToMove = [] { return false; },
+                         .askToMove = {},
+                         .log = [](const std::string&) {}});
+        view.emplace(*world.store, *updater,
+                     SettingsActions{.showBanner = [](auto&&...) {},
+                                     .uninstall = []() -> QCoro::Task<> { co_return; }},
+                     QString::fromLatin1(tab));
+        controls.emplace(*view);
+    }
+
+    void click(const char* name) const { controls->click(shown(name)); }
+    void open(int step, const char* title) const {
+        controls->click(shown("Step %1: %2").arg(step).arg(shown(title)));
+    }
+    void type(const char* field, const char* text) const {
+        auto& edit = controls->get<QLineEdit>(shown(field));
+        edit.setFocus();
+        edit.selectAll();
+        QTest::keyClicks(&edit, QString::fromUtf8(text));
+        QCoreApplication::processEvents(); // for what the text enables
+    }
+    /// One of the program's, or one that Telegram gives.
+    void awaitText(const char* text) const {
+        until([&] {
+            return controls->shows(shown(text)) || controls->shows(QString::fromUtf8(text));
+        });
+    }
+
+    BotWorld world;
+    std::optional<Updater> updater;
+    std::optional<SettingsView> view;
+    std::optional<Controls> controls;
+};
+
+Config connected(bool topics = true, const char* group = "My Outbox") {
+    Config config;
+    config.chatId = -100;
+    config.chatTitle = group;
+    config.botName = "quillon_demo_bot";
+    for (Topic& topic : config.topics)
+        if (topics) topic.threadId = 7;
+    return config;
+}
+
+Config found() {
+    return connected(false);
+}
+
+Config onlyBot() {
+    Config config;
+    config.botName = "quillon_demo_bot";
+    return config;
+}
+
+Config unnamed() {
+    Config config = connected();
+    config.botName.reset();
+    return config;
+}
+
+Config longNames() {
+    Config config = connected(true, longName);
+    config.botName = "the_bot_with_the_longest_name_bot";
+    config.topics[1].name = longName;
+    return config;
+}
+
+using Act = std::function<void(Stage&)>;
+
+struct Scene {
+    std::function<std::unique_ptr<Stage>()> make;
+    Act act = [](Stage&) {};
+};
+
+std::function<std::unique_ptr<Stage>()> on(const char* tab, const Config& config,
+                                           bool token = true) {
+    return [=] { return std::make_unique<Stage>(tab, config, token); };
+}
+
+const std::map<std::string, Scene> scenes{
+    {"setup-1", {on("setup", {}, false)}},
+    {"setup-1-error",
+     {on("setup", {}, false),
+      [](Stage& stage) {
+          stage.type("Bot token", "1:nonsense");
+          stage.click("Connect");
+          stage.awaitText("Telegram didn't accept that bot token.");
+      }}},
+    {"setup-1-malformed",
+     {on("setup", {}, false),
+      [](Stage& stage) {
+          stage.type("Bot token", "nonsense");
+          stage.click("Connect");
+      }}},
+    {"setup-1-opened",
+     {on("setup", {}, false),
+      [](Stage& stage) {
+          stage.open(3, "Make your group");
+          stage.open(4, "Create the topics");
+      }}},
+    {"setup-1-working",
+     {on("setup", {}, false),
+      [](Stage& stage) {
+          // Telegram makes it wait, on a clock that stands still.
+          stage.world.sandbox.failNext(flood(1));
+          stage.type("Bot token", BotWorld::token);
+          stage.click("Connect");
+          until([&] { return stage.world.clock.pending() > 0; });
+      }}},
+    {"setup-3", {on("setup", onlyBot())}},
+    {"setup-3-working",
+     {on("setup", onlyBot()),
+      [](Stage& stage) {
+          stage.world.sandbox.failNext(flood(1));
+          stage.click("Find my group");
+          until([&] { return stage.world.clock.pending() > 0; });
+      }}},
+    {"setup-4", {on("setup", found())}},
+    {"setup-4-error",
+     {on("setup", found()),
+      [](Stage& stage) {
+          stage.world.sandbox.failNext(refusal("createForumTopic", 400, noRights));
+          stage.click("Create the topics");
+          stage.awaitText("Couldn't create topics. Make the bot an admin with “Manage Topics” and "
+                          "try again.");
+      }}},
+    {"setup-5", {on("setup", connected())}},
+    {"setup-5-opened",
+     {on("setup", longNames()),
+      [](Stage& stage) {
+          stage.open(2, "Paste the token");
+          stage.open(4, "Create the topics");
+      }}},
+    {"setup-5-long", {on("setup", longNames())}},
+    {"topics-unready", {on("topics", {}, false)}},
+    {"topics",
+     {on("topics", longNames()),
+      [](Stage& stage) { stage.type("Text", ""), stage.type("Files", "Papers"); }}},
+    {"topics-ready", {on("topics", connected())}},
+    {"topics-saved",
+     {on("topics", connected()),
+      [](Stage& stage) {
+          stage.type("Files", "Papers");
+          sandbox::Fault success = answer("editForumTopic", sandbox::Json(true));
+          success.count = 4;
+          stage.world.sandbox.failNext(success);
+          stage.click("Save names to Telegram");
+          stage.awaitText("Saved to Telegram.");
+      }}},
+    {"topics-error",
+     {on("topics", connected()),
+      [](Stage& stage) {
+          stage.type("Files", "Papers");
+          stage.world.sandbox.failNext(refusal("editForumTopic", 400, noRights));
+          stage.click("Save names to Telegram");
+          stage.awaitText(noRights);
+      }}},
+    {"general", {on("general", connected()), [](Stage& stage) { stage.updater->start(); }}},
+    {"general-no-icon",
+     {on("general", unnamed()), [](Stage& stage) { stage.view->setPanelOffered(true); }}},
+    {"general-long", {on("general", longNames())}},
+    {"general-off",
+     {on("general", {}, false),
+      [](Stage& stage) {
+          stage.world.store->changeConfig([](Config& config) { config.showBanner = false; });
+          for (const ShortcutChoice choice : allShortcutChoices) {
+              stage.world.store->changeConfig([&](Config& config) { config.shortcut = choice; });
+              stage.world.store->registerShortcut();
+              for (const auto& key : stage.world.hotKeys.registered)
+                  stage.world.hotKeys.takenByOthers.insert(key);
+          }
+          stage.world.store->registerShortcut();
+      }}},
+    {"uninstall",
+     {on("general", connected()), [](Stage& stage) { stage.click("Uninstall Quillon…"); }}},
+    {"uninstall-working",
+     {on("general", connected()),
+      [](Stage& stage) {
+          stage.click("Uninstall Quillon…");
+          QTest::keyClick(stage.view->findChild<UninstallSheet*>(), Qt::Key_Return);
+      }}},
+};
+
+QPixmap take(const Scene& scene) {
+    const std::unique_ptr<Stage> stage = scene.make();
+    scene.act(*stage);
+    waitUntil([] { return false; }, std::chrono::milliseconds{50});
+    SettingsView& view = *stage->view;
+    view.resize(SettingsView::fittingWidth(), std::max(200, view.fittingHeight()));
+    QWidget* sheet = view.findChild<UninstallSheet*>();
+    return pictureOf(sheet ? *sheet : static_cast<QWidget&>(view));
+}
+
+std::vector<Shot> shots() {
+    std::vector<Shot> shots;
+    for (const auto& [name, scene] : scenes)
+        shots.push_back({name, [&scene] { return take(scene); }});
+    return shots;
+}
+
+/// What Telegram and the user call things.
+QStringList names() {
+    QStringList names{QString::fromUtf8(longName),
+                      QStringLiteral("the_bot_with_the_longest_name_bot"),
+                      QStringLiteral("quillon_demo_bot"),
+                      QStringLiteral("My Outbox"),
+                      QStringLiteral("Papers"),
+                      QStringLiteral("nonsense"),
+                      QStringLiteral("1:nonsense"),
+                      QString::fromUtf8(BotWorld::token),
+                      QString::fromUtf8(noRights),
+                      QStringLiteral("Quillon"),
+                      QStringLiteral("⌃⌥V"),
+                      QStringLiteral("⌃⌥P"),
+                      QStringLiteral("⌃⌥C"),
+                      QStringLiteral("V"),
+                      QStringLiteral("P"),
+                      QStringLiteral("C")};
+    for (const Topic& topic : Topic::defaults())
+        names << QString::fromStdString(topic.name);
+    return names;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    return takeShots(argc, argv, shots(), names());
+}

@@ -1,0 +1,158 @@
+#include "platform/linux/files/Trash.h"
+
+#include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/TreeCopy.h"
+
+#include <QByteArray>
+#include <QDateTime>
+
+#include <optional>
+#include <string>
+
+#include <linux/limits.h>
+#include <sys/stat.h>
+
+namespace quillon {
+
+namespace {
+
+using std::filesystem::path;
+
+constexpr mode_t ownersFile = S_IRUSR | S_IWUSR;
+constexpr mode_t ownersFolder = S_IRWXU;
+
+/// So many items of one name are tried to be told apart.
+constexpr int maximumNames = 10'000;
+/// What a numbered name with its ".trashinfo" adds to an item's own, in bytes.
+constexpr std::size_t nameReserve = 24;
+
+/// What is at the path itself; none when nothing is.
+std::optional<struct stat> statusOf(const path& path) {
+    struct stat result {};
+    if (::lstat(path.c_str(), &result) != 0) return std::nullopt;
+    return result;
+}
+
+/// Whether the folder is there, made when need be, and is this user's own.
+bool haveOwnFolder(const path& folder) {
+    if (::mkdir(folder.c_str(), ownersFolder) != 0 && errno != EEXIST) return false;
+    const auto found = statusOf(folder);
+    return found && S_ISDIR(found->st_mode) && found->st_uid == ::geteuid();
+}
+
+/// The highest folder above the path on its file system.
+path topFolder(const path& item, dev_t device) {
+    path top = item;
+    for (path above = top.parent_path(); above != top; above = above.parent_path()) {
+        const auto found = statusOf(above);
+        if (!found || found->st_dev != device) break;
+        top = above;
+    }
+    return top;
+}
+
+/// The trash of a file system of its own: the administrator's ".Trash", which counts only when it
+/// is a real folder with the sticky bit, else the user's own beside it.
+std::optional<path> trashAtTop(const path& top) {
+    const std::string user = std::to_string(::getuid());
+    const path shared = top / ".Trash";
+    const auto found = statusOf(shared);
+    if (found && S_ISDIR(found->st_mode) && (found->st_mode & S_ISVTX) != 0 &&
+        haveOwnFolder(shared / user))
+        return shared / user;
+    const path own = top / (".Trash-" + user);
+    return haveOwnFolder(own) ? std::optional{own} : std::nullopt;
+}
+
+std::optional<path> homeTrash(const path& data) {
+    std::error_code ignored;
+    std::filesystem::create_directories(data, ignored);
+    const path trash = data / "Trash";
+    // The user may have put it elsewhere by a link.
+    if (std::filesystem::is_directory(trash, ignored)) return trash;
+    return haveOwnFolder(trash) ? std::optional{trash} : std::nullopt;
+}
+
+/// What the trash notes of an item: where it was, percent-encoded byte by byte, and since when it
+/// is gone, in local time.
+std::string trashInfo(const path& origin) {
+    const QByteArray bytes = QByteArray::fromStdString(origin.native());
+    const QString now =
+        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss"));
+    return "[Trash Info]\nPath=" + bytes.toPercentEncoding("/").toStdString() +
+           "\nDeletionDate=" + now.toStdString() + "\n";
+}
+
+/// Writes the note under a name that is still free; the caller may then use the name. False with
+/// errno EEXIST when it is taken.
+bool writeNote(const path& note, const std::string& text) {
+    Descriptor file{
+        ::open(note.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, ownersFile)};
+    if (!file.isOpen()) return false;
+    const auto written =
+        uninterrupted([&] { return ::write(file.number(), text.data(), text.size()); });
+    if (file.close() && written == static_cast<ssize_t>(text.size())) return true;
+    ::unlink(note.c_str());
+    errno = EIO;
+    return false;
+}
+
+/// "Quillon.app", then "Quillon.2.app"...; short enough to be a file's name with what comes to it.
+std::string numbered(const path& name, int number) {
+    const std::string stem = name.stem().native().substr(0, NAME_MAX - nameReserve);
+    const std::string extension =
+        name.native().size() > NAME_MAX - nameReserve ? "" : name.extension().native();
+    if (number == 1) return stem + extension;
+    return stem + "." + std::to_string(number) + extension;
+}
+
+using Carry = bool (*)(const path&, const path&);
+
+/// Puts the item into the trash. `origin` is where it was, as the trash notes it. Gives 0, else the
+/// number of the system's error.
+int putInto(const path& trash, const path& item, const path& origin, Carry carry) {
+    const path files = trash / "files";
+    const path info = trash / "info";
+    if (!haveOwnFolder(files) || !haveOwnFolder(info)) return EACCES;
+    const std::string text = trashInfo(origin);
+    for (int number = 1; number <= maximumNames; ++number) {
+        const std::string name = numbered(item.filename(), number);
+        const path note = info / (name + ".trashinfo");
+        const path target = files / name;
+        // Files that somebody left there without a note keep their names too.
+        if (statusOf(target)) continue;
+        if (!writeNote(note, text)) {
+            if (errno == EEXIST) continue;
+            return errno;
+        }
+        if (carry(item, target)) return 0;
+        const int error = errno;
+        ::unlink(note.c_str());
+        // Somebody may have been quicker with the name.
+        if (!statusOf(target)) return error;
+    }
+    return EEXIST;
+}
+
+} // namespace
+
+bool moveToTrash(const path& item, const path& data) {
+    std::error_code problem;
+    // Only the folder is resolved: of a link, the link itself goes.
+    const path folder = std::filesystem::canonical(item.parent_path(), problem);
+    if (problem || item.filename().empty()) return false;
+    const path origin = folder / item.filename();
+    const auto found = statusOf(origin);
+    if (!found) return false;
+
+    const auto home = homeTrash(data);
+    const int error = home ? putInto(*home, origin, origin, renameToNew) : EXDEV;
+    if (error != EXDEV) return error == 0;
+    const path top = topFolder(folder, found->st_dev);
+    const auto elsewhere = trashAtTop(top);
+    if (elsewhere && putInto(*elsewhere, origin, origin.lexically_relative(top), renameToNew) == 0)
+        return true;
+    return home && putInto(*home, origin, origin, moveTree) == 0;
+}
+
+} // namespace quillon

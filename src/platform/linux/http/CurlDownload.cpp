@@ -1,0 +1,103 @@
+#include "platform/linux/http/CurlDownload.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr long statusOk = 200;
+
+bool isDiskFull(int error) {
+    return error == ENOSPC || error == EDQUOT || error == EFBIG;
+}
+
+} // namespace
+
+CurlDownload::CurlDownload(HttpDownload download, std::uint64_t listener,
+                           std::function<void()> wake)
+    : CurlTransfer{download.url, download.inactivityTimeout, listener},
+      download_{std::move(download)},
+      onStop_{download_.stop, std::move(wake)} {
+    promise_.start();
+}
+
+CurlDownload::~CurlDownload() {
+    closeFile();
+}
+
+bool CurlDownload::describe(const CurlTransportOptions& options) {
+    constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    file_ = ::open(download_.file.c_str(), flags, S_IRUSR | S_IWUSR);
+    if (file_ < 0) {
+        trouble_ = isDiskFull(errno) ? DownloadOutcome::diskFull : DownloadOutcome::unwritable;
+        return false;
+    }
+    fetch(options);
+    // A body that explains a failure is not what was asked for.
+    curl().easy_setopt(handle(), CURLOPT_FAILONERROR, 1L);
+    curl().easy_setopt(handle(), CURLOPT_MAXFILESIZE_LARGE,
+                       static_cast<curl_off_t>(download_.maximumSize));
+    curl().easy_setopt(handle(), CURLOPT_WRITEFUNCTION, &CurlDownload::takeBytes);
+    curl().easy_setopt(handle(), CURLOPT_WRITEDATA, this);
+    return true;
+}
+
+CurlTransfer::Progress CurlDownload::progress() const {
+    curl_off_t total = -1;
+    if (handle()) curl().easy_getinfo(handle(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &total);
+    return {.done = received_, .total = total};
+}
+
+size_t CurlDownload::takeBytes(char* bytes, size_t /*one*/, size_t count, void* self) {
+    auto& download = *static_cast<CurlDownload*>(self);
+    download.received_ += static_cast<qint64>(count);
+    if (download.received_ > download.download_.maximumSize) {
+        download.trouble_ = DownloadOutcome::tooLarge;
+        return 0;
+    }
+    return download.write(bytes, count) ? count : 0;
+}
+
+bool CurlDownload::write(const char* bytes, size_t count) {
+    while (count > 0) {
+        const ssize_t written = ::write(file_, bytes, count);
+        if (written < 0 && errno == EINTR) continue;
+        if (written < 0) {
+            trouble_ = isDiskFull(errno) ? DownloadOutcome::diskFull : DownloadOutcome::unwritable;
+            return false;
+        }
+        bytes += written;
+        count -= static_cast<size_t>(written);
+    }
+    return true;
+}
+
+bool CurlDownload::closeFile() {
+    const int file = std::exchange(file_, -1);
+    return file < 0 || ::close(file) == 0 || errno == EINTR;
+}
+
+DownloadOutcome CurlDownload::outcome(CURLcode code) const {
+    if (isStopped()) return DownloadOutcome::stopped;
+    if (trouble_) return *trouble_;
+    if (code == CURLE_FILESIZE_EXCEEDED) return DownloadOutcome::tooLarge;
+    const bool done = code == CURLE_OK && status() == statusOk;
+    return done ? DownloadOutcome::done : DownloadOutcome::failed;
+}
+
+void CurlDownload::finish(CURLcode code) {
+    const bool made = file_ >= 0;
+    if (!closeFile() && !trouble_) trouble_ = DownloadOutcome::diskFull;
+    const DownloadOutcome result = outcome(code);
+    if (made && result != DownloadOutcome::done) ::unlink(download_.file.c_str());
+    promise_.addResult(result);
+    promise_.finish();
+}
+
+} // namespace quillon

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/linux/http/CurlTransfer.h"
+
+#include <QPromise>
+
+#include <functional>
+#include <stop_token>
+
+namespace quillon {
+
+/// A request whose reply is kept in memory, with the buffers libcurl reads from and writes to.
+class CurlRequest final : public CurlTransfer {
+public:
+    enum class Method { post, get };
+
+    /// `wake` is called, on any thread, when the request is asked to stop.
+    CurlRequest(Method method, HttpRequest request, std::uint64_t listener,
+                std::function<void()> wake);
+
+    [[nodiscard]] QFuture<std::optional<HttpReply>> future() const { return promise_.future(); }
+
+    /// Bytes of the body that have gone out.
+    [[nodiscard]] Progress progress() const override;
+    [[nodiscard]] bool isStopped() const override { return stop_.stop_requested(); }
+    void finish(CURLcode code) override;
+
+private:
+    bool describe(const CurlTransportOptions& options) override;
+    bool setHeaders();
+    void describeBody();
+    static size_t readBody(char* target, size_t size, size_t count, void* self);
+    static int seekBody(void* self, curl_off_t offset, int origin);
+    static size_t takeReply(char* bytes, size_t size, size_t count, void* self);
+
+    struct FreeList {
+        void operator()(curl_slist* list) const { curl().slist_free_all(list); }
+    };
+
+    Method method_;
+    HttpRequest request_;
+    qint64 total_ = 0;
+    qsizetype piece_ = 0;
+    qsizetype offset_ = 0;
+    HttpReply reply_;
+    QPromise<std::optional<HttpReply>> promise_;
+    std::unique_ptr<curl_slist, FreeList> headers_;
+    std::stop_token stop_;
+    std::stop_callback<std::function<void()>> onStop_;
+};
+
+} // namespace quillon

@@ -1,0 +1,126 @@
+#include "platform/linux/http/CurlTransfer.h"
+
+#include "base/Environment.h"
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+
+#include <array>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr long maximumRedirects = 10;
+
+void trustCertificates(CURL* handle, const std::filesystem::path& certificates) {
+    if (!certificates.empty()) {
+        curl().easy_setopt(handle, CURLOPT_CAINFO, certificates.c_str());
+        curl().easy_setopt(handle, CURLOPT_CAPATH, nullptr);
+        return;
+    }
+    if (const auto file = environment("SSL_CERT_FILE"))
+        curl().easy_setopt(handle, CURLOPT_CAINFO, file->c_str());
+    if (const auto folder = environment("SSL_CERT_DIR"))
+        curl().easy_setopt(handle, CURLOPT_CAPATH, folder->c_str());
+}
+
+/// The host as libcurl will reach it; empty when the address is none.
+std::string hostOf(const std::string& url) {
+    std::string host;
+    CURLU* parsed = curl().url();
+    char* part = nullptr;
+    if (parsed && curl().url_set(parsed, CURLUPART_URL, url.c_str(), 0) == CURLUE_OK &&
+        curl().url_get(parsed, CURLUPART_HOST, &part, 0) == CURLUE_OK)
+        host = part;
+    curl().free(part);
+    curl().url_cleanup(parsed);
+    return host;
+}
+
+/// Whether this is an address in 127.0.0.0/8; libcurl brings every way to write one into this form.
+bool isLoopback(const std::string& host) {
+    in_addr address{};
+    return ::inet_pton(AF_INET, host.c_str(), &address) == 1 &&
+           ntohl(address.s_addr) >> 24 == IN_LOOPBACKNET;
+}
+
+} // namespace
+
+CurlTransfer::CurlTransfer(std::string url, std::chrono::milliseconds inactivityTimeout,
+                           std::uint64_t listener)
+    : url_{std::move(url)},
+      inactivityTimeout_{inactivityTimeout},
+      listener_{listener} {}
+
+bool CurlTransfer::prepare(const CurlTransportOptions& options) {
+    movedAt_ = std::chrono::steady_clock::now();
+    handle_.reset(curl().easy_init());
+    CURL* handle = handle_.get();
+    if (!handle) return false;
+
+    curl().easy_setopt(handle, CURLOPT_PROTOCOLS_STR, options.allowHttp ? "http,https" : "https");
+    curl().easy_setopt(handle, CURLOPT_FOLLOWLOCATION, 0L);
+    curl().easy_setopt(handle, CURLOPT_PATH_AS_IS, 1L);
+    curl().easy_setopt(handle, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_2TLS));
+    curl().easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
+    // Ends a transfer without waiting for the name server that it still waits for.
+    curl().easy_setopt(handle, CURLOPT_QUICK_EXIT, 1L);
+    // The time-out is by inactivity alone.
+    curl().easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, 24L * 60 * 60 * 1000);
+    trustCertificates(handle, options.trustedCertificates);
+    curl().easy_setopt(handle, CURLOPT_PRIVATE, this);
+    return describe(options) && curl().easy_setopt(handle, CURLOPT_URL, url_.c_str()) == CURLE_OK;
+}
+
+void CurlTransfer::fetch(const CurlTransportOptions& options) {
+    const bool near = isToThisMachine();
+    const bool allowHttp = options.allowHttp || near;
+    curl().easy_setopt(handle(), CURLOPT_PROTOCOLS_STR, allowHttp ? "http,https" : "https");
+    // A proxy would be another machine.
+    if (near) curl().easy_setopt(handle(), CURLOPT_NOPROXY, "*");
+    curl().easy_setopt(handle(), CURLOPT_REDIR_PROTOCOLS_STR, "https");
+    curl().easy_setopt(handle(), CURLOPT_FOLLOWLOCATION, 1L);
+    curl().easy_setopt(handle(), CURLOPT_MAXREDIRS, maximumRedirects);
+    curl().easy_setopt(handle(), CURLOPT_HTTPGET, 1L);
+}
+
+bool CurlTransfer::isToThisMachine() const {
+    const std::string host = hostOf(url_);
+    // libcurl looks "localhost" up in no name server.
+    return host == "localhost" || host == "[::1]" || isLoopback(host);
+}
+
+long CurlTransfer::status() const {
+    long status = 0;
+    if (handle()) curl().easy_getinfo(handle(), CURLINFO_RESPONSE_CODE, &status);
+    return status;
+}
+
+std::uint64_t CurlTransfer::movement() const {
+    // Bytes of either direction, and the moments at which the host was found, the connection stood
+    // and its encryption was agreed: each grows when something has moved.
+    constexpr std::array counters{CURLINFO_SIZE_UPLOAD_T,     CURLINFO_SIZE_DOWNLOAD_T,
+                                  CURLINFO_NAMELOOKUP_TIME_T, CURLINFO_CONNECT_TIME_T,
+                                  CURLINFO_APPCONNECT_TIME_T, CURLINFO_PRETRANSFER_TIME_T};
+    std::uint64_t sum = 0;
+    for (const CURLINFO counter : counters) {
+        curl_off_t value = 0;
+        curl().easy_getinfo(handle_.get(), counter, &value);
+        sum += static_cast<std::uint64_t>(value);
+    }
+    long headers = 0;
+    curl().easy_getinfo(handle_.get(), CURLINFO_HEADER_SIZE, &headers);
+    return sum + static_cast<std::uint64_t>(headers);
+}
+
+CurlTransfer::Moment CurlTransfer::deadline(Moment now) {
+    if (const std::uint64_t current = movement(); current != movement_) {
+        movement_ = current;
+        movedAt_ = now;
+    }
+    return movedAt_ + inactivityTimeout_;
+}
+
+} // namespace quillon

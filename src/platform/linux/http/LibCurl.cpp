@@ -1,0 +1,42 @@
+#include "platform/linux/http/LibCurl.h"
+
+#include <QLibrary>
+
+namespace quillon {
+
+namespace {
+
+constexpr int soVersion = 4; // libcurl.so.4, since 2006
+/// 7.87, as in curl_version_info_data: older ones would ignore which protocols are allowed.
+constexpr unsigned oldestVersion = 0x075700;
+
+LibCurl functions{};
+
+template <typename Function>
+bool find(QLibrary& library, const char* name, Function& function) {
+    function = reinterpret_cast<Function>(library.resolve(name));
+    return function != nullptr;
+}
+
+bool load() {
+    QLibrary library{QStringLiteral("curl"), soVersion};
+    bool found = true;
+#define QUILLON_FIND(name) found = find(library, "curl_" #name, functions.name) && found;
+    QUILLON_CURL_FUNCTIONS(QUILLON_FIND)
+#undef QUILLON_FIND
+    return found && functions.version_info(CURLVERSION_NOW)->version_num >= oldestVersion &&
+           functions.global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK;
+}
+
+} // namespace
+
+bool loadCurl() {
+    static const bool loaded = load();
+    return loaded;
+}
+
+const LibCurl& curl() {
+    return functions;
+}
+
+} // namespace quillon

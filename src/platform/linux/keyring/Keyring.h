@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/SecretStore.h"
+#include "platform/linux/keyring/GlibSteps.h"
+
+#include <libsecret/secret.h>
+
+namespace quillon {
+
+/// One visit to the Secret Service, which gives up 5 seconds after it began. Only the steps that
+/// ask the user to unlock or create a keyring wait for as long as it takes, and what follows them
+/// has 5 seconds anew.
+class Keyring {
+public:
+    /// The visit begins.
+    explicit Keyring(GlibSteps& steps);
+
+    bool save(const KeychainItem& item, const std::string& value);
+    std::optional<std::string> read(const KeychainItem& item);
+    bool exists(const KeychainItem& item);
+    void remove(const KeychainItem& item);
+
+private:
+    struct FreeObjects {
+        void operator()(GList* list) const { g_list_free_full(list, g_object_unref); }
+    };
+    enum class DefaultCollection { unlocked, missing, unusable };
+    using Items = std::unique_ptr<GList, FreeObjects>;
+
+    GlibPointer<GAsyncResult> ask(const GlibSteps::Start& start);
+    GlibPointer<GAsyncResult> askUser(const GlibSteps::Start& start);
+
+    /// False when there is no session bus or nothing there that keeps secrets.
+    bool open();
+    /// Null stands for no items, none for a search that did not succeed.
+    std::optional<Items> search(const KeychainItem& item, SecretSearchFlags flags);
+    bool unlock(gpointer object);
+    bool load(SecretItem* item);
+    bool removeOne(SecretItem* item);
+    bool removeAll(const KeychainItem& item);
+    DefaultCollection prepareDefaultCollection();
+
+    GlibSteps& steps_;
+    GlibSteps::Time deadline_;
+    GlibPointer<SecretService> service_;
+};
+
+} // namespace quillon

@@ -1,0 +1,122 @@
+#include "platform/linux/keyring/LibsecretStore.h"
+
+#include "platform/linux/keyring/Keyring.h"
+
+#include <QPromise>
+
+#include <condition_variable>
+#include <deque>
+#include <future>
+#include <mutex>
+#include <thread>
+
+namespace quillon {
+
+namespace {
+
+/// How long start-up waits for the keyring's answer.
+constexpr std::chrono::seconds existsLimit{5};
+
+} // namespace
+
+/// The thread on which the keyring is asked, one operation after another.
+class LibsecretStore::Worker {
+public:
+    using Job = std::function<void(Keyring&)>;
+
+    Worker() : thread_{[this] { run(); }} { started_.get_future().wait(); }
+    Worker(const Worker&) = delete;
+    Worker& operator=(const Worker&) = delete;
+
+    ~Worker() {
+        {
+            const std::lock_guard lock{mutex_};
+            closing_ = true;
+            steps_->stop();
+        }
+        changed_.notify_one();
+        thread_.join();
+    }
+
+    void add(Job job) {
+        {
+            const std::lock_guard lock{mutex_};
+            jobs_.push_back(std::move(job));
+        }
+        changed_.notify_one();
+    }
+
+    /// Runs the operation on the thread; its result becomes the future's.
+    template <typename Operation>
+    auto perform(Operation operation) {
+        using Result = decltype(operation(std::declval<Keyring&>()));
+        const auto promise = std::make_shared<QPromise<Result>>();
+        promise->start();
+        add([promise, operation = std::move(operation)](Keyring& keyring) {
+            promise->addResult(operation(keyring));
+            promise->finish();
+        });
+        return promise->future();
+    }
+
+private:
+    /// Once the steps are stopped, the jobs that are left fail at once.
+    void run() {
+        GlibSteps steps;
+        steps_ = &steps;
+        started_.set_value();
+        std::unique_lock lock{mutex_};
+        for (;;) {
+            changed_.wait(lock, [this] { return closing_ || !jobs_.empty(); });
+            if (jobs_.empty()) return;
+            const Job job = std::exchange(jobs_.front(), nullptr);
+            jobs_.pop_front();
+            lock.unlock();
+            {
+                Keyring keyring{steps};
+                job(keyring);
+            }
+            steps.settle();
+            lock.lock();
+        }
+    }
+
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::deque<Job> jobs_;
+    bool closing_ = false;
+    GlibSteps* steps_ = nullptr;
+    std::promise<void> started_;
+    std::thread thread_;
+};
+
+LibsecretStore::LibsecretStore() : worker_{std::make_unique<Worker>()} {}
+
+LibsecretStore::~LibsecretStore() = default;
+
+QFuture<bool> LibsecretStore::save(KeychainItem item, std::string value) {
+    return worker_->perform([item = std::move(item), value = std::move(value)](Keyring& keyring) {
+        return keyring.save(item, value);
+    });
+}
+
+QFuture<std::optional<std::string>> LibsecretStore::read(KeychainItem item) {
+    return worker_->perform(
+        [item = std::move(item)](Keyring& keyring) { return keyring.read(item); });
+}
+
+bool LibsecretStore::exists(const KeychainItem& item) {
+    const auto promise = std::make_shared<std::promise<bool>>();
+    auto answer = promise->get_future();
+    worker_->add([promise, item](Keyring& keyring) { promise->set_value(keyring.exists(item)); });
+    return answer.wait_for(existsLimit) == std::future_status::ready && answer.get();
+}
+
+QFuture<bool> LibsecretStore::remove(KeychainItem item) {
+    return worker_->perform([item = std::move(item)](Keyring& keyring) {
+        keyring.remove(item);
+        return !keyring.exists(item);
+    });
+}
+
+} // namespace quillon

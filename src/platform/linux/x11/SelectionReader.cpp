@@ -1,0 +1,275 @@
+#include "platform/linux/x11/SelectionReader.h"
+
+#include <xcb/xcbext.h>
+#include <xcb/xfixes.h>
+
+#include <algorithm>
+#include <cstring>
+#include <span>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+/// More targets than any owner has; a longer list counts as none.
+constexpr qsizetype maximumTargets = 4096;
+/// Windows kept for late answers. Destroyed too soon, they would end owners that take every X error
+/// for fatal.
+constexpr std::size_t maximumRetired = 8;
+
+std::span<const char> valueOf(const xcb_get_property_reply_t& reply) {
+    return {static_cast<const char*>(xcb_get_property_value(&reply)),
+            static_cast<std::size_t>(xcb_get_property_value_length(&reply))};
+}
+
+/// An INCR property holds a lower bound of the size to come; some owners leave it empty.
+qsizetype announcedSize(const xcb_get_property_reply_t& reply) {
+    std::uint32_t size = 0;
+    const auto value = valueOf(reply);
+    if (value.size() >= sizeof size) std::memcpy(&size, value.data(), sizeof size);
+    return size;
+}
+
+} // namespace
+
+SelectionReader::SelectionReader(X11Connection& connection, std::function<void()> ownerChanged)
+    : connection_{connection},
+      ownerChanged_{std::move(ownerChanged)} {
+    if (!selectEvents()) return;
+    clipboard_ = internAtom(connection_.get(), "CLIPBOARD");
+    targets_ = internAtom(connection_.get(), "TARGETS");
+    incr_ = internAtom(connection_.get(), "INCR");
+    utf8String_ = internAtom(connection_.get(), "UTF8_STRING");
+    property_ = internAtom(connection_.get(), "QUILLON_CLIPBOARD");
+    constexpr auto every = XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
+                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
+                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
+    xcb_xfixes_select_selection_input(connection_.get(), connection_.root(), clipboard_, every);
+    openWindow();
+    xcb_flush(connection_.get());
+}
+
+bool SelectionReader::selectEvents() {
+    const auto* extension = xcb_get_extension_data(connection_.get(), &xcb_xfixes_id);
+    if (extension == nullptr || extension->present == 0) return false;
+    // The server refuses every other XFixes request until the versions are agreed.
+    const auto cookie = xcb_xfixes_query_version(connection_.get(), 1, 0);
+    const XcbPointer<xcb_xfixes_query_version_reply_t> version{
+        xcb_xfixes_query_version_reply(connection_.get(), cookie, nullptr)};
+    if (!version) return false;
+    firstXfixesEvent_ = extension->first_event;
+    return true;
+}
+
+std::vector<std::string> SelectionReader::formats() {
+    const auto limit = maximumTargets * qsizetype{sizeof(xcb_atom_t)};
+    const auto answer = convert(targets_, limit);
+    if (!answer || !isRightType(targets_, *answer)) return {};
+    std::vector<xcb_atom_t> atoms(static_cast<std::size_t>(answer->bytes.size()) /
+                                  sizeof(xcb_atom_t));
+    std::memcpy(atoms.data(), answer->bytes.constData(), atoms.size() * sizeof(xcb_atom_t));
+    return namesOf(atoms);
+}
+
+std::optional<QByteArray> SelectionReader::data(const std::string& format) {
+    const auto target = atomOf(format);
+    if (!target) return {};
+    auto answer = convert(*target, maximumSize);
+    if (!answer || !isRightType(*target, *answer)) return {};
+    return std::move(answer->bytes);
+}
+
+/// The two string targets name an encoding, so their type must agree. A media type describes its
+/// content by itself, and owners differ in the type they give it.
+bool SelectionReader::isRightType(xcb_atom_t target, const Property& answer) const {
+    if (target == targets_) {
+        return answer.format == 32 && (answer.type == XCB_ATOM_ATOM || answer.type == targets_);
+    }
+    const bool strict = target == utf8String_ || target == XCB_ATOM_STRING;
+    return answer.format == 8 && (!strict || answer.type == target);
+}
+
+std::optional<xcb_atom_t> SelectionReader::atomOf(const std::string& name) {
+    if (const auto known = atoms_.find(name); known != atoms_.end()) return known->second;
+    // A name that no program has made an atom of is offered by none.
+    const auto cookie =
+        xcb_intern_atom(connection_.get(), 1, static_cast<std::uint16_t>(name.size()), name.data());
+    const auto answer = reply<xcb_intern_atom_reply_t>(cookie.sequence);
+    if (!answer || answer->atom == XCB_ATOM_NONE) return {};
+    return atoms_[name] = answer->atom;
+}
+
+std::vector<std::string> SelectionReader::namesOf(const std::vector<xcb_atom_t>& atoms) {
+    std::vector<std::pair<xcb_atom_t, unsigned>> questions;
+    for (const xcb_atom_t atom : atoms) {
+        if (names_.contains(atom)) continue;
+        questions.emplace_back(atom, xcb_get_atom_name(connection_.get(), atom).sequence);
+    }
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    for (const auto& [atom, sequence] : questions) {
+        if (std::chrono::steady_clock::now() >= deadline) {
+            xcb_discard_reply(connection_.get(), sequence); // patience is for all of them together
+            continue;
+        }
+        const auto answer = reply<xcb_get_atom_name_reply_t>(sequence);
+        if (!answer) continue; // no atom at all
+        names_[atom].assign(xcb_get_atom_name_name(answer.get()), answer->name_len);
+    }
+    std::vector<std::string> names;
+    for (const xcb_atom_t atom : atoms) {
+        if (const auto name = names_.find(atom); name != names_.end())
+            names.push_back(name->second);
+    }
+    return names;
+}
+
+std::optional<SelectionReader::Property> SelectionReader::convert(xcb_atom_t target,
+                                                                  qsizetype limit) {
+    ask(target);
+    if (!waitFor([this] { return answer_.has_value(); })) return {};
+    if (*answer_ == XCB_ATOM_NONE) {
+        open_ = false;
+        return {};
+    }
+    const auto answer = takeProperty(limit);
+    if (!answer || answer->bytes_after > 0) return {};
+    if (answer->type == incr_) return receivePieces(announcedSize(*answer), limit);
+    open_ = false;
+    const auto value = valueOf(*answer);
+    return Property{answer->type, answer->format,
+                    QByteArray{value.data(), static_cast<qsizetype>(value.size())}};
+}
+
+/// A question whose answer never came to its end may still be answered. Its window is given up to
+/// that answer, so that it cannot be taken for the answer to another question.
+void SelectionReader::ask(xcb_atom_t target) {
+    if (open_) retireWindow();
+    open_ = true;
+    overtaken_ = false;
+    target_ = target;
+    answer_.reset();
+    question_ = xcb_convert_selection(connection_.get(), window_, clipboard_, target, property_,
+                                      XCB_CURRENT_TIME)
+                    .sequence;
+}
+
+/// The owner writes piece after piece, each when the last was deleted; an empty one is the end.
+std::optional<SelectionReader::Property> SelectionReader::receivePieces(qsizetype announced,
+                                                                        qsizetype limit) {
+    if (announced > limit) return {};
+    Property whole;
+    whole.bytes.reserve(announced);
+    const auto end = std::chrono::steady_clock::now() + transferLimit;
+    while (std::chrono::steady_clock::now() < end && waitFor([this] { return newValue_; })) {
+        const auto piece = takeProperty(limit);
+        if (!piece) return {};
+        if (piece->type == XCB_ATOM_NONE) continue; // deleted again: not a piece
+        const auto value = valueOf(*piece);
+        if (value.empty()) {
+            open_ = false;
+            return whole;
+        }
+        if (whole.bytes.isEmpty()) {
+            whole.type = piece->type;
+            whole.format = piece->format;
+        }
+        const auto size = static_cast<qsizetype>(value.size());
+        const bool same = piece->type == whole.type && piece->format == whole.format;
+        if (!same || piece->bytes_after > 0 || size > limit - whole.bytes.size()) return {};
+        whole.bytes.append(value.data(), size);
+    }
+    return {};
+}
+
+/// Reads and deletes the property, which tells the owner to go on.
+XcbPointer<xcb_get_property_reply_t> SelectionReader::takeProperty(qsizetype limit) {
+    newValue_ = false;
+    const auto units = static_cast<std::uint32_t>(limit / 4);
+    const auto cookie = xcb_get_property(connection_.get(), 1, window_, property_,
+                                         XCB_GET_PROPERTY_TYPE_ANY, 0, units);
+    return reply<xcb_get_property_reply_t>(cookie.sequence);
+}
+
+void SelectionReader::openWindow() {
+    window_ = xcb_generate_id(connection_.get());
+    constexpr std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_create_window(connection_.get(), 0, window_, connection_.root(), 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK,
+                      &events);
+}
+
+void SelectionReader::retireWindow() {
+    retired_.push_back(window_);
+    if (retired_.size() > maximumRetired) {
+        xcb_destroy_window(connection_.get(), retired_.front());
+        retired_.pop_front();
+    }
+    openWindow();
+}
+
+void SelectionReader::handleEvents() {
+    for (;;) {
+        const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())};
+        if (!event) return;
+        handle(*event);
+    }
+}
+
+void SelectionReader::handle(const xcb_generic_event_t& event) {
+    const int type = event.response_type & 0x7f; // without the mark of SendEvent
+    if (type == XCB_SELECTION_NOTIFY) {
+        noteAnswer(reinterpret_cast<const xcb_selection_notify_event_t&>(event));
+    } else if (type == XCB_PROPERTY_NOTIFY) {
+        const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+        const bool written = change.state == XCB_PROPERTY_NEW_VALUE;
+        if (written && change.window == window_ && change.atom == property_) newValue_ = true;
+    } else if (type == firstXfixesEvent_ + XCB_XFIXES_SELECTION_NOTIFY) {
+        noteOwner(event.full_sequence);
+    }
+}
+
+void SelectionReader::noteAnswer(const xcb_selection_notify_event_t& event) {
+    if (open_ && event.requestor == window_) {
+        if (event.target == target_) answer_ = event.property;
+        return;
+    }
+    // A late answer has been written to its end, and with its window goes what it holds.
+    const auto late = std::find(retired_.begin(), retired_.end(), event.requestor);
+    if (late == retired_.end()) return;
+    xcb_destroy_window(connection_.get(), *late);
+    retired_.erase(late);
+}
+
+/// An owner that is replaced or gone answers no more, or with what is no longer on the clipboard;
+/// unless the change happened before the server had the question, which then went to the new owner.
+void SelectionReader::noteOwner(std::uint32_t sequence) {
+    ownerChanged_();
+    const bool sinceQuestion = static_cast<std::int32_t>(sequence - question_) >= 0;
+    if (open_ && sinceQuestion) overtaken_ = true;
+}
+
+template <typename Done>
+bool SelectionReader::waitFor(Done done) {
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    for (;;) {
+        handleEvents();
+        if (!connection_.alive() || stop_.stop_requested()) return false;
+        if (done()) return true;
+        if ((open_ && overtaken_) || std::chrono::steady_clock::now() >= deadline) return false;
+        connection_.sleep(deadline);
+    }
+}
+
+template <typename Reply>
+XcbPointer<Reply> SelectionReader::reply(unsigned sequence) {
+    void* answer = nullptr;
+    xcb_generic_error_t* error = nullptr;
+    const bool arrived = waitFor(
+        [&] { return xcb_poll_for_reply(connection_.get(), sequence, &answer, &error) != 0; });
+    if (!arrived) xcb_discard_reply(connection_.get(), sequence);
+    std::free(error); // NOLINT: xcb hands out malloc'd
+    return XcbPointer<Reply>{static_cast<Reply*>(answer)};
+}
+
+} // namespace quillon

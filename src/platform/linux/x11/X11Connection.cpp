@@ -1,0 +1,110 @@
+#include "platform/linux/x11/X11Connection.h"
+
+#include <QGuiApplication>
+
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace quillon {
+
+namespace {
+
+xcb_window_t rootWindow(xcb_connection_t* connection, int screen) {
+    auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
+    for (; screens.rem > 1 && screen > 0; --screen)
+        xcb_screen_next(&screens);
+    return screens.rem > 0 ? screens.data->root : xcb_window_t{XCB_WINDOW_NONE};
+}
+
+/// The screen that $DISPLAY names.
+int defaultScreen() {
+    int screen = 0;
+    char* host = nullptr;
+    int display = 0;
+    if (xcb_parse_display(nullptr, &host, &display, &screen)) std::free(host); // NOLINT: malloc'd
+    return screen;
+}
+
+/// For poll(2): rounded up, so that a sleep never ends just before its deadline; -1 for no
+/// deadline.
+int millisecondsUntil(std::optional<X11Connection::Time> deadline) {
+    if (!deadline) return -1;
+    const auto left = *deadline - std::chrono::steady_clock::now();
+    const auto rounded = std::chrono::ceil<std::chrono::milliseconds>(left).count();
+    return static_cast<int>(std::clamp<std::int64_t>(rounded, 0, 60'000));
+}
+
+} // namespace
+
+xcb_connection_t* qtConnection() {
+    const auto* const native =
+        qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    return native ? native->connection() : nullptr;
+}
+
+xcb_window_t rootWindow(xcb_connection_t* connection) {
+    return rootWindow(connection, defaultScreen());
+}
+
+void preferX11() {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name) {
+    const auto cookie =
+        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const XcbPointer<xcb_intern_atom_reply_t> reply{
+        xcb_intern_atom_reply(connection, cookie, nullptr)};
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+xcb_atom_t managerSelection(xcb_connection_t* connection, std::string_view prefix) {
+    return internAtom(connection, std::string{prefix} + "_S" + std::to_string(defaultScreen()));
+}
+
+std::unique_ptr<X11Connection> X11Connection::open(const char* display) {
+    int screen = 0;
+    xcb_connection_t* connection = xcb_connect(display, &screen); // never null
+    if (xcb_connection_has_error(connection) == 0) {
+        const xcb_window_t root = rootWindow(connection, screen);
+        const int bell = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+        if (root != XCB_WINDOW_NONE && bell >= 0) {
+            return std::unique_ptr<X11Connection>{new X11Connection{connection, root, bell}};
+        }
+        if (bell >= 0) close(bell);
+    }
+    xcb_disconnect(connection);
+    return nullptr;
+}
+
+X11Connection::X11Connection(xcb_connection_t* connection, xcb_window_t root, int bell)
+    : connection_{connection},
+      root_{root},
+      bell_{bell} {}
+
+X11Connection::~X11Connection() {
+    xcb_disconnect(connection_);
+    close(bell_);
+}
+
+void X11Connection::ring() const {
+    eventfd_write(bell_, 1);
+}
+
+void X11Connection::sleep(std::optional<Time> deadline) const {
+    xcb_flush(connection_);
+    // The socket of a dead server is always "readable": poll ignores a negative descriptor.
+    const int socket = alive() ? xcb_get_file_descriptor(connection_) : -1;
+    std::array<pollfd, 2> sources{{{bell_, POLLIN, 0}, {socket, POLLIN, 0}}};
+    poll(sources.data(), sources.size(), millisecondsUntil(deadline));
+    eventfd_t rung = 0;
+    eventfd_read(bell_, &rung);
+}
+
+} // namespace quillon

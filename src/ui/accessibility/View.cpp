@@ -1,0 +1,69 @@
+#include "ui/accessibility/View.h"
+
+#include "ui/accessibility/Accessibility.h"
+
+#include <QDialog>
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+class ViewDescription : public ContainerDescription {
+public:
+    explicit ViewDescription(View* view) : ContainerDescription{view}, view_{view} {}
+
+    [[nodiscard]] QAccessible::Role role() const override {
+        const QAccessible::Role role = view_->accessibleRole();
+        const bool holds = role == QAccessible::Graphic && childCount() > 0;
+        return holds ? ContainerDescription::role() : role;
+    }
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override {
+        const QString given = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && given.isEmpty() ? view_->accessibleText() : given;
+    }
+
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.busy = view_->accessibleBusy();
+        if (decorates(this)) state.invisible = true;
+        return state;
+    }
+
+    using Relations = QList<std::pair<QAccessibleInterface*, QAccessible::Relation>>;
+
+    [[nodiscard]] Relations relations(QAccessible::Relation match) const override {
+        Relations relations = QAccessibleWidget::relations(match);
+        if (view_->accessibleLabel() && (match & QAccessible::Label)) {
+            relations.append({QAccessible::queryAccessibleInterface(view_->accessibleLabel()),
+                              QAccessible::Label});
+        }
+        return relations;
+    }
+
+protected:
+    [[nodiscard]] QList<QAccessibleInterface*> parts() const override {
+        return view_->accessibleWhole() ? QList<QAccessibleInterface*>{}
+                                        : ContainerDescription::parts();
+    }
+
+private:
+    View* view_;
+};
+
+} // namespace
+
+View::View(QWidget* parent) : Themed{parent} {
+    describeAs<QWidget, ContainerDescription>();
+    describeAs<QDialog, ContainerDescription>();
+    describeAs<View, ViewDescription>();
+}
+
+void View::announceText() {
+    QAccessibleEvent changed{this, QAccessible::NameChanged};
+    QAccessible::updateAccessibility(&changed);
+}
+
+} // namespace quillon

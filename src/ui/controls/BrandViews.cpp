@@ -1,0 +1,130 @@
+#include "ui/controls/BrandViews.h"
+
+#include "artwork/Brand.h"
+#include "artwork/Mark.h"
+#include "ui/text/SymbolView.h"
+#include "ui/theme/Colors.h"
+
+#include <QFontMetricsF>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillon {
+namespace {
+
+constexpr QColor iconTop{38, 50, 88};
+constexpr double iconRadius = 0.225; // of its side
+constexpr double iconMark = 0.60;
+constexpr double iconRim = 0.10; // opacity
+constexpr double tracking = -0.3;
+constexpr double planeDisc = 0.80; // of the icon: what shines through the cut-out of the plane
+constexpr int accentFrom = 5;      // Quill and on
+
+QString productName() {
+    return QStringLiteral("Quillon");
+}
+
+QRectF centredSquare(const QRectF& frame) {
+    const double side = std::min(frame.width(), frame.height());
+    QRectF box{0, 0, side, side};
+    box.moveCenter(frame.center());
+    return box;
+}
+
+} // namespace
+
+void paintAppIcon(QPainter& painter, const QRectF& frame) {
+    const QRectF box = centredSquare(frame);
+    const double radius = box.width() * iconRadius;
+    QLinearGradient ground{box.topLeft(), box.bottomLeft()};
+    ground.setColorAt(0, iconTop);
+    ground.setColorAt(1, Brand::navy);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ground);
+    painter.drawRoundedRect(box, radius, radius);
+    // A rim keeps it apart from dark windows.
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen{faded(Qt::white, iconRim), 1});
+    painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
+    const double inset = box.width() * (1 - iconMark) / 2;
+    paintMark(painter, box.adjusted(inset, inset, -inset, -inset), Qt::white, Brand::coral);
+    painter.restore();
+}
+
+SquareView::SquareView(double size, QWidget* parent) : View{parent}, size_{size} {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize SquareView::sizeHint() const {
+    const int side = static_cast<int>(std::ceil(size_ * Theme::textScale()));
+    return {side, side};
+}
+
+void AppIconView::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter{this};
+    paintAppIcon(painter, rect());
+}
+
+Wordmark::Wordmark(double points, Tint ink, QWidget* parent)
+    : View{parent},
+      points_{points},
+      ink_{ink} {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QFont Wordmark::font() const {
+    QFont font = Theme::font({points_, QFont::ExtraBold});
+    font.setLetterSpacing(QFont::AbsoluteSpacing, tracking * Theme::textScale());
+    return font;
+}
+
+QSize Wordmark::sizeHint() const {
+    const QFontMetricsF metrics{font()};
+    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(productName()))) + 1,
+            static_cast<int>(std::ceil(metrics.height()))};
+}
+
+QAccessible::Role Wordmark::accessibleRole() const {
+    return QAccessible::StaticText;
+}
+
+QString Wordmark::accessibleText() const {
+    return productName();
+}
+
+void Wordmark::paintEvent(QPaintEvent* /*event*/) {
+    const Theme theme = this->theme();
+    QTextLayout layout{productName(), font()};
+    QTextLayout::FormatRange accent{.start = accentFrom,
+                                    .length = static_cast<int>(productName().size()) - accentFrom,
+                                    .format = {}};
+    accent.format.setForeground(theme.fill(Brand::coral));
+    layout.setFormats({accent});
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(width() + 1);
+    layout.endLayout();
+    QPainter painter{this};
+    painter.setPen(theme.color(ink_));
+    layout.draw(&painter, {0, std::floor((height() - line.height()) / 2)});
+}
+
+void TelegramIcon::paintEvent(QPaintEvent* /*event*/) {
+    const Theme theme = this->theme();
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double side = sizeHint().width();
+    const double radius = side * planeDisc / 2;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme.fill(Qt::white));
+    painter.drawEllipse(QRectF{rect()}.center(), radius, radius);
+    paintSymbol(painter, rect(), telegramSymbol, side, theme.fill(telegramBlue));
+}
+
+} // namespace quillon

@@ -1,0 +1,162 @@
+#include "ui/controls/Buttons.h"
+
+#include "artwork/Brand.h"
+#include "ui/text/SymbolView.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+/// What the kinds of buttons differ in.
+struct KindLook {
+    int beside;         // pixels between the edge and the text
+    int above;          // and above it
+    double leastHeight; // points
+    Tint ink;
+};
+
+const KindLook& kindLook(ButtonKind kind) {
+    static const std::array table{
+        KindLook{12, 4, 28, Ink::primary},     // bordered
+        KindLook{14, 4, 28, Brand::navy},      // prominent
+        KindLook{6, 3, 0, Ink::secondary},     // borderless
+        KindLook{12, 4, 28, Ink::destructive}, // destructive
+    };
+    return table.at(static_cast<std::size_t>(kind));
+}
+
+bool framed(ButtonKind kind) {
+    return kind == ButtonKind::bordered || kind == ButtonKind::destructive;
+}
+
+constexpr double symbolScale = 1.1; // of the text's size
+constexpr double symbolGap = 0.46;
+constexpr int hoveredProminent = 106; // percent of its lightness
+constexpr int pressedProminent = 108;
+
+double symbolSide(const TextStyle& style) {
+    return style.points * Theme::textScale() * symbolScale;
+}
+
+} // namespace
+
+TextButton::TextButton(const QString& text, std::string symbol, ButtonLook look, QWidget* parent)
+    : Themed{text, parent},
+      symbol_{std::move(symbol)},
+      look_{look} {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_Hover);
+}
+
+void TextButton::setSymbol(const std::string& symbol) {
+    if (symbol == symbol_) return;
+    symbol_ = symbol;
+    themeChanged();
+}
+
+int TextButton::inset() const {
+    return kindLook(look_.kind).beside;
+}
+
+Tint TextButton::ink() const {
+    const bool lit = look_.kind == ButtonKind::borderless && underMouse();
+    return lit ? Tint{Ink::primary} : kindLook(look_.kind).ink;
+}
+
+double TextButton::contentWidth() const {
+    const double text =
+        QFontMetricsF{Theme::font(look_.style)}.size(Qt::TextShowMnemonic, this->text()).width();
+    return std::ceil(text) + symbolWidth();
+}
+
+double TextButton::symbolWidth() const {
+    if (symbol_.empty()) return 0;
+    const double gap = text().isEmpty() ? 0 : look_.style.points * Theme::textScale() * symbolGap;
+    return std::ceil(symbolSide(look_.style) + gap);
+}
+
+QSize TextButton::sizeHint() const {
+    const KindLook& kind = kindLook(look_.kind);
+    const double line = QFontMetricsF{Theme::font(look_.style)}.height();
+    const double height = std::max(Theme::length(kind.leastHeight), line + 2 * kind.above);
+    return {static_cast<int>(std::ceil(contentWidth() + 2 * kind.beside)),
+            static_cast<int>(std::ceil(height))};
+}
+
+void TextButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
+    Themed::keyPressEvent(event);
+}
+
+void TextButton::paintEvent(QPaintEvent* /*event*/) {
+    const Theme theme = this->theme();
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintGround(painter, theme);
+    paintContent(painter, theme);
+    if (!showsFocus()) return;
+    const bool prominent = look_.kind == ButtonKind::prominent;
+    theme.paintFocusRing(painter, rect(), Space::controlRadius,
+                         prominent ? Tint{Brand::navy} : Tint{Ink::accent});
+}
+
+void TextButton::paintGround(QPainter& painter, const Theme& theme) const {
+    const bool lit = underMouse() && isEnabled();
+    painter.setPen(framed(look_.kind) ? QPen{theme.separator(), 1} : QPen{Qt::NoPen});
+    switch (look_.kind) {
+    case ButtonKind::prominent:
+        painter.setBrush(theme.fill(isDown() ? Brand::coral.darker(pressedProminent)
+                                    : lit    ? Brand::coral.lighter(hoveredProminent)
+                                             : Brand::coral));
+        break;
+    case ButtonKind::bordered:
+    case ButtonKind::destructive:
+        painter.setBrush(isDown() ? theme.pressedFill()
+                         : lit    ? theme.hoverFill()
+                                  : theme.quaternaryFill());
+        break;
+    case ButtonKind::borderless:
+        if (!lit && !isDown()) return;
+        painter.setBrush(isDown() ? theme.hoverFill() : theme.quaternaryFill());
+        break;
+    }
+    const double inset = framed(look_.kind) ? 0.5 : 0;
+    painter.drawRoundedRect(QRectF{rect()}.adjusted(inset, inset, -inset, -inset),
+                            Space::controlRadius, Space::controlRadius);
+}
+
+void TextButton::paintContent(QPainter& painter, const Theme& theme) const {
+    const QColor color = theme.color(ink());
+    const bool rightToLeft = layoutDirection() == Qt::RightToLeft;
+    const double room = width() - 2.0 * inset();
+    const double content = std::min(room, contentWidth());
+    const double left = (width() - content) / 2;
+    if (!symbol_.empty()) {
+        const double side = symbolSide(look_.style);
+        const double x = rightToLeft ? left + content - side : left;
+        paintSymbol(painter, {x, 0, side, static_cast<double>(height())}, symbol_, side,
+                    look_.symbolInk ? theme.color(*look_.symbolInk) : color,
+                    symbolWeight(look_.style.weight));
+    }
+    const QFont font = Theme::font(look_.style);
+    const QRectF box{rightToLeft ? left : left + symbolWidth(), 0, content - symbolWidth(),
+                     static_cast<double>(height())};
+    const bool underlined = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
+    painter.setFont(font);
+    painter.setPen(color);
+    painter.setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    painter.drawText(
+        box, Qt::AlignCenter | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+        QFontMetricsF{font}.elidedText(text(), Qt::ElideRight, box.width(), Qt::TextShowMnemonic));
+}
+
+} // namespace quillon

@@ -1,0 +1,151 @@
+#include "ui/controls/Buttons.h"
+
+#include "ui/accessibility/Accessibility.h"
+
+#include <QChildEvent>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QPainter>
+
+namespace quillon {
+
+namespace {
+
+class ButtonDescription : public QAccessibleWidget {
+public:
+    explicit ButtonDescription(ContentButton* button)
+        : QAccessibleWidget{button},
+          button_{button} {}
+
+    [[nodiscard]] QAccessible::Role role() const override {
+        return button_->selected() ? QAccessible::RadioButton : QAccessible::Button;
+    }
+
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.selectable = state.checkable = button_->selected().has_value();
+        state.selected = state.checked = button_->selected().value_or(false);
+        state.expandable = button_->expanded().has_value();
+        state.expanded = button_->expanded().value_or(false);
+        state.collapsed = !button_->expanded().value_or(true);
+        state.busy = button_->busy();
+        state.pressed = button_->isDown();
+        return state;
+    }
+
+    // Its name and description say what the views on its face say.
+    [[nodiscard]] int childCount() const override { return 0; }
+    [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface* /*child*/) const override {
+        return -1;
+    }
+
+    [[nodiscard]] QStringList actionNames() const override {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (button_->isEnabled()) names.prepend(pressAction());
+        return names;
+    }
+
+    void doAction(const QString& name) override {
+        if (name == pressAction()) {
+            button_->click();
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
+
+private:
+    ContentButton* button_;
+};
+
+} // namespace
+
+ContentButton::ContentButton(QWidget* parent) : Themed{parent} {
+    describeAs<ContentButton, ButtonDescription>();
+    QSizePolicy policy{QSizePolicy::Preferred, QSizePolicy::Preferred};
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    setAttribute(Qt::WA_Hover);
+}
+
+void ContentButton::setSelected(bool selected) {
+    if (selected_ == selected) return;
+    selected_ = selected;
+    update();
+    QAccessible::State changed;
+    changed.selected = changed.checked = true;
+    announce(*this, changed);
+}
+
+void ContentButton::setExpanded(std::optional<bool> expanded) {
+    if (expanded_ == expanded) return;
+    expanded_ = expanded;
+    QAccessible::State changed;
+    changed.expanded = true;
+    announce(*this, changed);
+}
+
+void ContentButton::setBusy(bool busy) {
+    if (busy_ == busy) return;
+    busy_ = busy;
+    setBrightWhileDisabled(*this, busy);
+    // The focus comes back, instead of going on to the next control as it does from what is
+    // disabled for good.
+    const bool focused = hasFocus();
+    if (busy && focused) clearFocus();
+    setEnabled(!busy);
+    if (!busy && hadFocus_ && !window()->focusWidget()) setFocus(Qt::ActiveWindowFocusReason);
+    hadFocus_ = focused;
+    QAccessible::State changed;
+    changed.busy = true;
+    announce(*this, changed);
+}
+
+void ContentButton::setCornerRadius(double radius) {
+    radius_ = radius;
+    update();
+}
+
+QSize ContentButton::sizeHint() const {
+    return layout() ? layout()->totalSizeHint() : QSize{};
+}
+
+QSize ContentButton::minimumSizeHint() const {
+    return layout() ? layout()->totalMinimumSize() : QSize{};
+}
+
+bool ContentButton::hasHeightForWidth() const {
+    return layout() && layout()->hasHeightForWidth();
+}
+
+int ContentButton::heightForWidth(int width) const {
+    return hasHeightForWidth() ? layout()->totalHeightForWidth(width) : -1;
+}
+
+void ContentButton::paintGround(QPainter& painter, const Theme& theme) {
+    if (!isEnabled() || (!underMouse() && !isDown())) return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isDown() ? theme.hoverFill() : theme.quaternaryFill());
+    painter.drawRoundedRect(rect(), radius_, radius_);
+}
+
+void ContentButton::paintEvent(QPaintEvent* /*event*/) {
+    const Theme theme = this->theme();
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintGround(painter, theme);
+    if (showsFocus()) theme.paintFocusRing(painter, rect(), radius_, focusTint());
+}
+
+void ContentButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
+    Themed::keyPressEvent(event);
+}
+
+void ContentButton::childEvent(QChildEvent* event) {
+    if (event->added() && event->child()->isWidgetType())
+        static_cast<QWidget*>(event->child())->setAttribute(Qt::WA_TransparentForMouseEvents);
+    Themed::childEvent(event);
+}
+
+} // namespace quillon

@@ -1,0 +1,175 @@
+#include "ui/controls/Switch.h"
+
+#include "ui/controls/Tile.h"
+#include "ui/theme/Colors.h"
+#include "ui/theme/Motion.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+constexpr double trackWidth = 36;
+constexpr double trackHeight = 20;
+constexpr double knobGap = 2;
+constexpr double offOpacity = 0.30;
+constexpr double gap = 10;
+constexpr double comfortableTitle = 300;
+constexpr double leastTitle = 64;
+
+QSizeF trackSize() {
+    return {std::ceil(Theme::length(trackWidth)), std::ceil(Theme::length(trackHeight))};
+}
+
+QColor mixed(QColor from, QColor to, double share) {
+    const auto part = [share](float one, float other) {
+        return one + (other - one) * static_cast<float>(share);
+    };
+    return QColor::fromRgbF(part(from.redF(), to.redF()), part(from.greenF(), to.greenF()),
+                            part(from.blueF(), to.blueF()), part(from.alphaF(), to.alphaF()));
+}
+
+} // namespace
+
+Switch::Switch(const QString& title, std::string symbol, QColor color, QWidget* parent)
+    : Themed{title, parent},
+      symbol_{std::move(symbol)},
+      color_{color} {
+    QSizePolicy policy{QSizePolicy::Preferred, QSizePolicy::Minimum};
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    slide_.setDuration(static_cast<int>(changeDuration.count()));
+    slide_.setEasingCurve(QEasingCurve::InOutQuad);
+    connect(&slide_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+        position_ = value.toDouble();
+        update();
+    });
+    connect(this, &QCheckBox::toggled, this, [this](bool on) {
+        slide(on);
+        if (!showing_) Q_EMIT switched(on);
+    });
+}
+
+void Switch::showOn(bool on) {
+    showing_ = true;
+    setChecked(on);
+    showing_ = false;
+}
+
+void Switch::slide(bool on) {
+    slide_.stop();
+    if (!isVisible() || !animationsEnabled()) {
+        position_ = on ? 1 : 0;
+        return update();
+    }
+    slide_.setStartValue(position_);
+    slide_.setEndValue(on ? 1.0 : 0.0);
+    slide_.start();
+}
+
+void Switch::hideEvent(QHideEvent* event) {
+    slide_.stop();
+    position_ = isChecked() ? 1 : 0;
+    Themed::hideEvent(event);
+}
+
+TextBlock Switch::titleBlock() const {
+    return TextBlock::title(text(), Theme::font(Text::body), layoutDirection(),
+                            style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0);
+}
+
+double Switch::besideTitle() const {
+    const double tile = symbol_.empty() ? 0 : Tile::side() + gap;
+    return tile + gap + trackSize().width();
+}
+
+QSize Switch::sizeHint() const {
+    return hintFor(comfortableTitle);
+}
+
+QSize Switch::minimumSizeHint() const {
+    return hintFor(leastTitle);
+}
+
+QSize Switch::hintFor(double mostTitle) const {
+    const double title = std::min(titleBlock().naturalWidth(), Theme::length(mostTitle));
+    const int width = static_cast<int>(std::ceil(title + besideTitle()));
+    return {width, heightForWidth(width)};
+}
+
+int Switch::heightForWidth(int width) const {
+    double height = trackSize().height();
+    if (!symbol_.empty()) height = std::max(height, Tile::side());
+    TextBlock title = titleBlock();
+    height = std::max(height, title.wrap(std::max(1.0, width - besideTitle())).height());
+    return static_cast<int>(std::ceil(height));
+}
+
+bool Switch::hitButton(const QPoint& position) const {
+    return rect().contains(position);
+}
+
+void Switch::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
+    Themed::keyPressEvent(event);
+}
+
+void Switch::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintTitle(painter);
+    paintTrack(painter);
+}
+
+void Switch::paintTitle(QPainter& painter) const {
+    const Theme theme = this->theme();
+    const bool rightToLeft = layoutDirection() == Qt::RightToLeft;
+    double before = 0;
+    if (!symbol_.empty()) {
+        const double side = Tile::side();
+        const double x = rightToLeft ? width() - side : 0;
+        Tile::paint(painter, {x, std::floor((height() - side) / 2), side, side}, symbol_, color_,
+                    theme);
+        before = side + gap;
+    }
+    TextBlock title = titleBlock();
+    const double room = std::max(1.0, width() - besideTitle());
+    const QSizeF size = title.wrap(room);
+    painter.setPen(theme.color(Ink::primary));
+    title.paint(painter, {rightToLeft ? width() - before - room : before,
+                          std::floor((height() - size.height()) / 2)});
+}
+
+void Switch::paintTrack(QPainter& painter) const {
+    const Theme theme = this->theme();
+    const QSizeF size = trackSize();
+    const bool rightToLeft = layoutDirection() == Qt::RightToLeft;
+    const QRectF track{QPointF{rightToLeft ? 0 : width() - size.width(),
+                               std::floor((height() - size.height()) / 2)},
+                       size};
+    const double radius = size.height() / 2;
+    const QColor off =
+        faded(theme.color(Ink::primary), underMouse() ? offOpacity + 0.06 : offOpacity);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(mixed(off, theme.color(Ink::accent), position_));
+    painter.drawRoundedRect(track, radius, radius);
+
+    const double knob = size.height() - 2 * knobGap;
+    const double way = size.width() - 2 * knobGap - knob;
+    const double along = rightToLeft ? 1 - position_ : position_;
+    const QRectF disc{track.left() + knobGap + way * along, track.top() + knobGap, knob, knob};
+    painter.setBrush(theme.fill(faded(Qt::black, 0.20)));
+    painter.drawEllipse(disc.translated(0, 1));
+    painter.setBrush(QColor{Qt::white});
+    painter.drawEllipse(disc);
+    if (showsFocus())
+        theme.paintFocusRing(painter, track.adjusted(-0.5, -0.5, 0.5, 0.5), radius, Ink::primary);
+}
+
+} // namespace quillon

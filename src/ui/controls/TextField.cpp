@@ -1,0 +1,57 @@
+#include "ui/controls/TextField.h"
+
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillon {
+namespace {
+
+constexpr int besideText = 6;
+constexpr int aboveText = 4;
+constexpr double leastHeight = 28;
+constexpr double usualWidth = 160;
+constexpr double leastWidth = 80;
+
+} // namespace
+
+TextField::TextField(QWidget* parent) : Themed{parent} {
+    // The style draws the text alone. (A style sheet would keep the colours it has found first.)
+    setFrame(false);
+    QPalette bare;
+    bare.setColor(QPalette::Base, Qt::transparent);
+    setPalette(bare);
+    setTextMargins(besideText, 0, besideText, 0);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+QSize TextField::sizeHint() const {
+    const int text = fontMetrics().height() + 2 * aboveText;
+    const int least = static_cast<int>(std::ceil(Theme::length(leastHeight)));
+    return {static_cast<int>(Theme::length(usualWidth)), std::max(text, least)};
+}
+
+QSize TextField::minimumSizeHint() const {
+    return {static_cast<int>(Theme::length(leastWidth)), sizeHint().height()};
+}
+
+void TextField::paintEvent(QPaintEvent* event) {
+    const Theme theme = this->theme();
+    {
+        QPainter painter{this};
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen{theme.pressedFill(), 1});
+        painter.setBrush(
+            theme.fill(QGuiApplication::palette().color(QPalette::Active, QPalette::Base)));
+        painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), Space::controlRadius,
+                                Space::controlRadius);
+        // Where the text goes is worth knowing for those who use the mouse, too.
+        if (hasFocus()) theme.paintFocusRing(painter, rect(), Space::controlRadius);
+    }
+    Themed::paintEvent(event);
+}
+
+} // namespace quillon

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "ui/theme/Themed.h"
+
+#include <QLineEdit>
+
+namespace quillon {
+
+/// A line of text to type, in a box with round corners. It needs an accessible name.
+class TextField : public Themed<QLineEdit> {
+    Q_OBJECT
+
+public:
+    explicit TextField(QWidget* parent = nullptr);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace quillon

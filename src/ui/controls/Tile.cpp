@@ -1,0 +1,84 @@
+#include "ui/controls/Tile.h"
+
+#include "ui/text/SymbolView.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+#include <cmath>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+constexpr double sidePoints = 20;
+constexpr double symbolShare = 0.55;
+constexpr double cornerShare = 0.27;
+
+} // namespace
+
+Tile::Tile(std::string symbol, QColor color, QWidget* parent)
+    : View{parent},
+      symbol_{std::move(symbol)},
+      color_{color} {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void Tile::setSymbol(const std::string& symbol, QColor color) {
+    symbol_ = symbol;
+    color_ = color;
+    update();
+}
+
+QSize Tile::sizeHint() const {
+    const int whole = static_cast<int>(side());
+    return {whole, whole};
+}
+
+double Tile::side() {
+    return std::ceil(Theme::length(sidePoints));
+}
+
+void Tile::paint(QPainter& painter, const QRectF& box, const std::string& symbol, QColor color,
+                 const Theme& theme) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme.fill(color));
+    const double radius = box.width() * cornerShare;
+    painter.drawRoundedRect(box, radius, radius);
+    paintSymbol(painter, box, symbol, std::round(box.width() * symbolShare), Theme::onTile(color),
+                SymbolWeight::semibold);
+    painter.restore();
+}
+
+void Tile::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter{this};
+    const QSizeF size{side(), side()};
+    const QPointF corner{(width() - size.width()) / 2, (height() - size.height()) / 2};
+    paint(painter, {corner, size}, symbol_, color_, theme());
+}
+
+TileLabel::TileLabel(const QString& title, const std::string& symbol, QColor color, QWidget* parent)
+    : View{parent},
+      title_{new IconLabel{title}} {
+    auto* row = new QHBoxLayout{this};
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(10);
+    row->addWidget(new Tile{symbol, color});
+    row->addWidget(title_, 1);
+}
+
+void TileLabel::setTitle(const QString& title) {
+    title_->setText(title);
+}
+
+QAccessible::Role TileLabel::accessibleRole() const {
+    return QAccessible::StaticText;
+}
+
+QString TileLabel::accessibleText() const {
+    return title_->text();
+}
+
+} // namespace quillon

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "ui/text/IconLabel.h"
+
+#include <string>
+
+namespace quillon {
+
+/// A symbol on a small coloured square. Decoration.
+class Tile : public View {
+    Q_OBJECT
+
+public:
+    Tile(std::string symbol, QColor color, QWidget* parent = nullptr);
+    void setSymbol(const std::string& symbol, QColor color);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+    /// The side of a tile in device-independent pixels, for those who paint one themselves.
+    [[nodiscard]] static double side();
+    static void paint(QPainter& painter, const QRectF& box, const std::string& symbol, QColor color,
+                      const Theme& theme);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    std::string symbol_;
+    QColor color_;
+};
+
+/// The label of a row: a tile and the title after it.
+class TileLabel : public View {
+    Q_OBJECT
+
+public:
+    TileLabel(const QString& title, const std::string& symbol, QColor color,
+              QWidget* parent = nullptr);
+
+    void setTitle(const QString& title);
+    [[nodiscard]] QAccessible::Role accessibleRole() const override;
+    [[nodiscard]] QString accessibleText() const override;
+    [[nodiscard]] bool accessibleWhole() const override { return true; }
+
+private:
+    IconLabel* title_;
+};
+
+} // namespace quillon

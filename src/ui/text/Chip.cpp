@@ -1,0 +1,72 @@
+#include "ui/text/Chip.h"
+
+#include "ui/theme/Colors.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+constexpr double besideText = 10;
+constexpr double aboveText = 3;
+constexpr double tintOpacity = 0.30;
+constexpr double borderOpacity = 0.55;
+constexpr double leastText = 32;
+constexpr TextStyle chipText{12, QFont::Medium};
+
+} // namespace
+
+Chip::Chip(QString text, QColor color, QWidget* parent)
+    : View{parent},
+      text_{std::move(text)},
+      color_{color} {
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+}
+
+void Chip::setChip(const QString& text, QColor color) {
+    const bool renamed = text != text_;
+    text_ = text;
+    color_ = color;
+    themeChanged();
+    if (renamed) announceText();
+}
+
+QSize Chip::sizeHint() const {
+    const QFontMetricsF metrics{Theme::font(chipText)};
+    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text_) + 2 * besideText)),
+            static_cast<int>(std::ceil(metrics.height() + 2 * aboveText))};
+}
+
+QSize Chip::minimumSizeHint() const {
+    const QSize full = sizeHint();
+    const int least = static_cast<int>(std::ceil(Theme::length(leastText) + 2 * besideText));
+    return {std::min(full.width(), least), full.height()};
+}
+
+QAccessible::Role Chip::accessibleRole() const {
+    return QAccessible::StaticText;
+}
+
+void Chip::paintEvent(QPaintEvent* /*event*/) {
+    const Theme theme = this->theme();
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF capsule = QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.setPen(QPen{theme.fill(faded(color_, borderOpacity)), 1});
+    painter.setBrush(theme.fill(faded(color_, tintOpacity)));
+    painter.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
+    const QFont font = Theme::font(chipText);
+    const double room = width() - 2 * besideText;
+    painter.setFont(font);
+    painter.setPen(theme.color(Ink::primary));
+    painter.setLayoutDirection(text_.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine,
+                     QFontMetricsF{font}.elidedText(text_, Qt::ElideRight, std::ceil(room) + 1));
+}
+
+} // namespace quillon

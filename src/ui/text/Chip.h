@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ui/accessibility/View.h"
+
+namespace quillon {
+
+/// A text on a capsule that is tinted with a colour. One that is given less room than its text
+/// needs cuts it at the end.
+class Chip : public View {
+    Q_OBJECT
+
+public:
+    Chip(QString text, QColor color, QWidget* parent = nullptr);
+    void setChip(const QString& text, QColor color);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] QAccessible::Role accessibleRole() const override;
+    [[nodiscard]] QString accessibleText() const override { return text_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString text_;
+    QColor color_;
+};
+
+} // namespace quillon

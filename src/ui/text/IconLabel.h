@@ -1,0 +1,69 @@
+#pragma once
+
+#include "ui/accessibility/View.h"
+#include "ui/text/TextBlock.h"
+
+#include <optional>
+#include <string>
+
+namespace quillon {
+
+/// What becomes of a text that is wider than its label.
+enum class Overflow { wrap, elideEnd, elideMiddle };
+
+/// How a label looks.
+struct LabelLook {
+    TextStyle style = Text::body;
+    Tint ink = Ink::primary;
+    /// The symbol's colour where it is not the text's.
+    std::optional<Tint> symbolInk{};
+    Overflow overflow = Overflow::wrap;
+    Qt::Alignment align = Qt::AlignLeading; // where one line stands: leading or centred
+};
+
+/// A text, with a symbol before its first line if it is given one. Parts of the text **between
+/// stars** are bold. A text that lost a part of itself shows all of it in a tool tip.
+class IconLabel : public View {
+    Q_OBJECT
+
+public:
+    explicit IconLabel(QString text = {}, std::string symbol = {}, LabelLook look = {},
+                       QWidget* parent = nullptr);
+
+    void setText(const QString& text);
+    [[nodiscard]] QString text() const { return text_; }
+    /// What it is for assistive technology: as an alert or a notification it is read out as soon as
+    /// it shows.
+    void setAccessibleRole(QAccessible::Role role) { role_ = role; }
+    /// An empty name takes the symbol away.
+    void setSymbol(const std::string& symbol);
+    void setLook(const LabelLook& look);
+    /// The text without stars.
+    [[nodiscard]] QString wholeText() const;
+    /// What of it is on the screen: without what did not fit.
+    [[nodiscard]] QString shownText() const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override;
+    [[nodiscard]] int heightForWidth(int width) const override;
+    [[nodiscard]] QAccessible::Role accessibleRole() const override;
+    [[nodiscard]] QString accessibleText() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    [[nodiscard]] TextBlock block() const;
+    /// The width of the symbol and the gap after it.
+    [[nodiscard]] double indent() const;
+    QSizeF layOut(TextBlock& block, double width) const;
+
+    QString text_;
+    std::string symbol_;
+    LabelLook look_;
+    QAccessible::Role role_ = QAccessible::StaticText;
+};
+
+} // namespace quillon

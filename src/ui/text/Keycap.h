@@ -1,0 +1,88 @@
+#pragma once
+
+#include "state/ShortcutChoice.h"
+#include "ui/accessibility/View.h"
+
+#include <QStringList>
+
+namespace quillon {
+
+/// A view that shows the label of one key, and says it in words.
+class KeyView : public View {
+    Q_OBJECT
+
+public:
+    explicit KeyView(QString label, QWidget* parent = nullptr);
+
+    void setLabel(const QString& label);
+    [[nodiscard]] QString label() const { return label_; }
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    [[nodiscard]] QAccessible::Role accessibleRole() const override;
+    [[nodiscard]] QString accessibleText() const override;
+
+protected:
+    /// The box of the key, without the room for its shadow.
+    [[nodiscard]] QRectF keyBox() const;
+    void paintLabel(QPainter& painter, QColor color) const;
+
+private:
+    QString label_;
+};
+
+/// A key as a raised cap. `dark` is for light and coloured ground, whatever the desktop's colours.
+class Keycap : public KeyView {
+    Q_OBJECT
+
+public:
+    explicit Keycap(const QString& label, bool dark = false, QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool dark_;
+};
+
+/// A key as a lightly tinted label within a sentence.
+class KeyLabel : public KeyView {
+    Q_OBJECT
+
+public:
+    using KeyView::KeyView;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+enum class KeyKind { cap, darkCap, label };
+
+/// The keys of a shortcut side by side, in the order they are pressed in every writing direction.
+class KeyRow : public View {
+    Q_OBJECT
+
+public:
+    explicit KeyRow(KeyKind kind, const QStringList& labels = {}, QWidget* parent = nullptr);
+
+    void setLabels(const QStringList& labels);
+
+    [[nodiscard]] QAccessible::Role accessibleRole() const override;
+    [[nodiscard]] QString accessibleText() const override;
+    [[nodiscard]] bool accessibleWhole() const override { return true; }
+
+private:
+    KeyKind kind_;
+    QStringList labels_;
+};
+
+/// The labels of a shortcut's keys, in their order.
+[[nodiscard]] QStringList keyLabels(ShortcutChoice shortcut);
+
+/// The keys in words, one after the other: "Control Alt V" for ⌃, ⌥ and V.
+[[nodiscard]] QString spokenKeys(const QStringList& labels);
+
+/// A text with the symbols of keys in words: "press Control Alt V" for "press ⌃⌥V".
+[[nodiscard]] QString spokenText(QString text);
+
+} // namespace quillon

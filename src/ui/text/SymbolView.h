@@ -1,0 +1,53 @@
+#pragma once
+
+#include "artwork/Symbols.h"
+#include "ui/accessibility/View.h"
+
+#include <string>
+
+class QPainter;
+
+namespace quillon {
+
+/// How a symbol looks; `size` is in points of the design, as a TextStyle's, and grows with the
+/// text.
+struct SymbolLook {
+    double size = 13;
+    SymbolWeight weight = SymbolWeight::regular;
+    Tint ink = Ink::primary;
+};
+
+/// One symbol, centred. Decoration, unless it is given an accessible name.
+class SymbolView : public View {
+    Q_OBJECT
+
+public:
+    explicit SymbolView(std::string symbol, SymbolLook look = {}, QWidget* parent = nullptr);
+
+    void setSymbol(const std::string& symbol);
+    [[nodiscard]] const std::string& symbol() const { return symbol_; }
+    void setLook(const SymbolLook& look);
+    /// The width of the frame it stands in, in points of the design, so that symbols of several
+    /// rows stand below each other.
+    void setFrameWidth(double points);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    std::string symbol_;
+    SymbolLook look_;
+    double frameWidth_ = 0;
+};
+
+/// Draws a symbol centred in `frame`, `size` device-independent pixels large, on whole pixels.
+void paintSymbol(QPainter& painter, const QRectF& frame, const std::string& symbol, double size,
+                 QColor color, SymbolWeight weight = SymbolWeight::regular);
+
+/// The weight of symbols beside text of this weight.
+[[nodiscard]] SymbolWeight symbolWeight(QFont::Weight weight);
+
+} // namespace quillon

@@ -1,0 +1,113 @@
+#include "ui/text/TextViews.h"
+
+#include <QDesktopServices>
+#include <QImage>
+#include <QPainter>
+#include <QTextDocument>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+namespace quillon {
+namespace {
+
+/// In points of the design.
+constexpr double highestMessage = 260;
+
+} // namespace
+
+ReadOnlyText::ReadOnlyText(QWidget* parent) : Themed{parent} {
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setAutoFillBackground(false);
+    setOpenLinks(false);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    connect(this, &QTextBrowser::anchorClicked, this, [](const QUrl& url) {
+        if (url.scheme() == u"https") QDesktopServices::openUrl(url);
+    });
+}
+
+void ReadOnlyText::setStructuredText(const QString& html) {
+    html_ = html;
+    // The colours of links are part of a document from when it is read. Not every dark theme has
+    // one for them, and the usual blue is lost on it.
+    const QColor link = theme().readable(palette().color(QPalette::Link));
+    document()->setDefaultStyleSheet(
+        QStringLiteral("a { color: %1 } h1, h2, h3 { font-size: medium; margin: 0 } "
+                       "ul, ol { -qt-list-indent: 0; margin-left: 14px }")
+            .arg(link.name()));
+    setHtml(html);
+}
+
+int ReadOnlyText::heightFor(double width) const {
+    const std::unique_ptr<QTextDocument> copy{document()->clone()};
+    copy->setDefaultFont(font());
+    copy->setTextWidth(width);
+    return static_cast<int>(std::ceil(copy->size().height()));
+}
+
+void ReadOnlyText::themeChanged() {
+    Themed::themeChanged();
+    if (!html_.isEmpty()) setStructuredText(html_);
+}
+
+QVariant ReadOnlyText::loadResource(int /*type*/, const QUrl& /*name*/) {
+    return QImage{};
+}
+
+TextGround::TextGround(ReadOnlyText* text) {
+    auto* column = new QVBoxLayout{this};
+    column->setContentsMargins(Space::small, Space::small, Space::small, Space::small);
+    column->addWidget(text);
+}
+
+void TextGround::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(theme().separator());
+    painter.setBrush(theme().cardFill());
+    painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), Space::cardRadius,
+                            Space::cardRadius);
+}
+
+MessageText::MessageText(const QString& text, double width, QWidget* parent)
+    : ReadOnlyText{parent},
+      width_{width} {
+    document()->setDocumentMargin(0);
+    setPlainText(text);
+    setAccessibleName(text);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    fit();
+}
+
+void MessageText::themeChanged() {
+    ReadOnlyText::themeChanged();
+    fit();
+}
+
+/// A document of its own tells the height: the view's takes the width and the font of what is on
+/// screen, which the view may not be yet.
+void MessageText::fit() {
+    QPalette colors = palette();
+    colors.setColor(QPalette::Text, theme().color(Ink::secondary));
+    if (colors != palette()) setPalette(colors);
+    const double width = std::ceil(Theme::length(width_));
+    QTextDocument document{toPlainText()};
+    document.setDocumentMargin(0);
+    document.setDefaultFont(font());
+    QTextOption option;
+    option.setWrapMode(wordWrapMode());
+    document.setDefaultTextOption(option);
+    document.setTextWidth(width);
+    const double height = std::ceil(document.size().height());
+    const double highest = Theme::length(highestMessage);
+    // The texts keep off the scroll bar.
+    setViewportMargins(0, 0, height > highest ? Space::small : 0, 0);
+    setVerticalScrollBarPolicy(height > highest ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(height > highest ? Qt::StrongFocus : Qt::ClickFocus);
+    setFixedSize(static_cast<int>(width), static_cast<int>(std::min(height, highest)));
+}
+
+} // namespace quillon
