@@ -2,8 +2,10 @@
 #pragma once
 
 #include "analytics/Analytics.h"
+#include "analytics/StoreEvents.h"
 #include "cli/SpokenBanner.h"
 #include "desktop/HUD.h"
+#include "desktop/Hotkey.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/x11/X11Compositor.h"
 #include "platform/linux/x11/X11Pasteboard.h"
@@ -18,16 +20,16 @@ namespace quillon::bench {
 class RunningProgram {
 public:
     explicit RunningProgram(std::unique_ptr<Pasteboard> pasteboard)
-        : services{std::move(pasteboard)},
-          hud{services.platform().clock, compositor,
-              [this] { return store.config().bannerPosition; }} {}
+        : services{std::move(pasteboard)} {}
 
     LinuxPlatform services;
     Analytics analytics{services.platform()};
     X11Compositor compositor;
-    HUD hud;
+    HUD hud{services.platform().clock, compositor};
     SpokenBanner banner{&hud};
-    Store store{services.platform(), analytics, banner};
+    Hotkey hotkey{services.platform().hotKeys};
+    Store store{services.platform(), banner, hotkey};
+    StoreEvents events{store, analytics};
 };
 
 /// Whether all of the history's newest `count` entries were sent.

@@ -26,11 +26,10 @@ namespace {
 QCoro::Task<int> send(CommandContext context, Invocation /*invocation*/) {
     const std::size_t before = context.store.history().size();
     context.banner.forget();
-    context.store.setSendProgress([console = context.console](qint64 sent, qint64 total) {
+    SendProgress progress = [console = context.console](qint64 sent, qint64 total) {
         console->progress(translate("Send", "Sending…"), sent, total);
-    });
-    co_await context.store.sendClipboard("command");
-    context.store.setSendProgress({});
+    };
+    co_await context.store.sendClipboard(Trigger::command, std::move(progress));
     context.console->endProgress();
 
     const std::vector<Sent>& history = context.store.history();

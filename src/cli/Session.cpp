@@ -1,6 +1,7 @@
 #include "cli/Session.h"
 
 #include "analytics/Analytics.h"
+#include "analytics/StoreEvents.h"
 #include "base/Translate.h"
 #include "cli/Commands.h"
 #include "cli/Detach.h"
@@ -9,6 +10,7 @@
 #include "cli/TerminalConsole.h"
 #include "desktop/HUD.h"
 #include "desktop/HUDPanel.h"
+#include "desktop/Hotkey.h"
 #include "platform/EmptyPasteboard.h"
 #include "platform/FileSystem.h"
 #include "platform/Sleep.h"
@@ -93,12 +95,12 @@ int Session::run(Invocation invocation, Detach& detach) {
     }
     Analytics analytics{platform};
     const X11Compositor compositor;
-    Store* settings = nullptr;
-    HUD hud{platform.clock, compositor, [&settings] { return settings->config().bannerPosition; }};
+    HUD hud{platform.clock, compositor};
     SpokenBanner banner{&hud};
     const auto console = std::make_shared<TerminalConsole>();
-    Store store{platform, analytics, banner};
-    settings = &store;
+    Hotkey hotkey{platform.hotKeys};
+    Store store{platform, banner, hotkey};
+    const StoreEvents events{store, analytics};
 
     QTimer::singleShot(0, &store, [&] {
         sendToExit(invocation, {platform, analytics, store, banner, console}, hud, *lock, detach);
@@ -126,7 +128,9 @@ int Session::run(Invocation invocation) {
     Analytics analytics{platform};
     SpokenBanner banner{nullptr};
     const auto console = std::make_shared<TerminalConsole>();
-    Store store{platform, analytics, banner};
+    Hotkey hotkey{platform.hotKeys};
+    Store store{platform, banner, hotkey};
+    const StoreEvents events{store, analytics};
 
     QTimer::singleShot(0, &store, [&] {
         runToExit(invocation, {platform, analytics, store, banner, console});

@@ -74,9 +74,11 @@ Resident::Resident(Platform& platform, Alerts& alerts, AppMover& mover,
     : platform_{platform},
       lock_{std::move(lock)},
       analytics_{platform},
-      hud_{platform.clock, compositor_, [this] { return store_.config().bannerPosition; }},
+      hud_{platform.clock, compositor_},
       banner_{&hud_},
-      store_{platform, analytics_, banner_},
+      hotkey_{platform.hotKeys},
+      store_{platform, banner_, hotkey_},
+      storeEvents_{store_, analytics_},
       updater_{platform, analytics_, hooks(platform, mover, updateWindows_)},
       uninstaller_{platform, store_, analytics_, alerts},
       settingsWindow_{platform.workspace,
@@ -86,12 +88,10 @@ Resident::Resident(Platform& platform, Alerts& alerts, AppMover& mover,
       service_{std::move(service)} {}
 
 std::unique_ptr<QWidget> Resident::makeSettings(const SettingsWindow::Fit& fit) {
-    SettingsActions actions{.showBanner =
-                                [this](std::string text, std::string symbol, bool ok, bool sticky) {
-                                    hud_.show(std::move(text), std::move(symbol), ok, sticky);
-                                },
-                            .uninstall = [this] { return uninstaller_.run(); },
-                            .openPanel = [this] { showPanel(); }};
+    SettingsActions actions{
+        .showBanner = [this](BannerMessage message) { hud_.show(std::move(message)); },
+        .uninstall = [this] { return uninstaller_.run(); },
+        .openPanel = [this] { showPanel(); }};
     auto view = std::make_unique<SettingsView>(store_, updater_, std::move(actions),
                                                QStringLiteral("setup"));
     QObject::connect(view.get(), &SettingsView::fittingHeightChanged, view.get(),
@@ -122,6 +122,8 @@ void Resident::start() {
     platform_.loginItem.follow(platform_.bundle.executable);
     analytics_.start();
     updater_.start();
+    QObject::connect(&store_, &Store::shortcutPressed, &store_,
+                     [this] { std::ignore = store_.sendClipboard(Trigger::shortcut); });
     if (!store_.started()) {
         store_.setStarted();
         store_.registerShortcut();
@@ -133,7 +135,7 @@ void Resident::start() {
     service_->serve({platform_, analytics_, store_, banner_, nullptr},
                     {.showSettings = [this] { showSettings(); },
                      .showPanel = [this] { showPanel(); },
-                     .send = [this] { std::ignore = store_.sendClipboard("button"); }});
+                     .send = [this] { std::ignore = store_.sendClipboard(Trigger::button); }});
     QTimer::singleShot(quietMoment, &store_, loadFont);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &store_,
                      [this] { analytics_.flushBeforeQuit(); });

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "analytics/Analytics.h"
+#include "analytics/StoreEvents.h"
 #include "cli/SpokenBanner.h"
 #include "desktop/HUD.h"
+#include "desktop/Hotkey.h"
 #include "maintenance/Uninstaller.h"
 #include "maintenance/Updater.h"
 #include "platform/linux/files/FolderLock.h"
@@ -49,7 +51,9 @@ private:
     X11Compositor compositor_;
     HUD hud_;
     SpokenBanner banner_;
+    Hotkey hotkey_;
     Store store_;
+    StoreEvents storeEvents_;
     UpdateWindows updateWindows_;
     Updater updater_;
     Uninstaller uninstaller_;
