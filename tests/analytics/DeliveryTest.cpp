@@ -1,4 +1,4 @@
-#include "support/ConnectedWorld.h"
+#include "support/ConnectedComputer.h"
 #include "support/Faults.h"
 #include "support/RawServer.h"
 
@@ -62,7 +62,7 @@ protected:
         Json events = Json::array();
         for (int number = 0; number < count; ++number)
             events.push_back({{"name", "n"}, {"at", number}, {"props", {{"ok", number % 2 == 0}}}});
-        world.setContent("events.json", writeJson(events));
+        computer.setContent("events.json", writeJson(events));
         launch();
     }
     void launch() { analytics = std::make_unique<Analytics>(platform); }
@@ -80,7 +80,7 @@ protected:
         }
         return batches;
     }
-    [[nodiscard]] std::string queued() const { return world.content("events.json"); }
+    [[nodiscard]] std::string queued() const { return computer.content("events.json"); }
 
     void failNext(sandbox::Fault fault) {
         if (fault.kind != FaultKind::closeAtAccept) fault.method = "events";
@@ -94,11 +94,11 @@ protected:
     }
 
     Phone phone;
-    World world;
+    TestComputer computer;
     NotingTransport http;
     Platform platform = [this] {
-        world.platform.server = phone.sandbox.baseUrl();
-        return withTransport(world.platform, http);
+        computer.platform.server = phone.sandbox.baseUrl();
+        return withTransport(computer.platform, http);
     }();
     std::unique_ptr<Analytics> analytics;
 
@@ -126,7 +126,7 @@ TEST_F(Delivery, SendsTheseHeadersAndNoOthers) {
     analytics->flushBeforeQuit();
     EXPECT_THAT(http.timeouts, ElementsAre(20s, 3s));
 
-    const std::string device = world.defaults.values.at("qln.deviceId");
+    const std::string device = computer.defaults.values.at("qln.deviceId");
     EXPECT_THAT(device, testing::MatchesRegex(
                             "[0-9a-f]{8}-[0-9a-f]{4}-4[0-9a-f]{3}-[89ab][0-9a-f]{3}-[0-9a-f]{12}"));
     std::map<std::string, std::string> headers{{"accept", "application/json"},
@@ -213,14 +213,14 @@ TEST_F(Delivery, TriesAgainAfterAQuarterOfAnHour) {
         analytics->start();
         const auto attempts = [this](milliseconds time) {
             http.timeouts.clear();
-            world.clock.advance(time);
+            computer.clock.advance(time);
             return http.timeouts.size();
         };
         EXPECT_EQ(attempts(59'999ms), 0U);
         EXPECT_EQ(attempts(1ms), 1U);
-        world.clock.advance(manual);
+        computer.clock.advance(manual);
         if (manual > 0s) await(analytics->flushNow());
-        world.clock.jump(jump);
+        computer.clock.jump(jump);
         EXPECT_EQ(attempts(due - manual - 1ms), 0U);
         EXPECT_EQ(attempts(1ms), 1U);
     }
@@ -255,13 +255,13 @@ TEST_F(Delivery, CountsADayOnceWhereTheUserIs) {
     for (const auto& [zone, utc, day, counts] : steps) {
         SCOPED_TRACE(utc);
         const auto then = QDateTime::fromString(QString::fromUtf8(utc), Qt::ISODate);
-        const milliseconds now = world.clock.now().time_since_epoch() / 1ms * 1ms;
-        world.clock.jump(milliseconds{then.toMSecsSinceEpoch()} - now);
+        const milliseconds now = computer.clock.now().time_since_epoch() / 1ms * 1ms;
+        computer.clock.jump(milliseconds{then.toMSecsSinceEpoch()} - now);
         move(zone);
         const std::size_t before = analytics->queue().size();
         analytics->heartbeat();
         EXPECT_EQ(analytics->queue().size() - before, counts ? 1U : 0U);
-        EXPECT_EQ(world.defaults.values["qln.lastDailyActive"], day);
+        EXPECT_EQ(computer.defaults.values["qln.lastDailyActive"], day);
     }
 }
 
@@ -271,18 +271,19 @@ TEST_F(Delivery, StartsOnceAndGoesOnWithoutAServer) {
     launch();
     analytics->start();
     analytics->start();
-    EXPECT_EQ(world.clock.pending(), 1);
+    EXPECT_EQ(computer.clock.pending(), 1);
     analytics.reset();
     launch();
     analytics->start();
-    world.clock.advance(2h); // past midnight
+    computer.clock.advance(2h); // past midnight
     analytics->flushBeforeQuit();
 
     const auto* const opened =
         R"(app_opened {"appVersion":"1.0","macos":"6.1.0","locale":"de_AT","model":"Desk3"})";
-    EXPECT_THAT(world.events(), ElementsAre(opened, "daily_active {}", opened, "daily_active {}"));
+    EXPECT_THAT(computer.events(),
+                ElementsAre(opened, "daily_active {}", opened, "daily_active {}"));
     EXPECT_THAT(http.timeouts, IsEmpty());
-    EXPECT_FALSE(world.defaults.values.contains("qln.deviceId"));
+    EXPECT_FALSE(computer.defaults.values.contains("qln.deviceId"));
 }
 
 TEST_F(Delivery, LeavesAloneWhatIsRecordedMeanwhile) {
@@ -302,14 +303,14 @@ TEST_F(Delivery, WritesNothingAfterPersistingEnded) {
     analytics->start();
     auto running = deliverSlowly();
     analytics->stopPersisting();
-    std::filesystem::remove(world.path("events.json"));
-    world.defaults.removeAll();
+    std::filesystem::remove(computer.path("events.json"));
+    computer.defaults.removeAll();
     await(std::move(running));
-    world.clock.advance(48h);
+    computer.clock.advance(48h);
     analytics->flushBeforeQuit();
     EXPECT_EQ(http.timeouts.size(), 1U);
-    EXPECT_FALSE(std::filesystem::exists(world.path("events.json")));
-    EXPECT_THAT(world.defaults.values, IsEmpty());
+    EXPECT_FALSE(std::filesystem::exists(computer.path("events.json")));
+    EXPECT_THAT(computer.defaults.values, IsEmpty());
 }
 
 TEST_F(Delivery, EndsWithItsOwner) {
@@ -329,7 +330,7 @@ TEST_F(Delivery, SendsNoEventTwiceAtQuit) {
 
     analytics->track("later");
     await(std::move(running));
-    EXPECT_THAT(world.events(), ElementsAre("later {}"));
+    EXPECT_THAT(computer.events(), ElementsAre("later {}"));
     EXPECT_EQ(http.timeouts.size(), 2U);
 }
 

@@ -1,6 +1,6 @@
 #include "desktop/Hotkey.h"
 
-#include "support/ConnectedWorld.h"
+#include "support/ConnectedComputer.h"
 
 #include <gmock/gmock.h>
 
@@ -53,36 +53,36 @@ TEST_F(HotkeyTest, ActsFromTheEventLoopAsLastTold) {
 }
 
 TEST(StoreShortcut, SendsTheClipboard) {
-    ConnectedWorld world;
-    world.pasteboard.copy({{"UTF8_STRING", "first"}});
-    world.store->registerShortcut();
-    world.hotKeys.press(PhysicalKey::v);
-    EXPECT_TRUE(waitUntil([&] { return world.newEvents().size() == 1; }));
-    EXPECT_THAT(world.newEvents(), ElementsAre(testing::HasSubstr(R"("via":"shortcut")")));
+    ConnectedComputer computer;
+    computer.pasteboard.copy({{"UTF8_STRING", "first"}});
+    computer.store->registerShortcut();
+    computer.hotKeys.press(PhysicalKey::v);
+    EXPECT_TRUE(waitUntil([&] { return computer.newEvents().size() == 1; }));
+    EXPECT_THAT(computer.newEvents(), ElementsAre(testing::HasSubstr(R"("via":"shortcut")")));
 
-    world.hotKeys.press(PhysicalKey::v);
-    world.store.reset();
+    computer.hotKeys.press(PhysicalKey::v);
+    computer.store.reset();
     QCoreApplication::processEvents();
-    EXPECT_THAT(world.newEvents(), SizeIs(1));
+    EXPECT_THAT(computer.newEvents(), SizeIs(1));
 }
 
 TEST(StoreShortcut, TellsThatItIsTakenUntilOneIsFree) {
-    World world;
+    TestComputer computer;
     bool announced = false;
-    QObject::connect(world.store.get(), &Store::objectWillChange, world.store.get(), [&] {
+    QObject::connect(computer.store.get(), &Store::objectWillChange, computer.store.get(), [&] {
         announced = true;
-        EXPECT_FALSE(world.store->shortcutTaken()) << "announced too late";
+        EXPECT_FALSE(computer.store->shortcutTaken()) << "announced too late";
     });
-    world.hotKeys.takenByOthers = {PhysicalKey::v};
-    world.store->registerShortcut();
+    computer.hotKeys.takenByOthers = {PhysicalKey::v};
+    computer.store->registerShortcut();
     EXPECT_TRUE(announced);
-    EXPECT_TRUE(world.store->shortcutTaken());
-    world.store->disconnect();
-    world.store->changeConfig([](Config& config) { config.shortcut = ctrlOptP; });
-    EXPECT_TRUE(world.store->shortcutTaken());
-    world.store->registerShortcut();
-    EXPECT_FALSE(world.store->shortcutTaken());
-    EXPECT_THAT(world.hotKeys.registered, ElementsAre(PhysicalKey::p));
+    EXPECT_TRUE(computer.store->shortcutTaken());
+    computer.store->disconnect();
+    computer.store->changeConfig([](Config& config) { config.shortcut = ctrlOptP; });
+    EXPECT_TRUE(computer.store->shortcutTaken());
+    computer.store->registerShortcut();
+    EXPECT_FALSE(computer.store->shortcutTaken());
+    EXPECT_THAT(computer.hotKeys.registered, ElementsAre(PhysicalKey::p));
 }
 
 TEST(LaunchAtLogin, IsWhatTheDesktopMakesOfIt) {
@@ -102,16 +102,16 @@ TEST(LaunchAtLogin, IsWhatTheDesktopMakesOfIt) {
         {enabled, enabled, true, false, true},
     };
     for (const Case& each : cases) {
-        World world;
-        world.loginItem.current = each.before;
-        world.loginItem.afterRegistering = each.afterRegistering;
-        world.loginItem.refuses = each.refuses;
+        TestComputer computer;
+        computer.loginItem.current = each.before;
+        computer.loginItem.afterRegistering = each.afterRegistering;
+        computer.loginItem.refuses = each.refuses;
         std::optional<bool> shown;
-        QObject::connect(world.store.get(), &Store::objectWillChange, world.store.get(),
-                         [&] { shown = world.store->launchAtLogin(); });
-        world.store->setLaunchAtLogin(each.set);
+        QObject::connect(computer.store.get(), &Store::objectWillChange, computer.store.get(),
+                         [&] { shown = computer.store->launchAtLogin(); });
+        computer.store->setLaunchAtLogin(each.set);
         EXPECT_EQ(shown, each.launches) << "what a switch shows then";
-        EXPECT_THAT(world.events(),
+        EXPECT_THAT(computer.events(),
                     ElementsAre(std::string{"settings_changed {\"setting\":\"launch_at_login\","} +
                                 "\"value\":" + (each.set ? "true}" : "false}")));
     }

@@ -1,7 +1,7 @@
 #include "maintenance/Updater.h"
 
 #include "support/Await.h"
-#include "support/World.h"
+#include "support/TestComputer.h"
 
 #include <gmock/gmock.h>
 
@@ -35,14 +35,14 @@ public:
 
 /// A program whose launch the test repeats.
 struct UpdaterTest : testing::Test {
-    UpdaterTest() { world.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml"; }
+    UpdaterTest() { computer.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml"; }
 
     /// Starts the updater of a program that was just launched.
     Updater& launch(std::string version = "1.0") {
-        world.platform.bundle.info["CFBundleShortVersionString"] = std::move(version);
+        computer.platform.bundle.info["CFBundleShortVersionString"] = std::move(version);
         updater.reset();
         updater.emplace(
-            world.platform, *world.analytics,
+            computer.platform, *computer.analytics,
             UpdaterHooks{.makeFramework =
                              [this] {
                                  auto made = std::make_unique<FakeFramework>();
@@ -54,7 +54,7 @@ struct UpdaterTest : testing::Test {
                          .shouldAskToMove = [this] { return shouldAsk; },
                          .askToMove = [this]() -> QCoro::Task<bool> {
                              declinedWhenAsked =
-                                 world.defaults.text("qln.moveDeclined").has_value();
+                                 computer.defaults.text("qln.moveDeclined").has_value();
                              ++offers;
                              co_return true;
                          },
@@ -64,7 +64,7 @@ struct UpdaterTest : testing::Test {
         return *updater;
     }
 
-    World world;
+    TestComputer computer;
     std::optional<UpdateError> failure;
     FakeFramework* framework = nullptr;
     int frameworks = 0;
@@ -79,14 +79,14 @@ struct UpdaterTest : testing::Test {
 
 TEST_F(UpdaterTest, RecordsEachChangeOfVersionOnce) {
     launch("1.0");
-    EXPECT_THAT(world.events(), IsEmpty());
+    EXPECT_THAT(computer.events(), IsEmpty());
     launch("1.0");
     launch("1.1");
     launch("1.1");
     const std::string updated = R"(updated {"from_version":"1.0"})";
-    EXPECT_THAT(world.events(), ElementsAre(updated));
+    EXPECT_THAT(computer.events(), ElementsAre(updated));
     launch("1.0"); // also the way back is a change
-    EXPECT_THAT(world.events(), ElementsAre(updated, R"(updated {"from_version":"1.1"})"));
+    EXPECT_THAT(computer.events(), ElementsAre(updated, R"(updated {"from_version":"1.1"})"));
 }
 
 TEST_F(UpdaterTest, TellsTheVersionWithItsBuildWhereThatDiffers) {
@@ -100,21 +100,21 @@ TEST_F(UpdaterTest, TellsTheVersionWithItsBuildWhereThatDiffers) {
     };
     launch();
     for (const auto& [info, version] : cases) {
-        world.platform.bundle.info = info;
+        computer.platform.bundle.info = info;
         EXPECT_EQ(updater->version(), version);
     }
 }
 
 TEST_F(UpdaterTest, StaysOffWithoutAnApplicationFolderOrAFeed) {
-    world.platform.bundle.url = "/usr/bin/quillon";
+    computer.platform.bundle.url = "/usr/bin/quillon";
     launch();
-    world.platform.bundle.url = "/home/me/Quillon.app";
-    world.platform.bundle.info.erase("SUFeedURL");
+    computer.platform.bundle.url = "/home/me/Quillon.app";
+    computer.platform.bundle.info.erase("SUFeedURL");
     launch("1.1");
     EXPECT_EQ(frameworks, 0);
     EXPECT_FALSE(updater->available());
     EXPECT_EQ(updater->controller(), nullptr);
-    EXPECT_EQ(world.defaults.text("qln.lastVersion"), "1.1"); // noted all the same
+    EXPECT_EQ(computer.defaults.text("qln.lastVersion"), "1.1"); // noted all the same
 }
 
 TEST_F(UpdaterTest, LogsAFrameworkThatDoesNotStart) {
@@ -150,10 +150,10 @@ TEST_F(UpdaterTest, AllowsEachCheckAndRecordsWhatSetItOff) {
     for (const auto check :
          {UpdateCheck::inBackground, UpdateCheck::byUser, UpdateCheck::forInformation})
         EXPECT_TRUE(framework->delegate->mayPerformUpdateCheck(check));
-    EXPECT_THAT(world.events(), IsEmpty());
+    EXPECT_THAT(computer.events(), IsEmpty());
     QCoreApplication::processEvents();
     const std::string manual = R"(update_checked {"how":"manual"})";
-    EXPECT_THAT(world.events(), ElementsAre(R"(update_checked {"how":"auto"})", manual, manual));
+    EXPECT_THAT(computer.events(), ElementsAre(R"(update_checked {"how":"auto"})", manual, manual));
     EXPECT_FALSE(framework->delegate->willInstallUpdateOnQuit());
     EXPECT_TRUE(framework->delegate->supportsGentleScheduledUpdateReminders());
 }
@@ -161,9 +161,9 @@ TEST_F(UpdaterTest, AllowsEachCheckAndRecordsWhatSetItOff) {
 TEST_F(UpdaterTest, ComesToTheFrontForAnUpdateOnTheNextTurn) {
     launch();
     framework->delegate->willHandleShowingUpdate();
-    EXPECT_THAT(world.workspace.log, IsEmpty());
+    EXPECT_THAT(computer.workspace.log, IsEmpty());
     QCoreApplication::processEvents();
-    EXPECT_THAT(world.workspace.log, ElementsAre("activate"));
+    EXPECT_THAT(computer.workspace.log, ElementsAre("activate"));
 }
 
 TEST_F(UpdaterTest, OffersTheMoveAgainWhenItWouldHaveHelped) {
@@ -184,13 +184,13 @@ TEST_F(UpdaterTest, OffersTheMoveAgainWhenItWouldHaveHelped) {
     for (const Case& each : cases) {
         offers = 0;
         shouldAsk = each.shouldAsk;
-        world.defaults.setFlag("qln.moveDeclined", true);
+        computer.defaults.setFlag("qln.moveDeclined", true);
         framework->delegate->didAbortWithError({each.domain, each.code, "It failed."});
-        world.clock.advance(499ms);
+        computer.clock.advance(499ms);
         EXPECT_EQ(offers, 0) << each.code;
-        world.clock.advance(1ms);
+        computer.clock.advance(1ms);
         EXPECT_EQ(offers, each.offers) << each.domain << each.code;
-        EXPECT_EQ(world.defaults.flag("qln.moveDeclined").has_value(), each.offers == 0);
+        EXPECT_EQ(computer.defaults.flag("qln.moveDeclined").has_value(), each.offers == 0);
         EXPECT_FALSE(declinedWhenAsked);
     }
 }

@@ -1,7 +1,7 @@
 #include "update/BundleUpdater.h"
 
 #include "support/Await.h"
-#include "support/World.h"
+#include "support/TestComputer.h"
 #include "update/Errors.h"
 #include "update/UpdateSource.h"
 #include "update/UpdateUserDriver.h"
@@ -100,9 +100,9 @@ public:
 
 struct BundleUpdaterTest : testing::Test {
     BundleUpdaterTest() {
-        place(application("1.0"), world.platform.bundle.url.parent_path());
-        world.platform.bundle.info["SUFeedURL"] = source.feedUrl();
-        world.platform.bundle.info["SUPublicEDKey"] = source.publicKey();
+        place(application("1.0"), computer.platform.bundle.url.parent_path());
+        computer.platform.bundle.info["SUFeedURL"] = source.feedUrl();
+        computer.platform.bundle.info["SUPublicEDKey"] = source.publicKey();
         source.publish("1.1");
         launch();
     }
@@ -112,7 +112,7 @@ struct BundleUpdaterTest : testing::Test {
     }
 
     void launch() {
-        updater = std::make_unique<BundleUpdater>(world.platform, user);
+        updater = std::make_unique<BundleUpdater>(computer.platform, user);
         EXPECT_EQ(updater->start(delegate), std::nullopt);
         updater->observeCanCheck([this](bool can) { canCheck.push_back(can); });
     }
@@ -123,16 +123,16 @@ struct BundleUpdaterTest : testing::Test {
     }
     /// Lets the time pass, in which a check may run to its end.
     std::vector<std::string> pass(std::chrono::milliseconds time) {
-        world.clock.advance(time);
+        computer.clock.advance(time);
         EXPECT_TRUE(waitUntil([this] { return canCheck.back(); }));
         return user.news();
     }
     /// How many checks there were since the last time.
     std::size_t checks() { return std::exchange(delegate.checks, {}).size(); }
     void quit() { QMetaObject::invokeMethod(qApp, "aboutToQuit"); }
-    [[nodiscard]] std::string installed() const { return versionOf(world.platform.bundle.url); }
+    [[nodiscard]] std::string installed() const { return versionOf(computer.platform.bundle.url); }
 
-    World world;
+    TestComputer computer;
     UpdateSource source;
     FakeUser user;
     FakeDelegate delegate;
@@ -157,9 +157,9 @@ TEST_F(BundleUpdaterTest, StartsOnlyWithASecureFeedAndAKey) {
         {"https://example.com/feed.xml", key + "A", updateKeyMissing},
     };
     for (const Case& each : cases) {
-        world.platform.bundle.info["SUFeedURL"] = each.feed;
-        world.platform.bundle.info["SUPublicEDKey"] = each.key;
-        BundleUpdater other{world.platform, user};
+        computer.platform.bundle.info["SUFeedURL"] = each.feed;
+        computer.platform.bundle.info["SUPublicEDKey"] = each.key;
+        BundleUpdater other{computer.platform, user};
         const auto error = other.start(delegate);
         ASSERT_TRUE(error) << each.feed;
         EXPECT_EQ(error->code, each.code) << each.feed;
@@ -176,8 +176,8 @@ TEST_F(BundleUpdaterTest, InstallsAtOnceAndRelaunches) {
                                         "ready 1.1"));
     EXPECT_EQ(installed(), "1.1");
     EXPECT_EQ(user.last.stage, UpdateProgress::Stage::unpacking);
-    EXPECT_THAT(world.workspace.log,
-                ElementsAre("open " + world.platform.bundle.url.native(), "terminate"));
+    EXPECT_THAT(computer.workspace.log,
+                ElementsAre("open " + computer.platform.bundle.url.native(), "terminate"));
     EXPECT_THAT(delegate.checks, ElementsAre(UpdateCheck::byUser));
     EXPECT_EQ(delegate.showings, 1);
     EXPECT_THAT(delegate.errors, IsEmpty());
@@ -192,12 +192,12 @@ TEST_F(BundleUpdaterTest, InstallsOnQuitAndUntilThenOffersToDoSoNow) {
     checkNow();
     EXPECT_EQ(installed(), "1.0");
     EXPECT_THAT(checkNow(), ElementsAre("ready 1.1"));
-    world.defaults.setFlag("SUEnableAutomaticChecks", true);
+    computer.defaults.setFlag("SUEnableAutomaticChecks", true);
     updater->setAutomaticallyChecksForUpdates(true);
     EXPECT_THAT(pass(48h), IsEmpty());
     quit();
     EXPECT_EQ(installed(), "1.1");
-    EXPECT_THAT(world.workspace.log, IsEmpty());
+    EXPECT_THAT(computer.workspace.log, IsEmpty());
     EXPECT_EQ(checks(), 1U);
 }
 
@@ -206,7 +206,7 @@ TEST_F(BundleUpdaterTest, InstallsWithoutEndingTheProgram) {
     user.time = InstallTime::now;
     EXPECT_THAT(checkNow(), Contains("installed 1.1"));
     EXPECT_EQ(installed(), "1.1");
-    EXPECT_THAT(world.workspace.log, IsEmpty());
+    EXPECT_THAT(computer.workspace.log, IsEmpty());
 }
 
 TEST_F(BundleUpdaterTest, AsksOnceAtTheSecondLaunchAndThenChecksDaily) {
@@ -254,12 +254,12 @@ TEST_F(BundleUpdaterTest, ChecksOnceWhenTheClockHasJumped) {
     pass(10s);
     EXPECT_EQ(checks(), 1U);
     for (const std::chrono::hours jump : {-2h, 24h * 365 * 20, -24h * 365 * 20}) {
-        world.clock.jump(jump);
+        computer.clock.jump(jump);
         pass(3h);
         EXPECT_EQ(checks(), 1U) << jump.count();
     }
     for (const char* last : {"", "soon", "-1", "99999999999999999999"}) {
-        world.defaults.setText("SULastCheckTime", last);
+        computer.defaults.setText("SULastCheckTime", last);
         pass(3h);
         EXPECT_EQ(checks(), 1U) << last;
     }
@@ -288,7 +288,7 @@ TEST_F(BundleUpdaterTest, BringsAnOpenQuestionForwardInsteadOfCheckingAgain) {
     user.news();
     updater->checkForUpdates();
     updater->setAutomaticallyChecksForUpdates(true);
-    world.clock.advance(48h);
+    computer.clock.advance(48h);
     EXPECT_THAT(user.news(), ElementsAre("forward"));
     EXPECT_EQ(checks(), 1U);
     user.choose(UpdateChoice::later);

@@ -1,7 +1,7 @@
 #include "platform/linux/desktop/LinuxBundle.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
-#include "support/World.h"
+#include "support/TestComputer.h"
 #include "update/Errors.h"
 #include "update/Makers.h"
 #include "update/Preparation.h"
@@ -34,7 +34,7 @@ class UpdateTest : public testing::Test {
 protected:
     UpdateTest() {
         place(application("1.0", "dev.vostrel.quillon", maker.publicKey()), applications);
-        world.platform.bundle = bundleAt(bundle);
+        computer.platform.bundle = bundleAt(bundle);
     }
 
     void offer(const std::string& bytes) {
@@ -45,7 +45,7 @@ protected:
                 .length = static_cast<qint64>(bytes.size()),
                 .signature = maker.sign(bytes)};
     }
-    Prepared prepare() { return await(prepareUpdate(world.platform, item, {}, {})); }
+    Prepared prepare() { return await(prepareUpdate(computer.platform, item, {}, {})); }
     UpdateError refusal() {
         const auto prepared = prepare();
         const auto* error = std::get_if<UpdateError>(&prepared);
@@ -53,15 +53,15 @@ protected:
     }
     /// What lies beside the application and in the cache.
     std::vector<std::string> leftovers() const {
-        std::vector<std::string> names = namesIn(world.home() / "cache/dev.vostrel.quillon");
+        std::vector<std::string> names = namesIn(computer.home() / "cache/dev.vostrel.quillon");
         for (const std::string& name : namesIn(applications)) {
             if (name != "Quillon.app") names.push_back(name);
         }
         return names;
     }
 
-    World world;
-    fs::path applications = world.home() / "Downloads";
+    TestComputer computer;
+    fs::path applications = computer.home() / "Downloads";
     fs::path bundle = applications / "Quillon.app";
     Maker maker;
     FeedItem item;
@@ -79,7 +79,7 @@ TEST_F(UpdateTest, PutsTheNewVersionInThePlaceOfTheOld) {
     std::vector<UpdateProgress> told;
     const auto before = snapshot(bundle);
     auto prepared = await(prepareUpdate(
-        world.platform, item, [&](UpdateProgress progress) { told.push_back(progress); }, {}));
+        computer.platform, item, [&](UpdateProgress progress) { told.push_back(progress); }, {}));
     ASSERT_TRUE(std::holds_alternative<PreparedUpdate>(prepared))
         << std::get<UpdateError>(prepared).description;
     EXPECT_EQ(snapshot(bundle), before);
@@ -88,14 +88,14 @@ TEST_F(UpdateTest, PutsTheNewVersionInThePlaceOfTheOld) {
     EXPECT_EQ(told.back(), (UpdateProgress{UpdateProgress::Stage::unpacking, length, length}));
 
     // A folder that another process still has its hands on is not for this one to remove.
-    removeLeftovers(world.platform.bundle, world.platform.folders);
+    removeLeftovers(computer.platform.bundle, computer.platform.folders);
     EXPECT_EQ(install(std::get<PreparedUpdate>(prepared)), std::nullopt);
     EXPECT_EQ(versionOf(bundle), "1.1");
     EXPECT_EQ(install(std::get<PreparedUpdate>(prepared)), updateError(updateInstalling));
     const fs::path kept = std::get<PreparedUpdate>(prepared).staged;
     prepared = UpdateError{};
     EXPECT_EQ(snapshot(kept), before) << "the old one is kept";
-    removeLeftovers(bundleAt(bundle), world.platform.folders);
+    removeLeftovers(bundleAt(bundle), computer.platform.folders);
     EXPECT_THAT(leftovers(), IsEmpty());
     EXPECT_EQ(versionOf(bundle), "1.1");
 }
@@ -191,7 +191,7 @@ TEST_F(UpdateTest, RefusesEveryAttackAndChangesNothing) {
     EXPECT_EQ(different.size(), sentences.size());
 
     offer(good);
-    world.platform.bundle.info.erase("SUPublicEDKey");
+    computer.platform.bundle.info.erase("SUPublicEDKey");
     EXPECT_EQ(refusal(), updateError(updateKeyMissing));
 }
 
@@ -203,14 +203,15 @@ TEST_F(UpdateTest, StopsInTheMiddleOfADownload) {
     };
     std::stop_source source;
     const auto prepared = await(prepareUpdate(
-        world.platform, item, [&](UpdateProgress) { source.request_stop(); }, source.get_token()));
+        computer.platform, item, [&](UpdateProgress) { source.request_stop(); },
+        source.get_token()));
     EXPECT_EQ(std::get<UpdateError>(prepared), updateError(updateCancelled));
     EXPECT_THAT(leftovers(), IsEmpty());
 }
 
 TEST_F(UpdateTest, FetchesFeeds) {
     const auto fetched = [&](const std::string& url) {
-        const auto result = await(fetchFeed(world.platform, url));
+        const auto result = await(fetchFeed(computer.platform, url));
         const auto* error = std::get_if<UpdateError>(&result);
         return error ? error->code : 0;
     };
@@ -236,7 +237,7 @@ TEST_F(UpdateTest, ObjectsToThePlace) {
 TEST_F(UpdateTest, ObjectsToAFolderOfOthers) {
     if (::geteuid() == 0) {
         // Root may do anything, so somebody else has to ask.
-        ::chmod(world.home().c_str(), 0755);
+        ::chmod(computer.home().c_str(), 0755);
         const pid_t child = ::fork();
         if (child == 0) {
             const bool changed = ::setresuid(65534, 65534, 65534) == 0;
@@ -265,7 +266,7 @@ TEST_F(UpdateTest, SurvivesAFullDisk) {
     EXPECT_EQ(leftovers(), std::vector<std::string>{"filling"});
 
     fs::remove(applications / "filling");
-    const fs::path cache = world.home() / "cache";
+    const fs::path cache = computer.home() / "cache";
     const SmallDisk small{cache};
     writeFile(cache / "filling", std::string(SmallDisk::size, 'x'));
     EXPECT_EQ(refusal(), fileError(ENOSPC));
@@ -289,26 +290,26 @@ TEST_F(UpdateTest, InstallsOneAtATime) {
 TEST_F(UpdateTest, DoesNotWaitForAProgramThatHangs) {
     auto entries = application("1.1");
     entries[programEntry].content = "#!/bin/sh\necho quillon 1.1\nsleep 60 &\nsleep 60\n";
-    const fs::path folder = world.home() / "staged";
+    const fs::path folder = computer.home() / "staged";
     place(entries, folder);
     offer("x");
     const auto begin = std::chrono::steady_clock::now();
-    const auto staged = checkStaged(folder, world.platform.bundle, item, 200ms);
+    const auto staged = checkStaged(folder, computer.platform.bundle, item, 200ms);
     EXPECT_EQ(staged.error, updateError(updateDoesNotRun));
     EXPECT_LT(std::chrono::steady_clock::now() - begin, 5s);
 }
 
 TEST_F(UpdateTest, RemovesNothingButItsOwnLeftovers) {
-    const fs::path outside = world.home() / "outside";
+    const fs::path outside = computer.home() / "outside";
     writeFile(outside, "outside");
     const fs::path left = applications / ".Quillon-update-abcdef";
     place({{.path = "deep/closed/", .mode = 0, .type = AE_IFDIR}, {.path = "deep/x"}}, left);
     fs::create_symlink(outside, left / "out");
-    fs::create_directory_symlink(world.home(), applications / ".Quillon-update-link00");
+    fs::create_directory_symlink(computer.home(), applications / ".Quillon-update-link00");
     fs::create_directory(applications / ".Quillon-update-longer00");
     writeFile(applications / ".Quillon-update-afile0", "a file");
-    fs::create_directories(world.home() / "cache/dev.vostrel.quillon/update-123456/x");
-    removeLeftovers(world.platform.bundle, world.platform.folders);
+    fs::create_directories(computer.home() / "cache/dev.vostrel.quillon/update-123456/x");
+    removeLeftovers(computer.platform.bundle, computer.platform.folders);
     EXPECT_THAT(leftovers(),
                 testing::UnorderedElementsAre(".Quillon-update-link00", ".Quillon-update-longer00",
                                               ".Quillon-update-afile0"));
@@ -320,7 +321,7 @@ TEST_F(UpdateTest, LeavesOneWorkingVersionWhenKilled) {
     for (int index = 0; index < 40; ++index)
         entries.push_back({.path = "Quillon.app/Contents/Resources/" + std::to_string(index),
                            .content = std::string(20'000, 'x')});
-    const fs::path file = world.home() / "archive";
+    const fs::path file = computer.home() / "archive";
     writeFile(file, archiveOf(entries));
     QProcess installer;
     const auto start = [&] {
@@ -339,7 +340,7 @@ TEST_F(UpdateTest, LeavesOneWorkingVersionWhenKilled) {
     ASSERT_EQ(installer.exitCode(), 0);
     const auto fresh = snapshot(bundle);
     ASSERT_EQ(versionOf(bundle), "1.1");
-    removeLeftovers(world.platform.bundle, world.platform.folders);
+    removeLeftovers(computer.platform.bundle, computer.platform.folders);
 
     std::mt19937 random{std::random_device{}()};
     std::uniform_int_distribution<std::int64_t> moment{0, whole.count()};
@@ -353,7 +354,7 @@ TEST_F(UpdateTest, LeavesOneWorkingVersionWhenKilled) {
         const auto after = snapshot(bundle);
         EXPECT_TRUE(after == old || after == fresh);
         EXPECT_EQ(versionOf(bundle), after == old ? "1.0" : "1.1");
-        removeLeftovers(world.platform.bundle, world.platform.folders);
+        removeLeftovers(computer.platform.bundle, computer.platform.folders);
         EXPECT_THAT(namesIn(applications), ElementsAre("Quillon.app"));
     }
 }

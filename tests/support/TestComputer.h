@@ -49,9 +49,9 @@ public:
 
 /// A computer for one store: real files in folders of its own, real HTTP, and a clock, clipboard,
 /// keyring, preferences, desktop, banner and sounds that the test commands.
-struct World {
+struct TestComputer {
     /// `botApi` is the base address of a stand-in.
-    explicit World(std::string botApi = "http://127.0.0.1:9")
+    explicit TestComputer(std::string botApi = "http://127.0.0.1:9")
         : platform{.clock = clock,
                    .files = files,
                    .http = http,
