@@ -41,14 +41,6 @@ TEST(Analytics, StartsEmptyFromAnUnusableFile) {
     }
 }
 
-TEST(Analytics, RecordsNothingAfterPersistingEnded) {
-    TestComputer computer;
-    computer.analytics->stopPersisting();
-    computer.analytics->track("probe");
-    EXPECT_TRUE(computer.analytics->queue().empty());
-    EXPECT_FALSE(std::filesystem::exists(computer.path("events.json")));
-}
-
 TEST(Analytics, SortsSizesIntoBuckets) {
     const std::pair<std::int64_t, std::optional<std::string_view>> cases[] = {
         {-1, "lt100k"},        {99'999, "lt100k"},    {100'000, "lt1m"},

@@ -31,17 +31,6 @@ class AppMoverTest : public testing::Test {
 protected:
     AppMoverTest() { makeApplication(source, "new"); }
 
-    /// What the failure of a move tells the user.
-    std::string failure() {
-        try {
-            await(mover.move());
-        } catch (const MoveError& error) {
-            return error.errorDescription.value_or("");
-        }
-        return "moved";
-    }
-    void offerAll() const { fs::create_directories(shared); }
-
     TestComputer computer;
     FakeAlerts alerts;
     AppMover mover{computer.platform, alerts};
@@ -97,7 +86,7 @@ TEST_F(AppMoverTest, RemembersThatTheUserDeclined) {
 }
 
 TEST_F(AppMoverTest, ReplacesAnOlderCopyAndRelaunches) {
-    offerAll();
+    fs::create_directories(shared);
     const path target = shared / "Quillon.app";
     makeApplication(target, "old");
     // Another copy runs, and something that ran from a place that is gone.
@@ -128,21 +117,19 @@ TEST_F(AppMoverTest, MakesTheHomeFolderWhereTheSharedOneIsNotWritable) {
     EXPECT_EQ(program(own / "Quillon\n(1).app"), "new");
 }
 
-TEST_F(AppMoverTest, CopiesFromAReadOnlyDisk) {
-    const Mount disk = Mount::readOnly(source.parent_path());
-    if (!disk) GTEST_SKIP() << "only root mounts";
-    EXPECT_EQ(await(mover.move()), own / "Quillon.app");
-    EXPECT_EQ(program(own / "Quillon.app"), "new");
-    EXPECT_EQ(program(source), "new");
-}
-
-TEST_F(AppMoverTest, ReplacesALinkAndNotWhatItLeadsTo) {
+TEST_F(AppMoverTest, CopiesFromAReadOnlyDiskOverALinkAndNotIntoWhatItLeadsTo) {
+    const path other = computer.home() / "Elsewhere.app";
+    makeApplication(other, "other");
     fs::create_directories(own);
-    makeApplication(computer.home() / "Elsewhere.app", "other");
-    fs::create_directory_symlink(computer.home() / "Elsewhere.app", own / "Quillon.app");
+    fs::create_directory_symlink(other, own / "Quillon.app");
+    const Mount disk = Mount::readOnly(source.parent_path());
     EXPECT_EQ(await(mover.move()), own / "Quillon.app");
-    EXPECT_EQ(program(computer.home() / "Elsewhere.app"), "other");
     EXPECT_FALSE(fs::is_symlink(own / "Quillon.app"));
+    EXPECT_EQ(program(own / "Quillon.app"), "new");
+    EXPECT_EQ(program(other), "other");
+    if (disk) { // only root mounts
+        EXPECT_EQ(program(source), "new");
+    }
 }
 
 TEST_F(AppMoverTest, TellsWhyItCouldNotMove) {
@@ -189,8 +176,6 @@ TEST_F(AppMoverTest, TellsWhyItCouldNotMove) {
         computer.workspace.log.clear();
         each.obstacle();
         const bool older = fs::exists(own / "Quillon.app");
-        EXPECT_EQ(failure(), each.sentence);
-        computer.workspace.log.clear();
         EXPECT_FALSE(await(mover.ask()));
         ASSERT_EQ(alerts.shown.size(), 2U);
         EXPECT_EQ(alerts.shown[1], (Alert{.warning = true,

@@ -75,7 +75,9 @@ TEST_F(UninstallerTest, LeavesNothingThatWritesAFileAgain) {
     ASSERT_TRUE(fs::exists(computer.path("events.json")));
     run();
     computer.analytics->track("settings");
-    computer.store->changeConfig([](Config& config) { config.playSound = !config.playSound; });
+    computer.store->changeConfig([](Config& config) { config.playSound = false; });
+    EXPECT_FALSE(computer.store->config().playSound) << "in memory all goes on";
+    EXPECT_EQ(computer.analytics->queue().size(), 1U) << "nothing more is recorded";
     EXPECT_FALSE(fs::exists(computer.platform.dataFolder));
 }
 

@@ -67,14 +67,6 @@ TEST(Store, SurvivesHugeFilesAndFolders) {
         << "a pipe in the queue's place held up nothing";
 }
 
-TEST(Store, KeepsChangesInMemoryAfterPersistingEnded) {
-    TestComputer computer;
-    computer.store->stopPersisting();
-    computer.store->changeConfig([](Config& config) { config.playSound = false; });
-    EXPECT_FALSE(computer.store->config().playSound);
-    EXPECT_TRUE(std::filesystem::is_empty(computer.platform.dataFolder));
-}
-
 TEST(Store, IsReadyWithTokenGroupAndAllThreads) {
     TestComputer computer;
     const auto connected = [&](const std::function<void(Config&)>& change) {
