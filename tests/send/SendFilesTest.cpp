@@ -60,21 +60,11 @@ TEST_F(SendFiles, ReportsFilesThatCannotBeRead) {
 }
 
 TEST_F(SendFiles, SendsFilesOfAnyName) {
-    const std::pair<std::string, std::string> cases[] = {
-        {"say \"hi\".txt", "say 'hi'.txt"},
-        {"Ünïcode 100% #1?.txt", "Ünïcode 100% #1?.txt"},
-        {"two\r\nlines.txt", "two  lines.txt"},
-        {"no\xFFutf8.txt", "no\uFFFDutf8.txt"},
-    };
-    for (const auto& [name, received] : cases) {
-        computer.clear();
-        computer.send(files({file(name)}));
-        ASSERT_THAT(computer.sandbox.requests(), SizeIs(1)) << name;
-        EXPECT_EQ(computer.sandbox.requests()[0].parameters.files.at(0).filename, received);
-        EXPECT_EQ(computer.sandbox.requests()[0].status, 200) << name;
-    }
-    EXPECT_EQ(computer.store->history().front().title, "no\uFFFDutf8.txt");
-    EXPECT_THAT(computer.messages("files"), SizeIs(4));
+    computer.send(files({file("no\xFFutf8,\r\n\"100%\" Ünïcode #1?.txt")}));
+    ASSERT_THAT(computer.messages("files"), SizeIs(1));
+    EXPECT_EQ(computer.sandbox.requests()[0].parameters.files.at(0).filename,
+              "no\uFFFDutf8,  '100%' Ünïcode #1?.txt");
+    EXPECT_THAT(computer.store->history().front().title, testing::StartsWith("no\uFFFDutf8,"));
 }
 
 TEST_F(SendFiles, SumsUpWhatWasSent) {
