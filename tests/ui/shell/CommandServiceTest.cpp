@@ -1,14 +1,14 @@
 #include "ui/CommandService.h"
 
 #include "cli/SpokenBanner.h"
-#include "support/World.h"
+#include "support/TestComputer.h"
 
 #include <gmock/gmock.h>
 
 namespace quillon::test {
 
 TEST(CommandService, GrantsWhatWasWishedForBeforeItWasReady) {
-    const World world;
+    const TestComputer computer;
     SpokenBanner banner{nullptr};
     std::vector<std::string> granted;
     const DesktopActions actions{.showSettings = [&] { granted.emplace_back("settings"); },
@@ -19,8 +19,8 @@ TEST(CommandService, GrantsWhatWasWishedForBeforeItWasReady) {
     service.wishByName(QStringLiteral("send"), {});
     service.wish(&DesktopActions::showSettings, {});
     EXPECT_THAT(granted, testing::IsEmpty());
-    Platform platform = world.platform;
-    service.serve({platform, *world.analytics, *world.store, banner, nullptr}, actions);
+    Platform platform = computer.platform;
+    service.serve({platform, *computer.analytics, *computer.store, banner, nullptr}, actions);
     EXPECT_THAT(granted, testing::ElementsAre("send", "settings"));
     service.wishByName(QStringLiteral("settings"), {});
     EXPECT_THAT(granted, testing::ElementsAre("send", "settings", "settings"));
