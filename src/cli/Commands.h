@@ -2,8 +2,6 @@
 
 #include "cli/CommandLine.h"
 
-#include <QCoroTask>
-
 #include <memory>
 
 namespace quillon {
@@ -24,8 +22,8 @@ struct CommandContext {
     std::shared_ptr<Console> console;
 };
 
-/// Carries out a command that works on the store, and gives the exit code. What failed is told as
-/// error output in the very sentence the windows would show.
+/// Carries out a command that has an action, and gives the exit code. What failed is told as error
+/// output in the very sentence the windows would show.
 [[nodiscard]] QCoro::Task<int> runCommand(Invocation invocation, CommandContext context);
 
 } // namespace quillon

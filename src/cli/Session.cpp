@@ -41,11 +41,6 @@ QCoro::Task<> untilHidden(const HUD& hud, Clock& clock) {
     }
 }
 
-bool onlyReads(const Invocation& invocation) {
-    return invocation.command == Command::status || invocation.command == Command::history ||
-           (invocation.command == Command::launchAtLogin && invocation.argument == "status");
-}
-
 QCoro::Task<> runToExit(Invocation invocation, CommandContext context) {
     const int code = co_await runCommand(invocation, context);
     QCoreApplication::exit(code);
@@ -61,9 +56,7 @@ QCoro::Task<> sendToExit(Invocation invocation, CommandContext context, const HU
     QCoreApplication::exit(code);
 }
 
-} // namespace
-
-int Session::run(Invocation invocation, Detach& detach) {
+int runDetached(Invocation invocation, Detach& detach) {
     if (const auto code = RemoteProgram::run(invocation)) return *code;
     static int argc = 1;
     static char name[] = "quillon";
@@ -106,7 +99,11 @@ int Session::run(Invocation invocation, Detach& detach) {
     return QApplication::exec();
 }
 
+} // namespace
+
 int Session::run(Invocation invocation) {
+    if (invocation.command->needs == Needs::clipboardAndBanner)
+        return Detach::run([&](Detach& detach) { return runDetached(invocation, detach); });
     if (const auto code = RemoteProgram::run(invocation)) return *code;
     int argc = 1;
     char name[] = "quillon";
@@ -116,7 +113,7 @@ int Session::run(Invocation invocation) {
     LinuxPlatform services{std::make_unique<EmptyPasteboard>()};
     Platform& platform = services.platform();
     platform.files.createFolder(platform.dataFolder);
-    const bool reads = onlyReads(invocation);
+    const bool reads = invocation.onlyReads();
     const auto lock =
         reads ? std::optional<FolderLock>{} : FolderLock::take(platform.dataFolder, lockPatience);
     if (!lock && !reads) {

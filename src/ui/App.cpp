@@ -39,7 +39,7 @@ void introduce() {
 
 /// A program that moves itself starts nothing else here.
 QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
-                     std::unique_ptr<Resident>& resident, App::Start start,
+                     std::unique_ptr<Resident>& resident, std::string wanted,
                      QVariantMap activationData) {
     if (mover.shouldAsk() && !platform.defaults.flag(AppMover::declinedKey).value_or(false)) {
         const bool moved = co_await mover.ask();
@@ -50,12 +50,10 @@ QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
     if (resident) {
         // The icon is in its place before everything else begins.
         co_await sleep(platform.clock, std::chrono::milliseconds{0});
-        resident->start();
-        if (start == App::Start::withSettings) resident->showSettings();
-        if (start == App::Start::withPanel) resident->showPanel();
+        resident->start(wanted);
         co_return;
     }
-    const char* const wanted = start == App::Start::withPanel ? "panel" : "settings";
+    if (wanted.empty()) wanted = "settings";
     const bool shown = RemoteProgram::activate(wanted, activationData);
     if (!shown) std::cerr << FolderLock::heldMessage() << std::endl;
     QCoreApplication::exit(shown ? exitDone : exitFailed);
@@ -63,7 +61,7 @@ QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
 
 } // namespace
 
-int App::run(Start start) {
+int App::run(std::string_view wanted) {
     const QVariantMap activationData = RemoteProgram::activationData();
     int argc = 1;
     char name[] = "quillon";
@@ -92,8 +90,9 @@ int App::run(Start start) {
     AlertWindows alerts{platform.workspace};
     AppMover mover{platform, alerts};
     std::unique_ptr<Resident> resident;
-    QTimer::singleShot(0, &application,
-                       [&] { launch(platform, alerts, mover, resident, start, activationData); });
+    QTimer::singleShot(0, &application, [&] {
+        launch(platform, alerts, mover, resident, std::string{wanted}, activationData);
+    });
     return QApplication::exec();
 }
 

@@ -91,7 +91,7 @@ std::unique_ptr<QWidget> Resident::makeSettings(const SettingsWindow::Fit& fit) 
                                     hud_.show(std::move(text), std::move(symbol), ok, sticky);
                                 },
                             .uninstall = [this] { return uninstaller_.run(); },
-                            .openPanel = [this] { showPanel(); }};
+                            .openPanel = desktopActions().showPanel};
     auto view = std::make_unique<SettingsView>(store_, updater_, std::move(actions),
                                                QStringLiteral("setup"));
     QObject::connect(view.get(), &SettingsView::fittingHeightChanged, view.get(),
@@ -118,7 +118,13 @@ TrayActions Resident::trayActions() {
             .quit = [this] { platform_.workspace.terminate(); }};
 }
 
-void Resident::start() {
+DesktopActions Resident::desktopActions() {
+    return {.showSettings = [this] { settingsWindow_.show(); },
+            .showPanel = [this] { panelWindow_.open(trayIcon_.place()); },
+            .send = [this] { std::ignore = store_.sendClipboard("button"); }};
+}
+
+void Resident::start(std::string_view wanted) {
     platform_.loginItem.follow(platform_.bundle.executable);
     analytics_.start();
     updater_.start();
@@ -130,10 +136,8 @@ void Resident::start() {
     if (store_.shortcutTaken())
         std::cerr << PanelView::takenText(store_.config().shortcut).toStdString() << std::endl;
     if (!store_.isReady()) settingsWindow_.show();
-    service_->serve({platform_, analytics_, store_, banner_, nullptr},
-                    {.showSettings = [this] { showSettings(); },
-                     .showPanel = [this] { showPanel(); },
-                     .send = [this] { std::ignore = store_.sendClipboard("button"); }});
+    service_->serve({platform_, analytics_, store_, banner_, nullptr}, desktopActions());
+    if (!wanted.empty()) service_->wishByName(QString::fromStdString(std::string{wanted}), {});
     QTimer::singleShot(quietMoment, &store_, loadFont);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &store_,
                      [this] { analytics_.flushBeforeQuit(); });

@@ -29,11 +29,9 @@ public:
     [[nodiscard]] static QCoro::Task<std::unique_ptr<Resident>>
     claim(Platform& platform, Alerts& alerts, AppMover& mover);
 
-    /// Begins the work, in the order that its parts need each other.
-    void start();
-    void showSettings() { settingsWindow_.show(); }
-    /// Hanging from the icon where there is one.
-    void showPanel() { panelWindow_.open(trayIcon_.place()); }
+    /// Begins the work, in the order that its parts need each other, and shows the "panel" or the
+    /// "settings" when these are `wanted`.
+    void start(std::string_view wanted);
 
 private:
     Resident(Platform& platform, Alerts& alerts, AppMover& mover,
@@ -42,6 +40,7 @@ private:
     [[nodiscard]] std::unique_ptr<QWidget> makeSettings(const SettingsWindow::Fit& fit);
     [[nodiscard]] std::unique_ptr<PanelView> makePanel();
     [[nodiscard]] TrayActions trayActions();
+    [[nodiscard]] DesktopActions desktopActions();
 
     Platform& platform_;
     FolderLock lock_;
