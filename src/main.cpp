@@ -1,8 +1,8 @@
-#include "base/Translate.h"
 #include "cli/CommandLine.h"
 #include "cli/RemoteProgram.h"
 #include "cli/Session.h"
 #include "cli/Terminal.h"
+#include "platform/linux/Application.h"
 #include "platform/linux/Hardening.h"
 #include "platform/linux/desktop/RunningPrograms.h"
 #include "ui/App.h"
@@ -13,10 +13,9 @@
 
 namespace {
 
-/// In the user's language, which takes an application object.
-std::string textOf(const quillon::Invocation& invocation, int argc, char** argv) {
-    const QCoreApplication application{argc, argv};
-    quillon::loadCatalogue();
+std::string textOf(const quillon::Invocation& invocation) {
+    // Translates the text.
+    const auto application = quillon::makeApplication<QCoreApplication>();
     return invocation.command->text(invocation.arguments);
 }
 
@@ -33,12 +32,12 @@ int main(int argc, char** argv) {
     }
     const auto invocation = parseCommandLine({argv + 1, argv + argc});
     if (!invocation) {
-        Terminal::printErrorText(textOf(*parseCommandLine({"--help"}), argc, argv));
+        Terminal::printErrorText(textOf(*parseCommandLine({"--help"})));
         return exitUsage;
     }
     switch (invocation->command->where) {
     case Where::here:
-        Terminal::printText(textOf(*invocation, argc, argv));
+        Terminal::printText(textOf(*invocation));
         return exitDone;
     case Where::residentOnly:
         if (const auto code = RemoteProgram::run(*invocation)) return *code;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/linux/Desktop.h"
+
 #include <QCoroTask>
 
 #include <string>
@@ -22,12 +24,6 @@ enum class Where {
     residentOnly,  ///< the program that stays, which is started where it does not run
     hereAfterQuit, ///< this process, once the program that stays has quit
     here,          ///< this process, without the program's objects
-};
-
-/// What a command needs of the desktop.
-enum class Needs {
-    nothing,
-    clipboardAndBanner,
 };
 
 /// One of the words that may stand behind a command.
@@ -53,7 +49,9 @@ struct Command {
 
     Where where = Where::dataHolder;
     bool onlyReads = false;
-    Needs needs = Needs::nothing;
+    DesktopNeeds needs = DesktopNeeds::nothing;
+    /// Whether it waits for another process that is at work on the data, or fails at once.
+    bool waitsItsTurn = true;
     /// Works on the program's objects and gives the exit code; throws a TelegramError whose message
     /// is for the user. Null for what the program that stays does in its own way, and for texts.
     QCoro::Task<int> (*action)(CommandContext, Arguments) = nullptr;

@@ -4,14 +4,13 @@
 #include "base/Translate.h"
 #include "cli/Console.h"
 #include "cli/Reports.h"
-#include "cli/SpokenBanner.h"
 #include "cli/TerminalAlerts.h"
 #include "cli/UpdateCheckCommand.h"
+#include "core/Core.h"
 #include "maintenance/Uninstaller.h"
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
 #include "platform/linux/desktop/LinuxBundle.h"
-#include "state/Store.h"
 
 #include <QCoroFuture>
 
@@ -30,20 +29,20 @@ bool contains(const Arguments& arguments, std::string_view word) {
 }
 
 QCoro::Task<int> send(CommandContext context, Arguments /*arguments*/) {
-    const std::size_t before = context.store.history().size();
-    context.banner.forget();
-    context.store.setSendProgress([console = context.console](qint64 sent, qint64 total) {
+    const std::size_t before = context.core.store.history().size();
+    context.core.banner.forget();
+    context.core.store.setSendProgress([console = context.console](qint64 sent, qint64 total) {
         console->progress(translate("Send", "Sending…"), sent, total);
     });
-    co_await context.store.sendClipboard("command");
-    context.store.setSendProgress({});
+    co_await context.core.store.sendClipboard("command");
+    context.core.store.setSendProgress({});
     context.console->endProgress();
 
-    const std::vector<Sent>& history = context.store.history();
+    const std::vector<Sent>& history = context.core.store.history();
     const auto added = static_cast<std::ptrdiff_t>(history.size() - before);
     // Nothing was sent at all: the banner told why, unless the shortcut came first.
     if (added == 0) {
-        const std::optional<std::string> problem = context.banner.problem();
+        const std::optional<std::string> problem = context.core.banner.problem();
         throw TelegramError{problem ? *problem
                                     : translate("Command", "Another send is still running.")};
     }
@@ -62,7 +61,7 @@ QCoro::Task<int> send(CommandContext context, Arguments /*arguments*/) {
 QCoro::Task<int> connect(CommandContext context, Arguments /*arguments*/) {
     const std::string token =
         context.console->readSecret(translate("Command", tokenPrompt)).value_or("");
-    const std::string name = co_await context.store.connectBot(token);
+    const std::string name = co_await context.core.store.connectBot(token);
     // The next command can only have it from there.
     const std::optional<std::string> kept = co_await context.platform.secrets.read(botTokenItem());
     if (kept != trimmed(token)) {
@@ -74,28 +73,28 @@ QCoro::Task<int> connect(CommandContext context, Arguments /*arguments*/) {
 }
 
 QCoro::Task<int> findGroup(CommandContext context, Arguments /*arguments*/) {
-    co_await context.store.findGroup();
-    const std::optional<std::string> title = context.store.config().chatTitle;
+    co_await context.core.store.findGroup();
+    const std::optional<std::string> title = context.core.store.config().chatTitle;
     context.console->print(filled(translate("Command", "Found “%1”"),
                                   {title ? *title : translate("Command", "your group")}));
     co_return exitDone;
 }
 
 QCoro::Task<int> createTopics(CommandContext context, Arguments /*arguments*/) {
-    co_await context.store.createTopics();
-    for (const Topic& topic : context.store.config().topics) {
+    co_await context.core.store.createTopics();
+    for (const Topic& topic : context.core.store.config().topics) {
         context.console->print(topic.name);
     }
     co_return exitDone;
 }
 
 QCoro::Task<int> renameTopics(CommandContext context, Arguments /*arguments*/) {
-    co_await context.store.renameTopics();
+    co_await context.core.store.renameTopics();
     co_return exitDone;
 }
 
 QCoro::Task<int> forget(CommandContext context, Arguments /*arguments*/) {
-    const bool forgotten = co_await context.store.forgetBot();
+    const bool forgotten = co_await context.core.store.forgetBot();
     if (!forgotten) {
         throw TelegramError{translate(
             "Command", "The keyring still holds the bot's token. Unlock it and try again.")};
@@ -104,13 +103,13 @@ QCoro::Task<int> forget(CommandContext context, Arguments /*arguments*/) {
 }
 
 QCoro::Task<int> status(CommandContext context, Arguments arguments) {
-    context.console->printText(contains(arguments, "--json") ? statusJson(context.store)
-                                                             : statusText(context.store));
+    context.console->printText(contains(arguments, "--json") ? statusJson(context.core.store)
+                                                             : statusText(context.core.store));
     co_return exitDone;
 }
 
 QCoro::Task<int> history(CommandContext context, Arguments arguments) {
-    const std::vector<Sent>& entries = context.store.history();
+    const std::vector<Sent>& entries = context.core.store.history();
     context.console->printText(contains(arguments, "--json") ? historyJson(entries)
                                                              : historyText(entries));
     co_return exitDone;
@@ -129,7 +128,7 @@ QCoro::Task<int> launchAtLogin(CommandContext context, Arguments arguments) {
         co_return exitDone;
     }
     const bool on = contains(arguments, "on");
-    context.store.setLaunchAtLogin(on);
+    context.core.store.setLaunchAtLogin(on);
     if (item.status() != (on ? LoginItem::Status::enabled : LoginItem::Status::notRegistered)) {
         throw TelegramError{
             on ? translate("Command", "Quillon could not be set to open at login.")
@@ -144,7 +143,7 @@ QCoro::Task<int> checkForUpdates(CommandContext context, Arguments arguments) {
 
 QCoro::Task<int> uninstall(CommandContext context, Arguments /*arguments*/) {
     TerminalAlerts alerts;
-    Uninstaller uninstaller{context.platform, context.store, context.analytics, alerts};
+    Uninstaller uninstaller{context.platform, context.core.store, context.core.analytics, alerts};
     const std::function<void()> tell = [console = context.console] {
         console->print(translate(
             "Command", "Quillon and all it has stored are gone; the app is in the Trash"));
@@ -166,7 +165,8 @@ const Word asJson{"--json", QT_TRANSLATE_NOOP("CommandLine", "answer as JSON"), 
 
 const std::vector<Command> commands{
     {.name = "send",
-     .needs = Needs::clipboardAndBanner,
+     .needs = DesktopNeeds::clipboardAndBanner,
+     .waitsItsTurn = false,
      .action = send,
      .purpose = QT_TRANSLATE_NOOP("CommandLine", "send what is on the clipboard")},
     {.name = "panel",

@@ -6,19 +6,14 @@
 
 namespace quillon {
 
-class Analytics;
 class Console;
-class Store;
+struct Core;
 struct Platform;
-class SpokenBanner;
 
 /// What a command works on, and where it says what; all of it outlives the command.
 struct CommandContext {
     Platform& platform;
-    Analytics& analytics;
-    Store& store;
-    /// The banner that the store shows.
-    SpokenBanner& banner;
+    Core& core;
     std::shared_ptr<Console> console;
 };
 

@@ -2,6 +2,7 @@
 
 #include "base/Translate.h"
 #include "cli/TerminalConsole.h"
+#include "platform/linux/Application.h"
 #include "platform/linux/files/FolderLock.h"
 
 #include <QCoreApplication>
@@ -152,11 +153,7 @@ bool activate(std::string_view wanted, const QVariantMap& activationData) {
 }
 
 std::optional<int> run(const Invocation& invocation) {
-    int argc = 1;
-    char name[] = "quillon";
-    char* argv[] = {name, nullptr};
-    const QCoreApplication application{argc, argv};
-    loadCatalogue();
+    const auto application = makeApplication<QCoreApplication>();
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) return std::nullopt;
     if (!bus.interface()->isServiceRegistered(QLatin1String{busName})) return std::nullopt;

@@ -11,7 +11,7 @@ public:
     /// A command that shows a banner is carried out in a child process, so that this returns once
     /// the command is done, while the banner still shows. To be called while the process has one
     /// thread.
-    static int run(Invocation invocation);
+    static int run(const Invocation& invocation);
 };
 
 } // namespace quillon

@@ -1,7 +1,7 @@
 #include "ui/CommandService.h"
 
 #include "cli/RemoteProgram.h"
-#include "cli/SpokenBanner.h"
+#include "core/Core.h"
 #include "platform/SessionBus.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
@@ -59,8 +59,8 @@ private:
 } // namespace
 
 TEST(CommandService, GrantsWhatWasWishedForBeforeItWasReady) {
-    const World world;
-    SpokenBanner banner{nullptr};
+    World world;
+    Core core{world.platform, nullptr};
     std::vector<std::string> granted;
     const DesktopActions actions{.showSettings = [&] { granted.emplace_back("settings"); },
                                  .showPanel = [&] { granted.emplace_back("panel"); },
@@ -70,8 +70,7 @@ TEST(CommandService, GrantsWhatWasWishedForBeforeItWasReady) {
     service.wishByName(QStringLiteral("send"), {});
     service.wish(&DesktopActions::showSettings, {});
     EXPECT_THAT(granted, IsEmpty());
-    Platform platform = world.platform;
-    service.serve({platform, *world.analytics, *world.store, banner, nullptr}, actions);
+    service.serve({world.platform, core, nullptr}, actions);
     EXPECT_THAT(granted, ElementsAre("send", "settings"));
     service.wishByName(QStringLiteral("settings"), {});
     EXPECT_THAT(granted, ElementsAre("send", "settings", "settings"));
@@ -87,8 +86,7 @@ TEST(CommandService, AnswersWhoOnlyReadsWhileAnotherCommandIsAtWork) {
     const SessionBus bus;
     World world{"http://127.0.0.1:" + std::to_string(telegram.port())};
     world.secrets.values[{botTokenItem().service, botTokenItem().account}] = "1:token";
-    world.restart();
-    SpokenBanner banner{nullptr};
+    Core core{world.platform, nullptr};
     CommandService service{[] {}};
     ASSERT_EQ(service.publish(), CommandService::Publication::done);
 
@@ -97,7 +95,7 @@ TEST(CommandService, AnswersWhoOnlyReadsWhileAnotherCommandIsAtWork) {
     Answer early = caller.run({QStringLiteral("status")});
     waitUntil([] { return false; }, std::chrono::milliseconds{50});
     EXPECT_FALSE(early.isFinished()) << "nobody is answered before the program serves";
-    service.serve({world.platform, *world.analytics, *world.store, banner, nullptr}, {});
+    service.serve({world.platform, core, nullptr}, {});
     Answer next = caller.run({QStringLiteral("launch-at-login"), QStringLiteral("on")});
     EXPECT_THAT(Caller::output(early), StartsWith("Bot:      connected"));
     EXPECT_EQ(Caller::output(caller.run({QStringLiteral("history"), QStringLiteral("--json")})),
