@@ -16,10 +16,10 @@ using namespace quillon;
 
 QCoro::Task<> sendRepeatedly(Store& store, int rounds) {
     using Milliseconds = std::chrono::duration<double, std::milli>;
-    co_await store.sendClipboard("shortcut");
+    co_await store.sendClipboard(Trigger::shortcut);
     for (int round = 0; round < rounds; ++round) {
         const auto start = std::chrono::steady_clock::now();
-        co_await store.sendClipboard("shortcut");
+        co_await store.sendClipboard(Trigger::shortcut);
         const Milliseconds took = std::chrono::steady_clock::now() - start;
         std::printf("%.3f\n", took.count());
     }

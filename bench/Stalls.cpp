@@ -25,14 +25,15 @@ using namespace std::chrono_literals;
 QCoro::Task<> measure(bench::RunningProgram& program, std::string_view mode) {
     Clock& clock = program.services.platform().clock;
     Store& store = program.core.store;
-    if (mode != "banner") program.core.banner.show("Ready", "checkmark.circle.fill", true, false);
+    const BannerMessage ready{.text = "Ready", .symbol = "checkmark.circle.fill"};
+    if (mode != "banner") program.core.banner.show(ready);
     co_await sleep(clock, 400ms);
     const std::size_t before = store.history().size();
     const bench::Pulse pulse;
     if (mode == "send") {
-        co_await store.sendClipboard("shortcut");
+        co_await store.sendClipboard(Trigger::shortcut);
     }
-    if (mode == "banner") program.core.banner.show("Ready", "checkmark.circle.fill", true, false);
+    if (mode == "banner") program.core.banner.show(ready);
     co_await sleep(clock, 1000ms);
     const std::size_t items = store.history().size() - before;
     const bool nothingRead = program.core.banner.problem() == "The clipboard is empty";

@@ -31,16 +31,15 @@ bool contains(const Arguments& arguments, std::string_view word) {
 QCoro::Task<int> send(CommandContext context, Arguments /*arguments*/) {
     const std::size_t before = context.core.store.history().size();
     context.core.banner.forget();
-    context.core.store.setSendProgress([console = context.console](qint64 sent, qint64 total) {
+    SendProgress progress = [console = context.console](qint64 sent, qint64 total) {
         console->progress(translate("Send", "Sending…"), sent, total);
-    });
-    co_await context.core.store.sendClipboard("command");
-    context.core.store.setSendProgress({});
+    };
+    co_await context.core.store.sendClipboard(Trigger::command, std::move(progress));
     context.console->endProgress();
 
     const std::vector<Sent>& history = context.core.store.history();
     const auto added = static_cast<std::ptrdiff_t>(history.size() - before);
-    // Nothing was sent at all: the banner told why, unless the shortcut came first.
+    // Nothing was sent at all. The banner told why, unless another send was under way.
     if (added == 0) {
         const std::optional<std::string> problem = context.core.banner.problem();
         throw TelegramError{problem ? *problem
@@ -48,7 +47,7 @@ QCoro::Task<int> send(CommandContext context, Arguments /*arguments*/) {
     }
 
     int code = exitDone;
-    // The newest entry stands first, the items were sent in the opposite order.
+    // In the order sent: the newest entry stands first.
     for (auto entry = history.rend() - added; entry != history.rend(); ++entry) {
         context.console->print(sendLine(*entry));
         if (!entry->error) continue;
@@ -62,7 +61,7 @@ QCoro::Task<int> connect(CommandContext context, Arguments /*arguments*/) {
     const std::string token =
         context.console->readSecret(translate("Command", tokenPrompt)).value_or("");
     const std::string name = co_await context.core.store.connectBot(token);
-    // The next command can only have it from there.
+    // The next command gets the token from the keyring alone.
     const std::optional<std::string> kept = co_await context.platform.secrets.read(botTokenItem());
     if (kept != trimmed(token)) {
         throw TelegramError{

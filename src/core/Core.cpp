@@ -6,10 +6,10 @@ namespace quillon {
 
 Core::Core(Platform& platform, const Compositor* compositor)
     : analytics{platform},
-      hud{compositor ? std::make_unique<HUD>(platform.clock, *compositor,
-                                             [this] { return store.config().bannerPosition; })
-                     : nullptr},
+      hud{compositor ? std::make_unique<HUD>(platform.clock, *compositor) : nullptr},
       banner{hud.get()},
-      store{platform, analytics, banner} {}
+      hotkey{platform.hotKeys},
+      store{platform, banner, hotkey},
+      events{store, analytics} {}
 
 } // namespace quillon

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "analytics/Analytics.h"
+#include "analytics/StoreEvents.h"
 #include "core/SpokenBanner.h"
 #include "desktop/HUD.h"
+#include "desktop/Hotkey.h"
 #include "state/Store.h"
 
 #include <memory>
@@ -23,7 +25,9 @@ struct Core {
     std::unique_ptr<HUD> hud;
     /// The banner that the store shows.
     SpokenBanner banner;
+    Hotkey hotkey;
     Store store;
+    StoreEvents events;
 };
 
 } // namespace quillon

@@ -2,9 +2,9 @@
 
 namespace quillon {
 
-void SpokenBanner::show(std::string text, std::string symbol, bool ok, bool sticky) {
-    problem_ = ok ? std::nullopt : std::optional{text};
-    if (onScreen_ != nullptr) onScreen_->show(std::move(text), std::move(symbol), ok, sticky);
+void SpokenBanner::show(BannerMessage message) {
+    problem_ = message.ok ? std::nullopt : std::optional{message.text};
+    if (onScreen_) onScreen_->show(std::move(message));
 }
 
 } // namespace quillon

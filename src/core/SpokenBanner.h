@@ -14,7 +14,7 @@ public:
     /// `onScreen` may be null.
     explicit SpokenBanner(Banner* onScreen) : onScreen_{onScreen} {}
 
-    void show(std::string text, std::string symbol, bool ok, bool sticky) override;
+    void show(BannerMessage message) override;
 
     /// Forgets the last banner.
     void forget() { problem_.reset(); }

@@ -15,7 +15,7 @@ void Store::setLaunchAtLogin(bool opens) {
     } else {
         platform_.loginItem.unregisterItem();
     }
-    trackLaunchAtLogin(opens);
+    Q_EMIT launchAtLoginChanged(opens);
     // Whether it worked or not, views ask again.
     Q_EMIT objectWillChange();
 }

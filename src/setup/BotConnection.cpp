@@ -1,5 +1,4 @@
 // Connecting the user's bot and forgetting it again.
-#include "analytics/Analytics.h"
 #include "base/Text.h"
 #include "base/Translate.h"
 #include "platform/Platform.h"
@@ -10,6 +9,7 @@
 namespace quillon {
 
 QCoro::Task<std::string> Store::connectBot(std::string pasted) {
+    const auto turn = co_await setupActions_.turn();
     const std::string token{trimmed(pasted)};
     if (token.find(':') == token.npos) {
         throw TelegramError{translate(
@@ -26,12 +26,13 @@ QCoro::Task<std::string> Store::connectBot(std::string pasted) {
     ++tokenChanges_;
     publish(tokenSaved_, true);
     changeConfig([&name](Config& config) { config.botName = name; });
-    analytics_.track("setup_step", {{"step", "bot_connected"}});
+    Q_EMIT setupStepDone(SetupStep::botConnected);
     co_await saved;
     co_return name;
 }
 
 QCoro::Task<bool> Store::forgetBot() {
+    const auto turn = co_await setupActions_.turn();
     const QFuture<bool> removed = platform_.secrets.remove(botTokenItem());
     cachedToken_.reset();
     ++tokenChanges_;

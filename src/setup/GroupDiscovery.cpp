@@ -1,5 +1,4 @@
 // Finding the user's group through the bot's recent updates.
-#include "analytics/Analytics.h"
 #include "base/Translate.h"
 #include "setup/GroupUpdates.h"
 #include "state/Store.h"
@@ -23,6 +22,7 @@ std::string topicsAreOff(const Json& chat) {
 } // namespace
 
 QCoro::Task<> Store::findGroup() {
+    const auto turn = co_await setupActions_.turn();
     const std::optional<Telegram> tg = co_await telegram();
     if (!tg) throw TelegramError{translate("Setup", "Connect your bot first.")};
 
@@ -45,7 +45,7 @@ QCoro::Task<> Store::findGroup() {
         config.chatId = group;
         config.chatTitle = textMember(chat, "title");
     });
-    analytics_.track("setup_step", {{"step", "group_found"}});
+    Q_EMIT setupStepDone(SetupStep::groupFound);
 }
 
 } // namespace quillon

@@ -1,5 +1,4 @@
 // Creating the forum topics, finding them again, and giving them new names.
-#include "analytics/Analytics.h"
 #include "base/Translate.h"
 #include "setup/GroupUpdates.h"
 #include "state/Store.h"
@@ -76,16 +75,14 @@ std::string welcome(ShortcutChoice shortcut) {
 } // namespace
 
 QCoro::Task<> Store::createTopics() {
+    const auto turn = co_await setupActions_.turn();
     const std::optional<Telegram> tg = co_await telegram();
     if (!tg || !config_.chatId) throw TelegramError{translate("Setup", "Find your group first.")};
     const std::int64_t chat = *config_.chatId;
     const TopicThreads known = co_await knownTopics(*tg, chat);
 
     const auto storeThread = [this](std::size_t index, std::optional<std::int64_t> thread) {
-        changeConfig([&](Config& config) {
-            // The list may have become another one while Telegram answered.
-            if (index < config.topics.size()) config.topics[index].threadId = thread;
-        });
+        changeConfig([&](Config& config) { config.topics.at(index).threadId = thread; });
     };
     bool created = false;
     for (std::size_t index = 0; index < config_.topics.size(); ++index) {
@@ -98,16 +95,18 @@ QCoro::Task<> Store::createTopics() {
         }
         storeThread(index, thread);
     }
-    analytics_.track("setup_step", {{"step", created ? "topics_created" : "topics_reused"}});
+    Q_EMIT setupStepDone(created ? SetupStep::topicsCreated : SetupStep::topicsReused);
     if (!created) co_return;
 
-    Json params{{"chat_id", chat},
-                {"message_thread_id", topicFor("notes").threadId.value_or(0)},
-                {"text", welcome(config_.shortcut)}};
+    Json params{
+        {"chat_id", chat},
+        {"message_thread_id", topicFor(config_.topics, TopicKind::notes).threadId.value_or(0)},
+        {"text", welcome(config_.shortcut)}};
     co_await tg->call("sendMessage", std::move(params));
 }
 
 QCoro::Task<> Store::renameTopics() {
+    const auto turn = co_await setupActions_.turn();
     const std::optional<Telegram> tg = co_await telegram();
     if (!tg || !config_.chatId) co_return;
     const std::int64_t chat = *config_.chatId;

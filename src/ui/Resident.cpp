@@ -71,12 +71,10 @@ Resident::Resident(Platform& platform, Compositor& compositor, Alerts& alerts, A
       service_{std::move(service)} {}
 
 std::unique_ptr<QWidget> Resident::makeSettings(const SettingsWindow::Fit& fit) {
-    SettingsActions actions{.showBanner =
-                                [this](std::string text, std::string symbol, bool ok, bool sticky) {
-                                    core_.hud->show(std::move(text), std::move(symbol), ok, sticky);
-                                },
-                            .uninstall = [this] { return uninstaller_.run(); },
-                            .openPanel = desktopActions().showPanel};
+    SettingsActions actions{
+        .showBanner = [this](BannerMessage message) { core_.hud->show(std::move(message)); },
+        .uninstall = [this] { return uninstaller_.run(); },
+        .openPanel = desktopActions().showPanel};
     auto view = std::make_unique<SettingsView>(core_.store, updater_, std::move(actions),
                                                QStringLiteral("setup"));
     QObject::connect(view.get(), &SettingsView::fittingHeightChanged, view.get(),
@@ -106,13 +104,15 @@ TrayActions Resident::trayActions() {
 DesktopActions Resident::desktopActions() {
     return {.showSettings = [this] { settingsWindow_.show(); },
             .showPanel = [this] { panelWindow_.open(trayIcon_.place()); },
-            .send = [this] { std::ignore = core_.store.sendClipboard("button"); }};
+            .send = [this] { std::ignore = core_.store.sendClipboard(Trigger::button); }};
 }
 
 void Resident::start(std::string_view wanted) {
     platform_.loginItem.follow(platform_.bundle.executable);
     core_.analytics.start();
     updater_.start();
+    QObject::connect(&core_.store, &Store::shortcutPressed, &core_.store,
+                     [this] { std::ignore = core_.store.sendClipboard(Trigger::shortcut); });
     if (!core_.store.started()) {
         core_.store.setStarted();
         core_.store.registerShortcut();

@@ -19,9 +19,9 @@ TEST_F(SendFiles, SendsTheFileThoughTheFolderBeforeItFails) {
     world.send(files({folder, file("a.txt")}));
 
     EXPECT_THAT(world.messages("files"), SizeIs(1));
-    EXPECT_THAT(world.banner.shown,
-                ElementsAre(FakeBanner::Shown{"1 sent, 1 failed", "exclamationmark.triangle", false,
-                                              false}));
+    EXPECT_THAT(
+        world.banner.shown,
+        ElementsAre(BannerMessage{"1 sent, 1 failed", "exclamationmark.triangle", false, false}));
     EXPECT_THAT(world.sounds.played, ElementsAre(Sound::basso));
     ASSERT_THAT(world.store->history(), SizeIs(2));
     EXPECT_EQ(world.store->history()[0].title, "a.txt");

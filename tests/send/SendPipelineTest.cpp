@@ -120,9 +120,9 @@ TEST_F(SendPipeline, SendsEachKindOfContentToItsTopic) {
         const Sent& entry = world.store->history().front();
         const std::string topic = world.topic(kind.topic).name;
         EXPECT_EQ(entry, (Sent{entry.id, kind.symbol, kind.title, topic, world.clock.now(), {}}));
-        EXPECT_THAT(world.banner.shown,
-                    ElementsAre(FakeBanner::Shown{"Sent to " + topic, "checkmark.circle.fill", true,
-                                                  false}));
+        EXPECT_THAT(
+            world.banner.shown,
+            ElementsAre(BannerMessage{"Sent to " + topic, "checkmark.circle.fill", true, false}));
         EXPECT_THAT(world.sounds.played, ElementsAre(Sound::pop));
         const std::size_t comma = kind.event.find(',');
         EXPECT_THAT(world.newEvents(), ElementsAre("sent {" + kind.event.substr(0, comma) +
@@ -198,7 +198,7 @@ TEST_F(SendPipeline, SaysThatItIsSendingAfterAWhile) {
         world.clear();
         world.sandbox.failNext(flood(1));
         world.pasteboard.copy({{"image/png", pngOf(1000)}});
-        auto sending = world.store->sendClipboard("button");
+        auto sending = world.store->sendClipboard(Trigger::button);
         // The flood-control wait, beside the one for the banner, keeps the send open.
         ASSERT_TRUE(waitUntil([&] { return world.clock.pending() == 2; }));
         EXPECT_TRUE(world.store->busy());
@@ -207,7 +207,7 @@ TEST_F(SendPipeline, SaysThatItIsSendingAfterAWhile) {
         world.clock.advance(1ms);
         if (showBanner) {
             EXPECT_THAT(world.banner.shown,
-                        ElementsAre(FakeBanner::Shown{"Sending…", "arrow.up.circle", true, true}));
+                        ElementsAre(BannerMessage{"Sending…", "arrow.up.circle", true, true}));
         }
         world.clock.advance(1299ms);
         EXPECT_THAT(world.sandbox.requests(), SizeIs(1)) << "a second is added to what was asked";
@@ -227,9 +227,9 @@ TEST_F(SendPipeline, SaysThatItIsSendingAfterAWhile) {
 TEST_F(SendPipeline, IgnoresATriggerWhileASendRuns) {
     world.pasteboard.copy(text("held"));
     world.pasteboard.hesitates = true;
-    auto reading = world.store->sendClipboard("shortcut");
+    auto reading = world.store->sendClipboard(Trigger::shortcut);
     EXPECT_FALSE(world.store->busy()) << "still reads the clipboard";
-    await(world.store->sendClipboard("button"));
+    await(world.store->sendClipboard(Trigger::button));
     world.pasteboard.hesitates = false;
     world.pasteboard.giveUp();
     await(std::move(reading));
@@ -238,9 +238,9 @@ TEST_F(SendPipeline, IgnoresATriggerWhileASendRuns) {
     world.clear();
     world.pasteboard.copy(text("one"));
     world.sandbox.failNext(fault(FaultKind::hang));
-    auto hanging = world.store->sendClipboard("shortcut");
+    auto hanging = world.store->sendClipboard(Trigger::shortcut);
     ASSERT_TRUE(waitUntil([&] { return !world.sandbox.requests().empty(); }));
-    await(world.store->sendClipboard("button"));
+    await(world.store->sendClipboard(Trigger::button));
     EXPECT_THAT(banners(), IsEmpty());
     world.sandbox.stop();
     await(std::move(hanging));
@@ -250,8 +250,8 @@ TEST_F(SendPipeline, IgnoresATriggerWhileASendRuns) {
 
 TEST_F(SendPipeline, NeedsASetupAndSomethingToSend) {
     world.send({});
-    EXPECT_THAT(world.banner.shown, ElementsAre(FakeBanner::Shown{"The clipboard is empty",
-                                                                  "clipboard", false, false}));
+    EXPECT_THAT(world.banner.shown,
+                ElementsAre(BannerMessage{"The clipboard is empty", "clipboard", false, false}));
     EXPECT_THAT(world.newEvents(), IsEmpty());
 
     const std::function<void()> breakages[] = {
@@ -266,8 +266,8 @@ TEST_F(SendPipeline, NeedsASetupAndSomethingToSend) {
         breakIt();
         world.send(text("a"));
         EXPECT_THAT(world.banner.shown,
-                    ElementsAre(FakeBanner::Shown{"Finish setting up Quillon first",
-                                                  "exclamationmark.circle", false, false}));
+                    ElementsAre(BannerMessage{"Finish setting up Quillon first",
+                                              "exclamationmark.circle", false, false}));
         EXPECT_THAT(world.newEvents(), ElementsAre(R"(send_failed {"reason":"not_set_up"})"));
     }
     EXPECT_THAT(world.sandbox.requests(), IsEmpty());

@@ -58,7 +58,7 @@ protected:
 
     std::vector<std::string> banners() {
         std::vector<std::string> texts;
-        for (const FakeBanner::Shown& shown : world.banner.shown)
+        for (const BannerMessage& shown : world.banner.shown)
             texts.push_back(shown.text);
         return texts;
     }

@@ -48,6 +48,25 @@ TEST(Topics, AreMadeInOrderAndWelcomed) {
     EXPECT_THAT(world.methods(), ElementsAre("getUpdates"));
 }
 
+TEST(SetupActions, WorkOneAfterTheOther) {
+    BotWorld world;
+    world.sandbox.userSays(world.sandbox.addGroup(), "hi");
+    await(world.store->connectBot(BotWorld::token));
+    auto finding = world.store->findGroup();
+    auto creating = world.store->createTopics();
+    auto again = world.store->createTopics();
+    auto forgetting = world.store->forgetBot();
+    EXPECT_TRUE(world.store->tokenSaved()) << "forgotten before its turn";
+    await(std::move(finding));
+    await(std::move(creating));
+    EXPECT_TRUE(world.store->isReady());
+    await(std::move(again));
+    EXPECT_TRUE(await(std::move(forgetting)));
+    EXPECT_EQ(std::ranges::count(world.methods(), "createForumTopic"), 4);
+    EXPECT_EQ(world.store->config().topics, Topic::defaults());
+    EXPECT_FALSE(world.store->tokenSaved());
+}
+
 TEST(Topics, AreFoundAgainWithoutAWelcome) {
     ConnectedWorld world;
     const auto before = world.threads();

@@ -60,15 +60,13 @@ struct SettingsTest : testing::Test {
     int panels = 0;
     SettingsView view{
         *world.store, updater,
-        SettingsActions{.showBanner =
-                            [this](std::string said, std::string symbol, bool ok, bool sticky) {
-                                world.banner.show(std::move(said), std::move(symbol), ok, sticky);
-                            },
-                        .uninstall = [this]() -> QCoro::Task<> {
-                            ++uninstalls;
-                            co_return;
-                        },
-                        .openPanel = [this] { ++panels; }},
+        SettingsActions{
+            .showBanner = [this](BannerMessage message) { world.banner.show(std::move(message)); },
+            .uninstall = [this]() -> QCoro::Task<> {
+                ++uninstalls;
+                co_return;
+            },
+            .openPanel = [this] { ++panels; }},
         QStringLiteral("setup")};
     Controls controls{view};
 };
@@ -166,7 +164,9 @@ TEST_F(SettingsTest, PicksTheBannersPlace) {
     controls.click(text("Banner in the bottom"));
     EXPECT_EQ(config().bannerPosition, BannerPosition::bottom);
     EXPECT_THAT(selected(), ElementsAre(text("Banner in the bottom")));
-    const FakeBanner::Shown preview{"Sent to 📝 Notes & text", "checkmark.circle.fill", true, false};
+    const BannerMessage preview{.text = "Sent to 📝 Notes & text",
+                                .symbol = "checkmark.circle.fill",
+                                .position = BannerPosition::bottom};
     EXPECT_THAT(world.banner.shown, ElementsAre(preview));
 
     // The same again is saved and shown, but is no change to report.
