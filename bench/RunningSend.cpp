@@ -30,11 +30,9 @@ QCoro::Task<> sendRepeatedly(Store& store, int rounds) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const QApplication application{argc, argv};
-    auto pasteboard = X11Pasteboard::open(nullptr);
-    if (argc != 2 || !pasteboard) return EXIT_FAILURE;
-    bench::RunningProgram program{std::move(pasteboard)};
-    QTimer::singleShot(0, &program.store,
-                       [&] { sendRepeatedly(program.store, std::atoi(argv[1])); });
+    if (argc != 2) return EXIT_FAILURE;
+    bench::RunningProgram program;
+    Store& store = program.core.store;
+    QTimer::singleShot(0, &store, [&] { sendRepeatedly(store, std::atoi(argv[1])); });
     return QApplication::exec();
 }

@@ -6,7 +6,7 @@
 #include <QVariantMap>
 
 #include <optional>
-#include <string>
+#include <string_view>
 
 namespace quillon {
 
@@ -16,9 +16,6 @@ namespace RemoteProgram {
 inline constexpr const char* busName = applicationIdentifier;
 inline constexpr const char* objectPath = "/dev/vostrel/quillon";
 inline constexpr const char* interfaceName = applicationIdentifier;
-
-/// The prompt with which a command asks for the bot's token.
-[[nodiscard]] std::string tokenPrompt();
 
 /// Has the running program carry out the command, prints what it says and gives the exit code. None
 /// when no program runs, or when the command is one that this process has to carry out itself.
@@ -31,7 +28,7 @@ inline constexpr const char* interfaceName = applicationIdentifier;
 
 /// Has the running program show its "settings" or its "panel". False when none runs, or when it
 /// does not answer within 4 seconds. To be called while there is an application object.
-[[nodiscard]] bool activate(const char* wanted, const QVariantMap& activationData);
+[[nodiscard]] bool activate(std::string_view wanted, const QVariantMap& activationData);
 
 } // namespace RemoteProgram
 

@@ -1,8 +1,8 @@
 #include "cli/UpdateCheckCommand.h"
 
-#include "analytics/Analytics.h"
 #include "base/Translate.h"
 #include "cli/Console.h"
+#include "core/Core.h"
 #include "platform/Platform.h"
 #include "telegram/TelegramError.h"
 #include "update/BundleUpdater.h"
@@ -86,7 +86,7 @@ QCoro::Task<int> runUpdateCheck(CommandContext context, bool install) {
     if (!bundle.isApplication() || !bundle.text("SUFeedURL"))
         throw TelegramError{translate("Command", "This copy of Quillon does not update itself.")};
     ConsoleUpdateDriver driver{context.console, install};
-    CheckRecorder recorder{context.analytics};
+    CheckRecorder recorder{context.core.analytics};
     BundleUpdater updater{context.platform, driver, BundleUpdater::Schedule::none};
     if (const auto error = updater.start(recorder)) throw TelegramError{error->description};
     co_await updater.check(install ? UpdateCheck::byUser : UpdateCheck::forInformation);

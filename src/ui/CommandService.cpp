@@ -117,7 +117,8 @@ void CommandService::serve(CommandContext context, DesktopActions actions) {
     actions_ = std::move(actions);
     for (const Wish waiting : std::exchange(wishes_, {}))
         (actions_.*waiting)();
-    work();
+    for (Call& call : std::exchange(early_, {}))
+        take(std::move(call));
 }
 
 void CommandService::wish(Wish wish, const QVariantMap& platformData) {
@@ -135,50 +136,68 @@ void CommandService::wishByName(const QString& action, const QVariantMap& platfo
     sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("There is no such action."));
 }
 
-int CommandService::Run(const QString& command, const QString& argument,
-                        const QDBusUnixFileDescriptor& input, QString& /*output*/,
-                        QString& /*errors*/) {
-    std::vector<std::string> words{command.toStdString()};
-    if (!argument.isEmpty()) words.push_back(argument.toStdString());
+int CommandService::RunCommand(const QStringList& arguments, const QDBusUnixFileDescriptor& input,
+                               QString& /*output*/, QString& /*errors*/) {
+    std::vector<std::string> words;
+    for (const QString& argument : arguments)
+        words.push_back(argument.toStdString());
     const auto invocation = parseCommandLine(words);
-    if (!invocation || !worksOnState(invocation->command)) {
+    if (!invocation || invocation->command->where != Where::dataHolder) {
         sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("That is no command."));
         return exitUsage;
     }
     setDelayedReply(true);
-    calls_.push_back({.invocation = *invocation, .input = input, .message = message()});
-    work();
+    take({.invocation = *invocation, .input = input, .message = message()});
     return exitDone;
+}
+
+int CommandService::Run(const QString& command, const QString& argument,
+                        const QDBusUnixFileDescriptor& input, QString& output, QString& errors) {
+    QStringList words{command};
+    if (!argument.isEmpty()) words << argument;
+    return RunCommand(words, input, output, errors);
 }
 
 void CommandService::Quit() {
     quit_();
 }
 
+void CommandService::take(Call call) {
+    if (!context_) return early_.push_back(std::move(call));
+    if (call.invocation.onlyReads()) {
+        carryOut(std::move(call));
+        return;
+    }
+    queue_.push_back(std::move(call));
+    if (!working_) work();
+}
+
 QCoro::Task<> CommandService::work() {
-    if (!context_ || working_) co_return;
     working_ = true;
-    while (!calls_.empty()) {
-        const Call call = std::move(calls_.front());
-        calls_.pop_front();
-        const auto console = std::make_shared<DistantConsole>(
-            call.input, [caller = call.message.service()](std::string_view activity, qint64 done,
-                                                          qint64 total) {
-                // To nobody else: others may be waiting for their own commands.
-                QDBusMessage progress = QDBusMessage::createTargetedSignal(
-                    caller, QLatin1String{RemoteProgram::objectPath},
-                    QLatin1String{RemoteProgram::interfaceName}, QStringLiteral("Progress"));
-                progress << QString::fromStdString(std::string{activity}) << done << total;
-                QDBusConnection::sessionBus().send(progress);
-            });
-        CommandContext context = *context_;
-        context.console = console;
-        const int code = co_await runCommand(call.invocation, context);
-        QDBusConnection::sessionBus().send(
-            call.message.createReply({code, QString::fromStdString(console->output),
-                                      QString::fromStdString(console->errors)}));
+    while (!queue_.empty()) {
+        Call call = std::move(queue_.front());
+        queue_.pop_front();
+        co_await carryOut(std::move(call));
     }
     working_ = false;
+}
+
+QCoro::Task<> CommandService::carryOut(Call call) {
+    const auto console = std::make_shared<DistantConsole>(
+        call.input,
+        [caller = call.message.service()](std::string_view activity, qint64 done, qint64 total) {
+            // To nobody else: others may be waiting for their own commands.
+            QDBusMessage progress = QDBusMessage::createTargetedSignal(
+                caller, QLatin1String{RemoteProgram::objectPath},
+                QLatin1String{RemoteProgram::interfaceName}, QStringLiteral("Progress"));
+            progress << QString::fromStdString(std::string{activity}) << done << total;
+            QDBusConnection::sessionBus().send(progress);
+        });
+    CommandContext context = *context_;
+    context.console = console;
+    const int code = co_await runCommand(call.invocation, context);
+    QDBusConnection::sessionBus().send(call.message.createReply(
+        {code, QString::fromStdString(console->output), QString::fromStdString(console->errors)}));
 }
 
 } // namespace quillon

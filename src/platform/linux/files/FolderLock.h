@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -14,16 +13,13 @@ public:
     /// What to tell whoever was turned away.
     [[nodiscard]] static std::string heldMessage();
 
-    /// Waits for at most `patience`; none when another process holds the folder for longer.
-    [[nodiscard]] static std::optional<FolderLock> take(const std::filesystem::path& folder,
-                                                        std::chrono::milliseconds patience = {});
+    /// None when another process holds the folder; never waits.
+    [[nodiscard]] static std::optional<FolderLock> take(const std::filesystem::path& folder);
     FolderLock(FolderLock&& other) noexcept;
     FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(FolderLock&& other) noexcept;
     FolderLock& operator=(const FolderLock&) = delete;
-    FolderLock& operator=(FolderLock&&) = delete;
     ~FolderLock();
-
-    void release();
 
 private:
     explicit FolderLock(int descriptor) : descriptor_{descriptor} {}

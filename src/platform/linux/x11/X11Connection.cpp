@@ -52,10 +52,6 @@ xcb_window_t rootWindow(xcb_connection_t* connection) {
     return rootWindow(connection, defaultScreen());
 }
 
-void preferX11() {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
-}
-
 xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name) {
     const auto cookie =
         xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());

@@ -21,11 +21,6 @@ using XcbPointer = std::unique_ptr<T, FreeDeleter>;
 /// The connection that Qt's windows are on, whose events are Qt's to take; null on other platforms.
 [[nodiscard]] xcb_connection_t* qtConnection();
 
-/// Has Qt work on the X server, where the banner and the shortcut are, also where the desktop
-/// offers Wayland as well; unless the user wants it otherwise. To be called before there is an
-/// application.
-void preferX11();
-
 /// The root window of the default screen.
 [[nodiscard]] xcb_window_t rootWindow(xcb_connection_t* connection);
 

@@ -1,4 +1,4 @@
-#include "cli/SpokenBanner.h"
+#include "core/SpokenBanner.h"
 
 namespace quillon {
 
