@@ -42,10 +42,7 @@ SelectionReader::SelectionReader(X11Connection& connection, std::function<void()
     incr_ = internAtom(connection_.get(), "INCR");
     utf8String_ = internAtom(connection_.get(), "UTF8_STRING");
     property_ = internAtom(connection_.get(), "QUILLON_CLIPBOARD");
-    constexpr auto every = XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
-                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
-                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
-    xcb_xfixes_select_selection_input(connection_.get(), connection_.root(), clipboard_, every);
+    selectOwnerEvents(connection_.get(), connection_.root(), clipboard_);
     openWindow();
     xcb_flush(connection_.get());
 }
@@ -217,7 +214,7 @@ void SelectionReader::handleEvents() {
 }
 
 void SelectionReader::handle(const xcb_generic_event_t& event) {
-    const int type = event.response_type & 0x7f; // without the mark of SendEvent
+    const int type = event.response_type & eventTypeMask;
     if (type == XCB_SELECTION_NOTIFY) {
         noteAnswer(reinterpret_cast<const xcb_selection_notify_event_t&>(event));
     } else if (type == XCB_PROPERTY_NOTIFY) {

@@ -5,6 +5,7 @@
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
+#include <xcb/xfixes.h>
 
 #include <algorithm>
 #include <array>
@@ -66,6 +67,13 @@ xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name) {
 
 xcb_atom_t managerSelection(xcb_connection_t* connection, std::string_view prefix) {
     return internAtom(connection, std::string{prefix} + "_S" + std::to_string(defaultScreen()));
+}
+
+void selectOwnerEvents(xcb_connection_t* connection, xcb_window_t root, xcb_atom_t selection) {
+    constexpr auto every = XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
+                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
+                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
+    xcb_xfixes_select_selection_input(connection, root, selection, every);
 }
 
 std::unique_ptr<X11Connection> X11Connection::open(const char* display) {

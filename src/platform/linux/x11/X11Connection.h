@@ -3,6 +3,7 @@
 #include <xcb/xcb.h>
 
 #include <chrono>
+#include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <optional>
@@ -26,6 +27,10 @@ using XcbPointer = std::unique_ptr<T, FreeDeleter>;
 /// application.
 void preferX11();
 
+/// An X event's type is this part of it; the bit that is left tells that another client has sent
+/// it.
+inline constexpr std::uint8_t eventTypeMask = 0x7F;
+
 /// The root window of the default screen.
 [[nodiscard]] xcb_window_t rootWindow(xcb_connection_t* connection);
 
@@ -36,6 +41,10 @@ void preferX11();
 /// The atom of the selection that the manager of something owns on the default screen: "_NET_WM_CM"
 /// gives that of _NET_WM_CM_S0.
 [[nodiscard]] xcb_atom_t managerSelection(xcb_connection_t* connection, std::string_view prefix);
+
+/// Has the server send an XFixes event on this connection each time that the selection gets another
+/// owner or loses its owner. The server must have the XFixes extension.
+void selectOwnerEvents(xcb_connection_t* connection, xcb_window_t root, xcb_atom_t selection);
 
 /// A connection to the X server of its own, used by one thread that sleeps until the server has
 /// sent something or another thread rings. A server that dies makes it dead and never ends the

@@ -11,9 +11,6 @@ namespace quillon {
 
 namespace {
 
-/// An X event's type without the bit that tells whether another client has sent it.
-constexpr std::uint8_t typeMask = 0x7F;
-
 constexpr xcb_xkb_device_spec_t coreKeyboard = XCB_XKB_ID_USE_CORE_KBD;
 
 std::vector<xcb_window_t> rootWindows(xcb_connection_t* connection) {
@@ -159,7 +156,7 @@ void X11HotKeys::takeEventsSoon() {
 }
 
 bool X11HotKeys::take(const xcb_generic_event_t& event) {
-    const int type = event.response_type & typeMask;
+    const int type = event.response_type & eventTypeMask;
     if (type == XCB_KEY_PRESS) pressed(reinterpret_cast<const xcb_key_press_event_t&>(event));
     if (type == XCB_KEY_RELEASE) released(reinterpret_cast<const xcb_key_press_event_t&>(event));
     return type == xkbEvent_ || type == XCB_MAPPING_NOTIFY;

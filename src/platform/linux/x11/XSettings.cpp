@@ -72,17 +72,15 @@ XSettingsValues parseXSettings(const QByteArray& property) {
 
 XSettings::XSettings(std::function<void(const XSettingsValues&)> changed)
     : changed_{std::move(changed)} {
-    connect(&manager_, &X11Manager::changed, this, &XSettings::read);
-    connect(&manager_, &X11Manager::propertyChanged, this, &XSettings::read);
+    connect(&manager_, &X11ManagerSelection::ownerChanged, this, &XSettings::read);
+    connect(&manager_, &X11ManagerSelection::propertyChanged, this, &XSettings::read);
     QMetaObject::invokeMethod(
         this, [this] { read(); }, Qt::QueuedConnection);
 }
 
 void XSettings::read() {
-    const auto reply = manager_.property(XCB_GET_PROPERTY_TYPE_ANY, largestProperty);
-    if (!reply || reply->format != 8) return;
-    const auto* const bytes = static_cast<const char*>(xcb_get_property_value(reply.get()));
-    changed_(parseXSettings(QByteArray{bytes, xcb_get_property_value_length(reply.get())}));
+    const auto property = manager_.property(largestProperty);
+    if (property.format == 8) changed_(parseXSettings(property.bytes));
 }
 
 } // namespace quillon

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/x11/X11Manager.h"
+#include "platform/linux/x11/X11ManagerSelection.h"
 
 #include <QObject>
 #include <QVariant>
@@ -18,7 +18,7 @@ using XSettingsValues = std::map<std::string, QVariant>;
 /// those before the fault where it is malformed.
 [[nodiscard]] XSettingsValues parseXSettings(const QByteArray& property);
 
-/// Follows the desktop's XSETTINGS manager on the X server that Qt has connected to, also one that
+/// Follows the desktop's XSETTINGS manager on the X server that Qt is connected to, also one that
 /// comes late. Does nothing on any other display.
 class XSettings : public QObject {
 public:
@@ -29,7 +29,7 @@ private:
     void read();
 
     std::function<void(const XSettingsValues&)> changed_;
-    X11Manager manager_{"_XSETTINGS", "_XSETTINGS_SETTINGS"};
+    X11ManagerSelection manager_{"_XSETTINGS", "_XSETTINGS_SETTINGS"};
 };
 
 } // namespace quillon
