@@ -1,12 +1,10 @@
 #include "update/Feed.h"
 
+#include "base/ThisMachine.h"
 #include "update/Version.h"
 
 #include <QUrl>
 #include <QXmlStreamReader>
-
-#include <arpa/inet.h>
-#include <netinet/in.h>
 
 #include <algorithm>
 #include <array>
@@ -139,13 +137,6 @@ private:
     std::optional<std::vector<FeedItem>> items_;
 };
 
-/// Whether this is an address in 127.0.0.0/8; QUrl brings every way to write one into this form.
-bool isLoopback(const std::string& host) {
-    in_addr address{};
-    return ::inet_pton(AF_INET, host.c_str(), &address) == 1 &&
-           ntohl(address.s_addr) >> 24 == IN_LOOPBACKNET;
-}
-
 /// Bytes that no address has as they are, and that readers of addresses disagree about.
 bool isOrdinary(char byte) {
     return byte > ' ' && byte < 0x7f && byte != '\\';
@@ -183,8 +174,7 @@ bool isAllowedUrl(std::string_view text) {
     const std::string_view authority = afterScheme.substr(0, afterScheme.find_first_of("/?#"));
     if (authority.find('@') != std::string_view::npos) return false;
     if (url.scheme() == u"https") return true;
-    const std::string host = url.host().toStdString();
-    return url.scheme() == u"http" && (host == "localhost" || host == "::1" || isLoopback(host));
+    return url.scheme() == u"http" && isThisMachine(url.host().toStdString());
 }
 
 } // namespace quillon

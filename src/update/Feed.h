@@ -53,7 +53,7 @@ inline constexpr std::size_t maximumFeedItems = 10'000;
                                            std::string_view skippedVersion);
 
 /// Whether feeds and archives may come from this address: https, or http from this machine itself
-/// ("localhost", 127.0.0.0/8, ::1). Never with a user name or a password.
+/// (isThisMachine). Never with a user name or a password.
 [[nodiscard]] bool isAllowedUrl(std::string_view url);
 
 } // namespace quillon

@@ -1,6 +1,8 @@
 #include "update/Installation.h"
 
 #include "platform/linux/desktop/LinuxBundle.h"
+#include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/Modes.h"
 #include "update/Errors.h"
 #include "update/ProgramOutput.h"
 #include "update/Version.h"
@@ -35,7 +37,8 @@ int tryExchange(const fs::path& folder) {
     const fs::path left = folder / "left";
     const fs::path right = folder / "right";
     int error = 0;
-    if (::mkdir(left.c_str(), S_IRWXU) != 0 || ::mkdir(right.c_str(), S_IRWXU) != 0) error = errno;
+    if (::mkdir(left.c_str(), ownersFolder) != 0 || ::mkdir(right.c_str(), ownersFolder) != 0)
+        error = errno;
     if (error == 0) error = exchange(left, right);
     ::rmdir(left.c_str());
     ::rmdir(right.c_str());
@@ -44,11 +47,8 @@ int tryExchange(const fs::path& folder) {
 
 /// Whether everything of a file or folder is on the disk.
 bool flush(const fs::path& path, int flags) {
-    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | flags);
-    if (file < 0) return false;
-    const bool flushed = ::fsync(file) == 0;
-    ::close(file);
-    return flushed;
+    const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | flags)};
+    return file.isOpen() && ::fsync(file.number()) == 0;
 }
 
 /// The lock on installing in the place of one application: on the folder that is there now.
@@ -56,28 +56,20 @@ class InstallationLock {
 public:
     explicit InstallationLock(const fs::path& bundle)
         : file_{::open(bundle.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)} {
-        struct stat opened {};
-        struct stat named {};
-        if (file_ < 0 || ::fstat(file_, &opened) != 0) {
+        if (!file_.isOpen()) {
             error_ = fileError(errno);
-        } else if (::flock(file_, LOCK_EX | LOCK_NB) != 0) {
+        } else if (::flock(file_.number(), LOCK_EX | LOCK_NB) != 0) {
             error_ = errno == EWOULDBLOCK ? updateError(updateInstalling) : fileError(errno);
-        } else if (::lstat(bundle.c_str(), &named) != 0 || opened.st_ino != named.st_ino ||
-                   opened.st_dev != named.st_dev) {
-            // What was opened is no longer there: another process was quicker.
+        } else if (!isStillAt(bundle, file_.number())) {
+            // Another process was quicker.
             error_ = updateError(updateInstalling);
         }
-    }
-    InstallationLock(const InstallationLock&) = delete;
-    InstallationLock& operator=(const InstallationLock&) = delete;
-    ~InstallationLock() {
-        if (file_ >= 0) ::close(file_);
     }
 
     [[nodiscard]] const std::optional<UpdateError>& error() const { return error_; }
 
 private:
-    int file_;
+    Descriptor file_;
     std::optional<UpdateError> error_;
 };
 

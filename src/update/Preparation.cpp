@@ -4,6 +4,7 @@
 #include "platform/FileSystem.h"
 #include "platform/HttpTransport.h"
 #include "platform/linux/files/PosixFileSystem.h"
+#include "platform/linux/files/TreeCopy.h"
 #include "update/Archive.h"
 #include "update/Errors.h"
 #include "update/Version.h"
@@ -199,12 +200,12 @@ QCoro::Task<Prepared> prepareUpdate(Platform& platform, FeedItem item,
     Prepared prepared = co_await delivering;
 
     // The folders' owners would do this too, but here.
-    const QFuture<void> removing = QtConcurrent::run(removeTree, downloads.path());
+    const QFuture<void> removing = QtConcurrent::run(discardTree, downloads.path());
     co_await removing;
     if (auto* update = std::get_if<PreparedUpdate>(&prepared)) {
         update->folder = staging.folder;
     } else {
-        const QFuture<void> undoing = QtConcurrent::run(removeTree, staging.folder->path());
+        const QFuture<void> undoing = QtConcurrent::run(discardTree, staging.folder->path());
         co_await undoing;
     }
     co_return std::move(prepared);

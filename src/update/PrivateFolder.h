@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/linux/files/Descriptor.h"
+
 #include <filesystem>
 #include <string_view>
 
@@ -15,7 +17,7 @@ public:
     PrivateFolder& operator=(const PrivateFolder&) = delete;
     ~PrivateFolder();
 
-    [[nodiscard]] bool isOpen() const { return lock_ >= 0; }
+    [[nodiscard]] bool isOpen() const { return lock_.isOpen(); }
     /// The errno of what kept the folder from being made.
     [[nodiscard]] int error() const { return error_; }
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
@@ -27,15 +29,12 @@ private:
     bool create(const std::filesystem::path& parent, std::string_view prefix);
 
     std::filesystem::path path_;
-    int lock_ = -1;
+    Descriptor lock_;
     int error_ = 0;
     bool keep_ = false;
 };
 
 /// Removes the private folders of this user in `parent` whose process is gone. Follows no links.
 void removeAbandoned(const std::filesystem::path& parent, std::string_view prefix);
-
-/// Removes a folder with all it holds, whatever the modes of the folders in it; follows no links.
-void removeTree(const std::filesystem::path& folder);
 
 } // namespace quillon

@@ -1,5 +1,7 @@
 #include "update/ProgramOutput.h"
 
+#include "platform/linux/files/Descriptor.h"
+
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
@@ -20,22 +22,6 @@ namespace {
 using Moment = std::chrono::steady_clock::time_point;
 
 constexpr std::size_t maximumOutput = 4096; // bytes
-
-class Descriptor {
-public:
-    explicit Descriptor(int number = -1) : number_{number} {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() { close(); }
-
-    [[nodiscard]] int number() const { return number_; }
-    void close() {
-        if (number_ >= 0) ::close(std::exchange(number_, -1));
-    }
-
-private:
-    int number_;
-};
 
 /// Waits until there is something to read; false when the time is over.
 bool awaitReadable(const Descriptor& file, Moment deadline) {

@@ -1,4 +1,5 @@
 #include "update/Archive.h"
+#include "platform/linux/files/TreeCopy.h"
 #include "support/Await.h"
 #include "update/Errors.h"
 #include "update/Makers.h"
@@ -52,7 +53,7 @@ TEST_F(ArchiveTest, KeepsModesTimesAndLinks) {
     };
     for (const char* filter : {static_cast<const char*>(nullptr), "gzip", "xz", "zstd"}) {
         SCOPED_TRACE(filter ? filter : "none");
-        removeTree(folder);
+        discardTree(folder);
         fs::create_directory(folder);
         ASSERT_EQ(unpacked(archiveOf(entries, filter)), std::nullopt);
         const fs::path app = folder / "a.app";
@@ -111,7 +112,7 @@ TEST_F(ArchiveTest, RefusesWhatDoesNotBelong) {
     };
     for (const Case& each : cases) {
         SCOPED_TRACE(each.what);
-        removeTree(folder);
+        discardTree(folder);
         fs::create_directory(folder);
         EXPECT_EQ(unpacked(archiveOf(each.entries)), updateError(each.code));
         EXPECT_THAT(namesIn(root), testing::UnorderedElementsAre("outer", "victim"));
@@ -134,10 +135,10 @@ TEST_F(ArchiveTest, StopsAtItsLimits) {
     EXPECT_LE(onDisk(), 150'000'000U);
 
     const std::vector<Entry> three{{.path = "a"}, {.path = "b"}, link("c", "b")};
-    removeTree(folder);
+    discardTree(folder);
     fs::create_directory(folder);
     EXPECT_EQ(unpacked(archiveOf(three), {.entries = 2}), updateError(updateArchiveTooLarge));
-    removeTree(folder);
+    discardTree(folder);
     fs::create_directory(folder);
     EXPECT_EQ(unpacked(archiveOf(three), {.entries = 3}), std::nullopt);
 }
@@ -149,7 +150,7 @@ TEST_F(ArchiveTest, RefusesDamage) {
     flipped[whole.size() / 2] = static_cast<char>(~flipped[whole.size() / 2]);
     for (const std::string& bytes :
          {std::string{"no archive"}, flipped, whole.substr(0, whole.size() / 2)}) {
-        removeTree(folder);
+        discardTree(folder);
         fs::create_directory(folder);
         EXPECT_EQ(unpacked(bytes), updateError(updateArchiveDamaged)) << bytes.size();
     }

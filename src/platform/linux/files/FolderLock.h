@@ -1,9 +1,12 @@
 #pragma once
 
+#include "platform/linux/files/Descriptor.h"
+
 #include <chrono>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace quillon {
 
@@ -17,18 +20,13 @@ public:
     /// Waits for at most `patience`; none when another process holds the folder for longer.
     [[nodiscard]] static std::optional<FolderLock> take(const std::filesystem::path& folder,
                                                         std::chrono::milliseconds patience = {});
-    FolderLock(FolderLock&& other) noexcept;
-    FolderLock(const FolderLock&) = delete;
-    FolderLock& operator=(const FolderLock&) = delete;
-    FolderLock& operator=(FolderLock&&) = delete;
-    ~FolderLock();
 
-    void release();
+    void release() { folder_.close(); }
 
 private:
-    explicit FolderLock(int descriptor) : descriptor_{descriptor} {}
+    explicit FolderLock(Descriptor folder) : folder_{std::move(folder)} {}
 
-    int descriptor_;
+    Descriptor folder_;
 };
 
 } // namespace quillon

@@ -1,6 +1,8 @@
 #include "platform/linux/files/PosixFileSystem.h"
 
+#include "base/Bytes.h"
 #include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/Modes.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -19,9 +21,6 @@ namespace quillon {
 namespace {
 
 using std::filesystem::path;
-
-constexpr mode_t ownersFile = S_IRUSR | S_IWUSR;
-constexpr mode_t ownersFolder = S_IRWXU;
 
 /// How much is asked for beyond the size a file claims to have, in bytes.
 constexpr size_t probeSize = 4096;
@@ -71,18 +70,6 @@ FileReading readAll(int file, qint64 size, qint64 limit) {
     return reading;
 }
 
-bool writeAll(int file, const QByteArray& bytes) {
-    qsizetype written = 0;
-    while (written < bytes.size()) {
-        const auto left = static_cast<size_t>(bytes.size() - written);
-        const ssize_t count =
-            uninterrupted([&] { return ::write(file, bytes.constData() + written, left); });
-        if (count < 0) return false;
-        written += count;
-    }
-    return true;
-}
-
 /// Whether a file may be written at the path: a regular one is there, or nothing.
 bool isWritable(const path& path) {
     struct stat status {};
@@ -116,7 +103,7 @@ bool PosixFileSystem::write(const path& path, const QByteArray& bytes) const {
     if (!file.isOpen() || ::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode))
         return false;
     const bool emptied = uninterrupted([&] { return ::ftruncate(file.number(), 0); }) == 0;
-    return emptied && writeAll(file.number(), bytes) && file.close();
+    return emptied && writeAll(file.number(), asText(bytes)) && file.close();
 }
 
 bool PosixFileSystem::writeAtomically(const path& path, const QByteArray& bytes) const {
@@ -125,7 +112,7 @@ bool PosixFileSystem::writeAtomically(const path& path, const QByteArray& bytes)
     // Readable by its owner alone, as mkostemp makes it.
     Descriptor file{::mkostemp(temporary.data(), O_CLOEXEC)};
     if (!file.isOpen()) return false;
-    const bool written = writeAll(file.number(), bytes);
+    const bool written = writeAll(file.number(), asText(bytes));
     if (file.close() && written && ::rename(temporary.c_str(), path.c_str()) == 0) return true;
     ::unlink(temporary.c_str());
     return false;

@@ -1,6 +1,6 @@
 #include "platform/linux/files/PosixFileTree.h"
 
-#include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/Place.h"
 #include "platform/linux/files/TreeCopy.h"
 
 #include <QtConcurrentRun>

@@ -1,6 +1,7 @@
 #include "platform/linux/files/Trash.h"
 
 #include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/Modes.h"
 #include "platform/linux/files/TreeCopy.h"
 
 #include <QByteArray>
@@ -9,6 +10,7 @@
 #include <optional>
 #include <string>
 
+#include <fcntl.h>
 #include <linux/limits.h>
 #include <sys/stat.h>
 
@@ -17,9 +19,6 @@ namespace quillon {
 namespace {
 
 using std::filesystem::path;
-
-constexpr mode_t ownersFile = S_IRUSR | S_IWUSR;
-constexpr mode_t ownersFolder = S_IRWXU;
 
 /// So many items of one name are tried to be told apart.
 constexpr int maximumNames = 10'000;
@@ -89,9 +88,8 @@ bool writeNote(const path& note, const std::string& text) {
     Descriptor file{
         ::open(note.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, ownersFile)};
     if (!file.isOpen()) return false;
-    const auto written =
-        uninterrupted([&] { return ::write(file.number(), text.data(), text.size()); });
-    if (file.close() && written == static_cast<ssize_t>(text.size())) return true;
+    const bool written = writeAll(file.number(), text);
+    if (file.close() && written) return true;
     ::unlink(note.c_str());
     errno = EIO;
     return false;

@@ -1,6 +1,7 @@
 #include "platform/linux/files/TreeCopy.h"
 
-#include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/Modes.h"
+#include "platform/linux/files/Place.h"
 
 #include <array>
 #include <climits>
@@ -20,8 +21,6 @@ namespace {
 
 using std::filesystem::path;
 
-constexpr mode_t ownersFile = S_IRUSR | S_IWUSR;
-constexpr mode_t ownersFolder = S_IRWXU;
 constexpr mode_t permissionBits = 07777;
 
 /// How much is handed to the system at once, in bytes.
@@ -183,22 +182,6 @@ std::string temporaryName() {
     return text.data();
 }
 
-/// Removes what a failed copy leaves, also from folders that already have their final mode.
-void discard(const path& leftover) {
-    namespace fs = std::filesystem;
-    std::error_code error;
-    if (fs::is_directory(fs::symlink_status(leftover, error))) {
-        fs::permissions(leftover, fs::perms::owner_all, error);
-        fs::recursive_directory_iterator each{leftover, error};
-        while (!error && each != fs::recursive_directory_iterator{}) {
-            if (fs::is_directory(each->symlink_status(error)))
-                fs::permissions(each->path(), fs::perms::owner_all, error);
-            each.increment(error);
-        }
-    }
-    fs::remove_all(leftover, error);
-}
-
 } // namespace
 
 bool renameToNew(const path& from, const path& to) {
@@ -225,7 +208,7 @@ bool copyTree(const path& from, const path& to) {
         ::fsync(folder.number());
         return true;
     }
-    discard(parent / temporary);
+    discardTree(parent / temporary);
     return false;
 }
 
@@ -235,6 +218,21 @@ bool moveTree(const path& from, const path& to) {
     std::error_code ignored;
     std::filesystem::remove_all(from, ignored);
     return true;
+}
+
+void discardTree(const path& tree) {
+    namespace fs = std::filesystem;
+    std::error_code ignored;
+    const auto openFolder = [&](const path& each, const fs::file_status& status) {
+        if (status.type() == fs::file_type::directory)
+            fs::permissions(each, fs::perms::owner_all, fs::perm_options::add, ignored);
+    };
+    openFolder(tree, fs::symlink_status(tree, ignored));
+    std::error_code error;
+    for (fs::recursive_directory_iterator each{tree, error}, end; !error && each != end;
+         each.increment(error))
+        openFolder(each->path(), each->symlink_status(ignored));
+    fs::remove_all(tree, ignored);
 }
 
 } // namespace quillon

@@ -18,4 +18,8 @@ namespace quillon {
 /// cannot be removed then stays. When false, the original is whole.
 [[nodiscard]] bool moveTree(const std::filesystem::path& from, const std::filesystem::path& to);
 
+/// Removes a file, link or folder with all it holds, also from folders whose mode forbids that.
+/// Follows no links. A failure is ignored.
+void discardTree(const std::filesystem::path& tree);
+
 } // namespace quillon

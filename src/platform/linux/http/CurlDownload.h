@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/files/Descriptor.h"
 #include "platform/linux/http/CurlTransfer.h"
 
 #include <QPromise>
@@ -14,7 +15,6 @@ class CurlDownload final : public CurlTransfer {
 public:
     /// `wake` is called, on any thread, when the download is asked to stop.
     CurlDownload(HttpDownload download, std::uint64_t listener, std::function<void()> wake);
-    ~CurlDownload() override;
 
     [[nodiscard]] QFuture<DownloadOutcome> future() const { return promise_.future(); }
 
@@ -26,14 +26,11 @@ public:
 private:
     bool describe(const CurlTransportOptions& options) override;
     static size_t takeBytes(char* bytes, size_t size, size_t count, void* self);
-    bool write(const char* bytes, size_t count);
+    void noteFileError(int error);
     [[nodiscard]] DownloadOutcome outcome(CURLcode code) const;
-    /// False when the system could not write what it had taken.
-    bool closeFile();
-
     HttpDownload download_;
     qint64 received_ = 0;
-    int file_ = -1;
+    Descriptor file_;
     /// What went wrong on this side.
     std::optional<DownloadOutcome> trouble_;
     QPromise<DownloadOutcome> promise_;

@@ -1,9 +1,7 @@
 #include "platform/linux/http/CurlTransfer.h"
 
 #include "base/Environment.h"
-
-#include <arpa/inet.h>
-#include <netinet/in.h>
+#include "base/ThisMachine.h"
 
 #include <array>
 #include <utility>
@@ -39,13 +37,6 @@ std::string hostOf(const std::string& url) {
     return host;
 }
 
-/// Whether this is an address in 127.0.0.0/8; libcurl brings every way to write one into this form.
-bool isLoopback(const std::string& host) {
-    in_addr address{};
-    return ::inet_pton(AF_INET, host.c_str(), &address) == 1 &&
-           ntohl(address.s_addr) >> 24 == IN_LOOPBACKNET;
-}
-
 } // namespace
 
 CurlTransfer::CurlTransfer(std::string url, std::chrono::milliseconds inactivityTimeout,
@@ -75,7 +66,8 @@ bool CurlTransfer::prepare(const CurlTransportOptions& options) {
 }
 
 void CurlTransfer::fetch(const CurlTransportOptions& options) {
-    const bool near = isToThisMachine();
+    // No name server has a say in this: libcurl knows where "localhost" is.
+    const bool near = isThisMachine(hostOf(url_));
     const bool allowHttp = options.allowHttp || near;
     curl().easy_setopt(handle(), CURLOPT_PROTOCOLS_STR, allowHttp ? "http,https" : "https");
     // A proxy would be another machine.
@@ -84,12 +76,6 @@ void CurlTransfer::fetch(const CurlTransportOptions& options) {
     curl().easy_setopt(handle(), CURLOPT_FOLLOWLOCATION, 1L);
     curl().easy_setopt(handle(), CURLOPT_MAXREDIRS, maximumRedirects);
     curl().easy_setopt(handle(), CURLOPT_HTTPGET, 1L);
-}
-
-bool CurlTransfer::isToThisMachine() const {
-    const std::string host = hostOf(url_);
-    // libcurl looks "localhost" up in no name server.
-    return host == "localhost" || host == "[::1]" || isLoopback(host);
 }
 
 long CurlTransfer::status() const {

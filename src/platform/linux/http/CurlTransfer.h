@@ -66,7 +66,6 @@ protected:
     [[nodiscard]] long status() const;
 
 private:
-    [[nodiscard]] bool isToThisMachine() const;
     [[nodiscard]] std::uint64_t movement() const;
 
     struct FreeHandle {
