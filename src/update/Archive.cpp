@@ -1,7 +1,7 @@
 #include "update/Archive.h"
 
-#include "base/Utf8Locale.h"
 #include "update/Errors.h"
+#include "update/Utf8Locale.h"
 
 #include <archive.h>
 #include <archive_entry.h>

@@ -45,7 +45,7 @@ private:
 /// Whether the path still names the file or folder that is open; a link there never does.
 [[nodiscard]] bool isStillAt(const std::filesystem::path& path, int file);
 
-/// Writes all of the bytes; errno tells why not.
+/// Writes all of the bytes; if false, errno tells why.
 [[nodiscard]] bool writeAll(int file, std::string_view bytes);
 
 } // namespace quillon

@@ -24,7 +24,7 @@ std::string FolderLock::heldMessage() {
 std::optional<FolderLock> FolderLock::take(const std::filesystem::path& folder,
                                            std::chrono::milliseconds patience) {
     Descriptor file{::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
-    // Asked again and again, since flock itself knows no time-out.
+    // flock has no time-out, so it is asked again and again.
     const auto end = std::chrono::steady_clock::now() + patience;
     while (::flock(file.number(), LOCK_EX | LOCK_NB) != 0) {
         if (errno == EINTR) continue;

@@ -10,11 +10,11 @@
 
 namespace quillon {
 
-/// Keeps two processes of the program from changing the same data at once. Ends with the process,
-/// however that ends. Where the file system knows no locks, every process has its own way.
+/// Keeps two processes of the program from changing the same data at once. The lock ends with the
+/// process, however that ends. On file systems without locks, every process gets it.
 class FolderLock {
 public:
-    /// What to tell whoever was turned away.
+    /// The sentence for a user whose command found the lock taken.
     [[nodiscard]] static std::string heldMessage();
 
     /// Waits for at most `patience`; none when another process holds the folder for longer.

@@ -4,7 +4,7 @@
 
 namespace quillon {
 
-// The modes of what the program makes: for its owner alone.
+// Files and folders that the program makes are accessible to their owner alone.
 inline constexpr mode_t ownersFile = S_IRUSR | S_IWUSR; // 0600
 inline constexpr mode_t ownersFolder = S_IRWXU;         // 0700
 

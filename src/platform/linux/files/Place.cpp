@@ -8,7 +8,7 @@
 namespace quillon {
 
 Listing listing(int folder) {
-    // A descriptor of its own, for reading moves its position.
+    // Reading moves a descriptor's position, so this opens one of its own.
     const int number = openItself({folder, "."}, O_RDONLY | O_DIRECTORY);
     if (number < 0) return {};
     const std::unique_ptr<DIR, int (*)(DIR*)> stream{::fdopendir(number), ::closedir};

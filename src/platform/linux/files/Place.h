@@ -15,8 +15,8 @@ struct Place {
     const char* name = nullptr;
 };
 
-/// Opens what is at the place itself: never through a symbolic link, without waiting for the other
-/// end of a pipe. The number is negative when it fails.
+/// Opens the item at the place itself, never through a symbolic link, and without waiting for the
+/// other end of a pipe. The number is negative when it fails.
 [[nodiscard]] inline int openItself(Place place, int flags) {
     constexpr int always = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     return uninterrupted([&] { return ::openat(place.folder, place.name, flags | always); });

@@ -32,7 +32,7 @@ bool CurlDownload::describe(const CurlTransportOptions& options) {
         return false;
     }
     fetch(options);
-    // A body that explains a failure is not what was asked for.
+    // The body of an error reply must not end up in the file.
     curl().easy_setopt(handle(), CURLOPT_FAILONERROR, 1L);
     curl().easy_setopt(handle(), CURLOPT_MAXFILESIZE_LARGE,
                        static_cast<curl_off_t>(download_.maximumSize));

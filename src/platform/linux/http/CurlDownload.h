@@ -10,15 +10,15 @@
 
 namespace quillon {
 
-/// A file on its way from a server to the disk.
+/// A download from a server to a file.
 class CurlDownload final : public CurlTransfer {
 public:
-    /// `wake` is called, on any thread, when the download is asked to stop.
+    /// `wake` is called, on any thread, when a stop is requested.
     CurlDownload(HttpDownload download, std::uint64_t listener, std::function<void()> wake);
 
     [[nodiscard]] QFuture<DownloadOutcome> future() const { return promise_.future(); }
 
-    /// Bytes that have come.
+    /// Counts the received bytes.
     [[nodiscard]] Progress progress() const override;
     [[nodiscard]] bool isStopped() const override { return download_.stop.stop_requested(); }
     void finish(CURLcode code) override;
@@ -31,7 +31,7 @@ private:
     HttpDownload download_;
     qint64 received_ = 0;
     Descriptor file_;
-    /// What went wrong on this side.
+    /// A failure on this side, as opposed to the network or the server.
     std::optional<DownloadOutcome> trouble_;
     QPromise<DownloadOutcome> promise_;
     std::stop_callback<std::function<void()>> onStop_;
