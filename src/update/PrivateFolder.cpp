@@ -21,11 +21,12 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view randomPart = "XXXXXX";
 
-/// Another process that tidies up may remove a folder before it is locked; not time after time.
+/// Another process's removeAbandoned may remove a folder before it is locked, but not again and
+/// again.
 constexpr int attempts = 10;
 
-/// The folder itself, never what a link leads to, open and locked; not open when it is gone, no
-/// folder of this user's, or locked by another process.
+/// Opens and locks the folder itself, never the target of a link. The result is not open if the
+/// folder is gone, belongs to another user, or is locked by another process.
 Descriptor lockFolder(const fs::path& folder) {
     Descriptor file{::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
     struct stat status {};

@@ -7,8 +7,8 @@
 
 namespace quillon {
 
-/// A new folder for this user alone (0700) that this process holds a lock on, so that others can
-/// tell it from one that was left behind. Removed with all it holds when its owner goes.
+/// A new folder for this user alone (0700). This process holds a lock on it, by which others can
+/// tell it from one that was left behind. The destructor removes it with all it holds.
 class PrivateFolder {
 public:
     /// Creates `parent`/`prefix`XXXXXX. Check isOpen() afterwards.
@@ -18,11 +18,11 @@ public:
     ~PrivateFolder();
 
     [[nodiscard]] bool isOpen() const { return lock_.isOpen(); }
-    /// The errno of what kept the folder from being made.
+    /// The errno if the folder could not be made.
     [[nodiscard]] int error() const { return error_; }
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
-    /// Leaves the folder where it is, for removeAbandoned to find.
+    /// Makes the destructor leave the folder to removeAbandoned.
     void keep() { keep_ = true; }
 
 private:

@@ -34,7 +34,7 @@ public:
     void listen() const { tray_.listen(); }
 
 Q_SIGNALS:
-    /// A place for icons has come, to which an icon must be given anew, or one has gone.
+    /// A new place for icons has come, which needs a new icon, or one has gone.
     void changed();
     /// foreground() has changed.
     void recoloured();

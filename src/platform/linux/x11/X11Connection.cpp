@@ -32,8 +32,8 @@ int defaultScreen() {
     return screen;
 }
 
-/// For poll(2): rounded up, so that a sleep never ends just before its deadline; -1 for no
-/// deadline.
+/// The time left in the form that poll(2) takes: -1 without a deadline. Rounds up, so that a sleep
+/// never ends just before its deadline.
 int millisecondsUntil(std::optional<X11Connection::Time> deadline) {
     if (!deadline) return -1;
     const auto left = *deadline - std::chrono::steady_clock::now();
@@ -107,7 +107,8 @@ void X11Connection::ring() const {
 
 void X11Connection::sleep(std::optional<Time> deadline) const {
     xcb_flush(connection_);
-    // The socket of a dead server is always "readable": poll ignores a negative descriptor.
+    // A dead server's socket is always readable, so it is replaced by a negative number, which poll
+    // ignores.
     const int socket = alive() ? xcb_get_file_descriptor(connection_) : -1;
     std::array<pollfd, 2> sources{{{bell_, POLLIN, 0}, {socket, POLLIN, 0}}};
     poll(sources.data(), sources.size(), millisecondsUntil(deadline));

@@ -17,7 +17,8 @@ X11Events* X11Events::ofApplication() {
 X11Events::X11Events(QObject* application)
     : QObject{application},
       compositingManager_{managerSelection(qtConnection(), "_NET_WM_CM")} {
-    // Qt has agreed on a version of XFixes with the server, which has to come before its requests.
+    // Qt has already asked the server for a version of XFixes, without which it refuses other
+    // requests.
     const auto* const xfixes = xcb_get_extension_data(qtConnection(), &xcb_xfixes_id);
     if (xfixes && xfixes->present) firstXfixesEvent_ = xfixes->first_event;
     qApp->installNativeEventFilter(this);

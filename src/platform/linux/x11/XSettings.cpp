@@ -11,12 +11,13 @@ namespace {
 
 enum Type : quint8 { integer = 0, string = 1, color = 2 };
 
-/// More than any desktop has, in units of four bytes.
+/// No desktop has more settings than fit into this many units of four bytes.
 constexpr std::uint32_t largestProperty = 16'384;
 constexpr quint8 littleEndian = 0;
 constexpr int colorBytes = 8;
 
-/// Texts are filled up to whole units of four bytes. Ends the stream where it is too short.
+/// Reads a text, which is padded to whole units of four bytes. Marks the stream as broken if it is
+/// too short.
 QByteArray readText(QDataStream& in, quint32 length) {
     if (length > largestProperty * 4) {
         in.setStatus(QDataStream::ReadCorruptData);
