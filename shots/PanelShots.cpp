@@ -1,7 +1,7 @@
 // Takes pictures of the panel in each of its states.
 #include "maintenance/Updater.h"
 #include "shots/Shots.h"
-#include "support/ConnectedWorld.h"
+#include "support/ConnectedComputer.h"
 #include "support/FakeCompositor.h"
 #include "support/FakeFramework.h"
 #include "support/Faults.h"
@@ -65,7 +65,7 @@ struct Scene {
     const char* group = "Anna & Phone";
     bool updates = true;
     bool taken = false;
-    void (*act)(BotWorld&, PanelView&) = nullptr;
+    void (*act)(BotComputer&, PanelView&) = nullptr;
 };
 
 /// As if the pointer were on it.
@@ -79,12 +79,12 @@ QAbstractButton& sendButton(PanelView& panel) {
 }
 
 /// Telegram makes it wait, on a clock that stands still.
-void sendForever(BotWorld& world, PanelView& panel) {
-    world.sandbox.failNext(flood(1));
+void sendForever(BotComputer& computer, PanelView& panel) {
+    computer.sandbox.failNext(flood(1));
     sendButton(panel).click();
-    until([&] { return world.store->busy(); });
-    const auto before = world.clock.pending();
-    until([&] { return world.clock.pending() > before; });
+    until([&] { return computer.store->busy(); });
+    const auto before = computer.clock.pending();
+    until([&] { return computer.clock.pending() > before; });
 }
 
 const FakePasteboard::Content shortText{{"UTF8_STRING", "Buy milk and bread"}};
@@ -110,61 +110,62 @@ const std::vector<Scene> scenes{
     {.name = "focus",
      .clipboard = shortText,
      .act =
-         [](BotWorld&, PanelView& panel) {
+         [](BotComputer&, PanelView& panel) {
              sendButton(panel).clearFocus(); // it had it, without a ring
              sendButton(panel).setFocus(Qt::TabFocusReason);
          }},
     {.name = "hover",
      .clipboard = shortText,
      .act =
-         [](BotWorld&, PanelView& panel) {
+         [](BotComputer&, PanelView& panel) {
              hover(sendButton(panel));
              hover(*panel.findChild<PanelFooter*>()->findChild<QAbstractButton*>());
          }},
     {.name = "pressed",
      .clipboard = shortText,
-     .act = [](BotWorld&, PanelView& panel) { sendButton(panel).setDown(true); }},
+     .act = [](BotComputer&, PanelView& panel) { sendButton(panel).setDown(true); }},
 };
 
-void seed(World& world, const Scene& scene) {
-    world.platform.system.locale = "en_US";
-    world.setContent("history.json", encodeHistory(scene.history));
-    world.pasteboard.copy(scene.clipboard);
-    if (scene.taken) world.hotKeys.takenByOthers = {PhysicalKey::v, PhysicalKey::p, PhysicalKey::c};
+void seed(TestComputer& computer, const Scene& scene) {
+    computer.platform.system.locale = "en_US";
+    computer.setContent("history.json", encodeHistory(scene.history));
+    computer.pasteboard.copy(scene.clipboard);
+    if (scene.taken)
+        computer.hotKeys.takenByOthers = {PhysicalKey::v, PhysicalKey::p, PhysicalKey::c};
     if (scene.ready) {
         Config config;
         config.chatId = -100'1;
         config.chatTitle = scene.group;
         for (Topic& topic : config.topics)
             topic.threadId = 7;
-        world.setContent("config.json", encodeConfig(config));
+        computer.setContent("config.json", encodeConfig(config));
         const KeychainItem& item = botTokenItem();
-        world.secrets.values[{item.service, item.account}] = BotWorld::token;
+        computer.secrets.values[{item.service, item.account}] = BotComputer::token;
     }
-    if (scene.updates) world.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
-    world.restart();
-    world.store->registerShortcut();
+    if (scene.updates) computer.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
+    computer.restart();
+    computer.store->registerShortcut();
 }
 
 QPixmap take(const Scene& scene) {
-    BotWorld world;
-    seed(world, scene);
+    BotComputer computer;
+    seed(computer, scene);
     FakeFramework* framework = nullptr;
-    Updater updater{world.platform, *world.analytics, fakeHooks(framework)};
+    Updater updater{computer.platform, *computer.analytics, fakeHooks(framework)};
     updater.start();
     FakeCompositor compositor;
     PanelView* panel = nullptr;
-    PanelWindow window{compositor, world.workspace, [&] {
-                           auto made = std::make_unique<PanelView>(world.platform, *world.store,
-                                                                   updater, PanelActions{});
+    PanelWindow window{compositor, computer.workspace, [&] {
+                           auto made = std::make_unique<PanelView>(
+                               computer.platform, *computer.store, updater, PanelActions{});
                            panel = made.get();
                            return made;
                        }};
     window.open({});
-    until([&] { return world.store->tokenSaved() || !scene.ready; });
+    until([&] { return computer.store->tokenSaved() || !scene.ready; });
     waitUntil([] { return false; }, 50ms);
     window.show(); // another window of the display may have taken the focus
-    if (scene.act) scene.act(world, *panel);
+    if (scene.act) scene.act(computer, *panel);
     return pictureOf(window);
 }
 

@@ -1,7 +1,7 @@
 // Takes pictures of the settings window in every condition.
 #include "maintenance/Updater.h"
 #include "shots/Shots.h"
-#include "support/ConnectedWorld.h"
+#include "support/ConnectedComputer.h"
 #include "support/Controls.h"
 #include "support/FakeFramework.h"
 #include "support/Faults.h"
@@ -25,19 +25,19 @@ constexpr const char* noRights = "Bad Request: not enough rights to manage topic
 /// The window over a store in one state of its setup.
 struct Stage {
     Stage(const char* tab, const Config& config, bool token = true) {
-        world.sandbox.userSays(world.sandbox.addGroup(), "hi");
-        world.setContent("config.json", encodeConfig(config));
+        computer.sandbox.userSays(computer.sandbox.addGroup(), "hi");
+        computer.setContent("config.json", encodeConfig(config));
         const KeychainItem& item = botTokenItem();
-        if (token) world.secrets.values[{item.service, item.account}] = BotWorld::token;
-        world.restart();
-        world.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
+        if (token) computer.secrets.values[{item.service, item.account}] = BotComputer::token;
+        computer.restart();
+        computer.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
         updater.emplace(
-            world.platform, *world.analytics,
+            computer.platform, *computer.analytics,
             UpdaterHooks{.makeFramework = [] { return std::make_unique<FakeFramework>(); },
                          .shouldAskToMove = [] { return false; },
                          .askToMove = {},
                          .log = [](const std::string&) {}});
-        view.emplace(*world.store, *updater,
+        view.emplace(*computer.store, *updater,
                      SettingsActions{.showBanner = [](auto&&...) {},
                                      .uninstall = []() -> QCoro::Task<> { co_return; }},
                      QString::fromLatin1(tab));
@@ -62,7 +62,7 @@ struct Stage {
         });
     }
 
-    BotWorld world;
+    BotComputer computer;
     std::optional<Updater> updater;
     std::optional<SettingsView> view;
     std::optional<Controls> controls;
@@ -138,24 +138,24 @@ const std::map<std::string, Scene> scenes{
      {on("setup", {}, false),
       [](Stage& stage) {
           // Telegram makes it wait, on a clock that stands still.
-          stage.world.sandbox.failNext(flood(1));
-          stage.type("Bot token", BotWorld::token);
+          stage.computer.sandbox.failNext(flood(1));
+          stage.type("Bot token", BotComputer::token);
           stage.click("Connect");
-          until([&] { return stage.world.clock.pending() > 0; });
+          until([&] { return stage.computer.clock.pending() > 0; });
       }}},
     {"setup-3", {on("setup", onlyBot())}},
     {"setup-3-working",
      {on("setup", onlyBot()),
       [](Stage& stage) {
-          stage.world.sandbox.failNext(flood(1));
+          stage.computer.sandbox.failNext(flood(1));
           stage.click("Find my group");
-          until([&] { return stage.world.clock.pending() > 0; });
+          until([&] { return stage.computer.clock.pending() > 0; });
       }}},
     {"setup-4", {on("setup", found())}},
     {"setup-4-error",
      {on("setup", found()),
       [](Stage& stage) {
-          stage.world.sandbox.failNext(refusal("createForumTopic", 400, noRights));
+          stage.computer.sandbox.failNext(refusal("createForumTopic", 400, noRights));
           stage.click("Create the topics");
           stage.awaitText("Couldn't create topics. Make the bot an admin with “Manage Topics” and "
                           "try again.");
@@ -179,7 +179,7 @@ const std::map<std::string, Scene> scenes{
           stage.type("Files", "Papers");
           sandbox::Fault success = answer("editForumTopic", sandbox::Json(true));
           success.count = 4;
-          stage.world.sandbox.failNext(success);
+          stage.computer.sandbox.failNext(success);
           stage.click("Save names to Telegram");
           stage.awaitText("Saved to Telegram.");
       }}},
@@ -187,7 +187,7 @@ const std::map<std::string, Scene> scenes{
      {on("topics", connected()),
       [](Stage& stage) {
           stage.type("Files", "Papers");
-          stage.world.sandbox.failNext(refusal("editForumTopic", 400, noRights));
+          stage.computer.sandbox.failNext(refusal("editForumTopic", 400, noRights));
           stage.click("Save names to Telegram");
           stage.awaitText(noRights);
       }}},
@@ -198,14 +198,14 @@ const std::map<std::string, Scene> scenes{
     {"general-off",
      {on("general", {}, false),
       [](Stage& stage) {
-          stage.world.store->changeConfig([](Config& config) { config.showBanner = false; });
+          stage.computer.store->changeConfig([](Config& config) { config.showBanner = false; });
           for (const ShortcutChoice choice : allShortcutChoices) {
-              stage.world.store->changeConfig([&](Config& config) { config.shortcut = choice; });
-              stage.world.store->registerShortcut();
-              for (const auto& key : stage.world.hotKeys.registered)
-                  stage.world.hotKeys.takenByOthers.insert(key);
+              stage.computer.store->changeConfig([&](Config& config) { config.shortcut = choice; });
+              stage.computer.store->registerShortcut();
+              for (const auto& key : stage.computer.hotKeys.registered)
+                  stage.computer.hotKeys.takenByOthers.insert(key);
           }
-          stage.world.store->registerShortcut();
+          stage.computer.store->registerShortcut();
       }}},
     {"uninstall",
      {on("general", connected()), [](Stage& stage) { stage.click("Uninstall Quillon…"); }}},
@@ -243,7 +243,7 @@ QStringList names() {
                       QStringLiteral("Papers"),
                       QStringLiteral("nonsense"),
                       QStringLiteral("1:nonsense"),
-                      QString::fromUtf8(BotWorld::token),
+                      QString::fromUtf8(BotComputer::token),
                       QString::fromUtf8(noRights),
                       QStringLiteral("Quillon"),
                       QStringLiteral("⌃⌥V"),

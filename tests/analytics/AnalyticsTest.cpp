@@ -1,4 +1,4 @@
-#include "support/World.h"
+#include "support/TestComputer.h"
 
 #include <gmock/gmock.h>
 
@@ -7,45 +7,38 @@ using namespace quillon::test;
 using testing::ElementsAre;
 
 TEST(Analytics, WritesEachEventAtOnce) {
-    World world;
-    world.analytics->track("probe", {{"text", "ü"}, {"number", std::int64_t{-5}}, {"flag", true}});
+    TestComputer computer;
+    computer.analytics->track("probe",
+                              {{"text", "ü"}, {"number", std::int64_t{-5}}, {"flag", true}});
     EXPECT_EQ(
-        world.content("events.json"),
+        computer.content("events.json"),
         R"([{"name":"probe","at":1700000000000,"props":{"text":"ü","number":-5,"flag":true}}])");
-    world.restart();
-    world.analytics->track("second");
-    EXPECT_THAT(world.events(),
+    computer.restart();
+    computer.analytics->track("second");
+    EXPECT_THAT(computer.events(),
                 ElementsAre(R"(probe {"text":"ü","number":-5,"flag":true})", "second {}"));
 }
 
 TEST(Analytics, DropsTheOldestBeyondItsLimit) {
-    World world;
+    TestComputer computer;
     for (std::int64_t number = 0; number < 2005; ++number) {
-        world.analytics->track("n", {{"number", number}});
+        computer.analytics->track("n", {{"number", number}});
     }
-    const std::vector<std::string> events = world.events();
+    const std::vector<std::string> events = computer.events();
     ASSERT_EQ(events.size(), 2000U);
     EXPECT_EQ(events.front(), R"(n {"number":5})");
     EXPECT_EQ(events.back(), R"(n {"number":2004})");
 }
 
 TEST(Analytics, StartsEmptyFromAnUnusableFile) {
-    World world;
+    TestComputer computer;
     for (const char* content : {"", "{}", "[7]", R"([{"name":"a","at":1,"props":{"x":null}}])",
                                 R"([{"name":"a","at":1.5,"props":{}}])",
                                 R"([{"name":"a","at":1,"props":{}},{"at":2}])"}) {
-        world.setContent("events.json", content);
-        world.restart();
-        EXPECT_TRUE(world.analytics->queue().empty()) << content;
+        computer.setContent("events.json", content);
+        computer.restart();
+        EXPECT_TRUE(computer.analytics->queue().empty()) << content;
     }
-}
-
-TEST(Analytics, RecordsNothingAfterPersistingEnded) {
-    World world;
-    world.analytics->stopPersisting();
-    world.analytics->track("probe");
-    EXPECT_TRUE(world.analytics->queue().empty());
-    EXPECT_FALSE(std::filesystem::exists(world.path("events.json")));
 }
 
 TEST(Analytics, SortsSizesIntoBuckets) {
@@ -59,14 +52,14 @@ TEST(Analytics, SortsSizesIntoBuckets) {
 }
 
 TEST(Analytics, ReportsChangedSettingsInTheirOrder) {
-    World world;
-    world.store->changeConfig([](Config& config) {
+    TestComputer computer;
+    computer.store->changeConfig([](Config& config) {
         config.bannerPosition = BannerPosition::bottom;
         config.playSound = false;
         config.chatTitle = "private";
         config.shortcut = ShortcutChoice::ctrlOptP;
     });
-    EXPECT_THAT(world.events(),
+    EXPECT_THAT(computer.events(),
                 ElementsAre(R"(settings_changed {"setting":"shortcut","value":"⌃⌥P"})",
                             R"(settings_changed {"setting":"sound","value":false})",
                             R"(settings_changed {"setting":"banner_position","value":"bottom"})"));

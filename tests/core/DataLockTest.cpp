@@ -1,6 +1,6 @@
 #include "core/DataLock.h"
 
-#include "support/World.h"
+#include "support/TestComputer.h"
 
 #include <gtest/gtest.h>
 
@@ -12,13 +12,13 @@ using namespace std::chrono_literals;
 
 /// A command that wants the data while another process holds them.
 struct DataLockTest : testing::Test {
-    World world;
-    std::optional<FolderLock> other = FolderLock::take(world.platform.dataFolder);
+    TestComputer computer;
+    std::optional<FolderLock> other = FolderLock::take(computer.platform.dataFolder);
     bool ended = false;
     std::optional<FolderLock> taken;
 
     QCoro::Task<> want(std::chrono::milliseconds patience) {
-        taken = co_await takeDataLock(world.platform, patience);
+        taken = co_await takeDataLock(computer.platform, patience);
         ended = true;
     }
 };
@@ -27,18 +27,18 @@ struct DataLockTest : testing::Test {
 
 TEST_F(DataLockTest, WaitsUntilTheOtherIsDone) {
     want(dataLockPatience);
-    world.clock.advance(4s);
+    computer.clock.advance(4s);
     EXPECT_FALSE(ended);
     other.reset();
-    world.clock.advance(100ms);
+    computer.clock.advance(100ms);
     EXPECT_TRUE(ended);
     EXPECT_TRUE(taken);
-    EXPECT_FALSE(FolderLock::take(world.platform.dataFolder));
+    EXPECT_FALSE(FolderLock::take(computer.platform.dataFolder));
 }
 
 TEST_F(DataLockTest, GivesUpWhenItsPatienceIsOver) {
     want(dataLockPatience);
-    world.clock.advance(dataLockPatience + 100ms);
+    computer.clock.advance(dataLockPatience + 100ms);
     EXPECT_TRUE(ended);
     EXPECT_FALSE(taken);
 }

@@ -1,7 +1,7 @@
 #include "desktop/Hotkey.h"
 
 #include "support/Await.h"
-#include "support/World.h"
+#include "support/TestComputer.h"
 
 #include <gmock/gmock.h>
 
@@ -53,37 +53,37 @@ TEST_F(HotkeyTest, ActsFromTheEventLoopAsLastTold) {
 }
 
 TEST(StoreShortcut, IsAnnouncedEachTimeAndNotByAStoreThatIsGone) {
-    World world;
+    TestComputer computer;
     int pressed = 0;
-    QObject::connect(world.store.get(), &Store::shortcutPressed, world.store.get(),
+    QObject::connect(computer.store.get(), &Store::shortcutPressed, computer.store.get(),
                      [&] { ++pressed; });
-    world.store->registerShortcut();
-    world.hotKeys.press(PhysicalKey::v);
+    computer.store->registerShortcut();
+    computer.hotKeys.press(PhysicalKey::v);
     EXPECT_TRUE(waitUntil([&] { return pressed == 1; }));
 
-    world.hotKeys.press(PhysicalKey::v);
-    world.restart();
+    computer.hotKeys.press(PhysicalKey::v);
+    computer.restart();
     QCoreApplication::processEvents();
     EXPECT_EQ(pressed, 1);
 }
 
 TEST(StoreShortcut, TellsThatItIsTakenUntilOneIsFree) {
-    World world;
+    TestComputer computer;
     bool announced = false;
-    QObject::connect(world.store.get(), &Store::objectWillChange, world.store.get(), [&] {
+    QObject::connect(computer.store.get(), &Store::objectWillChange, computer.store.get(), [&] {
         announced = true;
-        EXPECT_FALSE(world.store->shortcutTaken()) << "announced too late";
+        EXPECT_FALSE(computer.store->shortcutTaken()) << "announced too late";
     });
-    world.hotKeys.takenByOthers = {PhysicalKey::v};
-    world.store->registerShortcut();
+    computer.hotKeys.takenByOthers = {PhysicalKey::v};
+    computer.store->registerShortcut();
     EXPECT_TRUE(announced);
-    EXPECT_TRUE(world.store->shortcutTaken());
-    world.store->disconnect();
-    world.store->changeConfig([](Config& config) { config.shortcut = ctrlOptP; });
-    EXPECT_TRUE(world.store->shortcutTaken());
-    world.store->registerShortcut();
-    EXPECT_FALSE(world.store->shortcutTaken());
-    EXPECT_THAT(world.hotKeys.registered, ElementsAre(PhysicalKey::p));
+    EXPECT_TRUE(computer.store->shortcutTaken());
+    computer.store->disconnect();
+    computer.store->changeConfig([](Config& config) { config.shortcut = ctrlOptP; });
+    EXPECT_TRUE(computer.store->shortcutTaken());
+    computer.store->registerShortcut();
+    EXPECT_FALSE(computer.store->shortcutTaken());
+    EXPECT_THAT(computer.hotKeys.registered, ElementsAre(PhysicalKey::p));
 }
 
 TEST(LaunchAtLogin, IsWhatTheDesktopMakesOfIt) {
@@ -103,16 +103,16 @@ TEST(LaunchAtLogin, IsWhatTheDesktopMakesOfIt) {
         {enabled, enabled, true, false, true},
     };
     for (const Case& each : cases) {
-        World world;
-        world.loginItem.current = each.before;
-        world.loginItem.afterRegistering = each.afterRegistering;
-        world.loginItem.refuses = each.refuses;
+        TestComputer computer;
+        computer.loginItem.current = each.before;
+        computer.loginItem.afterRegistering = each.afterRegistering;
+        computer.loginItem.refuses = each.refuses;
         std::optional<bool> shown;
-        QObject::connect(world.store.get(), &Store::objectWillChange, world.store.get(),
-                         [&] { shown = world.store->launchAtLogin(); });
-        world.store->setLaunchAtLogin(each.set);
+        QObject::connect(computer.store.get(), &Store::objectWillChange, computer.store.get(),
+                         [&] { shown = computer.store->launchAtLogin(); });
+        computer.store->setLaunchAtLogin(each.set);
         EXPECT_EQ(shown, each.launches) << "what a switch shows then";
-        EXPECT_THAT(world.events(),
+        EXPECT_THAT(computer.events(),
                     ElementsAre(std::string{"settings_changed {\"setting\":\"launch_at_login\","} +
                                 "\"value\":" + (each.set ? "true}" : "false}")));
     }

@@ -1,7 +1,7 @@
 #include "maintenance/Uninstaller.h"
 #include "support/Await.h"
 #include "support/FakeAlerts.h"
-#include "support/World.h"
+#include "support/TestComputer.h"
 
 #include <gmock/gmock.h>
 
@@ -25,14 +25,14 @@ protected:
         std::ofstream{folder / "inner/file"} << "x";
     }
     void run() {
-        await(uninstaller.run([&] { world.workspace.log.emplace_back("trashed"); }));
+        await(uninstaller.run([&] { computer.workspace.log.emplace_back("trashed"); }));
     }
 
-    World world;
+    TestComputer computer;
     FakeAlerts alerts;
-    Uninstaller uninstaller{world.platform, *world.store, *world.analytics, alerts};
-    const path bundle = world.platform.bundle.url;
-    const path home = world.home();
+    Uninstaller uninstaller{computer.platform, *computer.store, *computer.analytics, alerts};
+    const path bundle = computer.platform.bundle.url;
+    const path home = computer.home();
 };
 
 TEST_F(UninstallerTest, RemovesAllThatIsOursAndNothingElse) {
@@ -53,41 +53,43 @@ TEST_F(UninstallerTest, RemovesAllThatIsOursAndNothingElse) {
     fs::create_directory_symlink(theirs[0], ours[0] / "link");
     fs::remove_all(ours[1]);
     fs::create_directory_symlink(theirs[1], ours[1]);
-    world.secrets.values[{botTokenItem().service, botTokenItem().account}] = "token";
-    world.loginItem.current = LoginItem::Status::enabled;
-    world.defaults.setFlag("qln.moveDeclined", true);
+    computer.secrets.values[{botTokenItem().service, botTokenItem().account}] = "token";
+    computer.loginItem.current = LoginItem::Status::enabled;
+    computer.defaults.setFlag("qln.moveDeclined", true);
 
     run();
     for (const path& each : ours)
         EXPECT_FALSE(fs::exists(fs::symlink_status(each))) << each;
     for (const path& each : theirs)
         EXPECT_TRUE(fs::exists(each / "inner/file")) << each;
-    EXPECT_TRUE(world.secrets.values.empty());
-    EXPECT_EQ(world.loginItem.current, LoginItem::Status::notRegistered);
-    EXPECT_TRUE(world.defaults.values.empty());
+    EXPECT_TRUE(computer.secrets.values.empty());
+    EXPECT_EQ(computer.loginItem.current, LoginItem::Status::notRegistered);
+    EXPECT_TRUE(computer.defaults.values.empty());
     EXPECT_TRUE(alerts.shown.empty());
-    EXPECT_EQ(world.workspace.log,
+    EXPECT_EQ(computer.workspace.log,
               (Log{"unlist", "trash " + bundle.native(), "trashed", "exit 0"}));
 }
 
 TEST_F(UninstallerTest, LeavesNothingThatWritesAFileAgain) {
-    world.analytics->track("opened");
-    ASSERT_TRUE(fs::exists(world.path("events.json")));
+    computer.analytics->track("opened");
+    ASSERT_TRUE(fs::exists(computer.path("events.json")));
     run();
-    world.analytics->track("settings");
-    world.store->changeConfig([](Config& config) { config.playSound = !config.playSound; });
-    EXPECT_FALSE(fs::exists(world.platform.dataFolder));
+    computer.analytics->track("settings");
+    computer.store->changeConfig([](Config& config) { config.playSound = false; });
+    EXPECT_FALSE(computer.store->config().playSound) << "in memory all goes on";
+    EXPECT_EQ(computer.analytics->queue().size(), 1U) << "nothing more is recorded";
+    EXPECT_FALSE(fs::exists(computer.platform.dataFolder));
 }
 
 TEST_F(UninstallerTest, NeverRemovesMoreForAnOddIdentifier) {
     for (const char* odd : {"", ".", "..", "/", "a/b.c", "../..", "a..b", "a.b/", "HTTPStorages",
                             "mozilla", ".config", "dev.", "a b.c", "a.b\n", "d\xc3\xa9v.x"}) {
-        world.platform.bundle.info["CFBundleIdentifier"] = odd;
+        computer.platform.bundle.info["CFBundleIdentifier"] = odd;
         EXPECT_EQ(uninstaller.folders()[1], home / "cache" / identifier) << odd;
     }
-    world.platform.bundle.info.erase("CFBundleIdentifier");
+    computer.platform.bundle.info.erase("CFBundleIdentifier");
     EXPECT_EQ(uninstaller.folders()[5], home / "state/dev.vostrel.quillon.savedState");
-    world.platform.bundle.info["CFBundleIdentifier"] = "org.Example-2.app";
+    computer.platform.bundle.info["CFBundleIdentifier"] = "org.Example-2.app";
     EXPECT_EQ(uninstaller.folders()[1], home / "cache/org.Example-2.app");
 }
 
@@ -97,22 +99,22 @@ TEST_F(UninstallerTest, GoesOnWhateverFailsAndTellsOnlyWhatIsLeftToTheUser) {
                      .informativeText = "It couldn't move itself to the Trash. Drag Quillon from "
                                         "Applications to the Trash to finish.",
                      .buttons = {"OK"}};
-    world.loginItem.refuses = true;
-    world.secrets.available = false;
-    world.workspace.trashWorks = false;
-    fill(world.platform.dataFolder);
+    computer.loginItem.refuses = true;
+    computer.secrets.available = false;
+    computer.workspace.trashWorks = false;
+    fill(computer.platform.dataFolder);
     run();
-    EXPECT_FALSE(fs::exists(world.platform.dataFolder));
-    EXPECT_EQ(world.workspace.log,
+    EXPECT_FALSE(fs::exists(computer.platform.dataFolder));
+    EXPECT_EQ(computer.workspace.log,
               (Log{"unlist", "trash " + bundle.native(), "activate", "exit 0"}));
     EXPECT_EQ(alerts.shown, std::vector{left});
 
     // What is no application folder is never thrown away.
-    world.workspace.trashWorks = true;
-    world.workspace.log.clear();
-    world.platform.bundle.url = "/usr/bin/quillon";
+    computer.workspace.trashWorks = true;
+    computer.workspace.log.clear();
+    computer.platform.bundle.url = "/usr/bin/quillon";
     run();
-    EXPECT_EQ(world.workspace.log, (Log{"unlist", "activate", "exit 0"}));
+    EXPECT_EQ(computer.workspace.log, (Log{"unlist", "activate", "exit 0"}));
     ASSERT_EQ(alerts.shown.size(), 2U);
     EXPECT_THAT(alerts.shown[1].informativeText, testing::HasSubstr("with your package manager"));
 }

@@ -1,7 +1,7 @@
 #include "maintenance/Updater.h"
 
-#include "support/Await.h"
-#include "support/World.h"
+#include "support/FakeFramework.h"
+#include "support/TestComputer.h"
 
 #include <gmock/gmock.h>
 
@@ -13,61 +13,30 @@ using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// An update framework that the test plays.
-class FakeFramework : public UpdateFramework {
-public:
-    std::optional<UpdateError> failure;
-    UpdaterDelegate* delegate = nullptr;
-    std::function<void(bool)> canCheck;
-
-    [[nodiscard]] std::optional<UpdateError> start(UpdaterDelegate& told) override {
-        delegate = &told;
-        return failure;
-    }
-    void observeCanCheck(std::function<void(bool)> observer) override {
-        canCheck = std::move(observer);
-        canCheck(true);
-    }
-    void checkForUpdates() override {}
-    [[nodiscard]] bool automaticallyChecksForUpdates() const override { return false; }
-    void setAutomaticallyChecksForUpdates(bool /*automatically*/) override {}
-};
-
 /// A program whose launch the test repeats.
 struct UpdaterTest : testing::Test {
-    UpdaterTest() { world.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml"; }
-
-    /// Starts the updater of a program that was just launched.
-    Updater& launch(std::string version = "1.0") {
-        world.platform.bundle.info["CFBundleShortVersionString"] = std::move(version);
-        updater.reset();
-        updater.emplace(
-            world.platform, *world.analytics,
-            UpdaterHooks{.makeFramework =
-                             [this] {
-                                 auto made = std::make_unique<FakeFramework>();
-                                 made->failure = failure;
-                                 framework = made.get();
-                                 ++frameworks;
-                                 return made;
-                             },
-                         .shouldAskToMove = [this] { return shouldAsk; },
-                         .askToMove = [this]() -> QCoro::Task<bool> {
-                             declinedWhenAsked =
-                                 world.defaults.text("qln.moveDeclined").has_value();
-                             ++offers;
-                             co_return true;
-                         },
-                         .log = [this](const std::string& line) { log.push_back(line); }});
-        updater->start();
-        QCoreApplication::processEvents();
-        return *updater;
+    UpdaterTest() {
+        computer.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
+        hooks.shouldAskToMove = [this] { return shouldAsk; };
+        hooks.askToMove = [this]() -> QCoro::Task<bool> {
+            declinedWhenAsked = computer.defaults.text("qln.moveDeclined").has_value();
+            ++offers;
+            co_return true;
+        };
+        hooks.log = [this](const std::string& line) { log.push_back(line); };
     }
 
-    World world;
-    std::optional<UpdateError> failure;
+    /// Starts the updater of a program that was just launched.
+    void launch(std::string version = "1.0") {
+        computer.platform.bundle.info["CFBundleShortVersionString"] = std::move(version);
+        updater.emplace(computer.platform, *computer.analytics, hooks);
+        updater->start();
+        QCoreApplication::processEvents();
+    }
+
+    TestComputer computer;
     FakeFramework* framework = nullptr;
-    int frameworks = 0;
+    UpdaterHooks hooks = fakeHooks(framework);
     bool shouldAsk = true;
     int offers = 0;
     bool declinedWhenAsked = false;
@@ -79,14 +48,14 @@ struct UpdaterTest : testing::Test {
 
 TEST_F(UpdaterTest, RecordsEachChangeOfVersionOnce) {
     launch("1.0");
-    EXPECT_THAT(world.events(), IsEmpty());
+    EXPECT_THAT(computer.events(), IsEmpty());
     launch("1.0");
     launch("1.1");
     launch("1.1");
     const std::string updated = R"(updated {"from_version":"1.0"})";
-    EXPECT_THAT(world.events(), ElementsAre(updated));
+    EXPECT_THAT(computer.events(), ElementsAre(updated));
     launch("1.0"); // also the way back is a change
-    EXPECT_THAT(world.events(), ElementsAre(updated, R"(updated {"from_version":"1.1"})"));
+    EXPECT_THAT(computer.events(), ElementsAre(updated, R"(updated {"from_version":"1.1"})"));
 }
 
 TEST_F(UpdaterTest, TellsTheVersionWithItsBuildWhereThatDiffers) {
@@ -100,25 +69,29 @@ TEST_F(UpdaterTest, TellsTheVersionWithItsBuildWhereThatDiffers) {
     };
     launch();
     for (const auto& [info, version] : cases) {
-        world.platform.bundle.info = info;
+        computer.platform.bundle.info = info;
         EXPECT_EQ(updater->version(), version);
     }
 }
 
 TEST_F(UpdaterTest, StaysOffWithoutAnApplicationFolderOrAFeed) {
-    world.platform.bundle.url = "/usr/bin/quillon";
+    computer.platform.bundle.url = "/usr/bin/quillon";
     launch();
-    world.platform.bundle.url = "/home/me/Quillon.app";
-    world.platform.bundle.info.erase("SUFeedURL");
+    computer.platform.bundle.url = "/home/me/Quillon.app";
+    computer.platform.bundle.info.erase("SUFeedURL");
     launch("1.1");
-    EXPECT_EQ(frameworks, 0);
+    EXPECT_EQ(framework, nullptr);
     EXPECT_FALSE(updater->available());
     EXPECT_EQ(updater->controller(), nullptr);
-    EXPECT_EQ(world.defaults.text("qln.lastVersion"), "1.1"); // noted all the same
+    EXPECT_EQ(computer.defaults.text("qln.lastVersion"), "1.1"); // noted all the same
 }
 
 TEST_F(UpdaterTest, LogsAFrameworkThatDoesNotStart) {
-    failure = UpdateError{"SUSparkleErrorDomain", 1, "The key is no key."};
+    hooks.makeFramework = [] {
+        auto made = std::make_unique<FakeFramework>();
+        made->failure = UpdateError{"SUSparkleErrorDomain", 1, "The key is no key."};
+        return made;
+    };
     launch();
     EXPECT_THAT(log, ElementsAre("Quillon: updater didn't start: The key is no key."));
     EXPECT_FALSE(updater->available());
@@ -141,29 +114,25 @@ TEST_F(UpdaterTest, FollowsWhetherACheckCanStart) {
     EXPECT_FALSE(updater->canCheck());
     EXPECT_THAT(before, ElementsAre(true));
 
+    const FakeFramework* const first = framework;
     updater->start();
-    EXPECT_EQ(frameworks, 1);
+    EXPECT_EQ(framework, first) << "it starts once";
 }
 
-TEST_F(UpdaterTest, AllowsEachCheckAndRecordsWhatSetItOff) {
+TEST_F(UpdaterTest, RecordsChecksAndComesToTheFrontOnTheNextTurn) {
     launch();
     for (const auto check :
          {UpdateCheck::inBackground, UpdateCheck::byUser, UpdateCheck::forInformation})
         EXPECT_TRUE(framework->delegate->mayPerformUpdateCheck(check));
-    EXPECT_THAT(world.events(), IsEmpty());
+    framework->delegate->willHandleShowingUpdate();
+    EXPECT_THAT(computer.events(), IsEmpty());
+    EXPECT_THAT(computer.workspace.log, IsEmpty());
     QCoreApplication::processEvents();
     const std::string manual = R"(update_checked {"how":"manual"})";
-    EXPECT_THAT(world.events(), ElementsAre(R"(update_checked {"how":"auto"})", manual, manual));
+    EXPECT_THAT(computer.events(), ElementsAre(R"(update_checked {"how":"auto"})", manual, manual));
+    EXPECT_THAT(computer.workspace.log, ElementsAre("activate"));
     EXPECT_FALSE(framework->delegate->willInstallUpdateOnQuit());
     EXPECT_TRUE(framework->delegate->supportsGentleScheduledUpdateReminders());
-}
-
-TEST_F(UpdaterTest, ComesToTheFrontForAnUpdateOnTheNextTurn) {
-    launch();
-    framework->delegate->willHandleShowingUpdate();
-    EXPECT_THAT(world.workspace.log, IsEmpty());
-    QCoreApplication::processEvents();
-    EXPECT_THAT(world.workspace.log, ElementsAre("activate"));
 }
 
 TEST_F(UpdaterTest, OffersTheMoveAgainWhenItWouldHaveHelped) {
@@ -184,13 +153,13 @@ TEST_F(UpdaterTest, OffersTheMoveAgainWhenItWouldHaveHelped) {
     for (const Case& each : cases) {
         offers = 0;
         shouldAsk = each.shouldAsk;
-        world.defaults.setFlag("qln.moveDeclined", true);
+        computer.defaults.setFlag("qln.moveDeclined", true);
         framework->delegate->didAbortWithError({each.domain, each.code, "It failed."});
-        world.clock.advance(499ms);
+        computer.clock.advance(499ms);
         EXPECT_EQ(offers, 0) << each.code;
-        world.clock.advance(1ms);
+        computer.clock.advance(1ms);
         EXPECT_EQ(offers, each.offers) << each.domain << each.code;
-        EXPECT_EQ(world.defaults.flag("qln.moveDeclined").has_value(), each.offers == 0);
+        EXPECT_EQ(computer.defaults.flag("qln.moveDeclined").has_value(), each.offers == 0);
         EXPECT_FALSE(declinedWhenAsked);
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/ConnectedWorld.h"
+#include "support/ConnectedComputer.h"
 #include "support/Faults.h"
 
 #include <QBuffer>
@@ -50,21 +50,21 @@ protected:
     /// A file of so many zero bytes that take no room on the disk.
     [[nodiscard]] std::filesystem::path file(const std::string& name, std::uintmax_t size = 3) {
         std::filesystem::path path = documents / name;
-        world.files.createFolder(documents);
-        world.files.write(path, {});
+        computer.files.createFolder(documents);
+        computer.files.write(path, {});
         std::filesystem::resize_file(path, size);
         return path;
     }
 
     std::vector<std::string> banners() {
         std::vector<std::string> texts;
-        for (const BannerMessage& shown : world.banner.shown)
+        for (const BannerMessage& shown : computer.banner.shown)
             texts.push_back(shown.text);
         return texts;
     }
 
-    ConnectedWorld world;
-    const std::filesystem::path documents = world.path("documents");
+    ConnectedComputer computer;
+    const std::filesystem::path documents = computer.path("documents");
 };
 
 } // namespace quillon::test

@@ -1,4 +1,4 @@
-#include "support/ConnectedWorld.h"
+#include "support/ConnectedComputer.h"
 #include "support/Faults.h"
 
 #include <gmock/gmock.h>
@@ -7,7 +7,6 @@ namespace quillon::test {
 
 namespace {
 
-using namespace std::chrono_literals;
 using sandbox::BotRole;
 using sandbox::ChatKind;
 using sandbox::Fault;
@@ -24,25 +23,25 @@ constexpr const char* noTokenText =
 constexpr const char* noGroupText =
     "No group found yet. Add the bot to your group, then send “hi” in the group and try again.";
 
-std::string storedToken(const World& world) {
-    const auto found = world.secrets.values.find({"quillon-telegram-token", "quillon"});
-    return found == world.secrets.values.end() ? "" : found->second;
+std::string storedToken(const TestComputer& computer) {
+    const auto found = computer.secrets.values.find({"quillon-telegram-token", "quillon"});
+    return found == computer.secrets.values.end() ? "" : found->second;
 }
 
 } // namespace
 
 TEST(BotConnection, KeepsATokenThatTelegramAccepts) {
-    BotWorld world;
-    const std::string pasted = "\u00a0\t " + std::string{BotWorld::token} + " \r\n";
-    EXPECT_EQ(await(world.store->connectBot(pasted)), "quillon_demo_bot");
-    EXPECT_EQ(storedToken(world), BotWorld::token);
-    EXPECT_TRUE(world.store->tokenSaved());
-    EXPECT_THAT(world.calls(), ElementsAre("getMe {}"));
-    EXPECT_THAT(world.events(), ElementsAre(R"(setup_step {"step":"bot_connected"})"));
-    EXPECT_EQ(world.content("config.json").find(BotWorld::token), std::string::npos);
-    world.restart();
-    EXPECT_TRUE(world.store->tokenSaved());
-    EXPECT_EQ(world.store->config().botName, "quillon_demo_bot");
+    BotComputer computer;
+    const std::string pasted = "\u00a0\t " + std::string{BotComputer::token} + " \r\n";
+    EXPECT_EQ(await(computer.store->connectBot(pasted)), "quillon_demo_bot");
+    EXPECT_EQ(storedToken(computer), BotComputer::token);
+    EXPECT_TRUE(computer.store->tokenSaved());
+    EXPECT_THAT(computer.calls(), ElementsAre("getMe {}"));
+    EXPECT_THAT(computer.events(), ElementsAre(R"(setup_step {"step":"bot_connected"})"));
+    EXPECT_EQ(computer.content("config.json").find(BotComputer::token), std::string::npos);
+    computer.restart();
+    EXPECT_TRUE(computer.store->tokenSaved());
+    EXPECT_EQ(computer.store->config().botName, "quillon_demo_bot");
 }
 
 TEST(BotConnection, RefusesWhatIsNoTokenAndKeepsTheOldOne) {
@@ -61,154 +60,112 @@ TEST(BotConnection, RefusesWhatIsNoTokenAndKeepsTheOldOne) {
         {"999:unknown-to-everyone", refusedText, 1}, // 401
         {":", "Not Found", 1},                       // 404
     };
-    ConnectedWorld world;
-    const Config before = world.store->config();
+    ConnectedComputer computer;
+    const Config before = computer.store->config();
     for (const Case& each : cases) {
-        world.clear();
-        EXPECT_EQ(world.failure(world.store->connectBot(each.pasted)), each.message) << each.pasted;
-        EXPECT_THAT(world.sandbox.requests(), SizeIs(each.requests)) << each.pasted;
+        computer.clear();
+        EXPECT_EQ(computer.failure(computer.store->connectBot(each.pasted)), each.message)
+            << each.pasted;
+        EXPECT_THAT(computer.sandbox.requests(), SizeIs(each.requests)) << each.pasted;
     }
-    world.sandbox.stop();
-    EXPECT_THAT(world.failure(world.store->connectBot("8:another")),
+    computer.sandbox.stop();
+    EXPECT_THAT(computer.failure(computer.store->connectBot("8:another")),
                 testing::StartsWith("Couldn't reach Telegram."));
-    EXPECT_EQ(storedToken(world), BotWorld::token);
-    EXPECT_TRUE(world.store->tokenSaved());
-    EXPECT_EQ(world.store->config(), before);
-    EXPECT_THAT(world.newEvents(), IsEmpty());
-}
-
-TEST(BotConnection, WaitsAsLongAsTelegramAsks) {
-    BotWorld world;
-    world.sandbox.failNext(flood(59));
-    auto connecting = world.store->connectBot(BotWorld::token);
-    ASSERT_TRUE(waitUntil([&] { return world.clock.pending() == 1; }));
-    world.clock.advance(59'999ms);
-    EXPECT_EQ(world.clock.pending(), 1);
-    world.clock.advance(1ms);
-    EXPECT_EQ(await(std::move(connecting)), "quillon_demo_bot");
-    EXPECT_THAT(world.methods(), ElementsAre("getMe", "getMe"));
+    EXPECT_EQ(storedToken(computer), BotComputer::token);
+    EXPECT_TRUE(computer.store->tokenSaved());
+    EXPECT_EQ(computer.store->config(), before);
+    EXPECT_THAT(computer.newEvents(), IsEmpty());
 }
 
 TEST(BotConnection, NamesABotThatHasNoName) {
     for (const Json& me : {Json{{"id", 1}}, Json{{"username", 7}}, Json(true), Json()}) {
-        BotWorld world;
-        world.sandbox.failNext(answer("getMe", me));
-        EXPECT_EQ(await(world.store->connectBot(BotWorld::token)), "your bot") << me;
-        EXPECT_EQ(world.store->config().botName, "your bot");
+        BotComputer computer;
+        computer.sandbox.failNext(answer("getMe", me));
+        EXPECT_EQ(await(computer.store->connectBot(BotComputer::token)), "your bot") << me;
+        EXPECT_EQ(computer.store->config().botName, "your bot");
     }
 }
 
 TEST(BotConnection, KeepsGroupAndTopicsForAnotherBot) {
-    ConnectedWorld world;
-    Config expected = world.store->config();
+    ConnectedComputer computer;
+    Config expected = computer.store->config();
     expected.botName = "second_bot";
-    world.sandbox.addBot("8:second", "second_bot");
-    await(world.store->connectBot("8:second"));
-    EXPECT_EQ(world.store->config(), expected);
-    EXPECT_EQ(storedToken(world), "8:second");
+    computer.sandbox.addBot("8:second", "second_bot");
+    await(computer.store->connectBot("8:second"));
+    EXPECT_EQ(computer.store->config(), expected);
+    EXPECT_EQ(storedToken(computer), "8:second");
 }
 
 TEST(BotConnection, ForgetsEverythingButTheUsersChoices) {
-    ConnectedWorld world;
-    world.store->changeConfig([](Config& config) {
+    ConnectedComputer computer;
+    computer.store->changeConfig([](Config& config) {
         config.shortcut = ShortcutChoice::ctrlOptC;
         config.playSound = false;
         config.showBanner = false;
         config.bannerPosition = BannerPosition::bottom;
         config.topics[0].name = "Mine";
     });
-    world.send({{"UTF8_STRING", "a"}});
-    world.clear();
-    await(world.store->forgetBot());
+    computer.send({{"UTF8_STRING", "a"}});
+    computer.clear();
+    await(computer.store->forgetBot());
 
     Config expected;
     expected.shortcut = ShortcutChoice::ctrlOptC;
     expected.playSound = false;
     expected.showBanner = false;
     expected.bannerPosition = BannerPosition::bottom;
-    EXPECT_EQ(world.store->config(), expected);
-    EXPECT_THAT(world.store->history(), SizeIs(1));
-    EXPECT_EQ(storedToken(world), "");
-    EXPECT_THAT(world.methods(), IsEmpty());
-    EXPECT_EQ(world.failure(world.store->findGroup()), "Connect your bot first.");
-    EXPECT_EQ(world.failure(world.store->createTopics()), "Find your group first.");
-    EXPECT_EQ(world.failure(world.store->renameTopics()), "");
-    world.restart();
-    EXPECT_FALSE(world.store->tokenSaved());
-    EXPECT_EQ(world.store->config(), expected);
+    EXPECT_EQ(computer.store->config(), expected);
+    EXPECT_THAT(computer.store->history(), SizeIs(1));
+    EXPECT_EQ(storedToken(computer), "");
+    EXPECT_THAT(computer.methods(), IsEmpty());
+    EXPECT_EQ(computer.failure(computer.store->findGroup()), "Connect your bot first.");
+    EXPECT_EQ(computer.failure(computer.store->createTopics()), "Find your group first.");
+    EXPECT_EQ(computer.failure(computer.store->renameTopics()), "");
+    computer.restart();
+    EXPECT_FALSE(computer.store->tokenSaved());
+    EXPECT_EQ(computer.store->config(), expected);
 }
 
 TEST(GroupDiscovery, FindsTheGroupThatSpokeLast) {
-    using Ready = std::function<std::int64_t(sandbox::Sandbox&)>;
-    const auto group = [](sandbox::Sandbox& phone, const std::string& title, BotRole role) {
-        GroupOptions options;
+    BotComputer computer;
+    sandbox::Sandbox& phone = computer.sandbox;
+    await(computer.store->connectBot(BotComputer::token));
+    const auto group = [&](const std::string& title, GroupOptions options = {}) {
         options.title = title;
-        options.bot = role;
         return phone.addGroup(options);
     };
-    struct Case {
-        const char* name;
-        Ready make; ///< gives the group to be found
-        std::string title;
-    };
-    const Case cases[] = {
-        {"a message",
-         [&](auto& phone) {
-             const auto id = group(phone, "Family", BotRole::topicAdmin);
-             phone.userSays(id, "hi");
-             return id;
-         },
-         "Family"},
-        {"a membership alone",
-         [&](auto& phone) {
-             const auto id = group(phone, "Family", BotRole::absent);
-             phone.failNext(answer(
-                 "getUpdates",
-                 Json::array(
-                     {{{"my_chat_member", {{"chat", {{"id", id}, {"type", "supergroup"}}}}}}})));
-             phone.addBotToGroup(id);
-             return id;
-         },
-         "Family"},
-        {"a group that was converted",
-         [&](auto& phone) {
-             GroupOptions basic;
-             basic.kind = ChatKind::group;
-             basic.title = "Was basic";
-             const auto old = phone.addGroup(basic);
-             phone.userSays(old, "hi");
-             return phone.migrateGroup(old);
-         },
-         "Was basic"},
-        {"two groups",
-         [&](auto& phone) {
-             const auto first = group(phone, "First", BotRole::topicAdmin);
-             const auto second = group(phone, "Second", BotRole::topicAdmin);
-             phone.userSays(second, "hi");
-             phone.userSays(first, "hi");
-             return first;
-         },
-         "First"},
-    };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.name);
-        BotWorld world;
-        await(world.store->connectBot(BotWorld::token));
-        const std::int64_t id = each.make(world.sandbox);
-        world.clear();
-        await(world.store->findGroup());
-        EXPECT_EQ(world.store->config().chatId, id);
-        EXPECT_EQ(world.store->config().chatTitle, each.title);
-        EXPECT_THAT(world.newEvents(), ElementsAre(R"(setup_step {"step":"group_found"})"));
-        EXPECT_THAT(world.calls(),
+    const auto expectFound = [&](std::int64_t id, const std::string& title) {
+        SCOPED_TRACE(title);
+        computer.clear();
+        await(computer.store->findGroup());
+        EXPECT_EQ(computer.store->config().chatId, id);
+        EXPECT_EQ(computer.store->config().chatTitle, title);
+        EXPECT_THAT(computer.newEvents(), ElementsAre(R"(setup_step {"step":"group_found"})"));
+        EXPECT_THAT(computer.calls(),
                     ElementsAre(R"(getUpdates {"allowed_updates":["message","my_chat_member"]})",
                                 R"(getChat {"chat_id":)" + std::to_string(id) + "}"));
-    }
+    };
+    const auto first = group("First");
+    phone.userSays(group("Second"), "hi");
+    phone.userSays(first, "hi");
+    expectFound(first, "First");
+
+    const auto basic = group("Converted", {.kind = ChatKind::group});
+    phone.userSays(basic, "hi");
+    expectFound(phone.migrateGroup(basic), "Converted");
+
+    // A membership alone, without a message.
+    const auto silent = group("Silent", {.bot = BotRole::absent});
+    phone.addBotToGroup(silent);
+    phone.failNext(answer(
+        "getUpdates",
+        Json::array({{{"my_chat_member", {{"chat", {{"id", silent}, {"type", "supergroup"}}}}}}})));
+    expectFound(silent, "Silent");
 }
 
 TEST(GroupDiscovery, SaysWhatIsMissing) {
-    ConnectedWorld world;
-    const Config before = world.store->config();
+    ConnectedComputer computer;
+    const Config before = computer.store->config();
     const auto updates = [](const Json& list) { return answer("getUpdates", list); };
     const auto chat = [](const Json& reply) { return answer("getChat", reply); };
     const auto message = [](const Json& content) { return Json::array({{{"message", content}}}); };
@@ -227,27 +184,27 @@ TEST(GroupDiscovery, SaysWhatIsMissing) {
         {refusal("getChat", 400, "gone"), "gone"},
     };
     for (const auto& [fault, expected] : cases) {
-        world.sandbox.clearFaults();
-        world.sandbox.failNext(fault);
-        EXPECT_EQ(world.failure(world.store->findGroup()), expected);
-        EXPECT_EQ(world.store->config(), before);
+        computer.sandbox.clearFaults();
+        computer.sandbox.failNext(fault);
+        EXPECT_EQ(computer.failure(computer.store->findGroup()), expected);
+        EXPECT_EQ(computer.store->config(), before);
     }
-    EXPECT_THAT(world.newEvents(), IsEmpty());
+    EXPECT_THAT(computer.newEvents(), IsEmpty());
 }
 
 TEST(GroupDiscovery, ClearsThreadsForAnotherGroupAlone) {
-    ConnectedWorld world;
-    world.store->changeConfig([](Config& config) { config.topics[1].name = "Pictures"; });
-    const auto before = world.threads();
-    world.sandbox.failNext(answer("getChat", {{"is_forum", true}}));
-    await(world.store->findGroup());
-    EXPECT_EQ(world.threads(), before);
-    EXPECT_EQ(world.store->config().chatTitle, std::nullopt);
+    ConnectedComputer computer;
+    computer.store->changeConfig([](Config& config) { config.topics[1].name = "Pictures"; });
+    const auto before = computer.threads();
+    computer.sandbox.failNext(answer("getChat", {{"is_forum", true}}));
+    await(computer.store->findGroup());
+    EXPECT_EQ(computer.threads(), before);
+    EXPECT_EQ(computer.store->config().chatTitle, std::nullopt);
 
-    world.sandbox.userSays(world.sandbox.addGroup(), "hi");
-    await(world.store->findGroup());
-    EXPECT_THAT(world.threads(), Each(std::nullopt));
-    EXPECT_EQ(world.store->config().topics[1].name, "Pictures");
+    computer.sandbox.userSays(computer.sandbox.addGroup(), "hi");
+    await(computer.store->findGroup());
+    EXPECT_THAT(computer.threads(), Each(std::nullopt));
+    EXPECT_EQ(computer.store->config().topics[1].name, "Pictures");
 }
 
 } // namespace quillon::test

@@ -29,7 +29,7 @@ inline QWidget* shownWindow() {
 }
 
 /// What a user of assistive technology, a mouse or a keyboard finds in a window: the widgets that
-/// show, by their accessible names.
+/// show, by their accessible names. Names that are literals are in UTF-8.
 class Controls {
 public:
     /// Shows the window.
@@ -57,7 +57,7 @@ public:
 
     /// Null when none shows.
     template <typename T = QWidget>
-    [[nodiscard]] T* find(const QString& name) const {
+    [[nodiscard]] T* find(QAnyStringView name) const {
         for (T* each : root_.findChildren<T*>()) {
             if (each->isVisible() && nameOf(each) == name) return each;
         }
@@ -65,27 +65,28 @@ public:
     }
 
     template <typename T = QAbstractButton>
-    [[nodiscard]] T& get(const QString& name) const {
+    [[nodiscard]] T& get(QAnyStringView name) const {
         T* found = find<T>(name);
-        if (!found) throw std::runtime_error{"there is no \"" + name.toStdString() + "\""};
+        if (!found)
+            throw std::runtime_error{"there is no \"" + name.toString().toStdString() + "\""};
         return *found;
     }
 
-    [[nodiscard]] bool shows(const QString& name) const { return find(name) != nullptr; }
+    [[nodiscard]] bool shows(QAnyStringView name) const { return find(name) != nullptr; }
     template <typename T = QAbstractButton>
-    [[nodiscard]] bool enabled(const QString& name) const {
+    [[nodiscard]] bool enabled(QAnyStringView name) const {
         return get<T>(name).isEnabled();
     }
 
     /// In its middle; what is disabled does not notice.
     template <typename T = QAbstractButton>
-    void click(const QString& name) const {
+    void click(QAnyStringView name) const {
         QTest::mouseClick(&get<T>(name), Qt::LeftButton);
         QCoreApplication::processEvents();
     }
 
     /// Of a widget with all that it lies in.
-    [[nodiscard]] double opacity(const QString& name) const {
+    [[nodiscard]] double opacity(QAnyStringView name) const {
         double opacity = 1;
         for (QWidget* at = &get<QWidget>(name); at; at = at->parentWidget()) {
             if (const auto* effect = qobject_cast<QGraphicsOpacityEffect*>(at->graphicsEffect()))

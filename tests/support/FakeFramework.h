@@ -4,15 +4,19 @@
 
 namespace quillon::test {
 
-/// An update framework that does nothing but remember.
+/// An update framework that the test plays, and that remembers what it was told.
 class FakeFramework : public UpdateFramework {
 public:
+    /// What it fails with when it is started.
+    std::optional<UpdateError> failure;
+    UpdaterDelegate* delegate = nullptr;
     bool automatic = true;
     int checks = 0;
     std::function<void(bool)> canCheck;
 
-    [[nodiscard]] std::optional<UpdateError> start(UpdaterDelegate& /*delegate*/) override {
-        return std::nullopt;
+    [[nodiscard]] std::optional<UpdateError> start(UpdaterDelegate& told) override {
+        delegate = &told;
+        return failure;
     }
     void observeCanCheck(std::function<void(bool)> observer) override {
         canCheck = std::move(observer);

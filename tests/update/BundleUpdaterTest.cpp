@@ -1,7 +1,7 @@
 #include "update/BundleUpdater.h"
 
 #include "support/Await.h"
-#include "support/World.h"
+#include "support/TestComputer.h"
 #include "update/Errors.h"
 #include "update/UpdateSource.h"
 #include "update/UpdateUserDriver.h"
@@ -23,15 +23,15 @@ using testing::IsEmpty;
 class FakeUser : public UpdateUserDriver {
 public:
     std::vector<std::string> seen;
+    bool permission = false;
     /// Absent as long as the user does not answer.
-    std::optional<bool> permission;
     std::optional<UpdateChoice> choice = UpdateChoice::later;
     InstallTime time = InstallTime::onQuit;
     bool cancels = false;
 
     [[nodiscard]] QFuture<bool> askPermission() override {
         seen.emplace_back("permission?");
-        return answer(permission, permissionLater_);
+        return QtFuture::makeReadyFuture(permission);
     }
     void showChecking(std::stop_source cancel) override {
         seen.emplace_back("checking");
@@ -41,7 +41,9 @@ public:
     [[nodiscard]] QFuture<UpdateChoice> showUpdate(UpdateOffer offer) override {
         seen.push_back("update " + offer.installedVersion + " " + offer.version + " " +
                        offer.notes + (offer.gently ? " gently" : ""));
-        return answer(choice, choiceLater_);
+        if (choice) return QtFuture::makeReadyFuture(*choice);
+        choiceLater_.start();
+        return choiceLater_.future();
     }
     void showPreparing(std::string version, std::stop_source cancel) override {
         seen.push_back("preparing " + version);
@@ -69,15 +71,6 @@ public:
     UpdateProgress last;
 
 private:
-    template <typename T>
-    QFuture<T> answer(std::optional<T> now, QPromise<T>& later) {
-        if (now) return QtFuture::makeReadyFuture(*now);
-        later = QPromise<T>{};
-        later.start();
-        return later.future();
-    }
-
-    QPromise<bool> permissionLater_;
     QPromise<UpdateChoice> choiceLater_;
 };
 
@@ -100,9 +93,9 @@ public:
 
 struct BundleUpdaterTest : testing::Test {
     BundleUpdaterTest() {
-        place(application("1.0"), world.platform.bundle.url.parent_path());
-        world.platform.bundle.info["SUFeedURL"] = source.feedUrl();
-        world.platform.bundle.info["SUPublicEDKey"] = source.publicKey();
+        place(application("1.0"), computer.platform.bundle.url.parent_path());
+        computer.platform.bundle.info["SUFeedURL"] = source.feedUrl();
+        computer.platform.bundle.info["SUPublicEDKey"] = source.maker.publicKey();
         source.publish("1.1");
         launch();
     }
@@ -112,7 +105,7 @@ struct BundleUpdaterTest : testing::Test {
     }
 
     void launch() {
-        updater = std::make_unique<BundleUpdater>(world.platform, user);
+        updater = std::make_unique<BundleUpdater>(computer.platform, user);
         EXPECT_EQ(updater->start(delegate), std::nullopt);
         updater->observeCanCheck([this](bool can) { canCheck.push_back(can); });
     }
@@ -123,16 +116,16 @@ struct BundleUpdaterTest : testing::Test {
     }
     /// Lets the time pass, in which a check may run to its end.
     std::vector<std::string> pass(std::chrono::milliseconds time) {
-        world.clock.advance(time);
+        computer.clock.advance(time);
         EXPECT_TRUE(waitUntil([this] { return canCheck.back(); }));
         return user.news();
     }
     /// How many checks there were since the last time.
     std::size_t checks() { return std::exchange(delegate.checks, {}).size(); }
     void quit() { QMetaObject::invokeMethod(qApp, "aboutToQuit"); }
-    [[nodiscard]] std::string installed() const { return versionOf(world.platform.bundle.url); }
+    [[nodiscard]] std::string installed() const { return versionOf(computer.platform.bundle.url); }
 
-    World world;
+    TestComputer computer;
     UpdateSource source;
     FakeUser user;
     FakeDelegate delegate;
@@ -148,18 +141,17 @@ TEST_F(BundleUpdaterTest, StartsOnlyWithASecureFeedAndAKey) {
         std::string key;
         int code;
     };
-    const std::string key = source.publicKey();
+    const std::string key = source.maker.publicKey();
     const Case cases[] = {
         {"", key, updateFeedNotAllowed},
         {"http://example.com/feed.xml", key, updateFeedNotAllowed},
-        {"file:///etc/passwd", key, updateFeedNotAllowed},
         {"https://example.com/feed.xml", "", updateKeyMissing},
         {"https://example.com/feed.xml", key + "A", updateKeyMissing},
     };
     for (const Case& each : cases) {
-        world.platform.bundle.info["SUFeedURL"] = each.feed;
-        world.platform.bundle.info["SUPublicEDKey"] = each.key;
-        BundleUpdater other{world.platform, user};
+        computer.platform.bundle.info["SUFeedURL"] = each.feed;
+        computer.platform.bundle.info["SUPublicEDKey"] = each.key;
+        BundleUpdater other{computer.platform, user};
         const auto error = other.start(delegate);
         ASSERT_TRUE(error) << each.feed;
         EXPECT_EQ(error->code, each.code) << each.feed;
@@ -176,8 +168,8 @@ TEST_F(BundleUpdaterTest, InstallsAtOnceAndRelaunches) {
                                         "ready 1.1"));
     EXPECT_EQ(installed(), "1.1");
     EXPECT_EQ(user.last.stage, UpdateProgress::Stage::unpacking);
-    EXPECT_THAT(world.workspace.log,
-                ElementsAre("open " + world.platform.bundle.url.native(), "terminate"));
+    EXPECT_THAT(computer.workspace.log,
+                ElementsAre("open " + computer.platform.bundle.url.native(), "terminate"));
     EXPECT_THAT(delegate.checks, ElementsAre(UpdateCheck::byUser));
     EXPECT_EQ(delegate.showings, 1);
     EXPECT_THAT(delegate.errors, IsEmpty());
@@ -192,12 +184,12 @@ TEST_F(BundleUpdaterTest, InstallsOnQuitAndUntilThenOffersToDoSoNow) {
     checkNow();
     EXPECT_EQ(installed(), "1.0");
     EXPECT_THAT(checkNow(), ElementsAre("ready 1.1"));
-    world.defaults.setFlag("SUEnableAutomaticChecks", true);
+    computer.defaults.setFlag("SUEnableAutomaticChecks", true);
     updater->setAutomaticallyChecksForUpdates(true);
     EXPECT_THAT(pass(48h), IsEmpty());
     quit();
     EXPECT_EQ(installed(), "1.1");
-    EXPECT_THAT(world.workspace.log, IsEmpty());
+    EXPECT_THAT(computer.workspace.log, IsEmpty());
     EXPECT_EQ(checks(), 1U);
 }
 
@@ -206,11 +198,15 @@ TEST_F(BundleUpdaterTest, InstallsWithoutEndingTheProgram) {
     user.time = InstallTime::now;
     EXPECT_THAT(checkNow(), Contains("installed 1.1"));
     EXPECT_EQ(installed(), "1.1");
-    EXPECT_THAT(world.workspace.log, IsEmpty());
+    EXPECT_THAT(computer.workspace.log, IsEmpty());
 }
 
 TEST_F(BundleUpdaterTest, AsksOnceAtTheSecondLaunchAndThenChecksDaily) {
     EXPECT_THAT(pass(72h), IsEmpty()); // the first launch
+    launch();
+    EXPECT_THAT(pass(72h), ElementsAre("permission?"));
+    EXPECT_EQ(checks(), 0U) << "the user did not want it";
+    computer.defaults.remove("SUEnableAutomaticChecks");
     user.permission = true;
     launch();
     EXPECT_THAT(user.news(), ElementsAre("permission?"));
@@ -240,26 +236,18 @@ TEST_F(BundleUpdaterTest, AsksOnceAtTheSecondLaunchAndThenChecksDaily) {
     EXPECT_THAT(user.news(), IsEmpty());
 }
 
-TEST_F(BundleUpdaterTest, NeverChecksByItselfForAUserWhoDoesNotWantIt) {
-    user.permission = false;
-    launch();
-    launch();
-    EXPECT_THAT(pass(72h), ElementsAre("permission?"));
-    EXPECT_EQ(checks(), 0U);
-}
-
 TEST_F(BundleUpdaterTest, ChecksOnceWhenTheClockHasJumped) {
     updater->setAutomaticallyChecksForUpdates(true);
     source.publish("1.0");
     pass(10s);
     EXPECT_EQ(checks(), 1U);
     for (const std::chrono::hours jump : {-2h, 24h * 365 * 20, -24h * 365 * 20}) {
-        world.clock.jump(jump);
+        computer.clock.jump(jump);
         pass(3h);
         EXPECT_EQ(checks(), 1U) << jump.count();
     }
     for (const char* last : {"", "soon", "-1", "99999999999999999999"}) {
-        world.defaults.setText("SULastCheckTime", last);
+        computer.defaults.setText("SULastCheckTime", last);
         pass(3h);
         EXPECT_EQ(checks(), 1U) << last;
     }
@@ -288,7 +276,7 @@ TEST_F(BundleUpdaterTest, BringsAnOpenQuestionForwardInsteadOfCheckingAgain) {
     user.news();
     updater->checkForUpdates();
     updater->setAutomaticallyChecksForUpdates(true);
-    world.clock.advance(48h);
+    computer.clock.advance(48h);
     EXPECT_THAT(user.news(), ElementsAre("forward"));
     EXPECT_EQ(checks(), 1U);
     user.choose(UpdateChoice::later);
@@ -301,19 +289,18 @@ TEST_F(BundleUpdaterTest, BringsAnOpenQuestionForwardInsteadOfCheckingAgain) {
 }
 
 TEST_F(BundleUpdaterTest, ShowsAFailureOnlyToWhoAsked) {
-    source.takeOffline(true);
+    source.answerFeeds(UpdateSource::reply(503));
     EXPECT_THAT(checkNow(), ElementsAre("checking", "error 2002"));
     updater->setAutomaticallyChecksForUpdates(true);
     EXPECT_THAT(pass(24h), IsEmpty());
     EXPECT_THAT(delegate.errors, ElementsAre(2002, 2002));
 
-    source.takeOffline(false);
-    source.signWrongly();
-    source.publish("1.1");
+    source.answerFeeds(UpdateSource::give);
+    source.publish("1.1", "no archive");
     user.choice = UpdateChoice::install;
     EXPECT_THAT(pass(24h),
-                ElementsAre("update 1.0 1.1 What is new gently", "preparing 1.1", "error 2104"));
-    EXPECT_EQ(delegate.errors.back(), 2104);
+                ElementsAre("update 1.0 1.1 What is new gently", "preparing 1.1", "error 3000"));
+    EXPECT_EQ(delegate.errors.back(), updateArchiveDamaged);
     quit();
     EXPECT_EQ(installed(), "1.0");
 }
@@ -323,7 +310,7 @@ TEST_F(BundleUpdaterTest, EndsWithoutAWordWhenTheUserCancels) {
     user.cancels = true;
     EXPECT_THAT(checkNow(), ElementsAre("checking"));
     // In the background nothing shows that could be cancelled, until the user installs.
-    source.stallArchives();
+    source.answerArchives(UpdateSource::stall);
     updater->setAutomaticallyChecksForUpdates(true);
     EXPECT_THAT(pass(24h),
                 ElementsAre("update 1.0 1.1 What is new gently", "preparing 1.1", "dismiss"));

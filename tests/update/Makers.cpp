@@ -9,9 +9,8 @@
 #include <sodium.h>
 #include <sys/stat.h>
 
-#include <cstdio>
+#include <algorithm>
 #include <fstream>
-#include <functional>
 
 namespace quillon::test {
 
@@ -24,25 +23,17 @@ la_ssize_t append(archive* /*writer*/, void* target, const void* bytes, std::siz
     return static_cast<la_ssize_t>(size);
 }
 
-/// What `write` makes of a writer of this format and compression.
-std::string written(int format, const char* filter, const std::function<void(archive*)>& write) {
-    std::string bytes;
-    archive* writer = archive_write_new();
-    const Utf8Locale names;
-    archive_write_set_format(writer, format);
-    if (filter) archive_write_add_filter_by_name(writer, filter);
-    archive_write_set_bytes_per_block(writer, 0);
-    EXPECT_EQ(archive_write_open(writer, &bytes, nullptr, append, nullptr), ARCHIVE_OK);
-    write(writer);
-    archive_write_free(writer);
-    return bytes;
+template <std::size_t Size>
+std::string base64(const std::array<unsigned char, Size>& bytes) {
+    return QByteArray{reinterpret_cast<const char*>(bytes.data()), Size}.toBase64().toStdString();
 }
 
-void writeHeader(archive* writer, const Entry& each, la_int64_t size) {
+void writeHeader(archive* writer, const Entry& each) {
     archive_entry* entry = archive_entry_new();
     archive_entry_set_pathname(entry, each.path.c_str());
     archive_entry_set_perm(entry, each.mode);
     if (each.type != 0) archive_entry_set_filetype(entry, each.type);
+    const auto size = static_cast<la_int64_t>(std::max(each.size, each.content.size()));
     if (each.type == AE_IFREG) archive_entry_set_size(entry, size);
     if (each.type == AE_IFLNK) archive_entry_set_symlink(entry, each.link.c_str());
     if (each.type == 0) archive_entry_set_hardlink(entry, each.link.c_str());
@@ -54,57 +45,33 @@ void writeHeader(archive* writer, const Entry& each, la_int64_t size) {
 } // namespace
 
 std::string archiveOf(const std::vector<Entry>& entries, const char* filter) {
-    return written(ARCHIVE_FORMAT_TAR_PAX_RESTRICTED, filter, [&](archive* writer) {
-        for (const Entry& each : entries) {
-            writeHeader(writer, each, static_cast<la_int64_t>(each.content.size()));
-            archive_write_data(writer, each.content.data(), each.content.size());
-        }
-    });
-}
-
-std::string bombOf(int count) {
-    constexpr std::size_t block = 512;
-    constexpr std::size_t size = 100'000'256; // a multiple of the block's
-    const auto compressed = [](const std::string& bytes) {
-        return written(ARCHIVE_FORMAT_RAW, "zstd", [&](archive* writer) {
-            writeHeader(writer, {.path = "raw"}, static_cast<la_int64_t>(bytes.size()));
-            archive_write_data(writer, bytes.data(), bytes.size());
-        });
-    };
-    const std::string one = written(ARCHIVE_FORMAT_TAR_USTAR, nullptr, [](archive* writer) {
-        writeHeader(writer, {.path = "000"}, static_cast<la_int64_t>(size));
-    });
-    // Compressed streams may follow each other, so the zeros need not be compressed twice.
-    const std::string charge = compressed(one.substr(block, size));
-    std::string bomb;
-    for (int index = 0; index < count; ++index) {
-        std::string header = one.substr(0, block);
-        header.replace(0, 3, std::to_string(100 + index).substr(0, 3));
-        // Six octal digits: the sum of all bytes, where the sum itself counts as eight spaces.
-        header.replace(148, 8, 8, ' ');
-        unsigned sum = 0;
-        for (const char byte : header)
-            sum += static_cast<unsigned char>(byte);
-        std::snprintf(header.data() + 148, 8, "%06o", sum);
-        bomb += compressed(header) + charge;
+    std::string bytes;
+    archive* writer = archive_write_new();
+    const Utf8Locale names;
+    archive_write_set_format_pax_restricted(writer);
+    if (filter) archive_write_add_filter_by_name(writer, filter);
+    archive_write_set_bytes_per_block(writer, 0); // compressed archives are not filled up
+    EXPECT_EQ(archive_write_open(writer, &bytes, nullptr, append, nullptr), ARCHIVE_OK);
+    for (const Entry& each : entries) {
+        writeHeader(writer, each);
+        archive_write_data(writer, each.content.data(), each.content.size());
     }
-    return bomb;
+    archive_write_free(writer);
+    return bytes;
 }
 
 std::vector<Entry> application(const std::string& version, const std::string& identifier,
                                const std::string& publicKey) {
-    const std::string list = "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>"
-                             "<key>CFBundleIdentifier</key><string>" +
-                             identifier +
-                             "</string>"
-                             "<key>CFBundleVersion</key><string>" +
-                             version +
-                             "</string>"
-                             "<key>CFBundleShortVersionString</key><string>" +
-                             version +
-                             "</string>"
-                             "<key>SUPublicEDKey</key><string>" +
-                             publicKey + "</string></dict></plist>";
+    const std::pair<const char*, std::string> values[] = {
+        {"CFBundleIdentifier", identifier},
+        {"CFBundleVersion", version},
+        {"CFBundleShortVersionString", version},
+        {"SUPublicEDKey", publicKey},
+    };
+    std::string list = "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>";
+    for (const auto& [key, value] : values)
+        list += std::string{"<key>"} + key + "</key><string>" + value + "</string>";
+    list += "</dict></plist>";
     return {
         {.path = "Quillon.app/", .mode = 0755, .type = AE_IFDIR},
         {.path = "Quillon.app/Contents/", .mode = 0755, .type = AE_IFDIR},
@@ -118,17 +85,26 @@ std::vector<Entry> application(const std::string& version, const std::string& id
         link("Quillon.app/Contents/Resources/icon", "../Resources/über.svg")};
 }
 
+std::string feedXml(const std::string& items) {
+    return "<?xml version='1.0' encoding='utf-8'?><rss version='2.0' "
+           "xmlns:quillon='urn:dev.vostrel.quillon:update'><channel><title>Quillon</title>" +
+           items + "</channel></rss>";
+}
+
+std::string itemXml(const FeedItem& item, const std::string& more) {
+    return "<item><quillon:version>" + item.version + "</quillon:version><description>" +
+           item.notes + "</description>" + more + "<enclosure url='" + item.url + "' length='" +
+           std::to_string(item.length) + "' type='application/zstd' quillon:edSignature='" +
+           base64(item.signature) + "'/></item>";
+}
+
 Maker::Maker() {
     EXPECT_GE(sodium_init(), 0);
     crypto_sign_keypair(public_.data(), secret_.data());
 }
 
 std::string Maker::publicKey() const {
-    std::string text(sodium_base64_ENCODED_LEN(32, sodium_base64_VARIANT_ORIGINAL), '\0');
-    sodium_bin2base64(text.data(), text.size(), public_.data(), public_.size(),
-                      sodium_base64_VARIANT_ORIGINAL);
-    text.pop_back();
-    return text;
+    return base64(public_);
 }
 
 Signature Maker::sign(const std::string& bytes) const {

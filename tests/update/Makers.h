@@ -30,6 +30,8 @@ struct Entry {
     mode_t type = AE_IFREG;
     /// Where a symbolic link leads, or a hard link when the type is 0.
     std::string link{};
+    /// Of a file that goes on with zeros after its content, in bytes.
+    std::size_t size = 0;
 };
 
 inline Entry link(const std::string& path, const std::string& target) {
@@ -42,13 +44,14 @@ inline Entry hardLink(const std::string& path, const std::string& target) {
 /// A tar archive with the filter's compression ("gzip", "xz" or "zstd"), or none.
 std::string archiveOf(const std::vector<Entry>& entries, const char* filter = "zstd");
 
-/// An archive of `count` files of 100 MB of zeros each, in a fraction of that.
-std::string bombOf(int count);
-
 /// An application folder whose program tells its version.
 std::vector<Entry> application(const std::string& version,
                                const std::string& identifier = "dev.vostrel.quillon",
                                const std::string& publicKey = {});
+
+/// A feed of these items, and one of them.
+std::string feedXml(const std::string& items);
+std::string itemXml(const FeedItem& item, const std::string& more = {});
 
 /// Which of these entries is the program.
 constexpr std::size_t programEntry = 5;

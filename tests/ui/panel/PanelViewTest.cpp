@@ -1,7 +1,7 @@
 #include "ui/panel/PanelView.h"
 
 #include "maintenance/Updater.h"
-#include "support/ConnectedWorld.h"
+#include "support/ConnectedComputer.h"
 #include "support/Controls.h"
 #include "support/FakeFramework.h"
 #include "support/Faults.h"
@@ -27,12 +27,12 @@ constexpr const char* sendName = "Send clipboard to phone";
 template <typename Computer>
 struct PanelOn : testing::Test {
     PanelOn() {
-        world.platform.system.locale = "en_US";
-        world.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
+        computer.platform.system.locale = "en_US";
+        computer.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
     }
 
     void open() {
-        panel.emplace(world.platform, *world.store, updater,
+        panel.emplace(computer.platform, *computer.store, updater,
                       PanelActions{.showSettings = [this] { log.emplace_back("settings"); },
                                    .quit = [this] { log.emplace_back("quit"); }});
         controls.emplace(*panel);
@@ -59,16 +59,16 @@ struct PanelOn : testing::Test {
         return button(sendName)->template findChild<SymbolView*>()->symbol();
     }
 
-    Computer world;
+    Computer computer;
     FakeFramework* framework = nullptr;
-    Updater updater{world.platform, *world.analytics, fakeHooks(framework)};
+    Updater updater{computer.platform, *computer.analytics, fakeHooks(framework)};
     std::vector<std::string> log;
     std::optional<PanelView> panel;
     std::optional<Controls> controls;
 };
 
-using NewPanel = PanelOn<World>;
-using ReadyPanel = PanelOn<ConnectedWorld>;
+using NewPanel = PanelOn<TestComputer>;
+using ReadyPanel = PanelOn<ConnectedComputer>;
 
 Sent sent(std::string title, Date date, std::optional<std::string> error = {}) {
     return {QUuid::createUuid(), "doc", std::move(title), "📄 Files", date, std::move(error)};
@@ -77,7 +77,8 @@ Sent sent(std::string title, Date date, std::optional<std::string> error = {}) {
 } // namespace
 
 TEST_F(NewPanel, LeadsIntoTheSetupBeforeItIsDone) {
-    world.store->changeConfig([](Config& config) { config.shortcut = ShortcutChoice::ctrlOptP; });
+    computer.store->changeConfig(
+        [](Config& config) { config.shortcut = ShortcutChoice::ctrlOptP; });
     open();
     EXPECT_THAT(seen(), AllOf(Contains("Not set up yet"), Contains("Connect your phone"),
                               Contains("A two-minute setup with your own Telegram bot. Then copy "
@@ -104,13 +105,14 @@ TEST_F(ReadyPanel, ShowsTheShortcutAndWarnsWhileAnotherProgramHasIt) {
         "⌃⌥V is already used by another app. Pick another shortcut in Settings.";
     EXPECT_THAT(seen(), Not(Contains(warning)));
     for (const PhysicalKey key : {PhysicalKey::v, PhysicalKey::p, PhysicalKey::c})
-        world.hotKeys.takenByOthers.insert(key);
-    world.store->registerShortcut();
+        computer.hotKeys.takenByOthers.insert(key);
+    computer.store->registerShortcut();
     turn();
     EXPECT_THAT(seen(), Contains(warning));
-    world.hotKeys.takenByOthers.clear();
-    world.store->changeConfig([](Config& config) { config.shortcut = ShortcutChoice::ctrlOptP; });
-    world.store->registerShortcut();
+    computer.hotKeys.takenByOthers.clear();
+    computer.store->changeConfig(
+        [](Config& config) { config.shortcut = ShortcutChoice::ctrlOptP; });
+    computer.store->registerShortcut();
     turn();
     EXPECT_THAT(seen(), Not(Contains(testing::HasSubstr("already used"))));
     EXPECT_EQ(keys(), "⌃⌥P");
@@ -121,7 +123,7 @@ TEST_F(NewPanel, OffersUpdatesWhereTheProgramCanBeUpdated) {
     open();
     click("Check for Updates…");
     EXPECT_EQ(framework->checks, 1);
-    EXPECT_THAT(world.workspace.log, ElementsAre("activate"));
+    EXPECT_THAT(computer.workspace.log, ElementsAre("activate"));
     framework->canCheck(false);
     turn();
     click("Check for Updates…");
@@ -133,28 +135,28 @@ TEST_F(ReadyPanel, SendsTheClipboardAndSaysSo) {
     open();
     ASSERT_TRUE(button(sendName));
     EXPECT_EQ(clipSymbol(), "clipboard");
-    world.pasteboard.copy({{"UTF8_STRING", "  milk **and** eggs"}});
-    world.clock.advance(1s);
+    computer.pasteboard.copy({{"UTF8_STRING", "  milk **and** eggs"}});
+    computer.clock.advance(1s);
     turn();
     EXPECT_EQ(clipLine(), "“milk **and** eggs”");
     EXPECT_EQ(clipSymbol(), "text.alignleft");
     EXPECT_THAT(seen(), Contains("Send clipboard"));
-    world.sandbox.failNext(flood(1)); // Telegram makes it wait on the test's clock
+    computer.sandbox.failNext(flood(1)); // Telegram makes it wait on the test's clock
     click(sendName);
-    ASSERT_TRUE(waitUntil([&] { return world.store->busy(); }));
+    ASSERT_TRUE(waitUntil([&] { return computer.store->busy(); }));
     turn();
     EXPECT_THAT(seen(), AllOf(Contains("Sending…"), Not(Contains("Send clipboard"))));
     EXPECT_EQ(clipSymbol(), "arrow.up.circle");
     click(sendName); // does nothing
-    ASSERT_TRUE(waitUntil([&] { return !world.sandbox.requests().empty(); }));
+    ASSERT_TRUE(waitUntil([&] { return !computer.sandbox.requests().empty(); }));
     ASSERT_TRUE(waitUntil([&] {
-        world.clock.advance(1s);
-        return !world.store->busy();
+        computer.clock.advance(1s);
+        return !computer.store->busy();
     }));
     turn();
     EXPECT_THAT(seen(), Contains("Send clipboard"));
     EXPECT_EQ(clipSymbol(), "text.alignleft");
-    EXPECT_THAT(world.messages("notes"), testing::SizeIs(1));
+    EXPECT_THAT(computer.messages("notes"), testing::SizeIs(1));
     EXPECT_TRUE(button(sendName)->isEnabled());
 }
 
@@ -163,7 +165,7 @@ TEST_F(ReadyPanel, NamesTheGroupItIsConnectedTo) {
     for (const auto& [title, status] :
          {std::pair{std::optional<std::string>{"Anna & **I**"}, "Connected · Anna & **I**"},
           std::pair{std::optional<std::string>{}, "Connected · your group"}}) {
-        world.store->changeConfig([&](Config& config) { config.chatTitle = title; });
+        computer.store->changeConfig([&](Config& config) { config.chatTitle = title; });
         turn();
         std::vector<std::string> names = seen();
         for (std::string& name : names)
@@ -173,54 +175,54 @@ TEST_F(ReadyPanel, NamesTheGroupItIsConnectedTo) {
 }
 
 TEST_F(ReadyPanel, LooksAtTheClipboardOnceASecondAndOnlyWhileShown) {
-    world.pasteboard.copy({{"UTF8_STRING", "one"}});
+    computer.pasteboard.copy({{"UTF8_STRING", "one"}});
     open();
     EXPECT_EQ(clipLine(), "“one”");
-    world.pasteboard.copy({{"UTF8_STRING", "two"}});
-    world.clock.advance(999ms);
+    computer.pasteboard.copy({{"UTF8_STRING", "two"}});
+    computer.clock.advance(999ms);
     turn();
     EXPECT_EQ(clipLine(), "“one”");
-    world.clock.advance(1ms);
+    computer.clock.advance(1ms);
     turn();
     EXPECT_EQ(clipLine(), "“two”");
 
-    const int reads = world.pasteboard.reads["UTF8_STRING"];
-    world.clock.advance(10s);
+    const int reads = computer.pasteboard.reads["UTF8_STRING"];
+    computer.clock.advance(10s);
     turn();
-    EXPECT_EQ(world.pasteboard.reads["UTF8_STRING"], reads) << "nothing new was copied";
+    EXPECT_EQ(computer.pasteboard.reads["UTF8_STRING"], reads) << "nothing new was copied";
     panel->hide();
-    EXPECT_EQ(world.clock.pending(), 0);
-    world.pasteboard.copy({{"UTF8_STRING", "three"}});
-    world.clock.advance(10s);
+    EXPECT_EQ(computer.clock.pending(), 0);
+    computer.pasteboard.copy({{"UTF8_STRING", "three"}});
+    computer.clock.advance(10s);
     turn();
     panel->show();
     turn();
     EXPECT_EQ(clipLine(), "“three”");
 
     // A program that hangs: the panel goes away before the answer comes.
-    world.pasteboard.hesitates = true;
-    world.pasteboard.copy({{"UTF8_STRING", "four"}});
-    world.clock.advance(3s);
+    computer.pasteboard.hesitates = true;
+    computer.pasteboard.copy({{"UTF8_STRING", "four"}});
+    computer.clock.advance(3s);
     panel.reset();
-    world.pasteboard.giveUp();
+    computer.pasteboard.giveUp();
     turn();
 }
 
 TEST_F(ReadyPanel, ListsTheFiveNewestWithTheirAge) {
-    const Date now = world.clock.now();
+    const Date now = computer.clock.now();
     std::vector<Sent> history{sent("new.pdf", now - 59s), sent("minute.pdf", now - 60s),
                               sent("bad.pdf", now - 1h, "The file is too big.")};
     for (const char* const name : {"4", "5", "6", "7"})
         history.push_back(sent(name, now - 48h));
-    world.setContent("history.json", encodeHistory(history));
-    world.restart();
+    computer.setContent("history.json", encodeHistory(history));
+    computer.restart();
     open();
     EXPECT_THAT(seen(), AllOf(Contains("new.pdf, 📄 Files · just now, Sent"),
                               Contains("minute.pdf, 📄 Files · 1 min. ago, Sent"),
                               Contains("bad.pdf, The file is too big., Not sent"),
                               Contains("5, 📄 Files · 2 days ago, Sent")));
     EXPECT_THAT(seen(), AllOf(Not(Contains("6")), Not(Contains("Nothing sent yet."))));
-    world.clock.advance(1s);
+    computer.clock.advance(1s);
     turn();
     EXPECT_THAT(seen(), Contains("new.pdf, 📄 Files · 1 min. ago, Sent"));
 }
@@ -244,9 +246,9 @@ TEST_F(ReadyPanel, IsWorkedWithTheKeyboardAlone) {
 TEST_F(ReadyPanel, KeepsItsWidthWhateverTheTextsSay) {
     open();
     const QSize before = panel->sizeHint();
-    world.store->changeConfig([](Config& config) { config.chatTitle = std::string(400, 'W'); });
-    world.pasteboard.copy({{"UTF8_STRING", QByteArray(5000, 'W')}});
-    world.clock.advance(1s);
+    computer.store->changeConfig([](Config& config) { config.chatTitle = std::string(400, 'W'); });
+    computer.pasteboard.copy({{"UTF8_STRING", QByteArray(5000, 'W')}});
+    computer.clock.advance(1s);
     turn();
     EXPECT_EQ(panel->sizeHint(), before);
 }

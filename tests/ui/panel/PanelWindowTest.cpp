@@ -3,7 +3,7 @@
 #include "maintenance/Updater.h"
 #include "support/Await.h"
 #include "support/FakeCompositor.h"
-#include "support/World.h"
+#include "support/TestComputer.h"
 #include "ui/panel/PanelView.h"
 
 #include <QTest>
@@ -15,14 +15,14 @@ namespace quillon::test {
 namespace {
 
 struct PanelWindowTest : testing::Test {
-    World world;
-    Updater updater{world.platform, *world.analytics, {}};
+    TestComputer computer;
+    Updater updater{computer.platform, *computer.analytics, {}};
     FakeCompositor compositor;
     int made = 0;
-    PanelWindow window{compositor, world.workspace, [this] {
+    PanelWindow window{compositor, computer.workspace, [this] {
                            ++made;
-                           return std::make_unique<PanelView>(world.platform, *world.store, updater,
-                                                              PanelActions{});
+                           return std::make_unique<PanelView>(computer.platform, *computer.store,
+                                                              updater, PanelActions{});
                        }};
     const QRect icon{100, 0, 24, 24};
 };
@@ -39,7 +39,7 @@ TEST_F(PanelWindowTest, OpensAndClosesWithTheIconAndOnEscape) {
     QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &window,
                     Qt::Key_Escape);
     EXPECT_FALSE(window.isVisible());
-    EXPECT_EQ(world.clock.pending(), 0) << "a closed panel looks at nothing";
+    EXPECT_EQ(computer.clock.pending(), 0) << "a closed panel looks at nothing";
     EXPECT_EQ(made, 1);
 }
 
@@ -59,8 +59,8 @@ TEST_F(PanelWindowTest, ClosesWhenSomethingElseTakesTheFocus) {
 TEST_F(PanelWindowTest, GrowsWithItsContent) {
     window.open(icon);
     const QRect before = window.geometry();
-    world.hotKeys.takenByOthers = {PhysicalKey::v, PhysicalKey::p, PhysicalKey::c};
-    world.store->registerShortcut();
+    computer.hotKeys.takenByOthers = {PhysicalKey::v, PhysicalKey::p, PhysicalKey::c};
+    computer.store->registerShortcut();
     ASSERT_TRUE(waitUntil([&] { return window.height() > before.height(); }));
     EXPECT_EQ(window.geometry().topLeft(), before.topLeft());
 }

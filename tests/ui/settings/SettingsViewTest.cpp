@@ -1,7 +1,7 @@
 #include "ui/settings/SettingsView.h"
 
 #include "maintenance/Updater.h"
-#include "support/ConnectedWorld.h"
+#include "support/ConnectedComputer.h"
 #include "support/Controls.h"
 #include "support/FakeFramework.h"
 #include "support/Faults.h"
@@ -34,7 +34,7 @@ struct SettingsTest : testing::Test {
 
     /// Starts the updater of a program that can be updated.
     void startUpdater() {
-        world.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
+        computer.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
         updater.start();
         turn();
     }
@@ -44,30 +44,31 @@ struct SettingsTest : testing::Test {
         turn();
     }
     void change(const std::function<void(Config&)>& how) const {
-        world.store->changeConfig(how);
+        computer.store->changeConfig(how);
         turn();
     }
     [[nodiscard]] bool shows(const char* name) const { return controls.shows(text(name)); }
     [[nodiscard]] bool on(const char* name) const {
         return controls.get<Switch>(text(name)).isChecked();
     }
-    [[nodiscard]] const Config& config() const { return world.store->config(); }
+    [[nodiscard]] const Config& config() const { return computer.store->config(); }
 
-    ConnectedWorld world;
+    ConnectedComputer computer;
     FakeFramework* framework = nullptr;
-    Updater updater{world.platform, *world.analytics, fakeHooks(framework)};
+    Updater updater{computer.platform, *computer.analytics, fakeHooks(framework)};
     int uninstalls = 0;
     int panels = 0;
-    SettingsView view{
-        *world.store, updater,
-        SettingsActions{
-            .showBanner = [this](BannerMessage message) { world.banner.show(std::move(message)); },
-            .uninstall = [this]() -> QCoro::Task<> {
-                ++uninstalls;
-                co_return;
-            },
-            .openPanel = [this] { ++panels; }},
-        QStringLiteral("setup")};
+    SettingsView view{*computer.store, updater,
+                      SettingsActions{.showBanner =
+                                          [this](BannerMessage message) {
+                                              computer.banner.show(std::move(message));
+                                          },
+                                      .uninstall = [this]() -> QCoro::Task<> {
+                                          ++uninstalls;
+                                          co_return;
+                                      },
+                                      .openPanel = [this] { ++panels; }},
+                      QStringLiteral("setup")};
     Controls controls{view};
 };
 
@@ -109,17 +110,17 @@ TEST_F(SettingsTest, LeadsToThePanelWhereNoIconDoes) {
 
 TEST_F(SettingsTest, RegistersThePickedShortcutAndTellsOfOneThatIsTaken) {
     show("general");
-    world.store->registerShortcut();
+    computer.store->registerShortcut();
     EXPECT_FALSE(shows("Another app already uses Control Alt V. Pick another one."));
     std::set<PhysicalKey> all;
-    for (const auto& key : world.hotKeys.registered)
+    for (const auto& key : computer.hotKeys.registered)
         all.insert(key);
     controls.click(text("Control Alt P"));
     EXPECT_EQ(config().shortcut, ShortcutChoice::ctrlOptP);
-    ASSERT_EQ(world.hotKeys.registered.size(), 1U);
-    EXPECT_FALSE(all.contains(*world.hotKeys.registered.begin()));
+    ASSERT_EQ(computer.hotKeys.registered.size(), 1U);
+    EXPECT_FALSE(all.contains(*computer.hotKeys.registered.begin()));
 
-    world.hotKeys.takenByOthers = all;
+    computer.hotKeys.takenByOthers = all;
     controls.click(text("Control Alt V"));
     turn();
     EXPECT_TRUE(shows("Another app already uses Control Alt V. Pick another one."));
@@ -139,13 +140,13 @@ TEST_F(SettingsTest, SwitchesWhatItSays) {
         change([field = field](Config& config) { config.*field = true; });
         EXPECT_TRUE(on(name)) << name;
     }
-    EXPECT_THAT(world.newEvents(), testing::SizeIs(4));
+    EXPECT_THAT(computer.newEvents(), testing::SizeIs(4));
 
     const char* login = "Open Quillon when I log in";
     controls.click(text(login));
-    EXPECT_TRUE(world.store->launchAtLogin());
+    EXPECT_TRUE(computer.store->launchAtLogin());
     EXPECT_TRUE(on(login));
-    world.loginItem.refuses = true;
+    computer.loginItem.refuses = true;
     controls.click(text(login));
     turn();
     EXPECT_TRUE(on(login)) << "shows what is, not what was wanted";
@@ -167,15 +168,15 @@ TEST_F(SettingsTest, PicksTheBannersPlace) {
     const BannerMessage preview{.text = "Sent to 📝 Notes & text",
                                 .symbol = "checkmark.circle.fill",
                                 .position = BannerPosition::bottom};
-    EXPECT_THAT(world.banner.shown, ElementsAre(preview));
+    EXPECT_THAT(computer.banner.shown, ElementsAre(preview));
 
     // The same again is saved and shown, but is no change to report.
-    world.clear();
-    std::filesystem::remove(world.path("config.json"));
+    computer.clear();
+    std::filesystem::remove(computer.path("config.json"));
     controls.click(text("Banner in the bottom"));
-    EXPECT_FALSE(world.content("config.json").empty());
-    EXPECT_THAT(world.banner.shown, ElementsAre(preview));
-    EXPECT_THAT(world.newEvents(), IsEmpty());
+    EXPECT_FALSE(computer.content("config.json").empty());
+    EXPECT_THAT(computer.banner.shown, ElementsAre(preview));
+    EXPECT_THAT(computer.newEvents(), IsEmpty());
 
     const PositionCard& card = *view.findChild<PositionCard*>();
     const float strength = Theme{card}.color(Ink::primary).alphaF();
@@ -206,7 +207,7 @@ TEST_F(SettingsTest, HasNoUpdatesWithoutAFramework) {
     EXPECT_FALSE(on(automatic));
     controls.click(text("Check now"));
     EXPECT_EQ(framework->checks, 1);
-    EXPECT_THAT(world.workspace.log, ElementsAre("activate"));
+    EXPECT_THAT(computer.workspace.log, ElementsAre("activate"));
     framework->canCheck(false);
     EXPECT_TRUE(waitUntil([&] { return !controls.enabled(text("Check now")); }));
 }
@@ -219,7 +220,7 @@ TEST_F(SettingsTest, TellsWhatItIsConnectedTo) {
     change([](Config& config) { config.botName.reset(); });
     EXPECT_TRUE(shows("@connected"));
     controls.click(text("Disconnect this Mac"));
-    EXPECT_FALSE(world.store->tokenSaved());
+    EXPECT_FALSE(computer.store->tokenSaved());
     EXPECT_TRUE(shows("Not connected"));
     EXPECT_TRUE(shows("Not found yet"));
     EXPECT_FALSE(shows("Disconnect this Mac"));
@@ -246,7 +247,7 @@ TEST_F(SettingsTest, GivesTopicsTheirNames) {
     EXPECT_EQ(config().topics[1].name, "Sniaps");
     EXPECT_EQ(name.cursorPosition(), 3);
 
-    world.sandbox.failNext(refusal("editForumTopic", 400, "Bad Request: not enough rights"));
+    computer.sandbox.failNext(refusal("editForumTopic", 400, "Bad Request: not enough rights"));
     controls.click(text(save));
     ASSERT_TRUE(waitUntil([&] { return shows("Bad Request: not enough rights"); }));
     EXPECT_TRUE(controls.enabled(text(save)));
@@ -268,13 +269,13 @@ TEST_F(SettingsTest, KeepsANameEditedDuringASaveForTheNext) {
     auto& name = controls.get<QLineEdit>(text("Pictures"));
     QTest::keyClicks(&name, QStringLiteral("1"));
     turn();
-    world.clear();
+    computer.clear();
     controls.click(text("Save names to Telegram"));
     QTest::keyClicks(&name, QStringLiteral("2"));
-    ASSERT_TRUE(waitUntil([&] { return world.methods().size() == 4; }));
+    ASSERT_TRUE(waitUntil([&] { return computer.methods().size() == 4; }));
     controls.click(text("Save names to Telegram"));
     ASSERT_TRUE(waitUntil([&] { return shows("Saved to Telegram."); }));
-    EXPECT_EQ(world.methods().size(), 8U);
+    EXPECT_EQ(computer.methods().size(), 8U);
 }
 
 TEST_F(SettingsTest, UninstallsOnReturnAndLeavesOnEscape) {

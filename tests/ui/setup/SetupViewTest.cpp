@@ -1,6 +1,6 @@
 #include "ui/setup/SetupView.h"
 
-#include "support/ConnectedWorld.h"
+#include "support/ConnectedComputer.h"
 #include "support/Controls.h"
 #include "support/Faults.h"
 #include "ui/controls/Buttons.h"
@@ -34,7 +34,7 @@ struct Guide : testing::Test {
     }
     /// Changes the settings and lets the guide follow.
     void change(const std::function<void(Config&)>& how) {
-        world.store->changeConfig(how);
+        computer.store->changeConfig(how);
         QCoreApplication::processEvents();
     }
     [[nodiscard]] bool shows(const char* text) const {
@@ -48,8 +48,8 @@ struct Guide : testing::Test {
         return waitUntil([&] { return shows(text); });
     }
 
-    Computer world;
-    SetupView view{*world.store};
+    Computer computer;
+    SetupView view{*computer.store};
     Controls controls{view};
 };
 
@@ -62,8 +62,8 @@ public:
     Q_INVOKABLE void open(const QUrl& url) { opened.push_back(url); }
 };
 
-using NewUser = Guide<BotWorld>;
-using KnownUser = Guide<ConnectedWorld>;
+using NewUser = Guide<BotComputer>;
+using KnownUser = Guide<ConnectedComputer>;
 
 } // namespace
 
@@ -112,7 +112,7 @@ TEST_F(NewUser, KeepsATokenThatFailedAndEmptiesTheFieldAfterOneThatWorked) {
     // Else the answer may be there before the key press is over.
     sandbox::Fault slow = fault(FaultKind::delay);
     slow.delay = std::chrono::milliseconds{300};
-    world.sandbox.failNext(slow);
+    computer.sandbox.failNext(slow);
     type(QStringLiteral("7000000001:wrong"));
     QTest::keyClick(&field(), Qt::Key_Return);
     EXPECT_TRUE(working());
@@ -122,11 +122,11 @@ TEST_F(NewUser, KeepsATokenThatFailedAndEmptiesTheFieldAfterOneThatWorked) {
     QTest::keyClick(&field(), Qt::Key_Return);
     ASSERT_TRUE(waitUntilShown("Telegram didn't accept that bot token."));
     EXPECT_FALSE(working());
-    EXPECT_THAT(world.methods(), ElementsAre("getMe"));
+    EXPECT_THAT(computer.methods(), ElementsAre("getMe"));
     EXPECT_EQ(field().text(), QStringLiteral("7000000001:wronger"));
 
     QLineEdit& typed = field();
-    type(QString::fromLatin1(BotWorld::token));
+    type(QString::fromLatin1(BotComputer::token));
     typed.setFocus();
     controls.click(QStringLiteral("Connect"));
     EXPECT_FALSE(shows("Telegram didn't accept that bot token."));
@@ -142,12 +142,12 @@ TEST_F(NewUser, KeepsATokenThatFailedAndEmptiesTheFieldAfterOneThatWorked) {
 }
 
 TEST_F(NewUser, MayCloseTheWindowWhileAnActionRuns) {
-    BotWorld other;
+    BotComputer other;
     other.sandbox.failNext(fault(FaultKind::delay));
     auto closing = std::make_unique<SetupView>(*other.store);
     const Controls inside{*closing};
     QTest::keyClicks(&inside.get<QLineEdit>(QStringLiteral("Bot token")),
-                     QString::fromLatin1(BotWorld::token));
+                     QString::fromLatin1(BotComputer::token));
     inside.click(QStringLiteral("Connect"));
     closing.reset();
     EXPECT_TRUE(waitUntil([&] { return other.store->tokenSaved(); }));
@@ -169,7 +169,7 @@ TEST_F(KnownUser, SeesEachStepsResultAndCanOpenItAgain) {
     controls.click<ContentButton>(QStringLiteral("Step 4: Create the topics"));
     EXPECT_FALSE(shows("4 topics ready"));
     EXPECT_FALSE(controls.enabled(QStringLiteral("Topics ready")));
-    for (const Topic& topic : world.store->config().topics)
+    for (const Topic& topic : computer.store->config().topics)
         EXPECT_TRUE(shows(topic.name.c_str())) << topic.name;
     controls.click<ContentButton>(QStringLiteral("Step 4: Create the topics"));
     EXPECT_TRUE(shows("4 topics ready"));
@@ -192,13 +192,13 @@ TEST_F(KnownUser, IsAskedForTheTopicThatIsMissing) {
     controls.click<ContentButton>(QStringLiteral("Step 3: Make your group"));
     EXPECT_TRUE(controls.enabled(QStringLiteral("Find again")));
 
-    world.sandbox.failNext(flood(1)); // Telegram makes it wait on the test's clock
-    world.sandbox.failNext(refusal("getUpdates", 400, "Bad Request: **no** rights"));
+    computer.sandbox.failNext(flood(1)); // Telegram makes it wait on the test's clock
+    computer.sandbox.failNext(refusal("getUpdates", 400, "Bad Request: **no** rights"));
     controls.click(QStringLiteral("Find again"));
     for (const char* button : {"Find again", "Create the topics"})
         EXPECT_FALSE(controls.enabled(QString::fromUtf8(button))) << button;
     ASSERT_TRUE(waitUntil([&] {
-        world.clock.advance(1s);
+        computer.clock.advance(1s);
         return !working();
     }));
     EXPECT_TRUE(shows("Bad Request: **no** rights")) << "stars and all";
@@ -221,8 +221,8 @@ TEST_F(KnownUser, GoesBackToTheStartWithAnotherBot) {
     controls.click(QStringLiteral("Step 2: Paste the token"));
     EXPECT_TRUE(shows("The token is kept in your Mac's Keychain."));
     controls.click(QStringLiteral("Use another bot"));
-    EXPECT_FALSE(world.store->tokenSaved());
-    EXPECT_TRUE(world.secrets.values.empty());
+    EXPECT_FALSE(computer.store->tokenSaved());
+    EXPECT_TRUE(computer.secrets.values.empty());
     EXPECT_TRUE(shows("Bot token"));
     EXPECT_FALSE(shows("You're all set."));
     EXPECT_NEAR(controls.opacity(QStringLiteral("Step 3: Make your group")), 0.45, 0.001);

@@ -5,7 +5,7 @@
 #include "platform/SessionBus.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
-#include "support/World.h"
+#include "support/TestComputer.h"
 
 #include <QDBusConnection>
 #include <QDBusPendingReply>
@@ -59,8 +59,8 @@ private:
 } // namespace
 
 TEST(CommandService, GrantsWhatWasWishedForBeforeItWasReady) {
-    World world;
-    Core core{world.platform, nullptr};
+    TestComputer computer;
+    Core core{computer.platform, nullptr};
     std::vector<std::string> granted;
     const DesktopActions actions{.showSettings = [&] { granted.emplace_back("settings"); },
                                  .showPanel = [&] { granted.emplace_back("panel"); },
@@ -70,7 +70,7 @@ TEST(CommandService, GrantsWhatWasWishedForBeforeItWasReady) {
     service.wishByName(QStringLiteral("send"), {});
     service.wish(&DesktopActions::showSettings, {});
     EXPECT_THAT(granted, IsEmpty());
-    service.serve({world.platform, core, nullptr}, actions);
+    service.serve({computer.platform, core, nullptr}, actions);
     EXPECT_THAT(granted, ElementsAre("send", "settings"));
     service.wishByName(QStringLiteral("settings"), {});
     EXPECT_THAT(granted, ElementsAre("send", "settings", "settings"));
@@ -84,9 +84,9 @@ TEST(CommandService, AnswersWhoOnlyReadsWhileAnotherCommandIsAtWork) {
         connection.reply(200, R"({"ok":true,"result":[]})");
     }};
     const SessionBus bus;
-    World world{"http://127.0.0.1:" + std::to_string(telegram.port())};
-    world.secrets.values[{botTokenItem().service, botTokenItem().account}] = "1:token";
-    Core core{world.platform, nullptr};
+    TestComputer computer{"http://127.0.0.1:" + std::to_string(telegram.port())};
+    computer.secrets.values[{botTokenItem().service, botTokenItem().account}] = "1:token";
+    Core core{computer.platform, nullptr};
     CommandService service{[] {}};
     ASSERT_EQ(service.publish(), CommandService::Publication::done);
 
@@ -95,7 +95,7 @@ TEST(CommandService, AnswersWhoOnlyReadsWhileAnotherCommandIsAtWork) {
     Answer early = caller.run({QStringLiteral("status")});
     waitUntil([] { return false; }, std::chrono::milliseconds{50});
     EXPECT_FALSE(early.isFinished()) << "nobody is answered before the program serves";
-    service.serve({world.platform, core, nullptr}, {});
+    service.serve({computer.platform, core, nullptr}, {});
     Answer next = caller.run({QStringLiteral("launch-at-login"), QStringLiteral("on")});
     EXPECT_THAT(Caller::output(early), StartsWith("Bot:      connected"));
     EXPECT_EQ(Caller::output(caller.run({QStringLiteral("history"), QStringLiteral("--json")})),

@@ -2,7 +2,7 @@
 
 #include "platform/SessionBus.h"
 #include "support/Await.h"
-#include "support/World.h"
+#include "support/TestComputer.h"
 #include "support/XServer.h"
 #include "ui/tray/TrayIcon.h"
 
@@ -26,15 +26,15 @@ inline int runOnDesktop(int argc, char** argv) {
 }
 
 /// The icon of a program on that desktop, and how often it asked for what.
-template <typename WorldType>
+template <typename Computer>
 struct TrayTest : testing::Test {
-    WorldType world;
+    Computer computer;
     int toggles = 0;
     int panels = 0;
     int settings = 0;
     int quits = 0;
     QRect place;
-    TrayIcon icon{*world.store, world.clock,
+    TrayIcon icon{*computer.store, computer.clock,
                   TrayActions{.togglePanel =
                                   [this](const QRect& there) {
                                       ++toggles;
@@ -45,7 +45,7 @@ struct TrayTest : testing::Test {
                               .quit = [this] { ++quits; }}};
 
     /// The desktop's panel has had all the time it needs.
-    void wait() { world.clock.advance(std::chrono::seconds{10}); }
+    void wait() { computer.clock.advance(std::chrono::seconds{10}); }
     bool becomesMissing() {
         return waitUntil([this] {
             wait();

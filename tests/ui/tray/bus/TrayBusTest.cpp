@@ -1,5 +1,5 @@
 #include "FakeHost.h"
-#include "support/ConnectedWorld.h"
+#include "support/ConnectedComputer.h"
 #include "support/Faults.h"
 #include "ui/tray/TrayDesktop.h"
 
@@ -46,7 +46,7 @@ std::map<std::string, Entry> entriesOf(const QDBusMessage& layout) {
     return entries;
 }
 
-struct TrayBusTest : TrayTest<ConnectedWorld> {
+struct TrayBusTest : TrayTest<ConnectedComputer> {
     std::map<std::string, Entry> menu(FakeHost& host) {
         return entriesOf(host.call(menuPath, menuInterface, QStringLiteral("GetLayout"),
                                    {0, -1, QStringList{}}));
@@ -88,18 +88,18 @@ TEST_F(TrayBusTest, HasAMenuForHostsThatOpenNothingElse) {
     choose(host, "Quit");
     EXPECT_TRUE(waitUntil([this] { return panels == 1 && settings == 1 && quits == 1; }));
 
-    world.pasteboard.copy({{"UTF8_STRING", "from the menu"}});
-    world.sandbox.failNext(flood(1)); // Telegram makes it wait on the test's clock
+    computer.pasteboard.copy({{"UTF8_STRING", "from the menu"}});
+    computer.sandbox.failNext(flood(1)); // Telegram makes it wait on the test's clock
     choose(host, "Send clipboard");
-    ASSERT_TRUE(waitUntil([this] { return world.store->busy(); }));
+    ASSERT_TRUE(waitUntil([this] { return computer.store->busy(); }));
     EXPECT_FALSE(menu(host).at("Send clipboard").enabled) << "one send at a time";
     ASSERT_TRUE(waitUntil([this] {
-        world.clock.advance(std::chrono::seconds{1});
-        return !world.store->busy();
+        computer.clock.advance(std::chrono::seconds{1});
+        return !computer.store->busy();
     }));
-    EXPECT_EQ(world.messages("notes").size(), 1U);
+    EXPECT_EQ(computer.messages("notes").size(), 1U);
     EXPECT_TRUE(waitUntil([&] { return menu(host).at("Send clipboard").enabled; }));
-    await(world.store->forgetBot());
+    await(computer.store->forgetBot());
     EXPECT_TRUE(waitUntil([&] { return !menu(host).at("Send clipboard").enabled; }));
 }
 

@@ -5,7 +5,7 @@ namespace quillon::test {
 
 namespace {
 
-using TrayX11Test = TrayTest<World>;
+using TrayX11Test = TrayTest<TestComputer>;
 
 } // namespace
 

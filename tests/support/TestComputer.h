@@ -40,11 +40,33 @@ public:
     void play(Sound sound) override { played.push_back(sound); }
 };
 
+/// The real transport, which notes the time-outs of what is posted and can be cut off.
+class FakeNetwork : public HttpTransport {
+public:
+    std::vector<std::chrono::milliseconds> timeouts;
+    bool down = false;
+
+    [[nodiscard]] QFuture<std::optional<HttpReply>> post(HttpRequest request) override {
+        timeouts.push_back(request.inactivityTimeout);
+        if (down) return QtFuture::makeReadyFuture(std::optional<HttpReply>{});
+        return real_.post(std::move(request));
+    }
+    [[nodiscard]] QFuture<std::optional<HttpReply>> get(HttpRequest request) override {
+        return real_.get(std::move(request));
+    }
+    [[nodiscard]] QFuture<DownloadOutcome> download(HttpDownload download) override {
+        return real_.download(std::move(download));
+    }
+
+private:
+    CurlTransport real_{{.allowHttp = true}};
+};
+
 /// A computer for one store: real files in folders of its own, real HTTP, and a clock, clipboard,
 /// keyring, preferences, desktop, banner and sounds that the test commands.
-struct World {
+struct TestComputer {
     /// `botApi` is the base address of a stand-in.
-    explicit World(std::string botApi = "http://127.0.0.1:9")
+    explicit TestComputer(std::string botApi = "http://127.0.0.1:9")
         : platform{.clock = clock,
                    .files = files,
                    .http = http,
@@ -111,7 +133,7 @@ struct World {
     QTemporaryDir folder;
     FakeClock clock;
     PosixFileSystem files;
-    CurlTransport http{{.allowHttp = true}};
+    FakeNetwork http;
     FakePasteboard pasteboard;
     FakeSecrets secrets;
     FakeSounds sounds;

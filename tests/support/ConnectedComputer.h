@@ -2,22 +2,22 @@
 
 #include "sandbox/Sandbox.h"
 #include "support/Await.h"
-#include "support/World.h"
+#include "support/TestComputer.h"
 
 #include <algorithm>
 
 namespace quillon::test {
 
-/// Telegram, as a test commands it. Comes before the world, whose platform needs its address.
+/// Telegram, as a test commands it. Comes before the computer, whose platform needs its address.
 struct Phone {
     sandbox::Sandbox sandbox;
 };
 
-/// A world whose Bot API is a sandbox with one bot and nothing else.
-struct BotWorld : Phone, World {
+/// A computer whose Bot API is a sandbox with one bot and nothing else.
+struct BotComputer : Phone, TestComputer {
     static constexpr const char* token = sandbox::Sandbox::demoToken;
 
-    BotWorld() : World{sandbox.baseUrl()} { sandbox.addBot(token, "quillon_demo_bot"); }
+    BotComputer() : TestComputer{sandbox.baseUrl()} { sandbox.addBot(token, "quillon_demo_bot"); }
 
     /// The message that the action fails with; empty when it succeeds.
     template <typename T>
@@ -67,9 +67,9 @@ struct BotWorld : Phone, World {
     std::size_t oldEvents = 0;
 };
 
-/// A bot world whose store has gone through its own setup.
-struct ConnectedWorld : BotWorld {
-    ConnectedWorld() : group{sandbox.addGroup()} {
+/// A computer whose store has gone through the setup with a bot and a group.
+struct ConnectedComputer : BotComputer {
+    ConnectedComputer() : group{sandbox.addGroup()} {
         sandbox.userSays(group, "hi");
         await(store->connectBot(token));
         await(store->findGroup());
