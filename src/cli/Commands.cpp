@@ -148,7 +148,7 @@ QCoro::Task<int> uninstall(CommandContext context, Arguments /*arguments*/) {
             "Command", "Quillon and all it has stored are gone; the app is in the Trash"));
     };
     co_await uninstaller.run(tell);
-    // The process has ended.
+    // Not reached: run() ends the process.
     co_return exitDone;
 }
 
@@ -229,7 +229,7 @@ const std::vector<Command> commands{
      .where = Where::here,
      .text = versionOf,
      .purpose = QT_TRANSLATE_NOOP("CommandLine", "print the version")},
-    // For the shells, with the words before the one that is being typed.
+    // The shells call this with the words before the one that is being typed.
     {.name = "--complete", .takesAnything = true, .where = Where::here, .text = completions},
 };
 
@@ -243,8 +243,8 @@ QCoro::Task<int> runCommand(Invocation invocation, CommandContext context) {
     try {
         co_return co_await invocation.command->action(context, invocation.arguments);
     } catch (const std::exception& error) {
-        // A TelegramError says the sentence for the user; anything else, such as memory running
-        // out, at least does not pass in silence.
+        // The message of a TelegramError is for the user. Other exceptions, such as bad_alloc, at
+        // least do not pass in silence.
         context.console->printError(error.what());
         co_return exitFailed;
     }

@@ -50,7 +50,7 @@ QDBusUnixFileDescriptor inMemory(const std::string& secret) {
     return descriptor;
 }
 
-/// Passes on how far the command has come.
+/// Shows how far the command has come, as the running program tells it.
 class ProgressListener : public QObject {
     Q_OBJECT
 
@@ -115,7 +115,7 @@ std::optional<int> carryOut(const Invocation& invocation) {
         secret = console.readSecret(translate("Command", prompt)).value_or("");
     const QDBusMessage answer = handOver(invocation, inMemory(secret));
     console.endProgress();
-    // What was read from standard input cannot be read again.
+    // A secret cannot be read from standard input a second time.
     return passOn(answer, console, secret.empty());
 }
 

@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-/// The program that runs already, as the session bus leads to it.
+/// The program that already runs in this session, which is reached over the session bus.
 namespace RemoteProgram {
 
 inline constexpr const char* busName = applicationIdentifier;
@@ -21,13 +21,12 @@ inline constexpr const char* interfaceName = applicationIdentifier;
 /// when no program runs, or when the command is one that this process has to carry out itself.
 [[nodiscard]] std::optional<int> run(const Invocation& invocation);
 
-/// What lets the running program take the focus from whatever has it, as this process got it from
-/// the desktop that started it. To be asked for before there is an application object, which takes
-/// it for itself.
+/// What the desktop gave this process to let a window take the focus, for the running program to
+/// use. Call it before there is an application object, which takes it for itself.
 [[nodiscard]] QVariantMap activationData();
 
 /// Has the running program show its "settings" or its "panel". False when none runs, or when it
-/// does not answer within 4 seconds. To be called while there is an application object.
+/// does not answer within 4 seconds. Call it while there is an application object.
 [[nodiscard]] bool activate(std::string_view wanted, const QVariantMap& activationData);
 
 } // namespace RemoteProgram

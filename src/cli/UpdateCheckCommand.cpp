@@ -15,7 +15,7 @@ namespace quillon {
 
 namespace {
 
-/// Tells a console how an update comes along, and answers for its user.
+/// Prints how an update comes along, and answers in place of the user.
 class ConsoleUpdateDriver final : public UpdateUserDriver {
 public:
     ConsoleUpdateDriver(std::shared_ptr<Console> console, bool install)
@@ -61,7 +61,7 @@ private:
     int exitCode_ = exitDone;
 };
 
-/// Records the check, as the running program does for its own.
+/// Records the check as a usage event, as the program that stays does.
 class CheckRecorder final : public UpdaterDelegate {
 public:
     explicit CheckRecorder(Analytics& analytics) : analytics_{analytics} {}

@@ -14,8 +14,8 @@ namespace quillon {
 class Compositor;
 struct Platform;
 
-/// The objects that every action works with, wired to each other: the same for the program that
-/// stays and for a single command.
+/// The objects that every action works with, wired to each other. The program that stays and a
+/// single command build the same ones.
 struct Core {
     /// Without a compositor (null) no banner is shown.
     Core(Platform& platform, const Compositor* compositor);
@@ -23,7 +23,7 @@ struct Core {
     Analytics analytics;
     /// The banner's window; null where none is shown.
     std::unique_ptr<HUD> hud;
-    /// The banner that the store shows.
+    /// What the store shows its messages on.
     SpokenBanner banner;
     Hotkey hotkey;
     Store store;

@@ -11,11 +11,11 @@ namespace quillon {
 
 struct Platform;
 
-/// Longer than a command holds the data, unless the network makes it wait.
+/// A command holds the data for less time than this, unless it waits for the network.
 inline constexpr std::chrono::milliseconds dataLockPatience{5000};
 
-/// Makes the data folder and takes its lock. While another process holds that, tries again until
-/// `patience` is over, and the event loop turns meanwhile; then gives none.
+/// Creates the data folder and takes its lock. While another process holds the lock, this tries
+/// again, and the event loop turns meanwhile. Gives none when `patience` is over.
 [[nodiscard]] QCoro::Task<std::optional<FolderLock>>
 takeDataLock(Platform& platform, std::chrono::milliseconds patience);
 

@@ -25,15 +25,15 @@ namespace quillon {
 
 namespace {
 
-/// How the desktop knows the program: by its name, its icon and its desktop entry.
+/// Tells the desktop the program's name, icon and desktop entry.
 void introduce() {
-    // Not as the display name, which Qt would put behind the title of every window.
+    // The display name stays empty: Qt would append it to the title of every window.
     QApplication::setApplicationName(QStringLiteral("Quillon"));
     QApplication::setDesktopFileName(QString::fromLatin1(applicationIdentifier));
     QApplication::setWindowIcon(appIcon());
 }
 
-/// A program that moves itself starts nothing else here.
+/// Offers the move to Applications, then starts the program unless it has moved.
 QCoro::Task<> launch(Platform& platform, Compositor& compositor, Alerts& alerts, AppMover& mover,
                      std::unique_ptr<Resident>& resident, std::string wanted,
                      QVariantMap activationData) {
@@ -45,7 +45,7 @@ QCoro::Task<> launch(Platform& platform, Compositor& compositor, Alerts& alerts,
         co_await Resident::claim(platform, compositor, alerts, mover);
     resident = std::move(claimed);
     if (resident) {
-        // The icon is in its place before everything else begins.
+        // The event loop turns once, so that the icon is in its place before the rest begins.
         co_await sleep(platform.clock, std::chrono::milliseconds{0});
         resident->start(wanted);
         co_return;

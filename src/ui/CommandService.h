@@ -38,15 +38,15 @@ public:
 
     explicit CommandService(std::function<void()> quit);
 
-    /// Takes the name. Commands wait from now on.
+    /// Takes the name. Commands that come before serve() wait for it.
     [[nodiscard]] Publication publish();
-    /// Carries out what waits and what comes. The context's console is not used: each command has
-    /// one of its own.
+    /// Carries out what waits and what comes. Each command gets a console of its own in place of
+    /// the context's.
     void serve(CommandContext context, DesktopActions actions);
 
     using Wish = std::function<void()> DesktopActions::*;
-    /// The user wants this, and has given the desktop's leave to take the focus with it
-    /// (org.freedesktop.Application's platform data). Waits until the program serves.
+    /// Does what the user wants once the program serves. The platform data, as
+    /// org.freedesktop.Application defines them, may hold the desktop's leave to take the focus.
     void wish(Wish wish, const QVariantMap& platformData);
     /// The same by the name of an action of the desktop entry: "send", "panel" or
     /// "settings".
@@ -79,7 +79,7 @@ private:
     std::optional<CommandContext> context_;
     DesktopActions actions_;
     std::function<void()> quit_;
-    /// What came before the program serves.
+    /// What came before serve().
     std::vector<Wish> wishes_;
     std::vector<Call> early_;
     std::deque<Call> queue_;

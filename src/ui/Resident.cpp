@@ -22,7 +22,7 @@ namespace quillon {
 
 namespace {
 
-/// From the start until the icon is in its place.
+/// The icon is in its place this long after the start.
 constexpr std::chrono::milliseconds quietMoment{100};
 
 /// Qt looks through the fonts when it draws its first text, which takes longer than a frame. This

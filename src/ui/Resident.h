@@ -20,8 +20,8 @@ class AppMover;
 /// The session's one running program, from its start to its end.
 class Resident {
 public:
-    /// Waits a few seconds for commands that are at work on the data. Null when another program of
-    /// the session has the name on the bus, or the data folder for longer.
+    /// Takes the name on the bus and the data, for which it waits up to dataLockPatience. Null when
+    /// another process keeps either.
     [[nodiscard]] static QCoro::Task<std::unique_ptr<Resident>>
     claim(Platform& platform, Compositor& compositor, Alerts& alerts, AppMover& mover);
 

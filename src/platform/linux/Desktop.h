@@ -14,9 +14,9 @@ namespace quillon {
 
 /// What a process needs of the desktop.
 enum class DesktopNeeds {
-    nothing,            ///< it prints text at the most, and may run where there is no desktop
-    clipboardAndBanner, ///< it sends once
-    everything,         ///< it stays, with windows and the shortcut
+    nothing,            ///< no desktop at all
+    clipboardAndBanner, ///< for sending once
+    everything,         ///< with the shortcut, for the program that stays
 };
 
 /// The desktop as one process uses it.
@@ -30,11 +30,11 @@ struct Desktop {
     std::unique_ptr<Compositor> compositor;
 };
 
-/// Makes the application object and opens what is needed; none when there is no desktop. This is
-/// the only place that knows which kind of desktop it is.
+/// Makes the application object and opens what is needed; none when that takes a desktop and there
+/// is none. Nothing else in the program chooses between kinds of desktops.
 [[nodiscard]] std::optional<Desktop> openDesktop(DesktopNeeds needs);
 
-/// The sentence for when there is none. To be called while there is no application object.
+/// What to tell the user then. Call it while there is no application object.
 [[nodiscard]] std::string noDesktopMessage();
 
 } // namespace quillon
