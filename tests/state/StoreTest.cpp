@@ -6,7 +6,6 @@
 
 using namespace quillon;
 using namespace quillon::test;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
@@ -28,15 +27,6 @@ TEST(Store, WritesNothingBeforeTheFirstChange) {
     EXPECT_FALSE(std::filesystem::exists(computer.path("history.json")));
     computer.restart();
     EXPECT_EQ(computer.store->config().chatTitle, "Family");
-}
-
-TEST(Store, AnnouncesBeforeItChanges) {
-    TestComputer computer;
-    std::vector<bool> seen;
-    QObject::connect(computer.store.get(), &Store::objectWillChange, computer.store.get(),
-                     [&] { seen.push_back(computer.store->config().playSound); });
-    computer.store->changeConfig([](Config& config) { config.playSound = false; });
-    EXPECT_THAT(seen, ElementsAre(true));
 }
 
 TEST(Store, StartsFromTheDefaultsWhateverLiesInItsFiles) {

@@ -14,12 +14,6 @@ const Alert question{.warning = true,
                      .informativeText = "It needs to.",
                      .buttons = {"Move", "Later", "Not now"}};
 
-Alert saying(const std::string& text) {
-    Alert alert = question;
-    alert.informativeText = text;
-    return alert;
-}
-
 TEST(AlertWindowsTest, AnswersWithTheButtonHoweverItWasPressed) {
     struct Case {
         const char* how;
@@ -62,29 +56,23 @@ TEST(AlertWindowsTest, ShowsItsTextAsItIsToEverybody) {
     await(answer);
 }
 
-TEST(AlertWindowsTest, StaysASmallWindowWhateverTheTextIs) {
-    std::string sentences;
-    while (sentences.size() < 2'000)
-        sentences += "The folder could not be written. ";
-    for (const std::string& text : {sentences, std::string(2'000, 'x')}) {
-        auto answer = AlertWindows{workspace}.show(saying(text));
-        QWidget& window = *shownWindow();
-        EXPECT_LE(window.width(), 700);
-        EXPECT_LE(window.height(), 500);
-        EXPECT_TRUE(Controls{window}.shows(text));
-        window.close();
-        await(answer);
-    }
-}
-
-TEST(AlertWindowsTest, FollowsTheSizeOfTheDesktopsTextsWhileItShows) {
+TEST(AlertWindowsTest, StaysASmallWindowThatFollowsTheSizeOfTheDesktopsTexts) {
     const QFont usual = QApplication::font();
     QFont larger = usual;
     larger.setPointSizeF(usual.pointSizeF() * 1.5);
-    for (const std::string& text : {std::string{"It needs to."}, std::string(400, 'x')}) {
-        auto answer = AlertWindows{workspace}.show(saying(text));
+    std::string sentences;
+    while (sentences.size() < 2'000)
+        sentences += "The folder could not be written. ";
+    for (const std::string& text :
+         {std::string{"It needs to."}, sentences, std::string(400, 'x')}) {
+        Alert alert = question;
+        alert.informativeText = text;
+        auto answer = AlertWindows{workspace}.show(alert);
         QWidget& window = *shownWindow();
         const QSize before = window.size();
+        EXPECT_LE(window.width(), 700);
+        EXPECT_LE(window.height(), 500);
+        EXPECT_TRUE(Controls{window}.shows(text));
         QApplication::setFont(larger);
         EXPECT_TRUE(waitUntil([&] {
             return window.width() > before.width() * 1.25 && window.height() > before.height();

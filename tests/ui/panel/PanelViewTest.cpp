@@ -132,12 +132,8 @@ TEST_F(NewPanel, OffersUpdatesWhereTheProgramCanBeUpdated) {
 }
 
 TEST_F(ReadyPanel, SendsTheClipboardAndSaysSo) {
-    open();
-    ASSERT_TRUE(button(sendName));
-    EXPECT_EQ(clipSymbol(), "clipboard");
     computer.pasteboard.copy({{"UTF8_STRING", "  milk **and** eggs"}});
-    computer.clock.advance(1s);
-    turn();
+    open();
     EXPECT_EQ(clipLine(), "“milk **and** eggs”");
     EXPECT_EQ(clipSymbol(), "text.alignleft");
     EXPECT_THAT(seen(), Contains("Send clipboard"));
@@ -148,7 +144,6 @@ TEST_F(ReadyPanel, SendsTheClipboardAndSaysSo) {
     EXPECT_THAT(seen(), AllOf(Contains("Sending…"), Not(Contains("Send clipboard"))));
     EXPECT_EQ(clipSymbol(), "arrow.up.circle");
     click(sendName); // does nothing
-    ASSERT_TRUE(waitUntil([&] { return !computer.sandbox.requests().empty(); }));
     ASSERT_TRUE(waitUntil([&] {
         computer.clock.advance(1s);
         return !computer.store->busy();
@@ -184,13 +179,12 @@ TEST_F(ReadyPanel, NamesTheGroupItIsConnectedTo) {
 }
 
 TEST_F(ReadyPanel, LooksAtTheClipboardOnceASecondAndOnlyWhileShown) {
-    computer.pasteboard.copy({{"UTF8_STRING", "one"}});
     open();
-    EXPECT_EQ(clipLine(), "“one”");
+    EXPECT_EQ(clipSymbol(), "clipboard") << "it is empty";
     computer.pasteboard.copy({{"UTF8_STRING", "two"}});
     computer.clock.advance(999ms);
     turn();
-    EXPECT_EQ(clipLine(), "“one”");
+    EXPECT_EQ(clipSymbol(), "clipboard");
     computer.clock.advance(1ms);
     turn();
     EXPECT_EQ(clipLine(), "“two”");
