@@ -16,7 +16,7 @@ void Store::setLaunchAtLogin(bool opens) {
         platform_.loginItem.unregisterItem();
     }
     Q_EMIT launchAtLoginChanged(opens);
-    // Whether it worked or not, views ask again.
+    // Views show what the desktop says now, whether this worked or not.
     Q_EMIT objectWillChange();
 }
 

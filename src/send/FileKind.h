@@ -6,8 +6,8 @@
 
 namespace quillon {
 
-/// What a file is taken for by its name's ending alone, in upper or lower case: a picture, a video,
-/// else a plain file.
+/// The kind of a file by the ending of its name alone, in upper or lower case: images, videos or
+/// files.
 [[nodiscard]] TopicKind fileKind(const std::filesystem::path& path);
 
 /// The name of the file or folder; "/" for the root folder.

@@ -24,7 +24,7 @@ constexpr qint64 maximumPhotoSize = 9'999'999;
 /// The Bot API's limit for files that bots upload, in bytes.
 constexpr qint64 maximumFileSize = 50'000'000;
 
-/// A text made ready off the main thread: the work grows with its length.
+/// A text prepared off the main thread, since the work grows with its length.
 struct PreparedText {
     std::string title;
     std::vector<std::string> messages;
@@ -44,7 +44,7 @@ SentItem makeItem(const Sending& sending, TopicKind kind, std::string title, std
             .info = {.kind = kind, .bytes = bytes}};
 }
 
-/// The item, which was not sent.
+/// Marks the item as not sent.
 SentItem failed(SentItem item, SendFailure reason, std::string error) {
     item.entry.error = std::move(error);
     item.info.reason = reason;
@@ -65,7 +65,7 @@ struct Request {
     std::optional<Upload> upload{};
 };
 
-/// The item, sent with the request or failed.
+/// Makes the request, and gives the item with the failure, if any.
 QCoro::Task<SentItem> delivered(SentItem item, Request request, Sending sending) {
     try {
         co_await sending.recipient.client.call(std::move(request.method), std::move(request.params),
@@ -85,7 +85,7 @@ std::string imageFilename(const Clock& clock) {
            std::to_string(std::chrono::duration_cast<std::chrono::seconds>(now).count()) + ".png";
 }
 
-/// The item of a file that cannot be sent as it was read; none when it can.
+/// The failed item of a file that could not be read; none when the file can be sent.
 std::optional<SentItem> unsendable(const SentItem& item, FileReading::Outcome outcome) {
     const std::string& name = item.entry.title;
     switch (outcome) {

@@ -26,7 +26,7 @@ struct Sending {
     SendProgress progress;
 };
 
-// Each sends one item to its topic and never throws: what fails is told by the entry's error.
+// Each sends one item to its topic. None throws: a failure is in the entry's error.
 
 /// As one message or, where it is longer than a message may be, several.
 [[nodiscard]] QCoro::Task<SentItem> sendText(ClipText text, Sending sending);

@@ -1,4 +1,4 @@
-// The one action that everything else is there for: what is on the clipboard goes to its topic.
+// The main action of the program: it sends what is on the clipboard to its topic.
 #include "base/Translate.h"
 #include "desktop/Banner.h"
 #include "platform/Clock.h"
@@ -19,7 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A send that takes longer says so.
+/// After this long the banner says that the send is under way.
 constexpr std::chrono::milliseconds patience = 700ms;
 
 /// Sends the items of the content one after another, in their order.
@@ -54,7 +54,7 @@ QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress) {
     publish(busy_, true);
     const auto idle = qScopeGuard([this] { publish(busy_, false); });
     std::unique_ptr<Clock::Timer> slow = platform_.clock.after(patience, [this] {
-        // With banners switched off no other banner would replace this one, and it would stay.
+        // If banners are switched off, no later banner would replace this one.
         if (!config_.showBanner) return;
         show({.text = translate("Send", "Sending…"), .symbol = "arrow.up.circle", .sticky = true});
     });

@@ -19,8 +19,8 @@ QCoro::Task<std::string> Store::connectBot(std::string pasted) {
     const Json me = co_await tg.call("getMe", Json::object());
     const std::string name = textMember(me, "username").value_or("your bot");
 
-    // All at once, so that nothing else the store does comes in between; the keyring follows. When
-    // it refuses, the token lives on in memory for this run.
+    // The state changes at once, so that nothing else comes in between; the keyring follows. If it
+    // refuses, the token stays in memory for this run.
     const QFuture<bool> saved = platform_.secrets.save(botTokenItem(), token);
     cachedToken_ = token;
     ++tokenChanges_;

@@ -26,7 +26,7 @@ QCoro::Task<> Store::findGroup() {
     const std::optional<Telegram> tg = co_await telegram();
     if (!tg) throw TelegramError{translate("Setup", "Connect your bot first.")};
 
-    // Without an offset the updates stay with Telegram, and creating the topics reads them again.
+    // No offset is given, so the updates stay with Telegram for createTopics() to read again.
     Json params{{"allowed_updates", Json::array({"message", "my_chat_member"})}};
     const Json updates = co_await tg->call("getUpdates", std::move(params));
     const std::optional<std::int64_t> group = latestGroup(updates);

@@ -14,7 +14,7 @@ bool saysNotModified(const TelegramError& error) {
     return QString::fromStdString(error.message).toUpper().contains(QLatin1String{"NOT_MODIFIED"});
 }
 
-/// Gives the topic its name; one that has it already is fine.
+/// Gives the topic its name. Does not fail when it has that name already.
 QCoro::Task<> editTopic(Telegram tg, std::int64_t chat, std::int64_t thread, std::string name) {
     Json params{{"chat_id", chat}, {"message_thread_id", thread}, {"name", name}};
     try {
@@ -26,7 +26,7 @@ QCoro::Task<> editTopic(Telegram tg, std::int64_t chat, std::int64_t thread, std
 
 using TopicThreads = std::map<std::string, std::int64_t>;
 
-/// The topics that exist in the group as far as Telegram still tells; empty when it does not.
+/// The group's topics, as far as Telegram's recent updates tell; empty when the call fails.
 QCoro::Task<TopicThreads> knownTopics(Telegram tg, std::int64_t chat) {
     Json params{{"allowed_updates", Json::array({"message"})}};
     Json updates;
@@ -38,7 +38,7 @@ QCoro::Task<TopicThreads> knownTopics(Telegram tg, std::int64_t chat) {
     co_return topicThreads(updates, chat);
 }
 
-/// The thread that is known by the name, when it still is a topic of the group.
+/// The known thread of the name, if it still is a topic of the group.
 QCoro::Task<std::optional<std::int64_t>> existingThread(Telegram tg, std::int64_t chat,
                                                         TopicThreads known, std::string name) {
     const auto found = known.find(name);

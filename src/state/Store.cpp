@@ -13,7 +13,7 @@ namespace quillon {
 
 namespace {
 
-/// The file's content; none when it cannot be read as a file of ours.
+/// The file's content; none when it cannot be read or is too large to be ours.
 std::optional<QByteArray> readDataFile(const Platform& platform, std::string_view file) {
     FileReading reading = platform.files.read(platform.dataFolder / file, maximumDataFileSize);
     if (reading.outcome != FileReading::Outcome::read) return std::nullopt;
@@ -91,7 +91,7 @@ QCoro::Task<std::optional<Telegram>> Store::telegram() {
     if (!cachedToken_) {
         const int changes = tokenChanges_;
         std::optional<std::string> stored = co_await platform_.secrets.read(botTokenItem());
-        // What the user has connected or forgotten meanwhile is newer than what was read.
+        // If the user has connected or forgotten a bot meanwhile, that is newer than this answer.
         if (changes == tokenChanges_) cachedToken_ = std::move(stored);
     }
     if (!cachedToken_) co_return std::nullopt;

@@ -37,9 +37,9 @@ public:
     /// A step of the setup that the user has finished.
     enum class SetupStep { botConnected, groupFound, topicsCreated, topicsReused };
 
-    /// Creates the data folder and loads settings and history from it. What cannot be read has its
-    /// default; nothing is written. Asks the keyring whether a token is stored.
-    /// Banner and hot key outlive the store.
+    /// Creates the data folder and loads settings and history from it; a file that cannot be read
+    /// counts as missing, and none is written. Asks the keyring whether a token is stored. Banner
+    /// and hot key outlive the store.
     Store(Platform& platform, Banner& banner, Hotkey& hotkey);
 
     [[nodiscard]] const Config& config() const { return config_; }
@@ -71,11 +71,11 @@ public:
     void stopPersisting() { persist_ = false; }
     [[nodiscard]] bool persists() const { return persist_; }
 
-    /// Makes the shortcut of the settings the one that is announced when it is pressed, and tells
-    /// by shortcutTaken() whether that worked.
+    /// Registers the shortcut of the settings in place of the one before. shortcutTaken() tells
+    /// whether that worked, and shortcutPressed() announces each press.
     void registerShortcut();
-    /// Has the desktop open the program at login, or no longer. A failure passes in silence:
-    /// launchAtLogin() tells what it came to.
+    /// Has the desktop open the program at login, or stop doing so. Reports no failure:
+    /// launchAtLogin() tells the result.
     void setLaunchAtLogin(bool opens);
 
     /// Sends what is on the clipboard. Reports by banner, sound and history; never throws. Ignored
@@ -86,8 +86,8 @@ public:
 
     /// Checks the token with Telegram, stores it and gives the bot's name. Throws TelegramError.
     [[nodiscard]] QCoro::Task<std::string> connectBot(std::string token);
-    /// Removes the token and everything learnt about the group. Ends when the keyring has answered,
-    /// with whether it holds none now; the state has changed before.
+    /// Removes the token and everything learnt about the group. The state changes at once; the task
+    /// ends when the keyring has answered, with whether the keyring holds no token now.
     [[nodiscard]] QCoro::Task<bool> forgetBot();
     /// Finds the group in the bot's recent updates. Throws TelegramError.
     [[nodiscard]] QCoro::Task<> findGroup();

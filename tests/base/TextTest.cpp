@@ -104,11 +104,6 @@ TEST(Text, CutsIntoChunksThatJoinToTheText) {
     EXPECT_EQ(joined, families);
 }
 
-TEST(Text, EscapesAmpersandsOnce) {
-    EXPECT_EQ(escapedHtml("<a & b> &lt;"), "&lt;a &amp; b&gt; &amp;lt;");
-    EXPECT_EQ(escapedHtml("\"plain\" 'text'"), "\"plain\" 'text'");
-}
-
 // The cursor takes a short cut for most neighbours; ICU alone decides the same text here.
 TEST(Graphemes, AgreeWithIcuOnRandomText) {
     const std::vector<std::string> alphabet{

@@ -61,7 +61,6 @@ TEST_F(AppMoverTest, AsksOnlyAnApplicationOutsideOfBothFolders) {
         {shared / "Utilities/Quillon.app", true},
         {shared / "Utilities/../Quillon.app", false},
         {far / "Quillon.app", true},
-        {computer.home() / "Applications2/Quillon.app", true},
         {computer.home() / "build/quillon", false},
         {computer.home() / "build/quillon.APP", false},
         {computer.home() / "build/quillon.app.old", false},
@@ -133,49 +132,60 @@ TEST_F(AppMoverTest, CopiesFromAReadOnlyDiskOverALinkAndNotIntoWhatItLeadsTo) {
 }
 
 TEST_F(AppMoverTest, TellsWhyItCouldNotMove) {
+    const path hidden = computer.home() / "AppTranslocation/4F/d/Quillon.app";
+    const path mine = computer.home() / "Mine";
+    makeApplication(hidden, "new");
+    fs::create_directory_symlink(own, mine);
     struct Case {
         const char* sentence;
-        std::function<void()> obstacle;
+        path url;
+        bool older; ///< lies at the destination
+        bool trashWorks;
+        std::vector<path> running;
     };
     const Case cases[]{
         {"macOS is running Quillon from a hidden copy. Open your Downloads folder and drag Quillon "
          "into Applications yourself, then open it from there.",
-         [&] {
-             const path hidden = computer.home() / "AppTranslocation/4F/d/Quillon.app";
-             makeApplication(hidden, "new");
-             computer.platform.bundle.url = hidden;
-         }},
-        {"Your Mac didn't allow Quillon to write to the Applications folder. Open your Downloads "
-         "folder and drag Quillon into Applications yourself, then open it from there.",
-         [&] { std::ofstream{own} << "no folder"; }},
+         hidden,
+         true,
+         true,
+         {}},
         {"An older Quillon is open from Applications. Quit it from its menu, then try again.",
-         [&] {
-             makeApplication(own / "Quillon.app", "old");
-             fs::create_directory_symlink(own, computer.home() / "Mine");
-             computer.workspace.running = {source, computer.home() / "Mine/Quillon.app"};
-         }},
+         source,
+         true,
+         true,
+         {source, mine / "Quillon.app"}},
         {"Couldn't replace the older Quillon in Applications. Move it to the Trash yourself, then "
          "try again.",
-         [&] {
-             makeApplication(own / "Quillon.app", "old");
-             computer.workspace.running.clear();
-             computer.workspace.trashWorks = false;
-         }},
+         source,
+         true,
+         false,
+         {}},
         {"Your Mac didn't allow the move. Open your Downloads folder and drag Quillon into "
          "Applications yourself, then open it from there.",
-         [&] {
-             makeApplication(own / "Quillon.app", "old");
-             computer.workspace.trashWorks = true;
-             computer.platform.bundle.url = computer.home() / "Ejected/Quillon.app";
-         }},
+         computer.home() / "Ejected/Quillon.app",
+         true,
+         true,
+         {}},
+        {"Your Mac didn't allow Quillon to write to the Applications folder. Open your Downloads "
+         "folder and drag Quillon into Applications yourself, then open it from there.",
+         source,
+         false,
+         true,
+         {}},
     };
     for (const Case& each : cases) {
         fs::remove_all(own);
-        computer.platform.bundle.url = source;
-        alerts.shown.clear();
+        if (each.older) {
+            makeApplication(own / "Quillon.app", "old");
+        } else {
+            std::ofstream{own} << "no folder";
+        }
+        computer.platform.bundle.url = each.url;
+        computer.workspace.running = each.running;
+        computer.workspace.trashWorks = each.trashWorks;
         computer.workspace.log.clear();
-        each.obstacle();
-        const bool older = fs::exists(own / "Quillon.app");
+        alerts.shown.clear();
         EXPECT_FALSE(await(mover.ask()));
         ASSERT_EQ(alerts.shown.size(), 2U);
         EXPECT_EQ(alerts.shown[1], (Alert{.warning = true,
@@ -184,9 +194,8 @@ TEST_F(AppMoverTest, TellsWhyItCouldNotMove) {
                                           .buttons = {"OK"}}));
         EXPECT_FALSE(computer.defaults.flag("qln.moveDeclined"));
         EXPECT_EQ(program(source), "new");
-        EXPECT_EQ(program(own / "Quillon.app"), older ? "old" : "") << "the older copy is whole";
-        const bool trashed = computer.workspace.log.size() > 1;
-        EXPECT_EQ(trashed, !computer.workspace.trashWorks && older);
+        EXPECT_EQ(program(own / "Quillon.app"), each.older ? "old" : "");
+        EXPECT_EQ(computer.workspace.log.size(), each.trashWorks ? 1U : 2U) << "what is trashed";
         EXPECT_TRUE(computer.loginItem.followed.empty());
     }
 }

@@ -22,99 +22,81 @@ struct Kind {
     Content content;
     std::string topic;
     std::string method;
-    std::vector<std::string> upload; ///< field, file name and type
-    std::size_t uploadSize;
-    std::map<std::string, Json> more; ///< parameters beside the chat and the topic
+    std::string rest; ///< of the request, after the chat and the topic
     std::string symbol;
     std::string title;
     std::string event; ///< kind and size of the usage event
 };
 
-std::vector<Kind> kinds(const std::function<Path(const std::string&, std::uintmax_t)>& file) {
-    const auto document = [&](const std::string& name, std::size_t size, const std::string& topic,
-                              const std::string& kind, const std::string& symbol,
-                              const std::string& bucket) {
-        return Kind{files({file(name, size)}),
-                    topic,
-                    "sendDocument",
-                    {"document", name, "application/octet-stream"},
-                    size,
-                    {{"disable_content_type_detection", "true"}},
-                    symbol,
-                    name,
-                    R"("kind":")" + kind + R"(","size":")" + bucket + "\""};
-    };
-    const std::string clipboardName = "clipboard-1700000000.png";
-    return {
-        {text("\n  a <b> & \"c\"" + repeated("é", 70) + "\r\nmore"),
-         "notes",
-         "sendMessage",
-         {},
-         0,
-         {{"parse_mode", "HTML"},
-          {"text", "<pre>\n  a &lt;b&gt; &amp; \"c\"" + repeated("é", 70) + "\r\nmore</pre>"}},
-         "text.alignleft",
-         "  a <b> & \"c\"" + repeated("é", 47),
-         R"("kind":"text","size":"lt100k")"},
-        {{{"image/png", pngOf(9'999'999)}},
-         "images",
-         "sendPhoto",
-         {"photo", clipboardName, "image/png"},
-         9'999'999,
-         {},
-         "photo",
-         "Image · 4×3",
-         R"("kind":"image","size":"lt10m")"},
-        {{{"image/png", pngOf(10'000'000)}},
-         "images",
-         "sendDocument",
-         {"document", clipboardName, "image/png"},
-         10'000'000,
-         {},
-         "photo",
-         "Image · 4×3",
-         R"("kind":"image","size":"lt50m")"},
-        document("Movie.MOV", 100'000, "videos", "video", "film", "lt1m"),
-        document("photo.1.hEiC", 99'999, "images", "image", "photo", "lt100k"),
-        document("notes.pdf", 1'000'000, "files", "file", "doc", "lt10m"),
-        document("mp4", 1, "files", "file", "doc", "lt100k"),
-    };
+/// Parameters as JSON with their types, and the file.
+std::string described(const sandbox::RequestRecord& request) {
+    std::string text = request.method;
+    for (const auto& parameter : request.parameters.values)
+        text += " " + parameter.name + "=" + parameter.value.dump();
+    for (const auto& upload : request.parameters.files) {
+        text += " | " + upload.field + " " + upload.filename + " " + upload.mime + " " +
+                std::to_string(upload.size);
+    }
+    return text;
 }
 
 TEST_F(SendPipeline, SendsEachKindOfContentToItsTopic) {
-    for (const Kind& kind :
-         kinds([this](const std::string&name, std::uintmax_t size) { return file(name, size); })) {
+    const auto document = [this](const std::string& name, std::uintmax_t size,
+                                 const std::string& topic, const std::string& symbol,
+                                 const std::string& event) {
+        return Kind{files({file(name, size)}),
+                    topic,
+                    "sendDocument",
+                    R"( disable_content_type_detection="true" | document )" + name +
+                        " application/octet-stream " + std::to_string(size),
+                    symbol,
+                    name,
+                    event};
+    };
+    const auto image = [](qsizetype size, const std::string& method, const std::string& field,
+                          const std::string& event) {
+        return Kind{{{"image/png", pngOf(size)}},
+                    "images",
+                    method,
+                    " | " + field + " clipboard-1700000000.png image/png " + std::to_string(size),
+                    "photo",
+                    "Image · 4×3",
+                    event};
+    };
+    const std::string letters = repeated("é", 70);
+    const Kind kinds[] = {
+        {text("\n  a <b> & \"c\"" + letters + "\r\nmore"), "notes", "sendMessage",
+         R"( parse_mode="HTML" text="<pre>\n  a &lt;b&gt; &amp; \"c\")" + letters +
+             R"(\r\nmore</pre>")",
+         "text.alignleft", "  a <b> & \"c\"" + repeated("é", 47),
+         R"("kind":"text","size":"lt100k")"},
+        image(9'999'999, "sendPhoto", "photo", R"("kind":"image","size":"lt10m")"),
+        image(10'000'000, "sendDocument", "document", R"("kind":"image","size":"lt50m")"),
+        document("Movie.MOV", 100'000, "videos", "film", R"("kind":"video","size":"lt1m")"),
+        document("photo.1.hEiC", 99'999, "images", "photo", R"("kind":"image","size":"lt100k")"),
+        document("notes.pdf", 1'000'000, "files", "doc", R"("kind":"file","size":"lt10m")"),
+        document("mp4", 1, "files", "doc", R"("kind":"file","size":"lt100k")"),
+    };
+    for (const Kind& kind : kinds) {
         SCOPED_TRACE(kind.title);
         computer.clear();
         computer.send(kind.content);
 
+        // In a form every value is text.
+        const std::string quote = kind.method == "sendMessage" ? "" : "\"";
+        const Topic topic = computer.topic(kind.topic);
         const auto requests = computer.sandbox.requests();
         ASSERT_THAT(requests, SizeIs(1));
-        EXPECT_EQ(requests[0].method, kind.method);
-        const bool json = kind.upload.empty();
-        const auto number = [&](std::int64_t value) {
-            return json ? Json(value) : Json(std::to_string(value));
-        };
-        std::map<std::string, Json> expected = kind.more;
-        expected["chat_id"] = number(computer.group);
-        expected["message_thread_id"] = number(*computer.topic(kind.topic).threadId);
-        std::map<std::string, Json> actual;
-        for (const auto& parameter : requests[0].parameters.values)
-            actual[parameter.name] = parameter.value;
-        EXPECT_EQ(actual, expected);
-        for (const auto& uploaded : requests[0].parameters.files) {
-            EXPECT_THAT(kind.upload, ElementsAre(uploaded.field, uploaded.filename, uploaded.mime));
-            EXPECT_EQ(uploaded.size, kind.uploadSize);
-        }
-        EXPECT_THAT(requests[0].parameters.files, SizeIs(json ? 0 : 1));
-
+        EXPECT_EQ(described(requests[0]), kind.method + " chat_id=" + quote +
+                                              std::to_string(computer.group) + quote +
+                                              " message_thread_id=" + quote +
+                                              std::to_string(*topic.threadId) + quote + kind.rest);
         const Sent& entry = computer.store->history().front();
-        const std::string topic = computer.topic(kind.topic).name;
         EXPECT_EQ(entry,
-                  (Sent{entry.id, kind.symbol, kind.title, topic, computer.clock.now(), {}}));
-        EXPECT_THAT(
-            computer.banner.shown,
-            ElementsAre(BannerMessage{"Sent to " + topic, "checkmark.circle.fill", true, false}));
+                  (Sent{entry.id, kind.symbol, kind.title, topic.name, computer.clock.now(), {}}));
+        EXPECT_THAT(computer.banner.shown,
+                    ElementsAre(BannerMessage{"Sent to " + topic.name, "checkmark.circle.fill",
+                                              true, false}));
         EXPECT_THAT(computer.sounds.played, ElementsAre(Sound::pop));
         const std::size_t comma = kind.event.find(',');
         EXPECT_THAT(computer.newEvents(), ElementsAre("sent {" + kind.event.substr(0, comma) +
@@ -147,13 +129,11 @@ TEST_F(SendPipeline, GivesAnImageTheTextBesideItAsCaption) {
 
 TEST_F(SendPipeline, CutsTextBetweenCharactersAndLosesNone) {
     const std::string family = "👨‍👩‍👧‍👦"; // one character of seven code points
-    const std::string letters = repeated("0123456789", 800);
     struct Case {
         std::string text;
         std::vector<std::string> shown; ///< on the phone, where blanks at the ends do not show
     };
     const Case cases[] = {
-        {letters, {letters.substr(0, 3900), letters.substr(3900, 3900), letters.substr(7800)}},
         {repeated("<&>é", 975), {repeated("<&>é", 975)}},
         {"<pre>&amp;</pre>&#65;", {"<pre>&amp;</pre>&#65;"}},
         {std::string(3900, 'a') + "\n", {std::string(3900, 'a')}},
@@ -206,9 +186,7 @@ TEST_F(SendPipeline, SaysThatItIsSendingAfterAWhile) {
             << "a second is added to what was asked";
         computer.clock.advance(1ms);
         await(std::move(sending));
-        EXPECT_EQ(banners(), showBanner
-                                 ? (std::vector<std::string>{"Sending…", "Sent to 📸 Images"})
-                                 : std::vector<std::string>{});
+        EXPECT_THAT(banners(), SizeIs(showBanner ? 2 : 0));
         const auto requests = computer.sandbox.requests();
         ASSERT_THAT(requests, SizeIs(2));
         EXPECT_NE(requests[0].contentType, requests[1].contentType) << "a boundary for each body";

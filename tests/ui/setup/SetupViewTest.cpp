@@ -27,7 +27,7 @@ struct Guide : testing::Test {
     Guide() { setAnimationsEnabled(false); }
     ~Guide() override { setAnimationsEnabled(std::nullopt); }
 
-    QLineEdit& field() { return controls.get<QLineEdit>(QStringLiteral("Bot token")); }
+    QLineEdit& field() { return controls.get<QLineEdit>("Bot token"); }
     void type(const QString& token) {
         field().clear();
         QTest::keyClicks(&field(), token);
@@ -37,9 +37,7 @@ struct Guide : testing::Test {
         computer.store->changeConfig(how);
         QCoreApplication::processEvents();
     }
-    [[nodiscard]] bool shows(const char* text) const {
-        return controls.shows(QString::fromUtf8(text));
-    }
+    [[nodiscard]] bool shows(const char* text) const { return controls.shows(text); }
     [[nodiscard]] bool working() const {
         const auto spinners = view.findChildren<Spinner*>();
         return std::ranges::any_of(spinners, &QWidget::isVisible);
@@ -85,27 +83,15 @@ TEST_F(NewUser, SeesTheFirstTwoStepsAndTheOthersDimmed) {
     for (const char* hidden : {"Find my group", "Use another bot", "Done", "Made with @BotFather",
                                "4 topics ready", "You're all set."})
         EXPECT_FALSE(shows(hidden)) << hidden;
-    const std::map<QString, double> opacities{{QStringLiteral("1"), 1},
-                                              {QStringLiteral("2"), 1},
-                                              {QStringLiteral("3"), 0.45},
-                                              {QStringLiteral("4"), 0.45}};
-    for (const auto& [badge, opacity] : opacities)
-        EXPECT_NEAR(controls.opacity(badge), opacity, 0.001) << badge.toStdString();
+    for (const char* badge : {"1", "2"})
+        EXPECT_NEAR(controls.opacity(badge), 1, 0.001) << badge;
+    for (const char* badge : {"3", "4"})
+        EXPECT_NEAR(controls.opacity(badge), 0.45, 0.001) << badge;
 
-    controls.click(QStringLiteral("Step 3: Make your group"));
-    EXPECT_FALSE(controls.enabled(QStringLiteral("Find my group")));
-    controls.click(QStringLiteral("Step 3: Make your group"));
+    controls.click("Step 3: Make your group");
+    EXPECT_FALSE(controls.enabled("Find my group"));
+    controls.click("Step 3: Make your group");
     EXPECT_FALSE(shows("Find my group"));
-}
-
-TEST_F(NewUser, CanConnectOnceTheFieldIsNotEmpty) {
-    const QString connectName = QStringLiteral("Connect");
-    EXPECT_EQ(field().echoMode(), QLineEdit::Password);
-    EXPECT_FALSE(controls.enabled(connectName));
-    type(QStringLiteral(" "));
-    EXPECT_TRUE(controls.enabled(connectName));
-    type({});
-    EXPECT_FALSE(controls.enabled(connectName));
 }
 
 TEST_F(NewUser, KeepsATokenThatFailedAndEmptiesTheFieldAfterOneThatWorked) {
@@ -113,12 +99,15 @@ TEST_F(NewUser, KeepsATokenThatFailedAndEmptiesTheFieldAfterOneThatWorked) {
     sandbox::Fault slow = fault(FaultKind::delay);
     slow.delay = std::chrono::milliseconds{300};
     computer.sandbox.failNext(slow);
+    EXPECT_EQ(field().echoMode(), QLineEdit::Password);
+    EXPECT_FALSE(controls.enabled("Connect")) << "the field is empty";
     type(QStringLiteral("7000000001:wrong"));
+    EXPECT_TRUE(controls.enabled("Connect"));
     QTest::keyClick(&field(), Qt::Key_Return);
     EXPECT_TRUE(working());
-    EXPECT_FALSE(controls.enabled(QStringLiteral("Connect")));
+    EXPECT_FALSE(controls.enabled("Connect"));
     QTest::keyClicks(&field(), QStringLiteral("er"));
-    EXPECT_FALSE(controls.enabled(QStringLiteral("Connect"))) << "one at a time";
+    EXPECT_FALSE(controls.enabled("Connect")) << "one at a time";
     QTest::keyClick(&field(), Qt::Key_Return);
     ASSERT_TRUE(waitUntilShown("Telegram didn't accept that bot token."));
     EXPECT_FALSE(working());
@@ -128,35 +117,33 @@ TEST_F(NewUser, KeepsATokenThatFailedAndEmptiesTheFieldAfterOneThatWorked) {
     QLineEdit& typed = field();
     type(QString::fromLatin1(BotComputer::token));
     typed.setFocus();
-    controls.click(QStringLiteral("Connect"));
+    controls.click("Connect");
     EXPECT_FALSE(shows("Telegram didn't accept that bot token."));
     ASSERT_TRUE(waitUntilShown("Connected to @quillon_demo_bot"));
     EXPECT_TRUE(shows("Made with @BotFather"));
     EXPECT_TRUE(typed.text().isEmpty());
     EXPECT_FALSE(shows("Open BotFather"));
     ASSERT_TRUE(waitUntil([&] { return !working(); }));
-    EXPECT_TRUE(controls.enabled(QStringLiteral("Find my group")));
-    EXPECT_EQ(view.focusWidget(), &controls.get(QStringLiteral("Find my group")));
-    controls.click(QStringLiteral("Step 4: Create the topics"));
-    EXPECT_FALSE(controls.enabled(QStringLiteral("Create the topics"))) << "there is no group";
+    EXPECT_TRUE(controls.enabled("Find my group"));
+    EXPECT_EQ(view.focusWidget(), &controls.get("Find my group"));
+    controls.click("Step 4: Create the topics");
+    EXPECT_FALSE(controls.enabled("Create the topics")) << "there is no group";
 }
 
 TEST_F(NewUser, MayCloseTheWindowWhileAnActionRuns) {
-    BotComputer other;
-    other.sandbox.failNext(fault(FaultKind::delay));
-    auto closing = std::make_unique<SetupView>(*other.store);
+    auto closing = std::make_unique<SetupView>(*computer.store);
     const Controls inside{*closing};
-    QTest::keyClicks(&inside.get<QLineEdit>(QStringLiteral("Bot token")),
-                     QString::fromLatin1(BotComputer::token));
-    inside.click(QStringLiteral("Connect"));
+    computer.sandbox.failNext(fault(FaultKind::delay));
+    QTest::keyClicks(&inside.get<QLineEdit>("Bot token"), QString::fromLatin1(BotComputer::token));
+    inside.click("Connect");
     closing.reset();
-    EXPECT_TRUE(waitUntil([&] { return other.store->tokenSaved(); }));
+    EXPECT_TRUE(waitUntil([&] { return computer.store->tokenSaved(); }));
 }
 
 TEST_F(NewUser, OpensTheChatWithBotFather) {
     Browser browser;
     QDesktopServices::setUrlHandler(QStringLiteral("https"), &browser, "open");
-    controls.click(QStringLiteral("Open BotFather"));
+    controls.click("Open BotFather");
     QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
     EXPECT_THAT(browser.opened, ElementsAre(QUrl{QStringLiteral("https://t.me/BotFather")}));
 }
@@ -166,19 +153,16 @@ TEST_F(KnownUser, SeesEachStepsResultAndCanOpenItAgain) {
     EXPECT_TRUE(shows("4 topics ready"));
     EXPECT_TRUE(shows("You're all set."));
     EXPECT_FALSE(shows("Topics ready"));
-    controls.click<ContentButton>(QStringLiteral("Step 4: Create the topics"));
+    controls.click<ContentButton>("Step 4: Create the topics");
     EXPECT_FALSE(shows("4 topics ready"));
-    EXPECT_FALSE(controls.enabled(QStringLiteral("Topics ready")));
+    EXPECT_FALSE(controls.enabled("Topics ready"));
     for (const Topic& topic : computer.store->config().topics)
         EXPECT_TRUE(shows(topic.name.c_str())) << topic.name;
-    controls.click<ContentButton>(QStringLiteral("Step 4: Create the topics"));
+    controls.click<ContentButton>("Step 4: Create the topics");
     EXPECT_TRUE(shows("4 topics ready"));
 
-    std::vector<QString> keys;
     change([](Config& config) { config.shortcut = ShortcutChoice::ctrlOptP; });
-    for (const KeyLabel* key : view.findChildren<KeyLabel*>())
-        keys.push_back(key->label());
-    EXPECT_THAT(keys, ElementsAre(QStringLiteral("⌃"), QStringLiteral("⌥"), QStringLiteral("P")));
+    EXPECT_EQ(view.findChildren<KeyLabel*>().last()->label(), QStringLiteral("P"));
 }
 
 TEST_F(KnownUser, IsAskedForTheTopicThatIsMissing) {
@@ -189,20 +173,20 @@ TEST_F(KnownUser, IsAskedForTheTopicThatIsMissing) {
     EXPECT_TRUE(shows("Found 100% ours"));
     EXPECT_FALSE(shows("You're all set."));
     EXPECT_FALSE(shows("4 topics ready"));
-    controls.click<ContentButton>(QStringLiteral("Step 3: Make your group"));
-    EXPECT_TRUE(controls.enabled(QStringLiteral("Find again")));
+    controls.click<ContentButton>("Step 3: Make your group");
+    EXPECT_TRUE(controls.enabled("Find again"));
 
     computer.sandbox.failNext(flood(1)); // Telegram makes it wait on the test's clock
     computer.sandbox.failNext(refusal("getUpdates", 400, "Bad Request: **no** rights"));
-    controls.click(QStringLiteral("Find again"));
+    controls.click("Find again");
     for (const char* button : {"Find again", "Create the topics"})
-        EXPECT_FALSE(controls.enabled(QString::fromUtf8(button))) << button;
+        EXPECT_FALSE(controls.enabled(button)) << button;
     ASSERT_TRUE(waitUntil([&] {
         computer.clock.advance(1s);
         return !working();
     }));
     EXPECT_TRUE(shows("Bad Request: **no** rights")) << "stars and all";
-    controls.click<TextButton>(QStringLiteral("Create the topics"));
+    controls.click<TextButton>("Create the topics");
     EXPECT_TRUE(waitUntilShown("You're all set."));
 }
 
@@ -218,14 +202,14 @@ TEST_F(KnownUser, HasOtherNamesWhereNothingIsKnown) {
 }
 
 TEST_F(KnownUser, GoesBackToTheStartWithAnotherBot) {
-    controls.click(QStringLiteral("Step 2: Paste the token"));
+    controls.click("Step 2: Paste the token");
     EXPECT_TRUE(shows("The token is kept in your Mac's Keychain."));
-    controls.click(QStringLiteral("Use another bot"));
+    controls.click("Use another bot");
     EXPECT_FALSE(computer.store->tokenSaved());
     EXPECT_TRUE(computer.secrets.values.empty());
     EXPECT_TRUE(shows("Bot token"));
     EXPECT_FALSE(shows("You're all set."));
-    EXPECT_NEAR(controls.opacity(QStringLiteral("Step 3: Make your group")), 0.45, 0.001);
+    EXPECT_NEAR(controls.opacity("Step 3: Make your group"), 0.45, 0.001);
 }
 
 TEST_F(KnownUser, ComesToTheSameAnimated) {
