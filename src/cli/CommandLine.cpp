@@ -38,7 +38,7 @@ std::string usage(const Command& command) {
         if (!words.empty()) words += '|';
         words += word.text;
     }
-    const std::string name{command.name};
+    std::string name{command.name};
     if (words.empty()) return name;
     return name + (command.needsWord ? " " + words : " [" + words + "]");
 }

@@ -8,10 +8,8 @@
 #include <optional>
 #include <string_view>
 
-namespace quillon {
-
 /// The program that already runs in this session, which is reached over the session bus.
-namespace RemoteProgram {
+namespace quillon::RemoteProgram {
 
 inline constexpr const char* busName = applicationIdentifier;
 inline constexpr const char* objectPath = "/dev/vostrel/quillon";
@@ -29,6 +27,4 @@ inline constexpr const char* interfaceName = applicationIdentifier;
 /// does not answer within 4 seconds. Call it while there is an application object.
 [[nodiscard]] bool activate(std::string_view wanted, const QVariantMap& activationData);
 
-} // namespace RemoteProgram
-
-} // namespace quillon
+} // namespace quillon::RemoteProgram
