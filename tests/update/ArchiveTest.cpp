@@ -10,8 +10,6 @@
 
 #include <sys/stat.h>
 
-#include <fstream>
-
 namespace quillon::test {
 namespace {
 
