@@ -3,8 +3,8 @@
 #include "shots/LayoutCheck.h"
 #include "shots/Pseudo.h"
 #include "support/Await.h"
+#include "ui/theme/ApplicationTheme.h"
 #include "ui/theme/Motion.h"
-#include "ui/theme/Palettes.h"
 
 #include <QApplication>
 #include <QCursor>

@@ -1,6 +1,7 @@
 #include "desktop/HUDView.h"
 
 #include "artwork/Brand.h"
+#include "artwork/Colors.h"
 #include "artwork/Mark.h"
 #include "artwork/Symbols.h"
 #include "desktop/Shadow.h"
@@ -28,11 +29,6 @@ QFont bannerFont() {
     font.setPixelSize(fontSize);
     font.setWeight(QFont::DemiBold);
     return font;
-}
-
-QColor faded(QColor color, double opacity) {
-    color.setAlphaF(static_cast<float>(opacity));
-    return color;
 }
 
 QPainterPath capsulePath(const QRectF& box) {

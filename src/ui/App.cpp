@@ -16,7 +16,7 @@
 #include "ui/Resident.h"
 #include "ui/alerts/AlertWindows.h"
 #include "ui/controls/AppIcon.h"
-#include "ui/theme/Looks.h"
+#include "ui/theme/ApplicationTheme.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -80,9 +80,9 @@ int App::run(Start start) {
     QApplication application{argc, argv};
     loadCatalogue();
     introduce();
-    Looks looks;
+    ApplicationTheme theme;
     LinuxAppearance appearance;
-    looks.follow(appearance);
+    theme.follow(appearance);
 
     std::unique_ptr<HotKeys> hotKeys = X11HotKeys::open(nullptr);
     if (!hotKeys) hotKeys = std::make_unique<NoHotKeys>();

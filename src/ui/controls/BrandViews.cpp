@@ -1,9 +1,9 @@
 #include "ui/controls/BrandViews.h"
 
 #include "artwork/Brand.h"
+#include "artwork/Colors.h"
 #include "artwork/Mark.h"
 #include "ui/text/SymbolView.h"
-#include "ui/theme/Colors.h"
 
 #include <QFontMetricsF>
 #include <QLinearGradient>

@@ -1,6 +1,6 @@
 #include "ui/controls/SegmentedPicker.h"
 
-#include "ui/theme/Colors.h"
+#include "artwork/Colors.h"
 
 #include <QFontMetricsF>
 #include <QHBoxLayout>

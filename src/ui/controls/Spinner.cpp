@@ -1,7 +1,7 @@
 #include "ui/controls/Spinner.h"
 
+#include "artwork/Colors.h"
 #include "ui/accessibility/Accessibility.h"
-#include "ui/theme/Colors.h"
 #include "ui/theme/Motion.h"
 
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "ui/controls/Switch.h"
 
+#include "artwork/Colors.h"
 #include "ui/controls/Tile.h"
-#include "ui/theme/Colors.h"
 #include "ui/theme/Motion.h"
 
 #include <QKeyEvent>

@@ -1,12 +1,12 @@
 #include "ui/panel/SendButton.h"
 
 #include "artwork/Brand.h"
+#include "artwork/Colors.h"
 #include "ui/accessibility/Accessibility.h"
 #include "ui/text/IconLabel.h"
 #include "ui/text/Keycap.h"
 #include "ui/text/SymbolView.h"
 #include "ui/text/TextBlock.h"
-#include "ui/theme/Colors.h"
 
 #include <QHBoxLayout>
 #include <QPainter>

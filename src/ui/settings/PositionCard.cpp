@@ -1,9 +1,9 @@
 #include "ui/settings/PositionCard.h"
 
 #include "artwork/Brand.h"
+#include "artwork/Colors.h"
 #include "ui/text/IconLabel.h"
 #include "ui/text/SymbolView.h"
-#include "ui/theme/Colors.h"
 
 #include <QPainter>
 #include <QVBoxLayout>

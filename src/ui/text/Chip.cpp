@@ -1,6 +1,6 @@
 #include "ui/text/Chip.h"
 
-#include "ui/theme/Colors.h"
+#include "artwork/Colors.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

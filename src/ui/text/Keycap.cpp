@@ -1,7 +1,7 @@
 #include "ui/text/Keycap.h"
 
 #include "artwork/Brand.h"
-#include "ui/theme/Colors.h"
+#include "artwork/Colors.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>

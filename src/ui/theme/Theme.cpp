@@ -1,8 +1,8 @@
 #include "ui/theme/Theme.h"
 
 #include "artwork/Brand.h"
+#include "artwork/Colors.h"
 #include "artwork/Palette.h"
-#include "ui/theme/Colors.h"
 
 #include <QFontInfo>
 #include <QGraphicsOpacityEffect>

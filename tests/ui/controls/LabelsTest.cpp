@@ -1,12 +1,10 @@
 #include "Accessible.h"
 
-#include "artwork/Brand.h"
-#include "artwork/Palette.h"
+#include "artwork/Colors.h"
 #include "ui/controls/Card.h"
 #include "ui/text/IconLabel.h"
 #include "ui/text/Keycap.h"
 #include "ui/text/SymbolView.h"
-#include "ui/theme/Colors.h"
 
 #include <gmock/gmock.h>
 
@@ -91,19 +89,6 @@ TEST(Theme, TextKeepsItsContrastOnEveryGround) {
             const QColor card = theme.cardFill();
             EXPECT_GE(contrast(laidOver(theme.color(ink), card), card), least * 0.97)
                 << ground.name().toStdString() << " ink " << static_cast<int>(ink);
-        }
-    }
-}
-
-TEST(Colors, ALegibleColourKeepsItsHueAndGoesNoFurtherThanItMust) {
-    EXPECT_EQ(legible(Brand::navy, Qt::white, textContrast), Brand::navy);
-    for (const QColor color : {Palette::yellow, Palette::pink, Palette::blue, Palette::green}) {
-        for (const QColor ground : {QColor{Qt::white}, QColor{Qt::black}, QColor{110, 110, 110}}) {
-            const QColor result = legible(color, ground, textContrast);
-            EXPECT_GE(contrast(result, ground), textContrast);
-            if (result == color) continue;
-            EXPECT_LT(contrast(result, ground), textContrast + 0.2);
-            EXPECT_NEAR(result.hslHue(), color.hslHue(), 3);
         }
     }
 }
