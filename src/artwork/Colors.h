@@ -14,8 +14,8 @@ namespace quillon {
 /// The colour with its alpha multiplied by `opacity`, from 0 to 1.
 [[nodiscard]] QColor faded(QColor color, double opacity);
 
-/// The colour itself if it has the contrast `ratio` to the background. Otherwise one of the same hue,
-/// darker on a light background and lighter on a dark one, by no more than the ratio takes.
+/// The colour itself if it has the contrast `ratio` to the background. Otherwise one of the same
+/// hue, darker on a light background and lighter on a dark one, by no more than the ratio takes.
 [[nodiscard]] QColor legible(QColor color, QColor background, double ratio);
 
 /// The contrast that text needs, and symbols and lines (WCAG 2.1, 1.4.3 and 1.4.11).

@@ -3,6 +3,7 @@
 #include "artwork/Brand.h"
 #include "artwork/Colors.h"
 #include "artwork/Mark.h"
+#include "artwork/Shapes.h"
 #include "artwork/Symbols.h"
 #include "desktop/Shadow.h"
 
@@ -10,7 +11,6 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <cmath>
 #include <utility>
@@ -29,12 +29,6 @@ QFont bannerFont() {
     font.setPixelSize(fontSize);
     font.setWeight(QFont::DemiBold);
     return font;
-}
-
-QPainterPath capsulePath(const QRectF& box) {
-    QPainterPath path;
-    path.addRoundedRect(box, box.height() / 2, box.height() / 2);
-    return path;
 }
 
 } // namespace
