@@ -34,9 +34,8 @@ QString operator""_q(const char* text, std::size_t size) {
 class CoralButton : public ContentButton {
 protected:
     void paintGround(QPainter& painter, const Theme& theme) override {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(theme.fill(isDown() ? Brand::coral.darker(108) : Brand::coral));
-        painter.drawRoundedRect(rect(), Space::cardRadius, Space::cardRadius);
+        paintBox(painter, rect(), cornerRadius(),
+                 theme.fill(isDown() ? Brand::coral.darker(108) : Brand::coral));
     }
     [[nodiscard]] Tint focusTint() const override { return Brand::navy; }
 };

@@ -4,7 +4,6 @@
 #include "ui/text/SymbolView.h"
 
 #include <QFontMetricsF>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
 
@@ -18,9 +17,9 @@ namespace {
 
 /// What the kinds of buttons differ in.
 struct KindLook {
-    int beside;         // pixels between the edge and the text
-    int above;          // and above it
-    double leastHeight; // points
+    int beside;         // pixels between the edge and the text on either side
+    int above;          // pixels above and below the text
+    double leastHeight; // in points of the design
     Tint ink;
 };
 
@@ -32,10 +31,6 @@ const KindLook& kindLook(ButtonKind kind) {
         KindLook{12, 4, 28, Ink::destructive}, // destructive
     };
     return table.at(static_cast<std::size_t>(kind));
-}
-
-bool framed(ButtonKind kind) {
-    return kind == ButtonKind::bordered || kind == ButtonKind::destructive;
 }
 
 constexpr double symbolScale = 1.1; // of the text's size
@@ -50,7 +45,7 @@ double symbolSide(const TextStyle& style) {
 } // namespace
 
 TextButton::TextButton(const QString& text, std::string symbol, ButtonLook look, QWidget* parent)
-    : Themed{text, parent},
+    : PressedByReturn{text, parent},
       symbol_{std::move(symbol)},
       look_{look} {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -92,15 +87,9 @@ QSize TextButton::sizeHint() const {
             static_cast<int>(std::ceil(height))};
 }
 
-void TextButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
-    Themed::keyPressEvent(event);
-}
-
 void TextButton::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
     paintGround(painter, theme);
     paintContent(painter, theme);
     if (!showsFocus()) return;
@@ -111,27 +100,25 @@ void TextButton::paintEvent(QPaintEvent* /*event*/) {
 
 void TextButton::paintGround(QPainter& painter, const Theme& theme) const {
     const bool lit = underMouse() && isEnabled();
-    painter.setPen(framed(look_.kind) ? QPen{theme.separator(), 1} : QPen{Qt::NoPen});
+    QColor fill;
+    QPen line{Qt::NoPen};
     switch (look_.kind) {
     case ButtonKind::prominent:
-        painter.setBrush(theme.fill(isDown() ? Brand::coral.darker(pressedProminent)
-                                    : lit    ? Brand::coral.lighter(hoveredProminent)
-                                             : Brand::coral));
+        fill = theme.fill(isDown() ? Brand::coral.darker(pressedProminent)
+                          : lit    ? Brand::coral.lighter(hoveredProminent)
+                                   : Brand::coral);
         break;
     case ButtonKind::bordered:
     case ButtonKind::destructive:
-        painter.setBrush(isDown() ? theme.pressedFill()
-                         : lit    ? theme.hoverFill()
-                                  : theme.quaternaryFill());
+        fill = isDown() ? theme.pressedFill() : lit ? theme.hoverFill() : theme.quaternaryFill();
+        line = theme.separator();
         break;
     case ButtonKind::borderless:
         if (!lit && !isDown()) return;
-        painter.setBrush(isDown() ? theme.hoverFill() : theme.quaternaryFill());
+        fill = isDown() ? theme.hoverFill() : theme.quaternaryFill();
         break;
     }
-    const double inset = framed(look_.kind) ? 0.5 : 0;
-    painter.drawRoundedRect(QRectF{rect()}.adjusted(inset, inset, -inset, -inset),
-                            Space::controlRadius, Space::controlRadius);
+    paintBox(painter, rect(), Space::controlRadius, fill, line);
 }
 
 void TextButton::paintContent(QPainter& painter, const Theme& theme) const {

@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QIcon>
 
-/// The icon in the desktop's panel: the mark in one colour, that of the panel's own icons.
+/// The icon in the desktop's panel: the mark in the colour of the panel's own icons.
 namespace quillon::MenuBarIcon {
 
 /// The icon in every size that panels ask for, as squares.

@@ -2,9 +2,7 @@
 
 #include "artwork/Colors.h"
 #include "ui/controls/Tile.h"
-#include "ui/theme/Motion.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
 
@@ -38,20 +36,15 @@ QColor mixed(QColor from, QColor to, double share) {
 } // namespace
 
 Switch::Switch(const QString& title, std::string symbol, QColor color, QWidget* parent)
-    : Themed{title, parent},
+    : PressedByReturn{title, parent},
       symbol_{std::move(symbol)},
-      color_{color} {
+      color_{color},
+      position_{0, [this](double) { update(); }} {
     QSizePolicy policy{QSizePolicy::Preferred, QSizePolicy::Minimum};
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
-    slide_.setDuration(static_cast<int>(changeDuration.count()));
-    slide_.setEasingCurve(QEasingCurve::InOutQuad);
-    connect(&slide_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-        position_ = value.toDouble();
-        update();
-    });
     connect(this, &QCheckBox::toggled, this, [this](bool on) {
-        slide(on);
+        position_.go(on ? 1 : 0, isVisible());
         if (!showing_) Q_EMIT switched(on);
     });
 }
@@ -62,21 +55,9 @@ void Switch::showOn(bool on) {
     showing_ = false;
 }
 
-void Switch::slide(bool on) {
-    slide_.stop();
-    if (!isVisible() || !animationsEnabled()) {
-        position_ = on ? 1 : 0;
-        return update();
-    }
-    slide_.setStartValue(position_);
-    slide_.setEndValue(on ? 1.0 : 0.0);
-    slide_.start();
-}
-
 void Switch::hideEvent(QHideEvent* event) {
-    slide_.stop();
-    position_ = isChecked() ? 1 : 0;
-    Themed::hideEvent(event);
+    position_.arrive();
+    PressedByReturn::hideEvent(event);
 }
 
 TextBlock Switch::titleBlock() const {
@@ -113,11 +94,6 @@ int Switch::heightForWidth(int width) const {
 
 bool Switch::hitButton(const QPoint& position) const {
     return rect().contains(position);
-}
-
-void Switch::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
-    Themed::keyPressEvent(event);
 }
 
 void Switch::paintEvent(QPaintEvent* /*event*/) {
@@ -157,12 +133,12 @@ void Switch::paintTrack(QPainter& painter) const {
     const QColor off =
         faded(theme.color(Ink::primary), underMouse() ? offOpacity + 0.06 : offOpacity);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(mixed(off, theme.color(Ink::accent), position_));
+    painter.setBrush(mixed(off, theme.color(Ink::accent), position_.value()));
     painter.drawRoundedRect(track, radius, radius);
 
     const double knob = size.height() - 2 * knobGap;
     const double way = size.width() - 2 * knobGap - knob;
-    const double along = rightToLeft ? 1 - position_ : position_;
+    const double along = rightToLeft ? 1 - position_.value() : position_.value();
     const QRectF disc{track.left() + knobGap + way * along, track.top() + knobGap, knob, knob};
     painter.setBrush(theme.fill(faded(Qt::black, 0.20)));
     painter.drawEllipse(disc.translated(0, 1));

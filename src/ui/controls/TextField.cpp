@@ -19,7 +19,7 @@ constexpr double leastWidth = 80;
 } // namespace
 
 TextField::TextField(QWidget* parent) : Themed{parent} {
-    // The style draws the text alone. (A style sheet would keep the colours it has found first.)
+    // The style draws nothing but the text. (With a style sheet, Qt would keep the first colours.)
     setFrame(false);
     QPalette bare;
     bare.setColor(QPalette::Base, Qt::transparent);
@@ -42,13 +42,9 @@ void TextField::paintEvent(QPaintEvent* event) {
     const Theme theme = this->theme();
     {
         QPainter painter{this};
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen{theme.pressedFill(), 1});
-        painter.setBrush(
-            theme.fill(QGuiApplication::palette().color(QPalette::Active, QPalette::Base)));
-        painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), Space::controlRadius,
-                                Space::controlRadius);
-        // Where the text goes is worth knowing for those who use the mouse, too.
+        const QColor base = QGuiApplication::palette().color(QPalette::Active, QPalette::Base);
+        paintBox(painter, rect(), Space::controlRadius, theme.fill(base), theme.pressedFill());
+        // Users of the mouse, too, need to see where the text goes.
         if (hasFocus()) theme.paintFocusRing(painter, rect(), Space::controlRadius);
     }
     Themed::paintEvent(event);

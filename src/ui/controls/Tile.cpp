@@ -12,6 +12,7 @@ namespace quillon {
 namespace {
 
 constexpr double sidePoints = 20;
+// Shares of the side.
 constexpr double symbolShare = 0.55;
 constexpr double cornerShare = 0.27;
 
@@ -41,15 +42,9 @@ double Tile::side() {
 
 void Tile::paint(QPainter& painter, const QRectF& box, const std::string& symbol, QColor color,
                  const Theme& theme) {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(theme.fill(color));
-    const double radius = box.width() * cornerShare;
-    painter.drawRoundedRect(box, radius, radius);
+    paintBox(painter, box, box.width() * cornerShare, theme.fill(color));
     paintSymbol(painter, box, symbol, std::round(box.width() * symbolShare), Theme::onTile(color),
                 SymbolWeight::semibold);
-    painter.restore();
 }
 
 void Tile::paintEvent(QPaintEvent* /*event*/) {

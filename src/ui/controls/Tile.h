@@ -17,8 +17,9 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
-    /// The side of a tile in device-independent pixels, for those who paint one themselves.
+    /// The side of a tile in device-independent pixels.
     [[nodiscard]] static double side();
+    /// Paints a tile as large as `box`, for views that contain one.
     static void paint(QPainter& painter, const QRectF& box, const std::string& symbol, QColor color,
                       const Theme& theme);
 
@@ -30,7 +31,7 @@ private:
     QColor color_;
 };
 
-/// The label of a row: a tile and the title after it.
+/// The label of a row: a tile, and a title after it.
 class TileLabel : public View {
     Q_OBJECT
 

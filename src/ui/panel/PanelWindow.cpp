@@ -109,11 +109,7 @@ void PanelWindow::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme{*this};
     const bool round = testAttribute(Qt::WA_TranslucentBackground);
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(theme.separator());
-    painter.setBrush(palette().window());
-    const double radius = round ? cornerRadius : 0;
-    painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    paintBox(painter, rect(), round ? cornerRadius : 0, palette().window(), theme.separator());
 }
 
 } // namespace quillon

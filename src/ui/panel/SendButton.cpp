@@ -21,7 +21,8 @@ constexpr double symbolSize = 18;
 constexpr double symbolFrame = 24;
 constexpr double lineOpacity = 0.75;
 constexpr TextStyle titleStyle{14, QFont::Bold};
-/// How much darker or lighter the ground is while pressed and under the pointer, in per cent.
+// The lightness of the ground while pressed and under the pointer, as percentages that darker() and
+// lighter() take.
 constexpr int pressedDarker = 108;
 constexpr int hoverLighter = 103;
 
@@ -77,9 +78,7 @@ void SendButton::paintGround(QPainter& painter, const Theme& theme) {
     } else if (isEnabled() && underMouse()) {
         ground = ground.lighter(hoverLighter);
     }
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(theme.fill(ground));
-    painter.drawRoundedRect(QRectF{rect()}, Space::cardRadius, Space::cardRadius);
+    paintBox(painter, rect(), cornerRadius(), theme.fill(ground));
 }
 
 Tint SendButton::focusTint() const {

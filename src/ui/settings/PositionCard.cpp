@@ -56,14 +56,11 @@ void PositionCard::showSelected(bool selected) {
 void PositionCard::paintGround(QPainter& painter, const Theme& theme) {
     const bool taken = selected().value_or(false);
     const bool lit = isEnabled() && (underMouse() || isDown());
-    painter.setPen(taken ? QPen{theme.fill(Brand::coral), borderWidth}
-                         : QPen{theme.separator(), 1});
-    painter.setBrush(taken ? theme.fill(faded(Brand::coral, selectedFill))
-                     : lit ? theme.hoverFill()
-                           : theme.quaternaryFill());
-    const double half = (taken ? borderWidth : 1) / 2;
-    painter.drawRoundedRect(QRectF{rect()}.adjusted(half, half, -half, -half),
-                            cornerRadius() - half, cornerRadius() - half);
+    const QPen line = taken ? QPen{theme.fill(Brand::coral), borderWidth} : QPen{theme.separator()};
+    const QColor fill = taken ? theme.fill(faded(Brand::coral, selectedFill))
+                        : lit ? theme.hoverFill()
+                              : theme.quaternaryFill();
+    paintBox(painter, rect(), cornerRadius() - line.widthF() / 2, fill, line);
 }
 
 } // namespace quillon

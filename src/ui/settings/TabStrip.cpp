@@ -56,7 +56,6 @@ QSize TabStrip::tabSizeHint(int index) const {
 
 void TabStrip::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
     for (int i = 0; i < count(); ++i)
         paintTab(painter, i);
 }
@@ -66,9 +65,8 @@ void TabStrip::paintTab(QPainter& painter, int index) const {
     const bool current = index == currentIndex();
     const QRectF box = QRectF{tabRect(index)}.adjusted(betweenTabs, 0, -betweenTabs, 0);
     if (current || index == hovered_) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(current ? theme.hoverFill() : theme.quaternaryFill());
-        painter.drawRoundedRect(box, Space::controlRadius, Space::controlRadius);
+        paintBox(painter, box, Space::controlRadius,
+                 current ? theme.hoverFill() : theme.quaternaryFill());
     }
     const double side = Theme::length(symbolPoints);
     const Tint ink = current ? Ink::accent : Ink::secondary;

@@ -58,10 +58,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter{this};
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(theme().fill(Palette::pink));
-        painter.drawRoundedRect(rect(), headerCorner, headerCorner);
+        paintBox(painter, rect(), headerCorner, theme().fill(Palette::pink));
         paintSymbol(painter, rect(), "trash.fill", Theme::length(headerSymbol),
                     Theme::onTile(Palette::pink));
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/accessibility/View.h"
-#include "ui/setup/Transition.h"
+#include "ui/theme/Transition.h"
 
 namespace quillon {
 

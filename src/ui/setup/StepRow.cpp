@@ -8,7 +8,6 @@
 #include "ui/text/SymbolView.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 
 namespace quillon {
 
@@ -23,7 +22,7 @@ constexpr double chevronPoints = 11;
 
 StepRow::StepRow(int n, const QString& title, const std::string& symbol, QWidget* content,
                  QWidget* parent)
-    : View{parent},
+    : CardGround{parent},
       n_{n},
       badge_{new Badge},
       summary_{new IconLabel{
@@ -105,18 +104,8 @@ int StepRow::growthAhead() const {
 }
 
 void StepRow::themeChanged() {
-    View::themeChanged();
+    CardGround::themeChanged();
     indentContent();
-}
-
-void StepRow::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    const Theme theme = this->theme();
-    painter.setPen(theme.separator());
-    painter.setBrush(theme.cardFill());
-    painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), Space::cardRadius,
-                            Space::cardRadius);
 }
 
 } // namespace quillon

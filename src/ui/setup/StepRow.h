@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/accessibility/View.h"
-#include "ui/setup/Transition.h"
+#include "ui/controls/Card.h"
+#include "ui/theme/Transition.h"
 
 #include <string>
 
@@ -15,7 +15,7 @@ class SymbolView;
 
 /// One step of the guide: a badge, a header to click on, and its instructions and controls while it
 /// is open.
-class StepRow : public View {
+class StepRow : public CardGround {
     Q_OBJECT
 
 public:
@@ -46,7 +46,6 @@ Q_SIGNALS:
     void toggle();
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void themeChanged() override;
 
 private:

@@ -55,11 +55,8 @@ QAccessible::Role Chip::accessibleRole() const {
 void Chip::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF capsule = QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(QPen{theme.fill(faded(color_, borderOpacity)), 1});
-    painter.setBrush(theme.fill(faded(color_, tintOpacity)));
-    painter.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
+    paintBox(painter, rect(), (height() - 1) / 2.0, theme.fill(faded(color_, tintOpacity)),
+             theme.fill(faded(color_, borderOpacity)));
     const QFont font = Theme::font(chipText);
     const double room = width() - 2 * besideText;
     painter.setFont(font);

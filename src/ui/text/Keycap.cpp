@@ -2,12 +2,12 @@
 
 #include "artwork/Brand.h"
 #include "artwork/Colors.h"
+#include "artwork/Shapes.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <array>
@@ -45,12 +45,6 @@ QString spokenKey(const QString& label) {
         keyNames, [&](const KeyName& key) { return label == QString{key.symbol}; });
     if (known == keyNames.end()) return label;
     return QCoreApplication::translate("quillon::Keycap", known->name);
-}
-
-QPainterPath rounded(const QRectF& box) {
-    QPainterPath path;
-    path.addRoundedRect(box, radius, radius);
-    return path;
 }
 
 } // namespace
@@ -100,8 +94,8 @@ void Keycap::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
-    const QPainterPath cap = rounded(keyBox());
-    // What lies under the cap shows through it; its own shadow must not.
+    const QPainterPath cap = roundedPath(keyBox(), radius);
+    // The cap is translucent, and its own shadow must not show through it.
     painter.fillPath(cap.translated(0, shadowOffset).subtracted(cap),
                      theme.fill(faded(Qt::black, shadowOpacity)));
     if (dark_) {
@@ -110,7 +104,7 @@ void Keycap::paintEvent(QPaintEvent* /*event*/) {
     } else if (theme.dark()) {
         painter.fillPath(cap, theme.fill(faded(Qt::white, lightCapOpacity)));
         paintLabel(painter, theme.color(QColor{Qt::white}));
-    } else { // white on white would be no cap at all
+    } else { // a white cap would be invisible on white
         painter.fillPath(cap, theme.fill(faded(Brand::navy, lightCapOpacity)));
         paintLabel(painter, theme.color(Ink::primary));
     }
@@ -119,8 +113,7 @@ void Keycap::paintEvent(QPaintEvent* /*event*/) {
 void KeyLabel::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(rounded(keyBox()), faded(theme.color(Ink::accent), labelTint));
+    paintBox(painter, keyBox(), radius, faded(theme.color(Ink::accent), labelTint));
     paintLabel(painter, theme.color(Ink::primary));
 }
 

@@ -48,7 +48,7 @@ void SymbolView::paintEvent(QPaintEvent* /*event*/) {
 
 namespace {
 
-/// Symbols that point along the line of writing.
+/// Symbols that point in the direction of writing.
 constexpr std::array<std::string_view, 3> directed{"arrow.right.circle.fill", "checklist",
                                                    "text.alignleft"};
 
