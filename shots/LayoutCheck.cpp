@@ -73,9 +73,10 @@ private:
 
     void room(const QWidget& widget) {
         const auto* const label = qobject_cast<const IconLabel*>(&widget);
-        if (label && label->shownText() != label->wholeText()) {
+        const QString text = label ? label->text().plain() : QString{};
+        if (label && label->shownText() != text) {
             // Names may be of any length; the program's own words have to fit.
-            if (withoutNames(label->wholeText()) == label->wholeText())
+            if (withoutNames(text) == text)
                 faults_ << QStringLiteral("cut off: %1").arg(nameOf(widget));
             return;
         }

@@ -95,8 +95,8 @@ Card* textCard() {
                                  new AppIconView{64}, new Wordmark{28}}));
     card->body()->addWidget(new IconLabel{"Title"_q, "sparkles", {.style = Text::title}});
     card->body()->addWidget(new IconLabel{"Headline"_q, "key.fill", {.style = Text::headline}});
-    card->body()->addWidget(new IconLabel{
-        "In Telegram, open **@BotFather**, send **/newbot** and follow the steps. It gives you a token. The bot is yours alone."_q});
+    card->body()->addWidget(new IconLabel{markedUp(
+        "In Telegram, open **@BotFather**, send **/newbot** and follow the steps. It gives you a token. The bot is yours alone."_q)});
     card->body()->addWidget(new IconLabel{
         "Nothing sent yet."_q, "tray", {.style = Text::callout, .ink = Ink::tertiary}});
     card->body()->addWidget(

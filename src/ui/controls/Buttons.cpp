@@ -90,6 +90,7 @@ QSize TextButton::sizeHint() const {
 void TextButton::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing); // also smooths the line below the mnemonic
     paintGround(painter, theme);
     paintContent(painter, theme);
     if (!showsFocus()) return;

@@ -33,7 +33,7 @@ QAccessible::Role Card::accessibleRole() const {
 }
 
 QString Card::accessibleText() const {
-    return title_->text();
+    return title_->text().plain();
 }
 
 Divider::Divider(QWidget* parent) : View{parent} {

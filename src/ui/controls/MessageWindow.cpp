@@ -102,9 +102,8 @@ void MessageWindow::themeChanged() {
 }
 
 void MessageWindow::setTexts(const QString& title, const QString& text) {
-    // Names and versions come from outside, and may hold stars.
-    title_->setText(TextBlock::verbatim(title));
-    text_->setText(TextBlock::verbatim(text));
+    title_->setText(title);
+    text_->setText(text);
     text_->setVisible(!text.isEmpty());
     setAccessibleName(title);
     setAccessibleDescription(text);

@@ -55,6 +55,7 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         const Theme theme = this->theme();
         QPainter painter{this};
+        painter.setRenderHint(QPainter::Antialiasing); // smooths the line below the mnemonic
         if (isChecked()) {
             paintPlate(painter, theme);
         } else if (underMouse() && isEnabled()) {

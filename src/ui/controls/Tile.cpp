@@ -54,9 +54,10 @@ void Tile::paintEvent(QPaintEvent* /*event*/) {
     paint(painter, {corner, size}, symbol_, color_, theme());
 }
 
-TileLabel::TileLabel(const QString& title, const std::string& symbol, QColor color, QWidget* parent)
+TileLabel::TileLabel(const QString& title, const std::string& symbol, QColor color,
+                     const TextStyle& style, QWidget* parent)
     : View{parent},
-      title_{new IconLabel{title}} {
+      title_{new IconLabel{title, {}, {.style = style}}} {
     auto* row = new QHBoxLayout{this};
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(10);
@@ -73,7 +74,7 @@ QAccessible::Role TileLabel::accessibleRole() const {
 }
 
 QString TileLabel::accessibleText() const {
-    return title_->text();
+    return title_->text().plain();
 }
 
 } // namespace quillon

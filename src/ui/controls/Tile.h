@@ -37,7 +37,7 @@ class TileLabel : public View {
 
 public:
     TileLabel(const QString& title, const std::string& symbol, QColor color,
-              QWidget* parent = nullptr);
+              const TextStyle& style = Text::body, QWidget* parent = nullptr);
 
     void setTitle(const QString& title);
     [[nodiscard]] QAccessible::Role accessibleRole() const override;

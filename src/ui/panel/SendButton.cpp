@@ -6,7 +6,6 @@
 #include "ui/text/IconLabel.h"
 #include "ui/text/Keycap.h"
 #include "ui/text/SymbolView.h"
-#include "ui/text/TextBlock.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -62,7 +61,7 @@ void SendButton::setClip(const Clipboard::Summary& clip, bool busy) {
     const QString line = QString::fromStdString(clip.line);
     symbol_->setSymbol(busy ? "arrow.up.circle" : clip.symbol);
     title_->setText(busy ? tr("Sending…") : tr("Send clipboard"));
-    line_->setText(TextBlock::verbatim(line));
+    line_->setText(line);
     setBusy(busy);
     setDescription(*this, busy ? tr("Sending…") : line);
 }

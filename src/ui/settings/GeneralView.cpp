@@ -26,7 +26,7 @@ namespace {
 
 constexpr double pickerWidth = 200;
 
-/// A value at the end of a row.
+/// The value at the end of a row.
 IconLabel* makeValue() {
     return new IconLabel{{}, {}, {.ink = Ink::secondary, .overflow = Overflow::elideMiddle}};
 }
@@ -142,7 +142,7 @@ void GeneralView::refresh() {
     refreshShortcut();
     sound_->showOn(config.playSound);
     banner_->showOn(config.showBanner);
-    // What is disabled is drawn dimmed.
+    // Disabled views are painted dimmed.
     positions_->setEnabled(config.showBanner);
     for (const auto& [position, card] : positionCards_)
         card->showSelected(config.bannerPosition == position);
@@ -162,11 +162,9 @@ void GeneralView::refreshShortcut() {
 void GeneralView::refreshTelegram() {
     const Config& config = store_.config();
     const QString bot = config.botName ? QString::fromStdString(*config.botName) : tr("connected");
-    bot_->setText(store_.tokenSaved() ? tr("@%1").arg(TextBlock::verbatim(bot))
-                                      : tr("Not connected"));
-    group_->setText(config.chatTitle
-                        ? TextBlock::verbatim(QString::fromStdString(*config.chatTitle))
-                        : tr("Not found yet"));
+    bot_->setText(store_.tokenSaved() ? tr("@%1").arg(bot) : tr("Not connected"));
+    group_->setText(config.chatTitle ? QString::fromStdString(*config.chatTitle)
+                                     : tr("Not found yet"));
     disconnect_->setVisible(store_.tokenSaved());
 }
 
@@ -188,7 +186,7 @@ void GeneralView::confirmUninstall() {
     sheet_->open();
 }
 
-/// The desktop may have changed what opens at login.
+/// Refreshes, because the desktop may have changed what opens at login.
 void GeneralView::showEvent(QShowEvent* event) {
     View::showEvent(event);
     refresher_.refreshNow();

@@ -19,7 +19,7 @@ constexpr double borderWidth = 1.5;
 constexpr double selectedFill = 0.12;
 constexpr double cardCorner = 9;
 
-/// In the order of BannerPosition: what a language makes of "in the" goes with the word.
+/// In the order of BannerPosition. Each is a whole phrase, because languages differ in "in the".
 constexpr std::array spokenNames{
     QT_TRANSLATE_NOOP("quillon::PositionCard", "Banner in the top"),
     QT_TRANSLATE_NOOP("quillon::PositionCard", "Banner in the middle"),

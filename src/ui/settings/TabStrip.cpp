@@ -56,6 +56,7 @@ QSize TabStrip::tabSizeHint(int index) const {
 
 void TabStrip::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing); // smooths the line below the mnemonic
     for (int i = 0; i < count(); ++i)
         paintTab(painter, i);
 }

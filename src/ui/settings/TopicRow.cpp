@@ -19,7 +19,7 @@ namespace {
 constexpr int betweenParts = 10;
 constexpr double ruleWidth = 120;
 
-/// What is said about the topic of a kind of content.
+/// The texts about the topic for one kind of content.
 struct Caption {
     std::string_view key;
     const char* hint;
@@ -44,14 +44,14 @@ const Caption* captionOf(const std::string& key) {
     return found == captions.end() ? nullptr : found;
 }
 
-/// What the name's field shows while it is empty.
+/// The text that the field shows while it is empty.
 QString hint(const std::string& key) {
     const Caption* caption = captionOf(key);
     return caption ? QCoreApplication::translate(context, caption->hint)
                    : QString::fromStdString(key);
 }
 
-/// What goes to the topic.
+/// The text about what goes to the topic.
 QString rule(const std::string& key) {
     const Caption* caption = captionOf(key);
     return caption ? QCoreApplication::translate(context, caption->rule) : QString{};
@@ -71,7 +71,7 @@ TopicRow::TopicRow(QWidget* parent)
     row->addWidget(name_, 1);
     row->addWidget(rule_);
     sizeRule();
-    // Assistive technology edits without what Qt takes for editing.
+    // QLineEdit::textEdited is not emitted when assistive technology edits the text.
     connect(name_, &QLineEdit::textChanged, this, [this](const QString& name) {
         if (name == shown_) return;
         shown_ = name;
@@ -85,7 +85,8 @@ void TopicRow::setTopic(const Topic& topic) {
     if (name_->accessibleName() != hint(topic.key)) name_->setAccessibleName(hint(topic.key));
     setDescription(*name_, rule(topic.key));
     rule_->setText(rule(topic.key));
-    // What the user is typing is already the topic's name, so that this is a name from elsewhere.
+    // While the user types, the field's text already is the topic's name. Another name comes from
+    // elsewhere.
     const QString name = QString::fromStdString(topic.name);
     shown_ = name;
     if (name_->text() != name) name_->setText(name);

@@ -26,7 +26,7 @@ constexpr double headerCorner = 10;
 constexpr TextStyle titleStyle{16, QFont::Bold};
 constexpr double telegramSize = 16;
 
-/// One line of what is removed.
+/// One line of the list of what is removed.
 struct Row {
     const char* symbol;
     QColor color;
@@ -45,7 +45,7 @@ constexpr std::array<Row, 5> rows{{
      QT_TRANSLATE_NOOP("quillon::UninstallSheet", "Then it moves the app to the Trash and quits")},
 }};
 
-/// The trash on its tile, larger than those of rows.
+/// A tile with the trash, larger than the tiles of rows.
 class HeaderTile : public View {
 public:
     HeaderTile() { setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); }
@@ -90,7 +90,7 @@ void UninstallSheet::fit() {
                                                       : layout()->totalSizeHint().height());
 }
 
-/// The texts may become larger while it shows.
+/// Fits again, because the texts may become larger while the sheet shows.
 bool UninstallSheet::event(QEvent* event) {
     if (event->type() == QEvent::LayoutRequest) fit();
     return QDialog::event(event);
@@ -107,13 +107,8 @@ QHBoxLayout* UninstallSheet::buildHeader() {
 QVBoxLayout* UninstallSheet::buildRows() {
     auto* list = new QVBoxLayout;
     list->setSpacing(Space::small);
-    for (const Row& each : rows) {
-        auto* row = new QHBoxLayout;
-        row->setSpacing(Space::small + Space::hair);
-        row->addWidget(new Tile{each.symbol, each.color});
-        row->addWidget(new IconLabel{tr(each.text), {}, {.style = Text::callout}}, 1);
-        list->addLayout(row);
-    }
+    for (const Row& each : rows)
+        list->addWidget(new TileLabel{tr(each.text), each.symbol, each.color, Text::callout});
     return list;
 }
 
@@ -154,7 +149,7 @@ void UninstallSheet::confirm() {
     uninstall_();
 }
 
-/// Escape, Cancel and the window's own button.
+/// Called for Escape, for Cancel, and when the desktop closes the window.
 void UninstallSheet::reject() {
     if (!working_) QDialog::reject();
 }

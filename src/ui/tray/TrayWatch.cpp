@@ -25,7 +25,7 @@ void TrayWatch::watchBus() {
     auto* const owner =
         new QDBusServiceWatcher{watcherName, bus_, QDBusServiceWatcher::WatchForOwnerChange, this};
     connect(owner, &QDBusServiceWatcher::serviceOwnerChanged, this, [this] {
-        setHosted(false); // whoever comes next knows nothing of icons given to another
+        setHosted(false); // a new watcher knows nothing of the icons that the last one had
         askWatcher();
     });
     for (const char* signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
@@ -56,7 +56,8 @@ void TrayWatch::setHosted(bool hosted) {
 }
 
 std::optional<QColor> TrayWatch::foreground() const {
-    // Four colours, the first that of text and symbols, each of three cardinals up to 65535.
+    // The property is four colours, each of three cardinals up to 65535. The first colour is that
+    // of text and symbols.
     const auto reply = manager_.property(XCB_ATOM_CARDINAL, 3);
     if (!reply || reply->format != 32 || reply->value_len < 3) return std::nullopt;
     const auto* const rgb = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));

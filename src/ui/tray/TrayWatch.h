@@ -10,33 +10,34 @@
 
 namespace quillon {
 
-/// Knows whether the desktop has a place for icons at the moment: a status notifier host on the
-/// session bus (org.kde.StatusNotifierWatcher) or an X11 system tray (the manager selection of the
-/// freedesktop System Tray Protocol). Both may come late, go and come back.
+/// Watches whether the desktop has a place for icons: a status notifier host on the session bus
+/// (org.kde.StatusNotifierWatcher) or an X11 system tray (the manager selection of the freedesktop
+/// System Tray Protocol). Both may come late, go, and come back.
 class TrayWatch : public QObject {
     Q_OBJECT
 
 public:
     explicit TrayWatch(QDBusConnection bus = QDBusConnection::sessionBus());
 
-    /// Whether the bus has answered: nothing is sure before.
+    /// Whether the bus has answered. Before that, hosted() and watched() mean nothing.
     [[nodiscard]] bool known() const { return hosted_.has_value(); }
-    /// There is a status notifier host.
+    /// Whether there is a status notifier host.
     [[nodiscard]] bool hosted() const { return hosted_.value_or(false); }
-    /// There is an X11 system tray.
+    /// Whether there is an X11 system tray.
     [[nodiscard]] bool managed() const { return manager_.present(); }
-    /// There is a status notifier watcher, so that a host may well be on its way.
+    /// Whether there is a status notifier watcher, so that a host may be about to come.
     [[nodiscard]] bool watched() const { return watched_; }
-    /// The colour that an X11 system tray wants icons to have, if it says so.
+    /// The colour that the X11 system tray wants icons to have, if it tells.
     [[nodiscard]] std::optional<QColor> foreground() const;
-    /// Has the X11 system tray tell when it ends and when its colour changes. To be called again
-    /// after Qt has made an icon, since it listens on the same connection, to less.
+    /// Subscribes to the end of the X11 system tray and to changes of its colour. Has to be called
+    /// again after Qt has made an icon: Qt subscribes to less on the same connection, which
+    /// replaces this.
     void listen() const { manager_.listen(); }
 
 Q_SIGNALS:
-    /// A place for icons has come, to which an icon must be given anew, or one has gone.
+    /// A place for icons has come, which needs a new icon, or has gone.
     void changed();
-    /// foreground() is another.
+    /// foreground() has changed.
     void recoloured();
 
 private Q_SLOTS:

@@ -28,11 +28,27 @@ TEST(IconLabel, SaysItsTextWithoutTheStarsOfBoldParts) {
         {"*.png", "*.png"},
     };
     for (const auto& each : cases) {
-        IconLabel label{QString::fromUtf8(each.text)};
+        IconLabel label{markedUp(QString::fromUtf8(each.text))};
         EXPECT_EQ(accessibleName(label), each.plain);
         EXPECT_EQ(label.shownText().toStdString(), each.plain);
         EXPECT_EQ(accessible(label).role(), QAccessible::StaticText);
     }
+}
+
+TEST(IconLabel, ShowsAPlainTextAsItIs) {
+    for (const char* const text : {"**", "a **b** c", "*****", "no stars"}) {
+        IconLabel label{QString::fromUtf8(text)};
+        EXPECT_EQ(accessibleName(label), text);
+        EXPECT_EQ(label.shownText().toStdString(), text);
+        EXPECT_EQ(label.text().runs(), (std::vector{StyledText::Run{QString::fromUtf8(text)}}));
+    }
+}
+
+TEST(IconLabel, GivesBoldPartsTheirRoom) {
+    const QString word = QStringLiteral("wwwwww");
+    const QString stars = QStringLiteral("**");
+    EXPECT_GT(IconLabel{markedUp(stars + word + stars)}.sizeHint().width(),
+              IconLabel{word}.sizeHint().width());
 }
 
 TEST(IconLabel, ALongNameLosesItsMiddleOnTheScreenButIsReadWhole) {
@@ -74,7 +90,7 @@ TEST(Views, TellAssistiveTechnologyWhatTheyShow) {
     EXPECT_EQ(spokenKeys({QStringLiteral("⌃"), QStringLiteral("⌥"), QStringLiteral("V")}),
               QStringLiteral("Control Alt V"));
     IconLabel label{QStringLiteral("one")};
-    label.setText(QStringLiteral("Press **⌃⌥V**."));
+    label.setText(markedUp(QStringLiteral("Press **⌃⌥V**.")));
     EXPECT_EQ(accessibleName(label), "Press Control Alt V.");
 }
 

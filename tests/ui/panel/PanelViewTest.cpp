@@ -165,10 +165,7 @@ TEST_F(ReadyPanel, NamesTheGroupItIsConnectedTo) {
           std::pair{std::optional<std::string>{}, "Connected · your group"}}) {
         world.store->changeConfig([&](Config& config) { config.chatTitle = title; });
         turn();
-        std::vector<std::string> names = seen();
-        for (std::string& name : names)
-            name = QString::fromStdString(name).remove(QChar{0x2060}).toStdString();
-        EXPECT_THAT(names, Contains(status));
+        EXPECT_THAT(seen(), Contains(status));
     }
 }
 
@@ -209,7 +206,7 @@ TEST_F(ReadyPanel, LooksAtTheClipboardOnceASecondAndOnlyWhileShown) {
 TEST_F(ReadyPanel, ListsTheFiveNewestWithTheirAge) {
     const Date now = world.clock.now();
     std::vector<Sent> history{sent("new.pdf", now - 59s), sent("minute.pdf", now - 60s),
-                              sent("bad.pdf", now - 1h, "The file is too big.")};
+                              sent("**bad**.pdf", now - 1h, "The **file** is too big.")};
     for (const char* const name : {"4", "5", "6", "7"})
         history.push_back(sent(name, now - 48h));
     world.setContent("history.json", encodeHistory(history));
@@ -217,7 +214,7 @@ TEST_F(ReadyPanel, ListsTheFiveNewestWithTheirAge) {
     open();
     EXPECT_THAT(seen(), AllOf(Contains("new.pdf, 📄 Files · just now, Sent"),
                               Contains("minute.pdf, 📄 Files · 1 min. ago, Sent"),
-                              Contains("bad.pdf, The file is too big., Not sent"),
+                              Contains("**bad**.pdf, The **file** is too big., Not sent"),
                               Contains("5, 📄 Files · 2 days ago, Sent")));
     EXPECT_THAT(seen(), AllOf(Not(Contains("6")), Not(Contains("Nothing sent yet."))));
     world.clock.advance(1s);
