@@ -20,7 +20,7 @@ namespace {
 class Check {
 public:
     Check(QWidget& window, QStringList names) : window_{window}, names_{std::move(names)} {
-        // A name may be part of another.
+        // Longer names first, because one name may be part of another.
         std::ranges::sort(names_, [](auto& one, auto& other) { return one.size() > other.size(); });
     }
 
@@ -63,7 +63,7 @@ private:
             speech(about->child(i));
     }
 
-    /// What shows a text itself.
+    /// Whether the widget itself shows a text.
     static bool isLeaf(const QWidget& widget) {
         return qobject_cast<const QAbstractButton*>(&widget) ? !widget.layout()
                : qobject_cast<const QLabel*>(&widget) || qobject_cast<const View*>(&widget)

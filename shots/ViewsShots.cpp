@@ -30,7 +30,7 @@ QString operator""_q(const char* text, std::size_t size) {
     return QString::fromUtf8(text, static_cast<qsizetype>(size));
 }
 
-/// The send button, as a panel would make it.
+/// A button like the panel's send button.
 class CoralButton : public ContentButton {
 protected:
     void paintGround(QPainter& painter, const Theme& theme) override {
@@ -49,7 +49,7 @@ QHBoxLayout* row(std::initializer_list<QWidget*> views, int spacing = Space::sma
     return row;
 }
 
-/// As if the pointer were on it.
+/// Makes the button look as if the pointer were on it.
 QWidget* hovered(QAbstractButton* button) {
     button->setAttribute(Qt::WA_UnderMouse);
     return button;

@@ -9,7 +9,7 @@
 namespace quillon {
 namespace {
 
-// Window managers would keep the window on one workspace and below full-screen windows, so that it
+// Window managers would keep the window on one workspace and below full-screen windows, so it
 // bypasses them.
 constexpr Qt::WindowFlags overlay = Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                                     Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus |

@@ -5,7 +5,6 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QStyle>
 
 #include <algorithm>
 #include <array>
@@ -33,14 +32,8 @@ const KindLook& kindLook(ButtonKind kind) {
     return table.at(static_cast<std::size_t>(kind));
 }
 
-constexpr double symbolScale = 1.1; // of the text's size
-constexpr double symbolGap = 0.46;
 constexpr int hoveredProminent = 106; // percent of its lightness
 constexpr int pressedProminent = 108;
-
-double symbolSide(const TextStyle& style) {
-    return style.points * Theme::textScale() * symbolScale;
-}
 
 } // namespace
 
@@ -74,17 +67,14 @@ double TextButton::contentWidth() const {
 }
 
 double TextButton::symbolWidth() const {
-    if (symbol_.empty()) return 0;
-    const double gap = text().isEmpty() ? 0 : look_.style.points * Theme::textScale() * symbolGap;
-    return std::ceil(symbolSide(look_.style) + gap);
+    return symbol_.empty() ? 0 : symbolRoom(look_.style, !text().isEmpty());
 }
 
 QSize TextButton::sizeHint() const {
     const KindLook& kind = kindLook(look_.kind);
     const double line = QFontMetricsF{Theme::font(look_.style)}.height();
     const double height = std::max(Theme::length(kind.leastHeight), line + 2 * kind.above);
-    return {static_cast<int>(std::ceil(contentWidth() + 2 * kind.beside)),
-            static_cast<int>(std::ceil(height))};
+    return wholeSize(contentWidth() + 2 * kind.beside, height);
 }
 
 void TextButton::paintEvent(QPaintEvent* /*event*/) {
@@ -138,12 +128,11 @@ void TextButton::paintContent(QPainter& painter, const Theme& theme) const {
     const QFont font = Theme::font(look_.style);
     const QRectF box{rightToLeft ? left : left + symbolWidth(), 0, content - symbolWidth(),
                      static_cast<double>(height())};
-    const bool underlined = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
     painter.setFont(font);
     painter.setPen(color);
     painter.setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter.drawText(
-        box, Qt::AlignCenter | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+        box, Qt::AlignCenter | (underlinesMnemonic() ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
         QFontMetricsF{font}.elidedText(text(), Qt::ElideRight, box.width(), Qt::TextShowMnemonic));
 }
 

@@ -9,7 +9,6 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -91,7 +90,7 @@ MessageWindow::MessageWindow(const QString& title, const QString& text, bool war
 }
 
 void MessageWindow::setWidths() {
-    const int width = static_cast<int>(std::ceil(Theme::length(textWidth)));
+    const int width = Theme::wholeLength(textWidth);
     title_->setFixedWidth(width);
     text_->setMinimumWidth(width);
 }

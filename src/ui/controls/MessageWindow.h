@@ -40,7 +40,7 @@ public:
     /// Makes Escape, and the button with which the desktop closes the window, press this button.
     void setEscape(TextButton* button) { escape_ = button; }
 
-    /// Takes the window away as if no button had been pressed.
+    /// Takes the window away without pressing a button.
     void leave();
 
     /// The width of the text in points of the design.

@@ -9,7 +9,6 @@
 #include <QRadioButton>
 
 #include <algorithm>
-#include <cmath>
 
 namespace quillon {
 namespace {
@@ -32,7 +31,7 @@ public:
         const double width = metrics.size(Qt::TextShowMnemonic, text()).width() + 2 * besideText;
         const double height =
             std::max(Theme::length(leastHeight), metrics.height() + 2 * aboveText);
-        return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height))};
+        return wholeSize(width, height);
     }
 
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }

@@ -4,7 +4,6 @@
 #include "ui/controls/Tile.h"
 
 #include <QPainter>
-#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -22,7 +21,7 @@ constexpr double comfortableTitle = 300;
 constexpr double leastTitle = 64;
 
 QSizeF trackSize() {
-    return {std::ceil(Theme::length(trackWidth)), std::ceil(Theme::length(trackHeight))};
+    return wholeSize(Theme::length(trackWidth), Theme::length(trackHeight));
 }
 
 QColor mixed(QColor from, QColor to, double share) {
@@ -62,7 +61,7 @@ void Switch::hideEvent(QHideEvent* event) {
 
 TextBlock Switch::titleBlock() const {
     return TextBlock::title(text(), Theme::font(Text::body), layoutDirection(),
-                            style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0);
+                            underlinesMnemonic());
 }
 
 double Switch::besideTitle() const {
@@ -86,7 +85,7 @@ QSize Switch::hintFor(double mostTitle) const {
 
 int Switch::heightForWidth(int width) const {
     double height = trackSize().height();
-    if (!symbol_.empty()) height = std::max(height, Tile::side());
+    if (!symbol_.empty()) height = std::max<double>(height, Tile::side());
     TextBlock title = titleBlock();
     height = std::max(height, title.wrap(std::max(1.0, width - besideTitle())).height());
     return static_cast<int>(std::ceil(height));

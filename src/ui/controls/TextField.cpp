@@ -5,7 +5,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace quillon {
 namespace {
@@ -30,7 +29,7 @@ TextField::TextField(QWidget* parent) : Themed{parent} {
 
 QSize TextField::sizeHint() const {
     const int text = fontMetrics().height() + 2 * aboveText;
-    const int least = static_cast<int>(std::ceil(Theme::length(leastHeight)));
+    const int least = Theme::wholeLength(leastHeight);
     return {static_cast<int>(Theme::length(usualWidth)), std::max(text, least)};
 }
 

@@ -32,12 +32,11 @@ void Tile::setSymbol(const std::string& symbol, QColor color) {
 }
 
 QSize Tile::sizeHint() const {
-    const int whole = static_cast<int>(side());
-    return {whole, whole};
+    return {side(), side()};
 }
 
-double Tile::side() {
-    return std::ceil(Theme::length(sidePoints));
+int Tile::side() {
+    return Theme::wholeLength(sidePoints);
 }
 
 void Tile::paint(QPainter& painter, const QRectF& box, const std::string& symbol, QColor color,
@@ -49,7 +48,7 @@ void Tile::paint(QPainter& painter, const QRectF& box, const std::string& symbol
 
 void Tile::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
-    const QSizeF size{side(), side()};
+    const QSizeF size = sizeHint();
     const QPointF corner{(width() - size.width()) / 2, (height() - size.height()) / 2};
     paint(painter, {corner, size}, symbol_, color_, theme());
 }

@@ -18,7 +18,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
     /// The side of a tile in device-independent pixels.
-    [[nodiscard]] static double side();
+    [[nodiscard]] static int side();
     /// Paints a tile as large as `box`, for views that contain one.
     static void paint(QPainter& painter, const QRectF& box, const std::string& symbol, QColor color,
                       const Theme& theme);

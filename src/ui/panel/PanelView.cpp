@@ -110,7 +110,7 @@ QString PanelView::takenText(ShortcutChoice shortcut) {
 }
 
 void PanelView::focusMainAction() {
-    // With this reason the focus shows only once the user goes on with the keyboard.
+    // This reason does not show the focus. Users of the keyboard see it from their next key on.
     if (send_->isVisible() && send_->isEnabled()) return send_->setFocus(Qt::PopupFocusReason);
     if (!store_.isReady()) setup_->findChild<TextButton*>()->setFocus(Qt::PopupFocusReason);
 }

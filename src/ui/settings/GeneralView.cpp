@@ -16,7 +16,6 @@
 
 #include <QVBoxLayout>
 
-#include <cmath>
 #include <tuple>
 #include <utility>
 
@@ -152,7 +151,7 @@ void GeneralView::refresh() {
 
 void GeneralView::refreshShortcut() {
     const ShortcutChoice choice = store_.config().shortcut;
-    shortcut_->setFixedWidth(static_cast<int>(std::ceil(Theme::length(pickerWidth))));
+    shortcut_->setFixedWidth(Theme::wholeLength(pickerWidth));
     shortcut_->setCurrentIndex(static_cast<int>(choice));
     taken_->setText(tr("Another app already uses %1. Pick another one.")
                         .arg(QString::fromStdString(keysText(choice))));

@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -130,7 +129,7 @@ void SettingsView::showPage(int index) {
 }
 
 int SettingsView::fittingWidth() {
-    return static_cast<int>(std::ceil(Theme::length(designWidth)));
+    return Theme::wholeLength(designWidth);
 }
 
 int SettingsView::fittingHeight() const {

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace quillon {
 
@@ -102,7 +101,7 @@ void TopicRow::themeChanged() {
 }
 
 void TopicRow::sizeRule() {
-    rule_->setFixedWidth(static_cast<int>(std::ceil(Theme::length(ruleWidth))));
+    rule_->setFixedWidth(Theme::wholeLength(ruleWidth));
 }
 
 } // namespace quillon

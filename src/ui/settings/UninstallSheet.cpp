@@ -12,7 +12,6 @@
 #include <QVBoxLayout>
 
 #include <array>
-#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -51,7 +50,7 @@ public:
     HeaderTile() { setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); }
 
     [[nodiscard]] QSize sizeHint() const override {
-        const int side = static_cast<int>(std::ceil(Theme::length(headerTile)));
+        const int side = Theme::wholeLength(headerTile);
         return {side, side};
     }
 
@@ -85,7 +84,7 @@ UninstallSheet::UninstallSheet(std::function<QCoro::Task<>()> uninstall, QWidget
 }
 
 void UninstallSheet::fit() {
-    const int width = static_cast<int>(std::ceil(Theme::length(sheetWidth)));
+    const int width = Theme::wholeLength(sheetWidth);
     setFixedSize(width, layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
                                                       : layout()->totalSizeHint().height());
 }

@@ -38,8 +38,8 @@ void Chip::setChip(const QString& text, QColor color) {
 
 QSize Chip::sizeHint() const {
     const QFontMetricsF metrics{Theme::font(chipText)};
-    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text_) + 2 * besideText)),
-            static_cast<int>(std::ceil(metrics.height() + 2 * aboveText))};
+    return wholeSize(metrics.horizontalAdvance(text_) + 2 * besideText,
+                     metrics.height() + 2 * aboveText);
 }
 
 QSize Chip::minimumSizeHint() const {

@@ -18,9 +18,6 @@ namespace {
 // The most and the least width that a wrapped text asks for, in points of the design.
 constexpr double comfortableWidth = 360;
 constexpr double leastWidth = 56;
-// The size of a symbol and the gap after it, as multiples of the text's size.
-constexpr double symbolScale = 1.1;
-constexpr double symbolGap = 0.46;
 
 } // namespace
 
@@ -68,10 +65,7 @@ TextBlock IconLabel::block() const {
 }
 
 double IconLabel::indent() const {
-    if (symbol_.empty()) return 0;
-    const double size = look_.style.points * Theme::textScale();
-    return text_.isEmpty() ? std::ceil(size * symbolScale)
-                           : std::ceil(size * (symbolScale + symbolGap));
+    return symbol_.empty() ? 0 : symbolRoom(look_.style, !text_.isEmpty());
 }
 
 QSizeF IconLabel::layOut(TextBlock& block, double width) const {
@@ -131,7 +125,7 @@ void IconLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     const bool rightToLeft = layoutDirection() == Qt::RightToLeft;
     if (!symbol_.empty()) {
-        const double side = look_.style.points * Theme::textScale() * symbolScale;
+        const double side = symbolSide(look_.style);
         const double x = rightToLeft ? width() - left - side : left;
         paintSymbol(painter, {x, top, side, text.lineHeight()}, symbol_, side,
                     theme.color(look_.symbolInk.value_or(look_.ink)),

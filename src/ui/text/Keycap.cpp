@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -65,7 +64,7 @@ QSize KeyView::sizeHint() const {
     const double least = Theme::length(leastSide);
     const double width = std::max(least, metrics.horizontalAdvance(label_) + 2 * besideLabel);
     const double height = std::max(least, metrics.height() + 2);
-    return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height + shadowRoom))};
+    return wholeSize(width, height + shadowRoom);
 }
 
 QAccessible::Role KeyView::accessibleRole() const {

@@ -47,6 +47,13 @@ private:
 void paintSymbol(QPainter& painter, const QRectF& frame, const std::string& symbol, double size,
                  QColor color, SymbolWeight weight = SymbolWeight::regular);
 
+/// The side of a symbol beside text of this style, in device-independent pixels.
+[[nodiscard]] double symbolSide(const TextStyle& style);
+
+/// The width in whole pixels of such a symbol and, if `withGap`, of the gap between it and the
+/// text.
+[[nodiscard]] double symbolRoom(const TextStyle& style, bool withGap);
+
 /// The weight for symbols beside text of this weight.
 [[nodiscard]] SymbolWeight symbolWeight(QFont::Weight weight);
 

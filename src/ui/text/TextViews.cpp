@@ -12,7 +12,7 @@
 namespace quillon {
 namespace {
 
-/// In points of the design.
+/// The greatest height of a message, in points of the design.
 constexpr double highestMessage = 260;
 
 } // namespace
@@ -76,7 +76,7 @@ void MessageText::fit() {
     QPalette colors = palette();
     colors.setColor(QPalette::Text, theme().color(Ink::secondary));
     if (colors != palette()) setPalette(colors);
-    const double width = std::ceil(Theme::length(width_));
+    const int width = Theme::wholeLength(width_);
     QTextDocument document{toPlainText()};
     document.setDocumentMargin(0);
     document.setDefaultFont(font());
@@ -90,7 +90,7 @@ void MessageText::fit() {
     setViewportMargins(0, 0, height > highest ? Space::small : 0, 0);
     setVerticalScrollBarPolicy(height > highest ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     setFocusPolicy(height > highest ? Qt::StrongFocus : Qt::ClickFocus);
-    setFixedSize(static_cast<int>(width), static_cast<int>(std::min(height, highest)));
+    setFixedSize(width, static_cast<int>(std::min(height, highest)));
 }
 
 } // namespace quillon

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -132,6 +133,14 @@ double Theme::textScale() {
 
 double Theme::length(double points) {
     return points * std::max(1.0, textScale());
+}
+
+int Theme::wholeLength(double points) {
+    return static_cast<int>(std::ceil(length(points)));
+}
+
+QSize wholeSize(double width, double height) {
+    return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height))};
 }
 
 void setBrightWhileDisabled(QWidget& widget, bool bright) {

@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QPalette>
 #include <QPen>
+#include <QSize>
 
 #include <variant>
 
@@ -87,6 +88,8 @@ public:
     [[nodiscard]] static double textScale();
     /// A length of the design, in pixels. It grows with the text, but does not shrink with it.
     [[nodiscard]] static double length(double points);
+    /// The same, rounded up to whole pixels.
+    [[nodiscard]] static int wholeLength(double points);
 
 private:
     QPalette palette_;
@@ -96,6 +99,9 @@ private:
 
 /// The opacity of what is disabled, and of a step whose turn has not come.
 inline constexpr double dimmedOpacity = 0.45;
+
+/// A size of whole pixels that has room for this width and height.
+[[nodiscard]] QSize wholeSize(double width, double height);
 
 /// Whether the widget and all that is in it keep their colours while the widget is disabled. That
 /// is for a widget that is disabled for a moment only, and whose text is still to be read.

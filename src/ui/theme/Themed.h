@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QFocusEvent>
+#include <QStyle>
 
 #include <utility>
 
@@ -23,6 +24,11 @@ public:
 protected:
     [[nodiscard]] Theme theme() const { return Theme{*this}; }
     [[nodiscard]] bool showsFocus() const { return this->hasFocus() && byKeyboard_; }
+
+    /// Whether the style shows the mnemonic of a title by a line below it.
+    [[nodiscard]] bool underlinesMnemonic() const {
+        return this->style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
+    }
 
     /// Called when something has changed that the view's size or look derives from. Overriders drop
     /// what they have kept of it.

@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 
 namespace quillon {
 
@@ -49,8 +48,8 @@ QWidget* makeNotes(const std::string& notes) {
     auto* view = new ReadOnlyText;
     view->setStructuredText(releaseNotesHtml(notes));
     const int height = view->heightFor(Theme::length(MessageWindow::textWidth) - 2 * Space::small);
-    view->setMinimumHeight(std::clamp(height, static_cast<int>(lowestNotes),
-                                      static_cast<int>(std::ceil(Theme::length(highestNotes)))));
+    view->setMinimumHeight(
+        std::clamp(height, static_cast<int>(lowestNotes), Theme::wholeLength(highestNotes)));
     view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     view->setAccessibleName(UpdateWindows::tr("Release notes"));
     auto* ground = new CardGround;

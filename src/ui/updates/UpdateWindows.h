@@ -34,7 +34,7 @@ public:
     void dismiss() override;
 
 private:
-    /// Shows the dialog in place of the present one. `gently`, it does not become active.
+    /// Shows the dialog in place of the present one. If `gently`, it does not become active.
     void present(MessageWindow* dialog, bool gently = false);
     void showMessage(const QString& title, const QString& text);
 
