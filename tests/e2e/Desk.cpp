@@ -1,8 +1,8 @@
 #include "Desk.h"
 
 #include "support/Await.h"
+#include "support/Files.h"
 
-#include <QFile>
 #include <QRegularExpression>
 
 namespace quillon::test {
@@ -43,17 +43,11 @@ bool focusOther() {
 } // namespace
 
 Desk::Desk() {
-    const QString settings = files_.filePath(QStringLiteral("panel"));
-    QFile file{settings};
-    EXPECT_TRUE(file.open(QFile::WriteOnly));
-    file.write(panelSettings);
-    file.close();
     for (QProcess* process : {&panel_, &other_})
         process->setStandardErrorFile(QProcess::nullDevice());
     panel_.setStandardOutputFile(QProcess::nullDevice());
-    panel_.start(QStringLiteral("tint2"), {QStringLiteral("-c"), settings});
+    bringPanel();
     other_.start(QStringLiteral("xev"), words("-event keyboard -name probe"));
-    EXPECT_TRUE(waitUntil([] { return panelWindows().contains(QStringLiteral("tint2")); }));
     EXPECT_TRUE(waitUntil(focusOther));
 }
 
@@ -62,6 +56,13 @@ Desk::~Desk() {
         process->kill();
         process->waitForFinished();
     }
+}
+
+void Desk::bringPanel() {
+    const QString settings = files_.filePath(QStringLiteral("panel"));
+    write(settings.toStdString(), panelSettings);
+    panel_.start(QStringLiteral("tint2"), {QStringLiteral("-c"), settings});
+    EXPECT_TRUE(waitUntil([] { return panelWindows().contains(QStringLiteral("tint2")); }));
 }
 
 void Desk::takePanelAway() {
@@ -78,13 +79,18 @@ QRect Desk::icon() {
     return {number(3), number(4), number(1), number(2)};
 }
 
+void Desk::point(QPoint there) {
+    const std::string place = std::to_string(there.x()) + " " + std::to_string(there.y());
+    EXPECT_EQ(QProcess::execute(pointerTool, words("mousemove " + place)), 0);
+}
+
 void Desk::click(QPoint there) {
-    EXPECT_EQ(QProcess::execute(pointerTool, words("mousemove " + std::to_string(there.x()) + " " +
-                                                   std::to_string(there.y()) + " click 1")),
-              0);
+    point(there);
+    EXPECT_EQ(QProcess::execute(pointerTool, words("click 1")), 0);
 }
 
 void Desk::click(const Control& control) {
+    ASSERT_TRUE(control) << "nothing to click";
     QRect before;
     const auto rests = [&] {
         const QRect place = control.place();

@@ -22,6 +22,8 @@ public:
     /// Where the panel shows the program's icon; empty while it does not.
     [[nodiscard]] static QRect icon();
 
+    /// Moves the pointer.
+    static void point(QPoint there);
     static void click(QPoint there);
     /// In the middle of a control that has come to rest.
     static void click(const Control& control);
@@ -31,6 +33,7 @@ public:
 
     /// As on desktops that have no room for icons.
     void takePanelAway();
+    void bringPanel();
 
     /// Gives the keyboard to the other program's window.
     static void goToOtherWindow();

@@ -1,9 +1,7 @@
 // A new user, from the program's first start to the first picture on the phone: with the pointer,
 // with the keyboard alone, and through assistive technology alone.
 #include "Desk.h"
-#include "EndToEndTest.h"
-
-#include <algorithm>
+#include "EndToEnd.h"
 
 namespace quillon::test {
 
@@ -18,7 +16,7 @@ protected:
         EndToEnd::SetUp();
         program = quillon.start({});
         // The guide comes by itself.
-        reader.wait("password text", "Bot token");
+        ASSERT_TRUE(reader.wait("password text", "Bot token"));
     }
 
     void TearDown() override {
@@ -33,10 +31,20 @@ protected:
         };
     }
 
+    /// A picture of 40 by 30 pixels, made by another program.
+    static QByteArray picture() {
+        QProcess convert;
+        convert.start(QStringLiteral("convert"),
+                      {QStringLiteral("-size"), QStringLiteral("40x30"),
+                       QStringLiteral("xc:orange"), QStringLiteral("png:-")});
+        EXPECT_TRUE(convert.waitForFinished());
+        return convert.readAllStandardOutput();
+    }
+
     /// Copies a picture and presses the shortcut in another program's window.
     void sendPicture() {
         reader.forgetAnnouncements();
-        clipboard.copy("image/png", converted("png"));
+        clipboard.copy("image/png", picture());
         Desk::goToOtherWindow();
         Desk::press("ctrl+alt+v");
         EXPECT_TRUE(waitUntil([&] { return !messages("📸 Images").empty(); }));
@@ -55,10 +63,6 @@ protected:
             << "the panel's history does not show the picture";
     }
 
-    [[nodiscard]] bool hears(const std::string& text) {
-        return waitUntil([&] { return std::ranges::count(reader.announcements(), text) > 0; });
-    }
-
     /// Goes along the controls until this one has the keyboard.
     void tabTo(const std::string& name) {
         constexpr int most = 20;
@@ -70,11 +74,6 @@ protected:
             waitUntil([&] { return reader.focused().name() != before; });
         }
         EXPECT_EQ(reader.focused().name(), name) << "the keyboard went along " << passed;
-    }
-
-    void expectFocus(const std::string& name) {
-        EXPECT_TRUE(waitUntil([&] { return reader.focused().name() == name; }))
-            << reader.focused().name() << " has the keyboard, not " << name;
     }
 
     Desk desk;
@@ -114,17 +113,20 @@ TEST_F(FirstPicture, WithTheKeyboardAlone) {
     Desk::press("Return");
     phone.userSays(group, "hi");
     // What comes next has the keyboard already.
-    expectFocus("Find my group");
+    reader.waitForFocus("Find my group");
     Desk::press("Return");
-    expectFocus("Create the topics");
+    reader.waitForFocus("Create the topics");
     Desk::press("space");
     reader.wait("notification", "You're all set.");
 
     sendPicture();
     expectPictureOnPhone();
+    Desk::point({1270, 10});
     EXPECT_EQ(quillon.run({"panel"}).code, 0) << "as a shortcut of the desktop does";
     expectHistory();
-    expectFocus("Send clipboard to phone");
+    const QPoint panel = reader.wait("push button", "Send clipboard to phone").place().center();
+    EXPECT_LT((panel - Desk::icon().center()).manhattanLength(), 500) << "far from its icon";
+    reader.waitForFocus("Send clipboard to phone");
     Desk::press("Escape");
     EXPECT_TRUE(waitUntil([&] { return !reader.find(named("Image · 40×30")); }));
 }
@@ -134,7 +136,7 @@ TEST_F(FirstPicture, ThroughAssistiveTechnologyAlone) {
     const auto press = [this](const char* name) { reader.wait("push button", name).press(); };
     reader.wait("password text", "Bot token").enter("123456789:AAwrong");
     press("Connect");
-    EXPECT_TRUE(hears("Telegram didn't accept that bot token."));
+    EXPECT_TRUE(reader.hears("Telegram didn't accept that bot token."));
     const Control field = reader.wait("password text", "Bot token");
     field.enter(token);
     EXPECT_THAT(field.text(), Not(HasSubstr("demo"))) << "the token is read out";
@@ -142,13 +144,15 @@ TEST_F(FirstPicture, ThroughAssistiveTechnologyAlone) {
     phone.userSays(group, "hi");
     press("Find my group");
     press("Create the topics");
-    EXPECT_TRUE(hears("You're all set."));
+    EXPECT_TRUE(reader.hears("You're all set."));
 
     sendPicture();
-    EXPECT_TRUE(hears("Sent to 📸 Images"));
+    EXPECT_TRUE(reader.hears("Sent to 📸 Images"));
     expectPictureOnPhone();
     press("Open panel");
     expectHistory();
+    desk.bringPanel();
+    EXPECT_TRUE(waitUntil([] { return !Desk::icon().isEmpty(); })) << "does not come back";
 }
 
 } // namespace quillon::test

@@ -1,22 +1,21 @@
 #include "Program.h"
 
 #include "support/Await.h"
+#include "support/Files.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
 
 #include <pty.h>
-#include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
+#include <utmp.h>
 
 namespace quillon::test {
 
@@ -31,33 +30,12 @@ QStringList toList(const std::vector<std::string>& arguments) {
     return list;
 }
 
-/// Empty for a process that has just ended.
-std::string commandLine(int process) {
-    QFile file{QStringLiteral("/proc/%1/cmdline").arg(process)};
-    return file.open(QFile::ReadOnly) ? file.readAll().toStdString() : std::string{};
-}
-
-/// Becomes the program, in a child process.
-[[noreturn]] void become(const std::vector<std::string>& arguments,
-                         const QProcessEnvironment& environment) {
-    std::vector<std::string> words{QUILLON};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    std::vector<std::string> settings;
-    for (const QString& setting : environment.toStringList())
-        settings.push_back(setting.toStdString());
-    const auto pointers = [](std::vector<std::string>& texts) {
-        std::vector<char*> list(texts.size() + 1, nullptr);
-        std::ranges::transform(texts, list.begin(), [](std::string& text) { return text.data(); });
-        return list;
-    };
-    ::execve(QUILLON, pointers(words).data(), pointers(settings).data());
-    ::_exit(127);
-}
-
 } // namespace
 
 Program::Program(const std::string& botApi, const std::filesystem::path& data)
-    : environment{QProcessEnvironment::systemEnvironment()} {
+    : environment{QProcessEnvironment::systemEnvironment()},
+      executable{data / "quillon"} {
+    std::filesystem::create_symlink(QUILLON, executable);
     environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
     environment.insert(QStringLiteral("QUILLON_BOT_API"), QString::fromStdString(botApi));
     environment.insert(QStringLiteral("XDG_DATA_HOME"), QString::fromStdString(data.native()));
@@ -100,34 +78,40 @@ Finished Program::run(const std::vector<std::string>& arguments, const std::stri
 Finished Program::runOnTerminal(const std::vector<std::string>& arguments,
                                 const std::string& typed) const {
     int terminal = -1;
-    const pid_t child = ::forkpty(&terminal, nullptr, nullptr, nullptr);
-    if (child == 0) become(arguments, environment);
-    Finished run;
+    int programs = -1;
+    EXPECT_EQ(::openpty(&terminal, &programs, nullptr, nullptr, nullptr), 0);
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setChildProcessModifier([programs] { ::login_tty(programs); });
+    process.start(QString::fromStdString(executable), toList(arguments));
+    ::close(programs);
+    std::string shown;
     std::string left = typed;
     std::array<char, 4096> buffer{};
     // The terminal fails to be read once the last process on it has ended.
     for (ssize_t count = 0; (count = ::read(terminal, buffer.data(), buffer.size())) > 0;) {
-        run.out.append(buffer.data(), static_cast<std::size_t>(count));
+        shown.append(buffer.data(), static_cast<std::size_t>(count));
         if (left.empty()) continue;
         EXPECT_EQ(::write(terminal, left.data(), left.size()), static_cast<ssize_t>(left.size()));
         left.clear();
     }
-    int status = 0;
-    ::waitpid(child, &status, 0);
+    Finished run = finish(process);
+    run.out = shown;
     termios settings{};
     run.echoes = ::tcgetattr(terminal, &settings) == 0 && (settings.c_lflag & ECHO) != 0;
     ::close(terminal);
-    run.code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
     return run;
 }
 
-std::vector<int> Program::processes() {
+std::vector<int> Program::processes() const {
     std::vector<int> found;
-    const std::string wanted = std::string{QUILLON} + '\0';
+    const std::string wanted = executable.native() + '\0';
     for (const QString& entry : QDir{QStringLiteral("/proc")}.entryList(QDir::Dirs)) {
         bool number = false;
         const int id = entry.toInt(&number);
-        if (number && commandLine(id).starts_with(wanted)) found.push_back(id);
+        // The command line of a process that has just ended is empty.
+        if (number && content("/proc/" + entry.toStdString() + "/cmdline").starts_with(wanted))
+            found.push_back(id);
     }
     return found;
 }

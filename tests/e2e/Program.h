@@ -24,7 +24,9 @@ struct Finished {
 /// The program's command line, in an environment of the test's choosing.
 class Program {
 public:
-    /// The surroundings of the test, with a data folder of its own and `botApi` as the Bot API.
+    /// The surroundings of the test, with a data folder of its own and `botApi` as the Bot API. The
+    /// executable is a link in the data folder, so that nobody takes another desktop's processes
+    /// for this one's.
     Program(const std::string& botApi, const std::filesystem::path& data);
 
     /// Runs to the end, with `input` on standard input.
@@ -42,14 +44,14 @@ public:
     [[nodiscard]] Finished runOnTerminal(const std::vector<std::string>& arguments,
                                          const std::string& typed = {}) const;
 
-    /// All processes of the program, by id.
-    [[nodiscard]] static std::vector<int> processes();
+    /// The processes that were started as the executable, and their children, by id.
+    [[nodiscard]] std::vector<int> processes() const;
 
     /// Whether a program of the session takes commands.
     [[nodiscard]] static bool hasName();
 
     QProcessEnvironment environment;
-    std::filesystem::path executable = QUILLON;
+    std::filesystem::path executable;
 };
 
 /// Puts content on the desktop's clipboard, and takes it away again.

@@ -1,174 +1,165 @@
-// The library's headers first: its structures have members that Qt's keywords would replace.
-#include <atspi/atspi.h>
-
 #include "ScreenReader.h"
+
 #include "support/Await.h"
 
-#include <QDBusInterface>
-#include <QDBusVariant>
+#include <QDBusArgument>
+#include <QDBusReply>
 
 #include <algorithm>
-#include <array>
 #include <deque>
+#include <map>
 
 namespace quillon::test {
 
 namespace {
 
-using Accessible = _AtspiAccessible;
+constexpr const char* busName = "accessibility";
+constexpr int patience = 5'000; // ms for one answer
 
-std::string taken(char* text) {
-    std::string copy = text ? text : "";
-    g_free(text);
-    return copy;
+/// What GetRole answers. The names that programs give their roles differ from toolkit to toolkit.
+const std::map<uint, std::string> roles{
+    {2, "alert"},          {7, "check box"},    {16, "dialog"},       {23, "frame"},
+    {27, "image"},         {29, "label"},       {32, "list item"},    {37, "page tab"},
+    {40, "password text"}, {43, "push button"}, {44, "radio button"}, {61, "text"},
+    {101, "notification"}};
+
+/// Bits of what GetState answers.
+const std::map<std::string, unsigned> stateBits{
+    {"checked", 4},   {"collapsed", 5},  {"expanded", 10}, {"focused", 12},
+    {"selected", 23}, {"sensitive", 24}, {"showing", 25}};
+
+QDBusMessage ask(const QDBusConnection& bus, const QString& service, const QString& path,
+                 const QString& interface, const QString& method, const QVariantList& arguments) {
+    QDBusMessage message = QDBusMessage::createMethodCall(service, path, interface, method);
+    message.setArguments(arguments);
+    return bus.call(message, QDBus::Block, patience);
 }
 
-std::shared_ptr<Accessible> owned(Accessible* accessible) {
-    return {accessible, [](Accessible* last) {
-                if (last) g_object_unref(last);
-            }};
+/// Asks the service of the session that knows about assistive technology.
+QDBusMessage askSession(const char* interface, const char* method,
+                        const QVariantList& arguments = {}) {
+    return ask(QDBusConnection::sessionBus(), QStringLiteral("org.a11y.Bus"),
+               QStringLiteral("/org/a11y/bus"), QLatin1String{interface}, QLatin1String{method},
+               arguments);
 }
 
-void turnOn(const QString& property) {
-    QDBusInterface status{QStringLiteral("org.a11y.Bus"), QStringLiteral("/org/a11y/bus"),
-                          QStringLiteral("org.freedesktop.DBus.Properties")};
-    status.call(QStringLiteral("Set"), QStringLiteral("org.a11y.Status"), property,
-                QVariant::fromValue(QDBusVariant{true}));
+const QDBusConnection& accessibilityBus() {
+    static const QDBusConnection bus = [] {
+        const QDBusReply<QString> address = askSession("org.a11y.Bus", "GetAddress");
+        return QDBusConnection::connectToBus(address.value(), QLatin1String{busName});
+    }();
+    return bus;
 }
 
-bool announces(const std::string& role) {
-    return role == "alert" || role == "notification";
+QVariant firstOf(const QDBusMessage& answer) {
+    return answer.type() == QDBusMessage::ReplyMessage ? answer.arguments().value(0) : QVariant{};
 }
 
 } // namespace
 
-Control::Control(Accessible* accessible) : accessible_{owned(accessible)} {}
+QDBusMessage Control::call(const char* interface, const char* method,
+                           const QVariantList& arguments) const {
+    if (!*this) return {};
+    return ask(accessibilityBus(), service_, path_,
+               QStringLiteral("org.a11y.atspi.") + QLatin1String{interface}, QLatin1String{method},
+               arguments);
+}
+
+QVariant Control::property(const char* interface, const char* name) const {
+    if (!*this) return {};
+    const QString properties = QStringLiteral("org.freedesktop.DBus.Properties");
+    const QDBusMessage answer =
+        ask(accessibilityBus(), service_, path_, properties, QStringLiteral("Get"),
+            {QStringLiteral("org.a11y.atspi.") + QLatin1String{interface}, QLatin1String{name}});
+    return qvariant_cast<QDBusVariant>(firstOf(answer)).variant();
+}
 
 std::string Control::role() const {
-    return accessible_ ? taken(atspi_accessible_get_role_name(accessible_.get(), nullptr)) : "";
+    const auto role = roles.find(firstOf(call("Accessible", "GetRole")).toUInt());
+    return role == roles.end() ? "" : role->second;
 }
 
 std::string Control::name() const {
-    return accessible_ ? taken(atspi_accessible_get_name(accessible_.get(), nullptr)) : "";
+    return property("Accessible", "Name").toString().toStdString();
 }
 
 std::string Control::description() const {
-    return accessible_ ? taken(atspi_accessible_get_description(accessible_.get(), nullptr)) : "";
-}
-
-std::vector<std::string> Control::states() const {
-    std::vector<std::string> names;
-    AtspiStateSet* set = atspi_accessible_get_state_set(accessible_.get());
-    if (!set) return names;
-    GArray* states = atspi_state_set_get_states(set);
-    auto* kinds = static_cast<GEnumClass*>(g_type_class_ref(ATSPI_TYPE_STATE_TYPE));
-    for (guint i = 0; i < states->len; ++i) {
-        const GEnumValue* kind =
-            g_enum_get_value(kinds, static_cast<int>(g_array_index(states, AtspiStateType, i)));
-        if (kind) names.emplace_back(kind->value_nick);
-    }
-    g_type_class_unref(kinds);
-    g_array_free(states, TRUE);
-    g_object_unref(set);
-    return names;
+    return property("Accessible", "Description").toString().toStdString();
 }
 
 bool Control::is(const std::string& state) const {
-    return std::ranges::count(states(), state) > 0;
+    const auto words = qdbus_cast<QList<uint>>(firstOf(call("Accessible", "GetState")));
+    return !words.isEmpty() && (words.constFirst() >> stateBits.at(state) & 1U) != 0;
 }
 
 std::string Control::text() const {
-    AtspiText* text = atspi_accessible_get_text_iface(accessible_.get());
-    if (!text) return {};
-    std::string content =
-        taken(atspi_text_get_text(text, 0, atspi_text_get_character_count(text, nullptr), nullptr));
-    g_object_unref(text);
-    return content;
+    return firstOf(call("Text", "GetText", {0, -1})).toString().toStdString();
 }
 
 QRect Control::place() const {
-    AtspiComponent* component = atspi_accessible_get_component_iface(accessible_.get());
-    if (!component) return {};
-    AtspiRect* box = atspi_component_get_extents(component, ATSPI_COORD_TYPE_SCREEN, nullptr);
-    g_object_unref(component);
-    if (!box) return {};
-    const QRect place{box->x, box->y, box->width, box->height};
-    g_free(box);
-    return place;
+    constexpr uint onTheScreen = 0;
+    const QVariant extents = firstOf(call("Component", "GetExtents", {onTheScreen}));
+    return extents.isValid() ? qdbus_cast<QRect>(extents) : QRect{};
 }
 
 std::vector<Control> Control::children() const {
     std::vector<Control> all;
-    const int count = atspi_accessible_get_child_count(accessible_.get(), nullptr);
-    for (int i = 0; i < count; ++i) {
-        Control child{atspi_accessible_get_child_at_index(accessible_.get(), i, nullptr)};
-        if (child) all.push_back(std::move(child));
+    const QVariant answer = firstOf(call("Accessible", "GetChildren"));
+    if (!answer.isValid()) return all;
+    const auto list = qvariant_cast<QDBusArgument>(answer);
+    list.beginArray();
+    while (!list.atEnd()) {
+        QString service;
+        QDBusObjectPath path;
+        list.beginStructure();
+        list >> service >> path;
+        list.endStructure();
+        all.emplace_back(service, path.path());
     }
+    list.endArray();
     return all;
 }
 
-std::vector<std::string> Control::actions() const {
-    std::vector<std::string> names;
-    AtspiAction* action = atspi_accessible_get_action_iface(accessible_.get());
-    if (!action) return names;
-    const int count = atspi_action_get_n_actions(action, nullptr);
-    for (int i = 0; i < count; ++i)
-        names.push_back(taken(atspi_action_get_action_name(action, i, nullptr)));
-    g_object_unref(action);
-    return names;
+bool Control::canBePressed() const {
+    return property("Action", "NActions").toInt() > 0;
 }
 
 void Control::press() const {
-    AtspiAction* action = atspi_accessible_get_action_iface(accessible_.get());
-    ASSERT_NE(action, nullptr) << name();
-    EXPECT_TRUE(atspi_action_do_action(action, 0, nullptr)) << name();
-    g_object_unref(action);
+    EXPECT_TRUE(firstOf(call("Action", "DoAction", {0})).toBool()) << name();
 }
 
 void Control::enter(const std::string& text) const {
-    AtspiEditableText* field = atspi_accessible_get_editable_text_iface(accessible_.get());
-    ASSERT_NE(field, nullptr) << name();
-    EXPECT_TRUE(atspi_editable_text_set_text_contents(field, text.c_str(), nullptr)) << name();
-    g_object_unref(field);
+    const QVariantList arguments{QString::fromStdString(text)};
+    EXPECT_TRUE(firstOf(call("EditableText", "SetTextContents", arguments)).toBool()) << name();
 }
 
-/// What the bus tells of its own accord.
-struct ScreenReader::Ears {
-    AtspiEventListener* listener = nullptr;
-    std::vector<std::string> heard;
-
-    static void hear(AtspiEvent* event, void* ears) {
-        Control source{static_cast<Accessible*>(g_object_ref(event->source))};
-        if (event->detail1 == 1 && announces(source.role()))
-            static_cast<Ears*>(ears)->heard.push_back(source.name());
-        g_boxed_free(ATSPI_TYPE_EVENT, event);
-    }
-};
-
-ScreenReader::ScreenReader() : ears_{std::make_unique<Ears>()} {
-    // It would tell of each program that it finds gone.
-    g_log_set_handler(
-        "dbind", G_LOG_LEVEL_WARNING, [](const char*, GLogLevelFlags, const char*, void*) {},
-        nullptr);
-    turnOn(QStringLiteral("IsEnabled"));
-    turnOn(QStringLiteral("ScreenReaderEnabled"));
-    atspi_init();
-    // What is remembered may be older than what the test has just done.
-    Accessible* root = atspi_get_desktop(0);
-    atspi_accessible_set_cache_mask(root, ATSPI_CACHE_NONE);
-    g_object_unref(root);
-    ears_->listener = atspi_event_listener_new(Ears::hear, ears_.get(), nullptr);
-    atspi_event_listener_register(ears_->listener, "object:state-changed:showing", nullptr);
+ScreenReader::ScreenReader() {
+    for (const char* property : {"IsEnabled", "ScreenReaderEnabled"})
+        askSession("org.freedesktop.DBus.Properties", "Set",
+                   {QStringLiteral("org.a11y.Status"), QLatin1String{property},
+                    QVariant::fromValue(QDBusVariant{true})});
+    QDBusConnection bus = accessibilityBus();
+    EXPECT_TRUE(bus.connect({}, {}, QStringLiteral("org.a11y.atspi.Event.Object"),
+                            QStringLiteral("StateChanged"), this, SLOT(hear(QDBusMessage))));
+    // Programs tell only what somebody has asked the registry for.
+    ask(bus, QStringLiteral("org.a11y.atspi.Registry"), QStringLiteral("/org/a11y/atspi/registry"),
+        QStringLiteral("org.a11y.atspi.Registry"), QStringLiteral("RegisterEvent"),
+        {QStringLiteral("object:state-changed:showing")});
 }
 
-ScreenReader::~ScreenReader() {
-    atspi_event_listener_deregister(ears_->listener, "object:state-changed:showing", nullptr);
-    g_object_unref(ears_->listener);
+void ScreenReader::hear(const QDBusMessage& event) {
+    const QVariantList arguments = event.arguments();
+    if (arguments.value(0) != QStringLiteral("showing") || arguments.value(1) != 1) return;
+    const Control source{event.service(), event.path()};
+    const std::string role = source.role();
+    if (role == "alert" || role == "notification") heard_.push_back(source.name());
 }
 
 std::vector<Control> ScreenReader::windows() {
     std::vector<Control> all;
-    for (const Control& application : Control{atspi_get_desktop(0)}.children()) {
+    const Control desktop{QStringLiteral("org.a11y.atspi.Registry"),
+                          QStringLiteral("/org/a11y/atspi/accessible/root")};
+    for (const Control& application : desktop.children()) {
         if (application.name() != "Quillon") continue;
         for (const Control& window : application.children())
             all.push_back(window);
@@ -210,12 +201,13 @@ Control ScreenReader::focused() const {
     return find([](const Control& each) { return each.is("focused"); });
 }
 
-const std::vector<std::string>& ScreenReader::announcements() const {
-    return ears_->heard;
+void ScreenReader::waitForFocus(const std::string& name) const {
+    EXPECT_TRUE(waitUntil([&] { return focused().name() == name; }))
+        << focused().name() << " has the keyboard, not " << name;
 }
 
-void ScreenReader::forgetAnnouncements() {
-    ears_->heard.clear();
+bool ScreenReader::hears(const std::string& text) const {
+    return waitUntil([&] { return std::ranges::count(heard_, text) > 0; });
 }
 
 } // namespace quillon::test

@@ -1,9 +1,8 @@
 // One copy of the program from its download to its end, in a home of its own.
-#include "EndToEndTest.h"
+#include "EndToEnd.h"
 #include "support/RawServer.h"
 
 #include <algorithm>
-#include <fstream>
 
 namespace quillon::test {
 
@@ -39,11 +38,6 @@ std::vector<int> running(const path& executable) {
     return found;
 }
 
-std::string content(const path& file) {
-    std::ifstream stream{file};
-    return {std::istreambuf_iterator<char>{stream}, {}};
-}
-
 /// Whether such a window is there; if so, gives it the focus and presses the keys.
 bool answer(const std::string& title, const QStringList& keys = {QStringLiteral("Return")}) {
     const QString tool = QStringLiteral("xdotool");
@@ -66,13 +60,13 @@ public:
 
     void announce(const std::string& version, const std::string& archive,
                   const std::string& signature, std::size_t length) const {
-        std::ofstream{folder_ / "feed.xml"}
-            << R"(<rss version="2.0" xmlns:quillon="urn:dev.vostrel.quillon:update"><channel><item>)"
-            << "<quillon:version>" << version << "</quillon:version>"
-            << "<description>Sends even faster.</description>"
-            << R"(<enclosure type="application/x-xz" url=")" << server_.url("/" + archive)
-            << R"(" length=")" << length << R"(" quillon:edSignature=")" << signature
-            << R"("/></item></channel></rss>)";
+        write(folder_ / "feed.xml",
+              R"(<rss version="2.0" xmlns:quillon="urn:dev.vostrel.quillon:update"><channel><item>)"
+              "<quillon:version>" +
+                  version + "</quillon:version><description>Sends even faster.</description>" +
+                  R"(<enclosure type="application/x-xz" url=")" + server_.url("/" + archive) +
+                  R"(" length=")" + std::to_string(length) + R"(" quillon:edSignature=")" +
+                  signature + R"("/></item></channel></rss>)");
     }
 
 private:
@@ -160,19 +154,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(WholeLife, OffersOnceToMove) {
-    download();
-    for (const bool asks : {true, false}) {
-        resident = quillon.start({});
-        ASSERT_TRUE(!asks ||
-                    waitUntil([] { return answer("Quillon", {QStringLiteral("Escape")}); }));
-        ASSERT_TRUE(waitUntil(Program::hasName)) << "it has gone, or asks again";
-        resident->terminate();
-        ASSERT_EQ(Program::finish(*resident).code, 0);
-    }
-    EXPECT_TRUE(std::filesystem::exists(downloaded));
-}
 
 TEST_F(WholeLife, FromTheDownloadToTheTrash) {
     download();

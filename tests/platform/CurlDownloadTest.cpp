@@ -1,5 +1,6 @@
 #include "platform/linux/http/CurlTransport.h"
 #include "support/Await.h"
+#include "support/Files.h"
 #include "support/RawServer.h"
 
 #include <gmock/gmock.h>
@@ -8,7 +9,6 @@
 
 #include <sys/stat.h>
 
-#include <fstream>
 #include <future>
 
 namespace quillon::test {
@@ -36,11 +36,6 @@ protected:
         request.url = std::move(url);
         return await(transport.get(std::move(request))).has_value();
     }
-    std::string content() const {
-        std::ifstream stream{file, std::ios::binary};
-        return {std::istreambuf_iterator<char>{stream}, {}};
-    }
-
     QTemporaryDir folder;
     std::filesystem::path file = folder.filePath(QStringLiteral("file")).toStdString();
     CurlTransport transport;
@@ -64,13 +59,13 @@ TEST_F(CurlDownloadTest, FetchesFromThisMachineAndTellsProgress) {
     ::umask(0);
     EXPECT_EQ(await(transport.download(std::move(download))), DownloadOutcome::done);
     ::umask(022);
-    EXPECT_TRUE(content() == bytes);
+    EXPECT_TRUE(content(file) == bytes);
     EXPECT_TRUE(waitUntil([&] { return last == 1'000'000; }));
     EXPECT_THAT(request.get_future().get(), StartsWith("GET /a?b HTTP/1.1\r\n"));
     EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms(0600));
 
     EXPECT_EQ(outcome(server.url()), DownloadOutcome::unwritable) << "the file is there";
-    EXPECT_TRUE(content() == bytes);
+    EXPECT_TRUE(content(file) == bytes);
 }
 
 TEST_F(CurlDownloadTest, LeavesNothingBehindAFailure) {
@@ -160,7 +155,7 @@ TEST_F(CurlDownloadTest, StopsWhenAskedToAndWhenNothingMoves) {
     auto download = downloadOf(server.url());
     download.stop = source.get_token();
     const auto stopped = transport.download(download);
-    ASSERT_TRUE(waitUntil([&] { return content() == "xx"; }));
+    ASSERT_TRUE(waitUntil([&] { return content(file) == "xx"; }));
     source.request_stop();
     EXPECT_EQ(await(stopped), DownloadOutcome::stopped);
     EXPECT_FALSE(std::filesystem::exists(file));

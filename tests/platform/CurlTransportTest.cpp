@@ -1,12 +1,12 @@
 #include "platform/linux/http/CurlTransport.h"
+
+#include "sandbox/Sandbox.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
 
 #include <gmock/gmock.h>
 
 #include <QElapsedTimer>
-#include <QProcess>
-#include <QTemporaryDir>
 
 #include <future>
 
@@ -107,73 +107,42 @@ TEST_F(CurlTransportTest, TakesAReplyThatComesBeforeTheBodyHasGone) {
 }
 
 TEST_F(CurlTransportTest, FailsWithoutAWholeReply) {
-    struct Case {
-        const char* what;
-        std::function<void(Connection&)> serve;
-    };
-    const std::string oversized(HttpTransport::maximumReplySize + 1, 'x');
-    const Case cases[]{
-        {"closed without a word", [](Connection& connection) { connection.request(); }},
-        {"reply shorter than announced",
-         [](Connection& connection) {
-             connection.request();
-             connection.send("HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n{\"ok\":");
-         }},
-        {"not HTTP",
-         [](Connection& connection) {
-             connection.request();
-             connection.send("SSH-2.0-Server\r\n");
-         }},
-        {"reply too large",
-         [&](Connection& connection) {
-             connection.request();
-             connection.reply(200, oversized);
-         }},
-        {"endless reply without a length",
-         [](Connection& connection) {
-             connection.request();
-             connection.send("HTTP/1.1 200 OK\r\n\r\n");
-             while (connection.send(std::string(1 << 16, 'x')))
-                 continue;
-         }},
-    };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.what);
-        RawServer server{each.serve};
-        EXPECT_FALSE(post(server.url()));
-    }
-}
-
-TEST_F(CurlTransportTest, TakesAReplyOfTheLargestSize) {
-    const std::string largest(HttpTransport::maximumReplySize, 'x');
-    RawServer server{[&](Connection& connection) {
-        connection.request();
-        connection.reply(200, largest);
-    }};
-    const auto reply = post(server.url());
-    ASSERT_TRUE(reply);
-    EXPECT_EQ(reply->body.size(), HttpTransport::maximumReplySize);
-}
-
-TEST_F(CurlTransportTest, FailsWhereNobodyListens) {
-    std::string url;
+    std::string unused;
     {
         RawServer server{[](Connection&) {}};
-        url = server.url();
+        unused = server.url();
     }
-    EXPECT_FALSE(post(url));
-    EXPECT_FALSE(post("http://[::1"));
-    EXPECT_FALSE(post("ftp://127.0.0.1/"));
+    for (const std::string& url :
+         {unused, std::string{"http://[::1"}, std::string{"ftp://127.0.0.1/"}})
+        EXPECT_FALSE(post(url)) << url;
+    for (const char* reply :
+         {"", "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n{\"ok\":", "SSH-2.0-Server\r\n"}) {
+        RawServer server{[&](Connection& connection) {
+            connection.request();
+            connection.send(reply);
+        }};
+        EXPECT_FALSE(post(server.url())) << reply;
+    }
 }
 
-TEST_F(CurlTransportTest, RefusesHttpUnlessAllowed) {
-    RawServer server{[](Connection& connection) {
+TEST_F(CurlTransportTest, TakesRepliesUpToTheLargestSize) {
+    constexpr std::size_t largest{HttpTransport::maximumReplySize};
+    for (const std::size_t size : {largest, largest + 1}) {
+        RawServer server{[&](Connection& connection) {
+            connection.request();
+            connection.reply(200, std::string(size, 'x'));
+        }};
+        const auto reply = post(server.url());
+        EXPECT_EQ(reply ? static_cast<std::size_t>(reply->body.size()) : 0,
+                  size == largest ? size : 0);
+    }
+    RawServer endless{[](Connection& connection) {
         connection.request();
-        connection.reply(200, "");
+        connection.send("HTTP/1.1 200 OK\r\n\r\n");
+        while (connection.send(std::string(1 << 16, 'x')))
+            continue;
     }};
-    CurlTransport strict;
-    EXPECT_FALSE(await(strict.post(requestTo(server.url()))));
-    EXPECT_EQ(server.connections(), 0);
+    EXPECT_FALSE(post(endless.url())) << "without a length";
 }
 
 TEST_F(CurlTransportTest, CutsWhatStallsButNotWhatTrickles) {
@@ -264,74 +233,19 @@ TEST_F(CurlTransportTest, EndsTransfersWhenDestroyed) {
     EXPECT_EQ(second.result(), std::nullopt);
 }
 
-/// A server for https on localhost whose certificate nobody has signed.
-class TlsServer {
-public:
-    TlsServer() {
-        QProcess maker;
-        maker.start(QStringLiteral("openssl"),
-                    QStringLiteral("req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 "
-                                   "-nodes -days 2 -subj /CN=localhost "
-                                   "-addext subjectAltName=DNS:localhost -keyout %1 -out %2")
-                        .arg(key_, certificate())
-                        .split(u' '));
-        EXPECT_TRUE(maker.waitForFinished());
-        server_.start(QStringLiteral("openssl"),
-                      QStringLiteral("s_server -accept 127.0.0.1:0 -key %1 -cert %2")
-                          .arg(key_, certificate())
-                          .split(u' '));
-        EXPECT_TRUE(
-            waitUntil([&] { return hasPrinted("ACCEPT 127.0.0.1:") && output_.endsWith('\n'); }));
-        port_ = output_.mid(output_.lastIndexOf(':') + 1).trimmed().toStdString();
-    }
-    TlsServer(const TlsServer&) = delete;
-    TlsServer& operator=(const TlsServer&) = delete;
-    ~TlsServer() {
-        server_.kill();
-        server_.waitForFinished();
-    }
-
-    [[nodiscard]] QString certificate() const { return folder_.filePath(QStringLiteral("cert")); }
-    [[nodiscard]] std::string url(const std::string& host) const {
-        return "https://" + host + ':' + port_ + '/';
-    }
-    /// Answers the next request once it has come through.
-    void reply() {
-        EXPECT_TRUE(waitUntil([&] { return hasPrinted("POST / HTTP/"); }));
-        server_.write("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nhi");
-    }
-
-private:
-    bool hasPrinted(const char* text) {
-        server_.waitForReadyRead(50);
-        output_ += server_.readAllStandardOutput();
-        return output_.contains(text);
-    }
-
-    QTemporaryDir folder_;
-    QString key_ = folder_.filePath(QStringLiteral("key"));
-    QProcess server_;
-    QByteArray output_;
-    std::string port_;
-};
-
 TEST_F(CurlTransportTest, TrustsOnlyCertificatesItKnowsForTheHost) {
-    TlsServer server;
-    EXPECT_FALSE(post(server.url("localhost")));
+    const sandbox::Sandbox server{{.tls = true}};
+    const std::string port = ":" + std::to_string(server.port()) + "/";
+    const auto answered = [&](HttpTransport& http, const std::string& host) {
+        return await(http.post(requestTo("https://" + host + port))).has_value();
+    };
+    EXPECT_FALSE(answered(*transport, "localhost"));
+    CurlTransport trusting{{.trustedCertificates = server.caFile()}};
+    EXPECT_TRUE(answered(trusting, "localhost"));
+    EXPECT_FALSE(answered(trusting, "other.localhost")) << "this machine by a name of its own";
 
-    CurlTransport trusting{{.trustedCertificates = server.certificate().toStdString()}};
-    EXPECT_FALSE(await(trusting.post(requestTo(server.url("127.0.0.1")))));
-    const auto trusted = trusting.post(requestTo(server.url("localhost")));
-    server.reply();
-    EXPECT_EQ(await(trusted).value_or(HttpReply{}).body, "hi");
-
-    qputenv("SSL_CERT_FILE", server.certificate().toUtf8());
-    TlsServer another;
-    EXPECT_FALSE(post(another.url("localhost")));
-    qputenv("SSL_CERT_FILE", another.certificate().toUtf8());
-    const auto named = transport->post(requestTo(another.url("localhost")));
-    another.reply();
-    EXPECT_EQ(await(named).value_or(HttpReply{}).body, "hi");
+    qputenv("SSL_CERT_FILE", QByteArray::fromStdString(server.caFile()));
+    EXPECT_TRUE(answered(*transport, "localhost"));
     qunsetenv("SSL_CERT_FILE");
 }
 

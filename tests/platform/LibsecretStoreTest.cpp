@@ -1,6 +1,9 @@
 #include "platform/linux/keyring/LibsecretStore.h"
-#include "platform/SessionBus.h"
 #include "support/Await.h"
+#include "support/SessionBus.h"
+
+#include <QDBusObjectPath>
+#include <QDBusVariant>
 
 namespace quillon::test {
 namespace {
@@ -13,20 +16,42 @@ const KeychainItem token{"quillon-test-service", "quillon", "Quillon bot token"}
 const QStringList tokenAttributes{QStringLiteral("service"), QString::fromStdString(token.service),
                                   QStringLiteral("account"), QString::fromStdString(token.account)};
 
+constexpr const char* serviceName = "org.freedesktop.secrets";
+
+QDBusObjectPath path(const char* below) {
+    return QDBusObjectPath{QStringLiteral("/org/freedesktop/secrets/") + QLatin1String{below}};
+}
+
+/// What a method answers with these values.
+template <typename... Values>
+QVariantList answer(const Values&... values) {
+    return {QVariant::fromValue(values)...};
+}
+
+/// Runs the command line tool of the keyring to its end, and gives its output.
+QByteArray secretTool(const QStringList& arguments, const QByteArray& input = {}) {
+    QProcess tool;
+    tool.start(QStringLiteral("secret-tool"), arguments);
+    tool.write(input);
+    tool.closeWriteChannel();
+    EXPECT_TRUE(tool.waitForFinished());
+    return tool.readAllStandardOutput() + tool.readAllStandardError();
+}
+
 class KeyringTest : public testing::Test {
 protected:
     KeyringTest() { bus.startKeyring(); }
 
     /// The labels and secrets of the items with the token's attributes, as the tool lists them.
     QByteArray listing() {
-        return bus.secretTool(QStringList{QStringLiteral("search"), QStringLiteral("--all")} +
-                              tokenAttributes);
+        return secretTool(QStringList{QStringLiteral("search"), QStringLiteral("--all")} +
+                          tokenAttributes);
     }
 
     void storeForeign(const QByteArray& secret) {
-        bus.secretTool(QStringList{QStringLiteral("store"), QStringLiteral("--label=Other")} +
-                           tokenAttributes,
-                       secret);
+        secretTool(QStringList{QStringLiteral("store"), QStringLiteral("--label=Other")} +
+                       tokenAttributes,
+                   secret);
     }
 
     SessionBus bus;
@@ -95,8 +120,8 @@ TEST(LibsecretStoreTest, HasNothingWithoutABusOrAService) {
 }
 
 TEST(LibsecretStoreTest, GivesUpOnAServiceThatDoesNotAnswer) {
-    SessionBus bus;
-    const ScriptedSecretService service{bus, {}};
+    const SessionBus bus;
+    const BusService service{serviceName, {}};
     LibsecretStore store;
     const auto begin = Clock::now();
     EXPECT_FALSE(store.exists(token));
@@ -107,40 +132,40 @@ TEST(LibsecretStoreTest, GivesUpOnAServiceThatDoesNotAnswer) {
 /// A service that cannot be searched may hold the item all the same. Every answer comes in time,
 /// but all of them together do not.
 TEST(LibsecretStoreTest, ChangesNothingWithoutASearchAndTakesFiveSecondsInAll) {
-    ScriptedSecretService::Answers answers{
-        {"GetAll", "(@a{sv} {'Locked': <false>},)"},
-        {"ReadAlias", "(objectpath '/org/freedesktop/secrets/collection/login',)"},
-        {"OpenSession", "(<''>, objectpath '/org/freedesktop/secrets/session/s1')"}};
+    BusService::Answers answers{
+        {"GetAll", answer(QVariantMap{{QStringLiteral("Locked"), false}})},
+        {"ReadAlias", answer(path("collection/login"))},
+        {"OpenSession", answer(QDBusVariant{QString{}}, path("session/s1"))}};
     const auto expectNoChange = [&](std::chrono::milliseconds slowness, auto least, auto most) {
-        SessionBus bus;
-        const ScriptedSecretService service{bus, answers, slowness};
+        const SessionBus bus;
+        const BusService service{serviceName, answers, slowness};
         LibsecretStore store;
         const auto begin = Clock::now();
         EXPECT_FALSE(await(store.save(token, "value")));
         EXPECT_GE(Clock::now() - begin, least);
         EXPECT_LT(Clock::now() - begin, most);
-        EXPECT_TRUE(service.wasAsked("SearchItems"));
-        EXPECT_FALSE(service.wasAsked("OpenSession"));
+        EXPECT_FALSE(service.callers("SearchItems").isEmpty());
+        EXPECT_TRUE(service.callers("OpenSession").isEmpty());
     };
     expectNoChange(1s, 4900ms, 5600ms);
-    answers["SearchItems"] = "";
+    answers["SearchItems"] = std::nullopt;
     expectNoChange(0s, 0s, 1s);
 }
 
 TEST(LibsecretStoreTest, WaitsForTheUserForAsLongAsItTakes) {
-    SessionBus bus;
-    const ScriptedSecretService service{
-        bus,
-        {{"GetAll", "(@a{sv} {'Locked': <true>},)"},
-         {"SearchItems", "(@ao [], [objectpath '/org/freedesktop/secrets/collection/login/1'])"},
-         {"Unlock", "(@ao [], objectpath '/org/freedesktop/secrets/prompt/p1')"},
-         {"Prompt", "()"}}};
+    const SessionBus bus;
+    using Paths = QList<QDBusObjectPath>;
+    const BusService service{serviceName,
+                             {{"GetAll", answer(QVariantMap{{QStringLiteral("Locked"), true}})},
+                              {"SearchItems", answer(Paths{}, Paths{path("collection/login/1")})},
+                              {"Unlock", answer(Paths{}, path("prompt/p1"))},
+                              {"Prompt", answer()}}};
     auto store = std::make_unique<LibsecretStore>();
     EXPECT_TRUE(store->exists(token));
-    EXPECT_FALSE(service.wasAsked("Prompt"));
+    EXPECT_TRUE(service.callers("Prompt").isEmpty());
     const auto reading = store->read(token);
     const auto saving = store->save(token, "value");
-    EXPECT_TRUE(waitUntil([&] { return service.wasAsked("Prompt"); }));
+    EXPECT_TRUE(waitUntil([&] { return !service.callers("Prompt").isEmpty(); }));
     EXPECT_FALSE(waitUntil([&] { return reading.isFinished(); }, 5500ms));
 
     const auto begin = Clock::now();

@@ -1,11 +1,10 @@
 #include "platform/linux/desktop/LinuxAppearance.h"
 
-#include "platform/SessionBus.h"
 #include "support/Await.h"
+#include "support/SessionBus.h"
 
-#include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QDBusVirtualObject>
+#include <QDBusVariant>
 #include <QDataStream>
 
 #include <cmath>
@@ -17,9 +16,6 @@ namespace {
 using Scheme = Appearance::Scheme;
 using Settings = QMap<QString, QVariantMap>;
 
-constexpr const char* portalName = "org.freedesktop.portal.Desktop";
-constexpr const char* portalPath = "/org/freedesktop/portal/desktop";
-constexpr const char* settingsInterface = "org.freedesktop.portal.Settings";
 const QString common = QStringLiteral("org.freedesktop.appearance");
 const QString gnome = QStringLiteral("org.gnome.desktop.interface");
 const QString kde = QStringLiteral("org.kde.kdeglobals.KDE");
@@ -111,51 +107,22 @@ TEST(XSettings, AreReadInBothByteOrdersAndUpToAFault) {
     }
 }
 
-QDBusConnection connectToBus(const char* name) {
-    return QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"),
-                                         QLatin1String{name});
-}
-
-/// A settings portal that answers with what it is given, or not at all.
-class FakePortal : public QDBusVirtualObject {
-public:
-    explicit FakePortal(std::optional<QVariant> answer) : answer_{std::move(answer)} {
-        qDBusRegisterMetaType<Settings>();
-        bus_.registerVirtualObject(QLatin1String{portalPath}, this);
-        bus_.registerService(QLatin1String{portalName});
-    }
-    ~FakePortal() override {
-        bus_.unregisterService(QLatin1String{portalName});
-        QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
-    }
+/// A settings portal that answers ReadAll with what it is given.
+struct FakePortal : BusService {
+    explicit FakePortal(Answers answers)
+        : BusService{"org.freedesktop.portal.Desktop", std::move(answers)} {}
 
     void change(const QString& space, const char* key, const QVariant& value) const {
-        auto signal =
-            QDBusMessage::createSignal(QLatin1String{portalPath}, QLatin1String{settingsInterface},
-                                       QStringLiteral("SettingChanged"));
-        signal << space << QLatin1String{key} << QVariant::fromValue(QDBusVariant{value});
-        bus_.send(signal);
+        sendSignal("/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings",
+                   "SettingChanged",
+                   {space, QLatin1String{key}, QVariant::fromValue(QDBusVariant{value})});
     }
-    [[nodiscard]] bool asked() const { return asked_; }
-
-    QString introspect(const QString& /*path*/) const override { return {}; }
-    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
-        if (message.member() != QLatin1String{"ReadAll"}) return false;
-        asked_ = true;
-        message.setDelayedReply(true);
-        if (answer_) bus.send(message.createReply(*answer_));
-        return true;
-    }
-
-private:
-    QDBusConnection bus_ = connectToBus("portal");
-    std::optional<QVariant> answer_;
-    bool asked_ = false;
 };
 
 class LinuxAppearanceTest : public testing::Test {
 protected:
     LinuxAppearanceTest() {
+        qDBusRegisterMetaType<Settings>();
         portal_.follow([this](const Appearance& appearance) { told.push_back(appearance); });
     }
     ~LinuxAppearanceTest() override {
@@ -170,7 +137,8 @@ protected:
 
 private:
     SessionBus daemon_;
-    LinuxAppearance portal_{connectToBus("program")};
+    LinuxAppearance portal_{QDBusConnection::connectToBus(
+        qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("program"))};
 };
 
 TEST_F(LinuxAppearanceTest, FollowsAPortalThatComesLateAndAgain) {
@@ -179,7 +147,8 @@ TEST_F(LinuxAppearanceTest, FollowsAPortalThatComesLateAndAgain) {
                          {{QStringLiteral("text-scaling-factor"), 1.25},
                           {QStringLiteral("enable-animations"), false},
                           {QStringLiteral("cursor-size"), 24}}}};
-    std::optional<FakePortal> portal{QVariant::fromValue(dark)};
+    const BusService::Answers answers{{"ReadAll", QVariantList{QVariant::fromValue(dark)}}};
+    std::optional<FakePortal> portal{answers};
     EXPECT_TRUE(isTold({.scheme = Scheme::dark, .animations = false, .textScale = 1.25}));
     portal->change(common, "color-scheme", 2U);
     EXPECT_TRUE(isTold({.scheme = Scheme::light, .animations = false, .textScale = 1.25}));
@@ -193,18 +162,18 @@ TEST_F(LinuxAppearanceTest, FollowsAPortalThatComesLateAndAgain) {
     EXPECT_TRUE(isTold({.scheme = Scheme::light, .animations = false}));
     EXPECT_EQ(told.size(), changes + 1) << "what changes nothing is not told";
     portal.reset();
-    portal.emplace(QVariant::fromValue(dark));
+    portal.emplace(answers);
     EXPECT_TRUE(isTold({.scheme = Scheme::dark, .animations = false, .textScale = 1.25}));
 }
 
 TEST_F(LinuxAppearanceTest, TakesNoHarmFromAPortalThatHangsOrTalksNonsense) {
-    const std::optional<QVariant> answers[]{std::nullopt, QVariant{QStringLiteral("nonsense")}};
-    for (const auto& answer : answers) {
+    const BusService::Answers nonsense{{"ReadAll", QVariantList{QStringLiteral("nonsense")}}};
+    for (const bool hangs : {true, false}) {
         told.clear();
-        const FakePortal portal{answer};
-        EXPECT_TRUE(waitUntil([&] { return portal.asked(); }));
-        portal.change(common, "color-scheme", answer ? 1U : 2U);
-        EXPECT_TRUE(isTold({.scheme = answer ? Scheme::dark : Scheme::light}));
+        const FakePortal portal{hangs ? BusService::Answers{} : nonsense};
+        EXPECT_TRUE(waitUntil([&] { return !portal.callers("ReadAll").isEmpty(); }));
+        portal.change(common, "color-scheme", hangs ? 2U : 1U);
+        EXPECT_TRUE(isTold({.scheme = hangs ? Scheme::light : Scheme::dark}));
     }
 }
 

@@ -1,16 +1,11 @@
 #include "platform/linux/LinuxPlatform.h"
+
+#include "platform/EmptyPasteboard.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
 
 namespace quillon::test {
 namespace {
-
-class NoPasteboard : public Pasteboard {
-public:
-    [[nodiscard]] std::uint64_t changeCount() const override { return 0; }
-    [[nodiscard]] QFuture<std::vector<std::string>> formats() override { return {}; }
-    [[nodiscard]] QFuture<std::optional<QByteArray>> data(std::string) override { return {}; }
-};
 
 void setEnvironment(const char* name, const char* value) {
     value ? qputenv(name, value) : qunsetenv(name);
@@ -37,7 +32,7 @@ TEST(LinuxPlatformTest, TakesItsPlacesFromTheEnvironment) {
         setEnvironment("XDG_DATA_HOME", each.data);
         setEnvironment("HOME", each.home);
         setEnvironment("QUILLON_BOT_API", each.api);
-        LinuxPlatform platform{std::make_unique<NoPasteboard>()};
+        LinuxPlatform platform{std::make_unique<EmptyPasteboard>()};
         EXPECT_EQ(platform.platform().dataFolder, each.dataFolder);
         EXPECT_EQ(platform.platform().botApi, each.botApi);
     }
@@ -53,7 +48,7 @@ TEST(LinuxPlatformTest, SpeaksPlainHttpOnlyToAServerOfTheUsersChoice) {
     }};
     for (const bool chosen : {false, true}) {
         setEnvironment("QUILLON_BOT_API", chosen ? server.url().c_str() : nullptr);
-        LinuxPlatform platform{std::make_unique<NoPasteboard>()};
+        LinuxPlatform platform{std::make_unique<EmptyPasteboard>()};
         HttpRequest request;
         request.url = server.url();
         EXPECT_EQ(await(platform.platform().http.post(std::move(request))).has_value(), chosen);

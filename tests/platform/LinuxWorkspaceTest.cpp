@@ -2,14 +2,15 @@
 #include "platform/linux/desktop/RunningPrograms.h"
 #include "platform/linux/files/Trash.h"
 #include "support/Await.h"
+#include "support/Files.h"
 #include "support/Unprivileged.h"
 
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <csignal>
 #include <fstream>
 
 #include <sys/stat.h>
@@ -24,11 +25,6 @@ using testing::Not;
 
 constexpr const char* identifier = "dev.vostrel.quillon";
 
-std::string content(const path& file) {
-    std::ifstream stream{file, std::ios::binary};
-    return {std::istreambuf_iterator<char>{stream}, {}};
-}
-
 /// The first child of the process; empty while it has none.
 std::string childOf(const std::string& process) {
     const std::string children = content(path{"/proc"} / process / "task" / process / "children");
@@ -36,36 +32,21 @@ std::string childOf(const std::string& process) {
 }
 
 /// A process that runs this program until the end of the scope.
-class Running {
-public:
+struct Running : QProcess {
     Running(const path& program, bool unprivileged) {
-        int ends[2];
-        ::pipe2(ends, O_CLOEXEC);
-        pid_ = ::fork();
-        if (pid_ == 0) {
-            if (!unprivileged || becomeNobody()) {
-                ::chdir("/");
-                ::execl(program.c_str(), program.c_str(), "1000", nullptr);
-            }
-            ::write(ends[1], "x", 1);
-            ::_exit(1);
-        }
-        ::close(ends[1]);
-        char failed = 0;
-        started_ = ::read(ends[0], &failed, 1) == 0;
-        ::close(ends[0]);
+        setChildProcessModifier([unprivileged] {
+            if (unprivileged && !becomeNobody()) ::_exit(1);
+        });
+        setWorkingDirectory(QStringLiteral("/"));
+        start(QString::fromStdString(program), {QStringLiteral("1000")});
+        EXPECT_TRUE(waitForStarted()) << program;
     }
     Running(const Running&) = delete;
     Running& operator=(const Running&) = delete;
-    ~Running() {
-        ::kill(pid_, SIGKILL);
-        ::waitpid(pid_, nullptr, 0);
+    ~Running() override {
+        kill();
+        waitForFinished();
     }
-    [[nodiscard]] bool started() const { return started_; }
-
-private:
-    pid_t pid_;
-    bool started_;
 };
 
 class LinuxWorkspaceTest : public testing::Test {
@@ -113,7 +94,6 @@ TEST_F(LinuxWorkspaceTest, FindsRunningCopiesAlsoThoseThatHideTheirExecutable) {
     for (const path& program : {ours / "Contents/Linux/quillon", other / "Contents/Linux/quillon",
                                 gone / "Contents/Linux/quillon", root / "bin/sleep"}) {
         processes.push_back(std::make_unique<Running>(program, true));
-        ASSERT_TRUE(processes.back()->started());
     }
     EXPECT_TRUE(nobodySees({ours, gone}));
     fs::remove(gone / "Contents/Linux/quillon");
@@ -144,7 +124,7 @@ TEST_F(LinuxWorkspaceTest, TrashesSoThatItCanBePutBack) {
     const path item = root / "a b\n%\xff.app";
     for (const char* content : {"first", "second"}) {
         fs::create_directory(item);
-        std::ofstream{item / "file"} << content;
+        write(item / "file", content);
         EXPECT_TRUE(await(LinuxWorkspace{folders}.trash(item)));
         EXPECT_FALSE(fs::exists(item));
     }
@@ -167,7 +147,7 @@ TEST_F(LinuxWorkspaceTest, TrashesSoThatItCanBePutBack) {
 
 TEST_F(LinuxWorkspaceTest, TrashesAFileOfTheLongestName) {
     const path item = root / std::string(255, 'n');
-    std::ofstream{item} << "x";
+    write(item);
     EXPECT_TRUE(moveToTrash(item, root / "share"));
     EXPECT_FALSE(fs::exists(item));
 }
@@ -220,7 +200,7 @@ TEST_F(LinuxWorkspaceTest, OpensTheApplicationOnlyWhenTheProcessHasEnded) {
         << report.native() << ".new' 2>&1\nmv '" << report.native() << ".new' '" << report.native()
         << "'\n";
     fs::permissions(app / "Contents/Linux/quillon", fs::perms{0755});
-    std::ofstream{root / "leak"} << "x";
+    write(root / "leak");
 
     const pid_t child = ::fork();
     if (child == 0) {

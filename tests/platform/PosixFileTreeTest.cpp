@@ -2,11 +2,11 @@
 #include "platform/linux/files/Descriptor.h"
 #include "platform/linux/files/TreeCopy.h"
 #include "support/Await.h"
+#include "support/Files.h"
 #include "support/Unprivileged.h"
 
 #include <QTemporaryDir>
 
-#include <fstream>
 #include <map>
 
 #include <linux/fs.h>
@@ -21,15 +21,6 @@ namespace fs = std::filesystem;
 using fs::path;
 
 constexpr const char* mark = "user.com.apple.quarantine";
-
-void write(const path& file, const std::string& content = "x") {
-    std::ofstream{file, std::ios::binary} << content;
-}
-
-std::string content(const path& file) {
-    std::ifstream stream{file, std::ios::binary};
-    return {std::istreambuf_iterator<char>{stream}, {}};
-}
 
 void setModified(const path& item, time_t seconds, long nanoseconds) {
     const timespec times[]{{seconds, nanoseconds}, {seconds, nanoseconds}};

@@ -211,6 +211,7 @@ TEST_F(X11HotKeysTest, IsRefusedAsAWholeWhatAnotherProgramHoldsInPart) {
     EXPECT_EQ(hotKeys->registerHotKey(PhysicalKey::v), nullptr) << "it is registered already";
     EXPECT_EQ(pressesBy({control, alt, v}), 1);
     EXPECT_FALSE(other.grab(v, controlAlt));
+    EXPECT_TRUE(other.grabAll(p)) << "a key that nobody asked for is grabbed";
     registration.reset();
     settle();
     EXPECT_TRUE(other.grabAll(v)) << "still grabbed";

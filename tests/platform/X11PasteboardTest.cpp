@@ -205,13 +205,4 @@ TEST_F(X11PasteboardTest, SurvivesItsServer) {
     EXPECT_GT(pasteboard->changeCount(), changes);
 }
 
-TEST(X11Pasteboard, IsNotThereWithoutADisplay) {
-    const QByteArray display = qgetenv("DISPLAY");
-    for (const char* name : {"", ":59999"}) {
-        qputenv("DISPLAY", name);
-        EXPECT_EQ(X11Pasteboard::open(nullptr), nullptr) << name;
-    }
-    qputenv("DISPLAY", display);
-}
-
 } // namespace quillon::test

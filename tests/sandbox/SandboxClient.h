@@ -1,19 +1,16 @@
-// A client of the sandbox over libcurl, with a connection that it keeps.
 #pragma once
 
+#include "platform/linux/http/CurlTransport.h"
 #include "sandbox/Sandbox.h"
-
-#include <curl/curl.h>
+#include "support/Await.h"
 
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace quillon::sandbox {
 
 struct Reply {
-    CURLcode code = CURLE_OK;
-    long status = 0;
+    int status = 0; ///< 0 when no whole reply came
     std::string text;
 
     Json json() const { return Json::parse(text, nullptr, false); }
@@ -25,15 +22,10 @@ struct Reply {
     }
 };
 
+/// A client of the sandbox, with the demonstration's bot.
 class Client {
 public:
-    explicit Client(const Sandbox& sandbox, std::string token = Sandbox::demoToken)
-        : base_{sandbox.baseUrl()},
-          token_{std::move(token)},
-          ca_{sandbox.caFile().string()} {}
-    ~Client() { curl_easy_cleanup(curl_); }
-    Client(const Client&) = delete;
-    Client& operator=(const Client&) = delete;
+    explicit Client(const Sandbox& sandbox) : base_{sandbox.baseUrl()} {}
 
     Reply call(const std::string& method, const Json& parameters = Json::object()) {
         return post(path(method), "application/json", dumped(parameters));
@@ -52,39 +44,20 @@ public:
     }
 
     Reply post(const std::string& path, const std::string& contentType, const std::string& body) {
-        Reply reply;
-        curl_easy_reset(curl_);
-        curl_slist* headers = curl_slist_append(nullptr, ("Content-Type: " + contentType).c_str());
-        curl_easy_setopt(curl_, CURLOPT_URL, (base_ + path).c_str());
-        curl_easy_setopt(curl_, CURLOPT_HTTPHEADER, headers);
-        curl_easy_setopt(curl_, CURLOPT_POSTFIELDS, body.data());
-        curl_easy_setopt(curl_, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.size()));
-        curl_easy_setopt(curl_, CURLOPT_TIMEOUT_MS, timeoutMs);
-        curl_easy_setopt(curl_, CURLOPT_NOSIGNAL, 1L);
-        curl_easy_setopt(curl_, CURLOPT_NOPROXY, "*");
-        if (!ca_.empty()) curl_easy_setopt(curl_, CURLOPT_CAINFO, ca_.c_str());
-        curl_easy_setopt(curl_, CURLOPT_WRITEFUNCTION, append);
-        curl_easy_setopt(curl_, CURLOPT_WRITEDATA, &reply.text);
-        reply.code = curl_easy_perform(curl_);
-        curl_easy_getinfo(curl_, CURLINFO_RESPONSE_CODE, &reply.status);
-        curl_slist_free_all(headers);
-        return reply;
+        const auto reply = test::await(http_.post({.url = base_ + path,
+                                                   .headers = {{"Content-Type", contentType}},
+                                                   .body = {QByteArray::fromStdString(body)},
+                                                   .progress = {}}));
+        return reply ? Reply{reply->status, reply->body.toStdString()} : Reply{};
     }
 
-    std::string path(const std::string& method) const { return "/bot" + token_ + "/" + method; }
-
-    long timeoutMs = 20'000;
+    static std::string path(const std::string& method) {
+        return "/bot" + std::string{Sandbox::demoToken} + "/" + method;
+    }
 
 private:
-    static std::size_t append(const char* data, std::size_t, std::size_t size, std::string* text) {
-        text->append(data, size);
-        return size;
-    }
-
-    CURL* curl_ = curl_easy_init();
+    CurlTransport http_{{.allowHttp = true}};
     std::string base_;
-    std::string token_;
-    std::string ca_;
 };
 
 } // namespace quillon::sandbox

@@ -2,7 +2,7 @@
 
 #include "cli/RemoteProgram.h"
 #include "core/Core.h"
-#include "platform/SessionBus.h"
+#include "support/SessionBus.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
 #include "support/TestComputer.h"

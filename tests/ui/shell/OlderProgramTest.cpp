@@ -1,5 +1,5 @@
 #include "cli/RemoteProgram.h"
-#include "platform/SessionBus.h"
+#include "support/SessionBus.h"
 #include "support/Await.h"
 
 #include <QDBusConnection>

@@ -4,7 +4,10 @@
 #include "sandbox/Sandbox.h"
 #include "support/Await.h"
 #include "support/Faults.h"
+#include "support/Files.h"
 
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -16,16 +19,6 @@ namespace quillon::test {
 
 using sandbox::Json;
 
-/// A picture of 40 by 30 pixels in a format such as "png", made by another program.
-inline QByteArray converted(const std::string& format) {
-    QProcess convert;
-    convert.start(QStringLiteral("convert"),
-                  {QStringLiteral("-size"), QStringLiteral("40x30"), QStringLiteral("xc:orange"),
-                   QString::fromStdString(format) + QStringLiteral(":-")});
-    EXPECT_TRUE(convert.waitForFinished());
-    return convert.readAllStandardOutput();
-}
-
 /// A user with a desktop, a phone and the program.
 class EndToEnd : public testing::Test {
 protected:
@@ -35,6 +28,11 @@ protected:
         // Forgetting the bot empties the keyring: not the one of whoever runs this by hand.
         if (qgetenv("HOME").indexOf("quillon-desktop.") < 0)
             FAIL() << "to be run through tools/private-desktop";
+        const QStringList startable =
+            QDBusConnection::sessionBus().interface()->activatableServiceNames();
+        EXPECT_THAT(startable,
+                    testing::UnorderedElementsAre(u"org.freedesktop.DBus", u"org.a11y.Bus"))
+            << "the machine's services come to the tests";
         ASSERT_EQ(quillon.run({"forget"}).code, 0);
         phone.addBot(token, "quillon_demo_bot");
         group = phone.addGroup();
@@ -42,11 +40,9 @@ protected:
 
     void TearDown() override {
         clipboard.clear();
-        for (const int banner : Program::processes())
+        for (const int banner : quillon.processes())
             ::kill(banner, SIGTERM);
-        // Qt does not remove files whose names it cannot decode.
-        std::filesystem::remove_all(documents.path().toStdString());
-        EXPECT_TRUE(waitUntil([] { return Program::processes().empty(); }))
+        EXPECT_TRUE(waitUntil([this] { return quillon.processes().empty(); }))
             << "the program stays on";
     }
 
@@ -59,14 +55,23 @@ protected:
         phone.clearRequests();
     }
 
-    /// Writes a file and gives its name on the disk.
-    std::string file(const std::string& name, const std::string& content) const;
+    /// Writes a file and gives its URI.
+    [[nodiscard]] std::string file(const std::string& name, const std::string& bytes = "x") const {
+        const auto path = std::filesystem::path{documents.path().toStdString()} / name;
+        write(path, bytes);
+        return "file://" + QByteArray::fromStdString(path).toPercentEncoding("/").toStdString();
+    }
 
     /// The messages that the topic shows on the phone, its service messages left out.
-    std::vector<Json> messages(const std::string& topic) const;
-
-    [[nodiscard]] std::filesystem::path dataFile(const std::string& name) const {
-        return std::filesystem::path{data.path().toStdString()} / "Quillon" / name;
+    [[nodiscard]] std::vector<Json> messages(const std::string& topic) const {
+        const Json view = phone.view();
+        std::vector<Json> messages;
+        for (const Json& candidate : view["groups"][0]["topics"]) {
+            if (candidate["name"] != topic) continue;
+            for (const Json& message : candidate["messages"])
+                if (message["kind"] != "service") messages.push_back(message);
+        }
+        return messages;
     }
 
     QTemporaryDir data{QString::fromLocal8Bit(qgetenv("HOME")) + QStringLiteral("/data-XXXXXX")};

@@ -1,0 +1,147 @@
+// What the commands print and leave, for whoever types them and for scripts.
+#include "EndToEnd.h"
+
+#include <map>
+
+namespace quillon::test {
+
+namespace {
+
+using testing::HasSubstr;
+using testing::MatchesRegex;
+using testing::SizeIs;
+
+constexpr const char* notSetUp = "Bot:      not connected\n"
+                                 "Group:    not found yet\n"
+                                 "Topic:    📝 Notes & text (not created yet)\n"
+                                 "Topic:    📸 Images (not created yet)\n"
+                                 "Topic:    📎 Files (not created yet)\n"
+                                 "Topic:    🎬 Videos (not created yet)\n"
+                                 "Shortcut: ⌃⌥V\n"
+                                 "Ready:    no\n";
+
+class Commands : public EndToEnd {
+protected:
+    void expectRun(const std::vector<std::string>& arguments, int code, const std::string& out,
+                   const std::string& err, const std::string& input = {}) {
+        const Finished run = quillon.run(arguments, input);
+        EXPECT_EQ(run.code, code) << arguments.front();
+        EXPECT_EQ(run.out, out) << arguments.front();
+        EXPECT_EQ(run.err, err) << arguments.front();
+    }
+
+    void goFromConnectingToForgetting() {
+        expectRun({"status"}, 0, notSetUp, "");
+        expectRun({"find-group"}, 1, "", "Connect your bot first.\n");
+        expectRun({"create-topics"}, 1, "", "Find your group first.\n");
+        expectRun({"send"}, 1, "", "Finish setting up Quillon first\n");
+
+        expectRun({"connect"}, 0, "Connected to quillon_demo_bot\n", "",
+                  std::string{token} + "\nmore");
+        phone.userSays(group, "hi");
+        expectRun({"find-group"}, 0, "Found “Family”\n", "");
+        expectRun({"create-topics"}, 0, "📝 Notes & text\n📸 Images\n📎 Files\n🎬 Videos\n",
+                  "");
+        const Json status = Json::parse(quillon.run({"status", "--json"}).out);
+        EXPECT_EQ(status["ready"], true);
+        EXPECT_EQ(status["chatId"], group);
+        expectRun({"send"}, 1, "", "The clipboard is empty\n");
+
+        clipboard.copyText("first <line>\nsecond & last");
+        expectRun({"send"}, 0, "sent\t📝 Notes & text\tfirst <line>\n", "");
+        EXPECT_EQ(messages("📝 Notes & text").back()["pre"],
+                  Json::array({"first <line>\nsecond & last"}));
+        clipboard.clear();
+        const Finished history = quillon.run({"history"});
+        EXPECT_THAT(history.out, MatchesRegex("20..-..-.. ..:..:..\tsent\t📝 Notes & text\t"
+                                              "first <line>\n"));
+        expectRun({"rename-topics"}, 0, "", "");
+        expectRun({"forget"}, 0, "", "");
+        expectRun({"status"}, 0, notSetUp, "");
+        expectRun({"history"}, 0, history.out, "");
+    }
+};
+
+} // namespace
+
+TEST_F(Commands, AreUnderstoodOrExplained) {
+    const Finished help = quillon.run({"--help"});
+    EXPECT_THAT(help.out, HasSubstr("Usage: quillon [COMMAND]\n"));
+    expectRun({"--help"}, 0, help.out, "");
+    expectRun({"sned"}, 2, "", help.out);
+    EXPECT_THAT(quillon.run({"--version"}).out, MatchesRegex("quillon [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+}
+
+TEST_F(Commands, GoFromConnectingToForgetting) {
+    goFromConnectingToForgetting();
+}
+
+TEST_F(Commands, DoTheSameInTheProgramThatRuns) {
+    const auto program = quillon.start({});
+    EXPECT_TRUE(waitUntil(Program::hasName));
+    EXPECT_EQ(quillon.run({}).code, 0) << "one is enough, which comes to the front";
+    // Each would wait for the data folder, and then fail, if it were to do its work itself.
+    goFromConnectingToForgetting();
+    EXPECT_THAT(quillon.processes(), SizeIs(1)) << "no other shows the banner";
+    program->terminate();
+    EXPECT_EQ(Program::finish(*program).code, 0);
+    EXPECT_THAT(quillon.run({"history"}).out, HasSubstr("\tfirst <line>\n")) << "what it did stays";
+}
+
+TEST_F(Commands, TellOfEachFileWhatBecameOfIt) {
+    setUp();
+    clipboard.copyFiles({"# a comment", file("a"), "file:///nowhere/b", file("two\nlines.txt")});
+    phone.failNext(refusal("sendDocument", 400, "Bad Request: \x1b[31mTOPIC_CLOSED"));
+    expectRun({"send"}, 1,
+              "failed\t📎 Files\ta\nfailed\t📎 Files\tb\nsent\t📎 Files\ttwo\uFFFDlines.txt\n",
+              "Bad Request: \uFFFD[31mTOPIC_CLOSED\nCouldn't read b\n");
+    const Json history = Json::parse(quillon.run({"history", "--json"}).out);
+    ASSERT_THAT(history, SizeIs(3));
+    EXPECT_EQ(history[0]["title"], "two\nlines.txt") << "the newest stands first";
+    EXPECT_EQ(history[1]["error"], "Couldn't read b");
+    EXPECT_THAT(history[0]["date"].get<std::string>(),
+                MatchesRegex("20..-..-..T..:..:..\\.[0-9]+Z"));
+}
+
+TEST_F(Commands, SendFilesToTheTopicOfTheirEnding) {
+    setUp();
+    const std::map<std::string, std::string> topics{
+        {"a.mp4", "🎬 Videos"},     {"b.MOV", "🎬 Videos"},     {"c.m4v", "🎬 Videos"},
+        {"d.webm", "🎬 Videos"},    {"e.png", "📸 Images"},  {"f.JPG", "📸 Images"},
+        {"g.jpeg", "📸 Images"}, {"h.webp", "📸 Images"}, {"i.gif", "📸 Images"},
+        {"j.heic", "📸 Images"}, {"k.pdf", "📎 Files"},      {"l", "📎 Files"}};
+    std::vector<std::string> uris;
+    std::string told;
+    for (const auto& [name, topic] : topics) {
+        uris.push_back(file(name));
+        told += "sent\t" + topic + "\t" + name + "\n";
+    }
+    clipboard.copyFiles(uris);
+    expectRun({"send"}, 0, told, "");
+}
+
+TEST_F(Commands, ReadTheTokenFromATerminalUnseen) {
+    const Finished run = quillon.runOnTerminal({"connect"}, std::string{token} + "\n");
+    EXPECT_EQ(run.code, 0);
+    EXPECT_EQ(run.out, "Bot token: \r\nConnected to quillon_demo_bot\r\n");
+    EXPECT_TRUE(run.echoes);
+
+    const Finished interrupted = quillon.runOnTerminal({"connect"}, "\x03");
+    EXPECT_EQ(interrupted.code, 128 + SIGINT);
+    EXPECT_TRUE(interrupted.echoes);
+}
+
+TEST_F(Commands, ShowProgressOnATerminal) {
+    setUp();
+    clipboard.copyFiles({file("big.bin", std::string(40'000'000, 'x'))});
+    sandbox::Fault slow = fault(sandbox::FaultKind::delay);
+    slow.delay = std::chrono::seconds{3};
+    phone.failNext(slow);
+    const Finished run = quillon.runOnTerminal({"send"});
+    EXPECT_EQ(run.code, 0);
+    EXPECT_THAT(run.out, HasSubstr("\r\x1b[KSending… 40.0 of 40.0 MB"));
+    EXPECT_THAT(run.out, testing::EndsWith("\r\x1b[Ksent\t📎 Files\tbig.bin\r\n"))
+        << "and takes it away again";
+}
+
+} // namespace quillon::test
