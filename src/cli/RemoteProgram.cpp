@@ -61,7 +61,7 @@ public:
             QStringLiteral("Progress"), this, SLOT(progress(QString, qlonglong, qlonglong)));
     }
 
-private Q_SLOTS:
+public Q_SLOTS:
     void progress(const QString& activity, qlonglong done, qlonglong total) {
         console_.progress(activity.toStdString(), done, total);
     }
