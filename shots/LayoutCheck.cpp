@@ -20,7 +20,7 @@ namespace {
 class Check {
 public:
     Check(QWidget& window, QStringList names) : window_{window}, names_{std::move(names)} {
-        // A name may be part of another.
+        // Longer names first, because one name may be part of another.
         std::ranges::sort(names_, [](auto& one, auto& other) { return one.size() > other.size(); });
     }
 
@@ -63,7 +63,7 @@ private:
             speech(about->child(i));
     }
 
-    /// What shows a text itself.
+    /// Whether the widget itself shows a text.
     static bool isLeaf(const QWidget& widget) {
         return qobject_cast<const QAbstractButton*>(&widget) ? !widget.layout()
                : qobject_cast<const QLabel*>(&widget) || qobject_cast<const View*>(&widget)
@@ -73,9 +73,10 @@ private:
 
     void room(const QWidget& widget) {
         const auto* const label = qobject_cast<const IconLabel*>(&widget);
-        if (label && label->shownText() != label->wholeText()) {
+        const QString text = label ? label->text().plain() : QString{};
+        if (label && label->shownText() != text) {
             // Names may be of any length; the program's own words have to fit.
-            if (withoutNames(label->wholeText()) == label->wholeText())
+            if (withoutNames(text) == text)
                 faults_ << QStringLiteral("cut off: %1").arg(nameOf(widget));
             return;
         }

@@ -6,10 +6,9 @@ class QWidget;
 
 namespace quillon::test {
 
-/// What is wrong with the texts of a window that shows, a sentence each: texts that no catalogue
-/// can reach, seen or spoken; texts that are cut off; widgets that lie over each other or stick
-/// out. To be asked in the pseudo-language. `names` are texts from outside, which have no
-/// translation.
+/// The faults of a window that shows, a sentence for each: visible or spoken texts that are not
+/// translated, texts that are cut off, and widgets that overlap or stick out. Works only in the
+/// pseudo-language. `names` are texts from outside, which have no translation.
 [[nodiscard]] QStringList textFaults(QWidget& window, const QStringList& names);
 
 } // namespace quillon::test

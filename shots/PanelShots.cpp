@@ -68,7 +68,7 @@ struct Scene {
     void (*act)(BotComputer&, PanelView&) = nullptr;
 };
 
-/// As if the pointer were on it.
+/// Makes the widget look as if the pointer were on it.
 void hover(QWidget& widget) {
     widget.setAttribute(Qt::WA_UnderMouse);
     widget.update();
@@ -78,7 +78,7 @@ QAbstractButton& sendButton(PanelView& panel) {
     return *panel.findChild<SendButton*>();
 }
 
-/// Telegram makes it wait, on a clock that stands still.
+/// Makes the send go on for ever: Telegram asks it to wait, and the clock stands still.
 void sendForever(BotComputer& computer, PanelView& panel) {
     computer.sandbox.failNext(flood(1));
     sendButton(panel).click();
@@ -111,7 +111,7 @@ const std::vector<Scene> scenes{
      .clipboard = shortText,
      .act =
          [](BotComputer&, PanelView& panel) {
-             sendButton(panel).clearFocus(); // it had it, without a ring
+             sendButton(panel).clearFocus(); // it had the focus without showing it
              sendButton(panel).setFocus(Qt::TabFocusReason);
          }},
     {.name = "hover",
@@ -164,7 +164,7 @@ QPixmap take(const Scene& scene) {
     window.open({});
     until([&] { return computer.store->tokenSaved() || !scene.ready; });
     waitUntil([] { return false; }, 50ms);
-    window.show(); // another window of the display may have taken the focus
+    window.show(); // again, if another window of the display has taken the focus
     if (scene.act) scene.act(computer, *panel);
     return pictureOf(window);
 }
@@ -176,7 +176,7 @@ std::vector<Shot> shots() {
     return shots;
 }
 
-/// What is shown of the world outside: titles, topics, groups and ages.
+/// The texts from outside that the panel shows: titles, topics, groups and ages.
 QStringList names() {
     QStringList names{QStringLiteral("Quillon"),
                       QStringLiteral("Anna & Phone"),

@@ -16,7 +16,7 @@ constexpr std::u16string_view plain = u"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMN
 constexpr std::u16string_view accented = u"áƀçðéƒĝĥíĵķļɱñóþɋŕšţúṽŵẋýžÁƁÇÐÉƑĜĤÍĴĶĻⱮÑÓÞɊŔŠŢÚṼŴẊÝŽ";
 constexpr std::u16string_view vowels = u"áéíóúýÁÉÍÓÚÝ";
 
-/// What stays: tags, places.
+/// Matches what stays: tags and places.
 const QRegularExpression& kept() {
     static const QRegularExpression expression{QStringLiteral("</?[a-zA-Z][^<>]*>|%L?[1-9n]")};
     return expression;
@@ -31,7 +31,7 @@ bool isLetter(QChar character) {
     return plain.find(character.unicode()) != plain.npos;
 }
 
-/// Accents the letters, and repeats vowels while `missing` more letters are wanted.
+/// Accents the letters. Repeats vowels, and counts them off `missing`, while that is positive.
 QString accent(const QString& words, int& missing) {
     QString result;
     for (const QChar each : words) {
@@ -59,7 +59,7 @@ QString pseudo(const QString& text) {
         from = found.capturedEnd();
     }
     result += accent(text.mid(from), missing);
-    // Few vowels: the last word grows.
+    // If there were too few vowels, the last word grows.
     qsizetype end = result.size();
     while (end > 0 && accented.find(result[end - 1].unicode()) == accented.npos)
         --end;
@@ -72,7 +72,7 @@ bool isUntranslated(const QString& text) {
 
 QString PseudoTranslator::translate(const char* context, const char* text, const char* /*note*/,
                                     int /*count*/) const {
-    // Qt reads these itself: the direction of writing, and the names of keys.
+    // Qt interprets the texts of these contexts: the direction of writing and the names of keys.
     static const QList<QLatin1String> forQt{QLatin1String{"QGuiApplication"},
                                             QLatin1String{"QShortcut"}};
     return forQt.contains(QLatin1String{context}) ? QString{} : pseudo(QString::fromUtf8(text));

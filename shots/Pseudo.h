@@ -4,15 +4,15 @@
 
 namespace quillon::test {
 
-/// The text in a language of which nothing is real but its length: every letter has an accent, and
-/// there are 40 % more of them. What a catalogue has to keep is kept: places (%1, %n), the marks of
-/// mnemonics, HTML tags, stars, and characters that are no letters.
+/// The text in a made-up language: every letter gets an accent, and there are 40 % more letters.
+/// Keeps what a translation has to keep: places (%1, %n), the marks of mnemonics, HTML tags, stars,
+/// and characters other than letters.
 [[nodiscard]] QString pseudo(const QString& text);
 
-/// Whether a letter is left in the text that pseudo() would have changed.
+/// Whether the text contains a letter that pseudo() would have changed.
 [[nodiscard]] bool isUntranslated(const QString& text);
 
-/// A catalogue of that language, for every text of the program.
+/// Translates every text of the program into that language.
 class PseudoTranslator : public QTranslator {
 public:
     using QTranslator::QTranslator;

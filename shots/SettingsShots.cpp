@@ -22,7 +22,7 @@ constexpr const char* longName =
 
 constexpr const char* noRights = "Bad Request: not enough rights to manage topics";
 
-/// The window over a store in one state of its setup.
+/// The settings window over a store in a certain state of the setup.
 struct Stage {
     Stage(const char* tab, const Config& config, bool token = true) {
         computer.sandbox.userSays(computer.sandbox.addGroup(), "hi");
@@ -53,9 +53,9 @@ struct Stage {
         edit.setFocus();
         edit.selectAll();
         QTest::keyClicks(&edit, QString::fromUtf8(text));
-        QCoreApplication::processEvents(); // for what the text enables
+        QCoreApplication::processEvents(); // so that controls follow the text
     }
-    /// One of the program's, or one that Telegram gives.
+    /// Waits until a text shows: one of the program, or one of Telegram, which is not translated.
     void awaitText(const char* text) const {
         until([&] {
             return controls->shows(shown(text)) || controls->shows(QString::fromUtf8(text));
@@ -137,7 +137,7 @@ const std::map<std::string, Scene> scenes{
     {"setup-1-working",
      {on("setup", {}, false),
       [](Stage& stage) {
-          // Telegram makes it wait, on a clock that stands still.
+          // The action goes on for ever: Telegram asks it to wait, and the clock stands still.
           stage.computer.sandbox.failNext(flood(1));
           stage.type("Bot token", BotComputer::token);
           stage.click("Connect");
@@ -234,7 +234,7 @@ std::vector<Shot> shots() {
     return shots;
 }
 
-/// What Telegram and the user call things.
+/// The names that Telegram and the user have given.
 QStringList names() {
     QStringList names{QString::fromUtf8(longName),
                       QStringLiteral("the_bot_with_the_longest_name_bot"),

@@ -3,8 +3,8 @@
 #include "shots/LayoutCheck.h"
 #include "shots/Pseudo.h"
 #include "support/Await.h"
+#include "ui/theme/ApplicationTheme.h"
 #include "ui/theme/Motion.h"
-#include "ui/theme/Palettes.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -29,7 +29,7 @@ bool wanted(const char* look) {
     return qEnvironmentVariableIntValue(look) != 0;
 }
 
-/// Nothing moves, and no caret blinks.
+/// A style in which nothing moves.
 class StillStyle : public QProxyStyle {
 public:
     StillStyle() : QProxyStyle{QStringLiteral("Fusion")} {}
@@ -56,7 +56,7 @@ void dress() {
     QApplication::setFont(font);
 }
 
-/// All pictures on one, each with its name below.
+/// One large picture of all pictures, each with its name below.
 class Sheet {
 public:
     void add(const std::string& name, const QPixmap& picture) { all_.push_back({name, picture}); }
@@ -76,7 +76,7 @@ private:
     static constexpr int gap = 32;
     static constexpr int caption = 32;
 
-    /// Rows from the left; gives the height.
+    /// Paints the pictures in rows if there is a painter. Returns the height that they need.
     int layOut(QPainter* painter) const {
         int x = gap;
         int y = gap;
@@ -106,7 +106,7 @@ private:
     std::vector<Entry> all_;
 };
 
-/// What was found in the windows that pictures were taken of.
+/// The faults found in the windows that pictures were taken of.
 struct Findings {
     QStringList names;
     QStringList faults;
@@ -122,7 +122,7 @@ bool complain(const Shot& shot, const QString& fault) {
     return false;
 }
 
-/// Without a folder, the windows are checked.
+/// Takes and saves one picture. Without a folder it checks the window instead.
 bool take(const Shot& shot, const QString& folder, Sheet& sheet) {
     findings().faults.clear();
     try {
@@ -182,7 +182,7 @@ QPixmap pictureOf(QWidget& window) {
     QWidget& frame = *window.window();
     if (frame.windowFlags() & Qt::WindowDoesNotAcceptFocus) {
         waitUntil([] { return false; }, 30ms);
-    } else { // the focus shows only in the active window
+    } else { // the focus shows only in an active window
         frame.activateWindow();
         waitUntil([&] { return frame.isActiveWindow(); }, 2s);
         waitUntil([] { return false; }, 60ms);

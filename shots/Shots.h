@@ -9,10 +9,10 @@
 
 class QWidget;
 
-/// What the programs that take pictures of windows have in common. The environment tells how the
+/// The common part of the programs that take pictures of windows. The environment sets how the
 /// windows look: DARK=1 gives dark colours, PSEUDO=1 the pseudo-language of shots/Pseudo.h, RTL=1
-/// windows that are written from the right, TEXT=1.5 larger text; QT_SCALE_FACTOR does what it does
-/// for every program. The same window gives the same picture each time.
+/// windows that are written from right to left, and TEXT=1.5 larger text. QT_SCALE_FACTOR works as
+/// in any Qt program. The same window always gives the same picture.
 namespace quillon::test {
 
 struct Shot {
@@ -20,24 +20,24 @@ struct Shot {
     std::function<QPixmap()> take;
 };
 
-/// Takes the pictures into the folder that is the first argument, one PNG of its name for each;
-/// all, or those that the other arguments name. "--list" prints the names instead, and "--check"
-/// what is wrong with the windows' texts (shots/LayoutCheck.h). `names` are texts in the windows
-/// that no catalogue has: what the user named or sent. Gives the program's exit status: 1 when a
-/// picture did not come out, or something was wrong.
+/// Takes pictures, all or those that the further arguments name, and saves each under its name as a
+/// PNG in the folder that the first argument names. With "--list" as the first argument it prints
+/// the names instead, and with "--check" the faults of the windows' texts (shots/LayoutCheck.h).
+/// `names` are texts in the windows that are not translated, because the user named or sent them.
+/// Returns the program's exit status, which is 1 if a picture failed or a fault was found.
 [[nodiscard]] int takeShots(int argc, char** argv, const std::vector<Shot>& shots,
                             const QStringList& names);
 
-/// A text of the program as it shows now, in the pseudo-language if that is on.
+/// The text as windows show it: in the pseudo-language if that is on.
 [[nodiscard]] QString shown(const char* text);
 
-/// Turns the event loop until it is so; throws when that takes too long.
+/// Runs the event loop until `so` returns true. Throws if that takes too long.
 void until(const std::function<bool()>& so);
 
-/// The window as it is when all that it was told to do is done.
+/// A picture of the window after it has handled its pending events.
 [[nodiscard]] QPixmap pictureOf(QWidget& window);
 
-/// The window that shows now; it throws where there is none or more than one.
+/// The window that shows. Throws if there is none or more than one.
 [[nodiscard]] QWidget& onlyWindow();
 
 } // namespace quillon::test

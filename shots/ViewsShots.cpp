@@ -30,13 +30,12 @@ QString operator""_q(const char* text, std::size_t size) {
     return QString::fromUtf8(text, static_cast<qsizetype>(size));
 }
 
-/// The send button, as a panel would make it.
+/// A button like the panel's send button.
 class CoralButton : public ContentButton {
 protected:
     void paintGround(QPainter& painter, const Theme& theme) override {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(theme.fill(isDown() ? Brand::coral.darker(108) : Brand::coral));
-        painter.drawRoundedRect(rect(), Space::cardRadius, Space::cardRadius);
+        paintBox(painter, rect(), cornerRadius(),
+                 theme.fill(isDown() ? Brand::coral.darker(108) : Brand::coral));
     }
     [[nodiscard]] Tint focusTint() const override { return Brand::navy; }
 };
@@ -50,7 +49,7 @@ QHBoxLayout* row(std::initializer_list<QWidget*> views, int spacing = Space::sma
     return row;
 }
 
-/// As if the pointer were on it.
+/// Makes the button look as if the pointer were on it.
 QWidget* hovered(QAbstractButton* button) {
     button->setAttribute(Qt::WA_UnderMouse);
     return button;
@@ -96,8 +95,8 @@ Card* textCard() {
                                  new AppIconView{64}, new Wordmark{28}}));
     card->body()->addWidget(new IconLabel{"Title"_q, "sparkles", {.style = Text::title}});
     card->body()->addWidget(new IconLabel{"Headline"_q, "key.fill", {.style = Text::headline}});
-    card->body()->addWidget(new IconLabel{
-        "In Telegram, open **@BotFather**, send **/newbot** and follow the steps. It gives you a token. The bot is yours alone."_q});
+    card->body()->addWidget(new IconLabel{markedUp(
+        "In Telegram, open **@BotFather**, send **/newbot** and follow the steps. It gives you a token. The bot is yours alone."_q)});
     card->body()->addWidget(new IconLabel{
         "Nothing sent yet."_q, "tray", {.style = Text::callout, .ink = Ink::tertiary}});
     card->body()->addWidget(

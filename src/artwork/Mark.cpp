@@ -1,28 +1,30 @@
 #include "artwork/Mark.h"
 
-#include "artwork/MarkGeometry.h"
+#include "artwork/Shapes.h"
 
+#include <QLineF>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
+#include <array>
 
 namespace quillon {
 namespace {
 
-using namespace MarkGeometry;
-
+// The mark is designed on a canvas of 20 by 16 units, with y growing downwards.
+constexpr QRectF phone{10.86, 1.54, 5.78, 12.92};
 constexpr QRectF homeLine{12.85, 11.75, 1.80, 0.75};
-constexpr double gap = 0.7; // keeps the bar apart from the phone it enters
-
-QPainterPath rounded(const QRectF& box, double radius) {
-    QPainterPath path;
-    path.addRoundedRect(box, radius, radius);
-    return path;
-}
+constexpr QRectF contentBar{5.42, 6.30, 7.82, 3.40};
+constexpr std::array motion{QLineF{2.36, 6.81, 4.06, 6.81}, QLineF{3.04, 9.19, 4.40, 9.19}};
+constexpr double cornerRadius = 1.7;
+constexpr double phoneWidth = 1.5;
+constexpr double motionWidth = 1.3;
+constexpr double gap = 0.7; // between the bar and the outline of the phone that it enters
+/// What the mark covers of the canvas, line widths included. It is not centred there.
+constexpr QRectF extent{1.71, 0.79, 15.68, 14.42};
 
 /// The phone's outline, open at its left where the bar enters.
-QPainterPath phoneOutline() {
+QPainterPath openPhone() {
     const double corner = 2 * cornerRadius;
     const double left = phone.left();
     const double right = phone.right() - corner;
@@ -38,20 +40,31 @@ QPainterPath phoneOutline() {
     return path;
 }
 
-} // namespace
-
-void paintMark(QPainter& painter, const QRectF& frame, QColor ink, QColor accent) {
+void paint(QPainter& painter, const QRectF& frame, const QPainterPath& outline, QColor ink,
+           QColor accent) {
     const double scale = std::min(frame.width() / extent.width(), frame.height() / extent.height());
-    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(frame.center());
     painter.scale(scale, scale);
     painter.translate(-extent.center());
-    painter.strokePath(phoneOutline(), QPen{ink, phoneWidth, Qt::SolidLine, Qt::FlatCap});
-    painter.fillPath(rounded(homeLine, homeLine.height() / 2), ink);
-    painter.fillPath(rounded(contentBar, cornerRadius), accent);
+    painter.strokePath(outline, QPen{ink, phoneWidth, Qt::SolidLine, Qt::FlatCap});
+    painter.fillPath(roundedPath(contentBar, cornerRadius), accent);
     painter.setPen(QPen{accent, motionWidth, Qt::SolidLine, Qt::RoundCap});
     painter.drawLines(motion.data(), static_cast<int>(motion.size()));
+}
+
+} // namespace
+
+void paintMark(QPainter& painter, const QRectF& frame, QColor ink, QColor accent) {
+    painter.save();
+    paint(painter, frame, openPhone(), ink, accent);
+    painter.fillPath(capsulePath(homeLine), ink);
+    painter.restore();
+}
+
+void paintPlainMark(QPainter& painter, const QRectF& frame, QColor ink) {
+    painter.save();
+    paint(painter, frame, roundedPath(phone, cornerRadius), ink, ink);
     painter.restore();
 }
 

@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-/// The colours of tiles and badges, in sRGB. They tell neighbours apart and mean nothing.
+/// The colours of tiles and badges, in sRGB. They only tell neighbours apart.
 namespace quillon::Palette {
 
 inline constexpr QColor blue{51, 144, 236};

@@ -10,7 +10,8 @@
 #include <array>
 #include <cmath>
 
-// Outside the namespace, as the macro must be: static libraries drop resources nobody asks for.
+// The linker drops a static library's resources unless this macro asks for them. It only works
+// outside of namespaces.
 static void loadSymbols() {
     Q_INIT_RESOURCE(symbols);
 }
@@ -26,11 +27,11 @@ constexpr std::array table{
 
 constexpr std::string_view fallbackIcon = "hash";
 
-// Lines that are added around an icon's shapes, in the units of its 16 by 16 grid, whose own lines
-// are about 1 wide.
+// The width of the lines that each weight adds around an icon's shapes, in units of its 16 by 16
+// grid. The icon's own lines are about 1 wide.
 constexpr std::array<double, 3> extraLines{0, 0.4, 0.8};
 
-/// A filled symbol is heavy as it is; more line would only close what is cut out of it.
+/// Filled symbols get no extra line: it would only close their cut-outs.
 double extraLine(std::string_view name, SymbolWeight weight) {
     const bool filled = name.find(".fill") != std::string_view::npos;
     return filled ? 0 : extraLines.at(static_cast<std::size_t>(weight));
@@ -60,7 +61,7 @@ QPixmap drawSymbol(std::string_view icon, double size, QColor color, double devi
     pixmap.fill(Qt::transparent);
     QPainter painter{&pixmap};
     QSvgRenderer renderer{iconDocument(icon, line)};
-    // Many icons touch the edge of their grid; what outlines them needs its half outside of it.
+    // Many icons touch the edge of their grid, and half of the extra line lies beyond it.
     renderer.setViewBox(QRectF{0, 0, 16, 16}.adjusted(-line / 2, -line / 2, line / 2, line / 2));
     renderer.render(&painter, QRectF{pixmap.rect()});
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);

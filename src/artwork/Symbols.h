@@ -8,24 +8,24 @@
 
 namespace quillon {
 
-/// A symbol's name, as the rest of the program knows it, and the name of the icon that draws it.
+/// The program's name for a symbol, and the name of the icon that draws it.
 struct SymbolEntry {
     std::string_view name;
     std::string_view icon;
 };
 
-/// Every symbol there is.
+/// All symbols.
 std::span<const SymbolEntry> symbols();
 
-/// The name of the icon that draws the symbol; a name that is not in the table gets the icon of
-/// "number", as a topic of an unknown kind does.
+/// The name of the icon that draws the symbol. Unknown symbols get the icon of "number", which is
+/// also the symbol of topics of an unknown kind.
 std::string_view symbolIcon(std::string_view name);
 
-/// How heavy a symbol's lines are, to match the type that it stands beside.
+/// The weight of a symbol's lines, to match the text beside it.
 enum class SymbolWeight { regular, semibold, bold };
 
-/// The symbol in one colour, alpha included: a square of `size` device-independent pixels, drawn
-/// from outlines for exactly this size and scale and kept in Qt's pixmap cache.
+/// The symbol in one colour, whose alpha counts: a square with sides of `size` device-independent
+/// pixels, drawn for exactly this size and scale. Kept in Qt's pixmap cache.
 QPixmap symbolPixmap(std::string_view name, double size, QColor color, double devicePixelRatio,
                      SymbolWeight weight = SymbolWeight::regular);
 

@@ -10,7 +10,7 @@ namespace quillon {
 namespace {
 
 constexpr double markSide = 22;
-constexpr double symbolSide = 16; // an outline icon this large is as tall as 14 point bold type
+constexpr double symbolSide = 16; // makes an outline icon as tall as bold text of 14 points
 constexpr double between = 10;
 constexpr double sidePadding = 16;
 constexpr double endPadding = 10; // above and below the row
@@ -22,7 +22,7 @@ constexpr int fromBottom = 24;
 constexpr double maxTextWidth = 380;
 constexpr qsizetype maxLines = 2;
 
-/// What fits of the text from `start` on, which is more than one line.
+/// As much of the text from `start` on as fits into one line. There is more than that.
 QString lastLine(const QString& text, qsizetype start, const QFont& font) {
     QString rest = text.mid(start);
     const qsizetype end = rest.indexOf(QChar::LineSeparator);

@@ -7,11 +7,11 @@
 #include <QString>
 #include <QStringList>
 
-/// Where everything about the banner goes, in device-independent pixels.
+/// The places and sizes of the banner and its parts, in device-independent pixels.
 namespace quillon {
 
-/// The banner's parts around a text of some size: mark, text and symbol in a row, in a capsule, in
-/// a window that leaves a transparent margin for the shadow.
+/// The places of the banner's parts in its window: mark, text and symbol stand in a row in a
+/// capsule, around which the window leaves a transparent margin for the shadow.
 struct BannerLayout {
     QSize window;
     QRectF capsule;
@@ -20,22 +20,23 @@ struct BannerLayout {
     QRectF symbol;
 };
 
+/// Lays the banner out around a text of this size.
 BannerLayout layOutBanner(QSizeF text);
 
-/// The same row for writing that goes from right to left.
+/// The same layout for writing that goes from right to left.
 BannerLayout mirrored(BannerLayout layout);
 
-/// The window's frame on a screen, given the part of the screen that no panel or dock covers.
+/// The window's frame on a screen. `visible` is the part of the screen that no panel covers.
 QRect bannerFrame(QRect visible, QSize window, BannerPosition position);
 
-/// The text as the banner shows it, and the width of its widest line.
+/// The banner's text, wrapped into lines, and the width of the widest line.
 struct BannerText {
     QStringList lines;
     double width = 0;
 };
 
-/// Wraps at words, inside a word only when it is wider than a line, and ends the second line with
-/// an ellipsis when there is more. Always at least one line, if an empty one.
+/// Wraps at words, and inside a word only if it is wider than a line. A text of more than two lines
+/// ends with an ellipsis. The result has at least one line, which may be empty.
 BannerText wrapBannerText(QString text, const QFont& font);
 
 } // namespace quillon

@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 
 constexpr std::chrono::milliseconds frame = 16ms;
 
-/// Slow at both ends, from 0 to 1.
+/// Maps 0 to 1 onto 0 to 1, slow at both ends.
 double eased(double part) {
     return part * part * (3 - 2 * part);
 }
@@ -32,7 +32,7 @@ void Fade::run(double target, std::chrono::milliseconds duration, std::function<
 }
 
 void Fade::step() {
-    // The clock tells the time of day, which may be set back; a step then counts as one frame.
+    // The clock tells the time of day. When the user sets it back, the step counts as one frame.
     const auto since = std::chrono::duration_cast<std::chrono::milliseconds>(clock_.now() - last_);
     last_ = clock_.now();
     elapsed_ += since < 0ms ? frame : since;

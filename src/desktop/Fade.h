@@ -4,14 +4,14 @@
 
 namespace quillon {
 
-/// A number that moves smoothly to where it is sent, in steps of about a frame, on a clock.
+/// A number that moves smoothly to a target, one step for each frame, driven by a Clock.
 class Fade {
 public:
-    /// `apply` gets each new value.
+    /// Calls `apply` with each new value.
     Fade(Clock& clock, std::function<void(double)> apply);
 
-    /// Moves from the present value to `target`, instead of where it was going; then calls `done`.
-    /// A duration of zero gets there before this returns.
+    /// Moves from the present value to `target`, instead of to the target before, and then calls
+    /// `done`. With a duration of zero all of that happens before this returns.
     void run(double target, std::chrono::milliseconds duration, std::function<void()> done = {});
 
     [[nodiscard]] double value() const { return value_; }

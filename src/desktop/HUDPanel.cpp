@@ -9,12 +9,13 @@
 namespace quillon {
 namespace {
 
-// Window managers keep windows below full-screen ones and on one workspace; none manages this one.
+// Window managers would keep the window on one workspace and below full-screen windows, so it
+// bypasses them.
 constexpr Qt::WindowFlags overlay = Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                                     Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus |
                                     Qt::BypassWindowManagerHint | Qt::NoDropShadowWindowHint;
 
-/// A notification, which screen readers read out although it never has the focus.
+/// Describes the window as a notification, which screen readers read out without any focus.
 QAccessibleInterface* describe(const QString& className, QObject* object) {
     if (className != QLatin1String{HUDPanel::staticMetaObject.className()}) return nullptr;
     return new QAccessibleWidget{static_cast<QWidget*>(object), QAccessible::Notification};
@@ -23,13 +24,13 @@ QAccessibleInterface* describe(const QString& className, QObject* object) {
 } // namespace
 
 HUDPanel::HUDPanel() : QWidget{nullptr, overlay} {
-    QAccessible::installFactory(describe); // once, however often
+    QAccessible::installFactory(describe); // Qt installs the same factory only once
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_QuitOnClose, false);
     setFocusPolicy(Qt::NoFocus);
-    create(); // Qt drops a window type that is set on a window yet to be made
+    create(); // first, because Qt loses a window type that is set before the window exists
     setAttribute(Qt::WA_X11NetWmWindowTypeNotification);
 }
 
@@ -40,8 +41,8 @@ void HUDPanel::setContent(const HUDView& view, const QString& text, double devic
     setAccessibleName(text);
     QAccessibleEvent announcement{this, QAccessible::Alert};
     QAccessible::updateAccessibility(&announcement);
-    // The accessibility bus is not told of alerts, but that a notification shows: here of one that
-    // shows already.
+    // Qt does not pass alerts on to the accessibility bus. It does pass on that a notification
+    // shows, so a banner that already shows says so again for its new text.
     if (isVisible()) {
         QAccessibleEvent shown{this, QAccessible::ObjectShow};
         QAccessible::updateAccessibility(&shown);
@@ -54,8 +55,8 @@ void HUDPanel::setAlpha(double alpha) {
     update();
 }
 
-// The picture is faded, not the window: that works on every display, and a window that has only
-// just appeared never flashes up at full strength.
+// Fading the picture instead of the window works on every display, and a new window never flashes
+// up at full strength.
 void HUDPanel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     painter.setOpacity(alpha_);

@@ -7,18 +7,19 @@ namespace quillon {
 
 class HUDView;
 
-/// The banner's window: over everything on every workspace, never active, and nothing to the mouse.
+/// The banner's window. It lies over everything on every workspace, never becomes active and lets
+/// the mouse through.
 class HUDPanel : public QWidget {
     Q_OBJECT
 
 public:
     HUDPanel();
 
-    /// Replaces what the window shows, and says it to assistive technology.
+    /// Replaces what the window shows, and announces `text` to assistive technology.
     void setContent(const HUDView& view, const QString& text, double devicePixelRatio,
                     bool blended);
 
-    /// From 0, nothing to see, to 1.
+    /// The opacity of what it shows, from 0 to 1.
     void setAlpha(double alpha);
     [[nodiscard]] double alpha() const { return alpha_; }
 

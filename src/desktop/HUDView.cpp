@@ -1,7 +1,9 @@
 #include "desktop/HUDView.h"
 
 #include "artwork/Brand.h"
+#include "artwork/Colors.h"
 #include "artwork/Mark.h"
+#include "artwork/Shapes.h"
 #include "artwork/Symbols.h"
 #include "desktop/Shadow.h"
 
@@ -9,7 +11,6 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <cmath>
 #include <utility>
@@ -28,17 +29,6 @@ QFont bannerFont() {
     font.setPixelSize(fontSize);
     font.setWeight(QFont::DemiBold);
     return font;
-}
-
-QColor faded(QColor color, double opacity) {
-    color.setAlphaF(static_cast<float>(opacity));
-    return color;
-}
-
-QPainterPath capsulePath(const QRectF& box) {
-    QPainterPath path;
-    path.addRoundedRect(box, box.height() / 2, box.height() / 2);
-    return path;
 }
 
 } // namespace

@@ -9,17 +9,17 @@
 
 namespace quillon {
 
-/// What one banner looks like: the mark, the text and a symbol on a dark capsule.
+/// The picture of one banner: the mark, the text and a symbol on a dark capsule.
 class HUDView {
 public:
-    /// `ok` tells good news from a problem by the symbol's colour.
+    /// `ok` picks the symbol's colour: that of good news or that of a problem.
     HUDView(const std::string& text, std::string symbol, bool ok);
 
-    /// The size of the window that shows this, shadow and margin included.
+    /// The size of the banner's window, which includes the margin for the shadow.
     [[nodiscard]] QSize size() const { return layout_.window; }
 
-    /// The picture of it. With `blended` it has a shadow and the capsule lets a little through;
-    /// otherwise it is solid, and meant to be cut out along `outline()`.
+    /// Paints the banner. If `blended`, it has a shadow and a slightly translucent capsule. If not,
+    /// the whole picture is solid, and the window has to be cut out along outline().
     [[nodiscard]] QPixmap render(double devicePixelRatio, bool blended) const;
 
     [[nodiscard]] QRegion outline() const;

@@ -1,8 +1,10 @@
 #include "desktop/Shadow.h"
 
+#include "artwork/Shapes.h"
+
 #include <QImage>
+#include <QLocale>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPixmapCache>
 
 #include <algorithm>
@@ -12,9 +14,11 @@
 namespace quillon {
 namespace {
 
-constexpr double edge = 8; // the outermost part of the picture, over which a shadow is let go
+/// Over this much of the picture, from its edges inwards, the shadow fades to nothing.
+constexpr double edge = 8;
 
-/// A running mean over 2 * radius + 1 neighbours along one line of the picture, zero outside of it.
+/// Replaces each pixel of a line by the mean of the 2 * radius + 1 pixels around it. Pixels beyond
+/// the line's ends count as zero. `before` is room for a copy of the line.
 void blurLine(float* pixels, std::ptrdiff_t stride, int count, int radius,
               std::vector<float>& before) {
     for (int i = 0; i < count; ++i)
@@ -31,7 +35,7 @@ void blurLine(float* pixels, std::ptrdiff_t stride, int count, int radius,
     }
 }
 
-/// Three running means in each direction are as good as a Gaussian to the eye.
+/// Three means in each direction look like a Gaussian.
 void blur(std::vector<float>& pixels, QSize size, double deviation) {
     const int radius =
         static_cast<int>(std::lround((std::sqrt(4 * deviation * deviation + 1) - 1) / 2));
@@ -46,19 +50,18 @@ void blur(std::vector<float>& pixels, QSize size, double deviation) {
     }
 }
 
-QImage drawCapsule(QSize pixels, QRectF capsule, double devicePixelRatio) {
+QImage drawCapsule(QSize pixels, const QRectF& box, double devicePixelRatio) {
     QImage image{pixels, QImage::Format_ARGB32_Premultiplied};
     image.fill(Qt::transparent);
     QPainter painter{&image};
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(devicePixelRatio, devicePixelRatio);
-    QPainterPath path;
-    path.addRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
-    painter.fillPath(path, Qt::black);
+    painter.fillPath(capsulePath(box), Qt::black);
     return image;
 }
 
-/// How much of the shadow is left this far, in device-independent pixels, from the picture's edge.
+/// The share of the shadow that stays at this distance from the picture's edge, in
+/// device-independent pixels.
 float kept(double distance) {
     const double part = std::clamp(distance / edge, 0.0, 1.0);
     return static_cast<float>(part * (2 - part));
@@ -95,12 +98,11 @@ QPixmap drawShadow(QSize size, const QRectF& capsule, const Shadow& shadow,
 
 QPixmap capsuleShadow(QSize size, const QRectF& capsule, const Shadow& shadow,
                       double devicePixelRatio) {
-    const QString key = QStringLiteral("shadow/%1/%2/%3/%4/%5")
-                            .arg(size.width())
-                            .arg(size.height())
-                            .arg(capsule.height())
-                            .arg(shadow.blur)
-                            .arg(devicePixelRatio);
+    QString key = QStringLiteral("shadow");
+    for (const double part : {double(size.width()), double(size.height()), capsule.x(), capsule.y(),
+                              capsule.width(), capsule.height(), shadow.opacity, shadow.blur,
+                              shadow.offset.x(), shadow.offset.y(), devicePixelRatio})
+        key += QLatin1Char{'/'} + QString::number(part, 'g', QLocale::FloatingPointShortest);
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap)) return pixmap;
     pixmap = drawShadow(size, capsule, shadow, devicePixelRatio);

@@ -13,8 +13,8 @@ struct Shadow {
     QPointF offset;
 };
 
-/// The shadow of a capsule inside a picture of the given size. It fades to nothing before the edge
-/// of the picture, however little room there is. Kept in Qt's pixmap cache.
+/// The shadow of a capsule in a picture of the given size. It always fades to nothing towards the
+/// picture's edges. Kept in Qt's pixmap cache.
 QPixmap capsuleShadow(QSize size, const QRectF& capsule, const Shadow& shadow,
                       double devicePixelRatio);
 

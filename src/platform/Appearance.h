@@ -5,8 +5,8 @@
 
 namespace quillon {
 
-/// What the user has chosen about the looks of the desktop and of all programs on it.
-struct DesktopLooks {
+/// How the user wants the desktop and all programs on it to look.
+struct Appearance {
     enum class Scheme { noPreference, light, dark };
 
     Scheme scheme = Scheme::noPreference;
@@ -15,17 +15,17 @@ struct DesktopLooks {
     /// How much larger than usual texts are, from 1 to 1.5.
     double textScale = 1;
 
-    bool operator==(const DesktopLooks&) const = default;
+    bool operator==(const Appearance&) const = default;
 };
 
-/// Knows the looks of the desktop while they change.
-class Appearance {
+/// Tells the desktop's appearance, now and whenever it changes.
+class AppearanceSource {
 public:
-    virtual ~Appearance() = default;
+    virtual ~AppearanceSource() = default;
 
-    /// Calls `changed` when it has been found out what the desktop says, and each time that this
-    /// changes; never from within this call. Where nobody tells, it is never called.
-    virtual void follow(std::function<void(const DesktopLooks&)> changed) = 0;
+    /// Calls `changed` once the desktop has answered and again after each change, but never from
+    /// within this call. On a desktop that does not answer, `changed` is never called.
+    virtual void follow(std::function<void(const Appearance&)> changed) = 0;
 };
 
 } // namespace quillon

@@ -13,7 +13,7 @@
 #include "ui/Resident.h"
 #include "ui/alerts/AlertWindows.h"
 #include "ui/controls/AppIcon.h"
-#include "ui/theme/Looks.h"
+#include "ui/theme/ApplicationTheme.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -66,9 +66,9 @@ int App::run(std::string_view wanted) {
         return exitFailed;
     }
     introduce();
-    Looks looks;
+    ApplicationTheme theme;
     LinuxAppearance appearance;
-    looks.follow(appearance);
+    theme.follow(appearance);
 
     LinuxPlatform services{std::move(desktop->pasteboard), std::move(desktop->hotKeys)};
     Platform& platform = services.platform();

@@ -49,6 +49,10 @@ protected:
 TEST_F(BannerTextTest, WrapsIntoTwoLinesAndEndsTheSecondWithAnEllipsis) {
     EXPECT_EQ(wrap(QString{}), QStringList{QString{}});
     EXPECT_EQ(wrap(QStringLiteral("Sent")), QStringList{QStringLiteral("Sent")});
+    EXPECT_EQ(wrap(QStringLiteral("one\r\ntwo")),
+              (QStringList{QStringLiteral("one"), QStringLiteral("two")}));
+    EXPECT_EQ(wrap(QStringLiteral("one\ntwo\nthree")),
+              (QStringList{QStringLiteral("one"), QStringLiteral("two…")}));
     const QString words = QStringLiteral("word ").repeated(60);
     const QStringList lines = wrap(words);
     ASSERT_EQ(lines.size(), 2);
@@ -64,13 +68,6 @@ TEST_F(BannerTextTest, BreaksAWordThatFitsNoLineBetweenItsCharacters) {
     ASSERT_EQ(lines.size(), 2);
     EXPECT_EQ(lines[0].size() % family.size(), 0);
     EXPECT_EQ((lines[1].size() - 1) % family.size(), 0);
-}
-
-TEST_F(BannerTextTest, KeepsLineBreaksAndMarksWhatComesAfterTheSecond) {
-    EXPECT_EQ(wrap(QStringLiteral("one\r\ntwo")),
-              (QStringList{QStringLiteral("one"), QStringLiteral("two")}));
-    EXPECT_EQ(wrap(QStringLiteral("one\ntwo\nthree")),
-              (QStringList{QStringLiteral("one"), QStringLiteral("two…")}));
 }
 
 } // namespace

@@ -14,30 +14,30 @@
 namespace quillon::test {
 namespace {
 
-using Scheme = DesktopLooks::Scheme;
+using Scheme = Appearance::Scheme;
 using Settings = QMap<QString, QVariantMap>;
 
 constexpr const char* portalName = "org.freedesktop.portal.Desktop";
 constexpr const char* portalPath = "/org/freedesktop/portal/desktop";
 constexpr const char* settingsInterface = "org.freedesktop.portal.Settings";
-const QString appearance = QStringLiteral("org.freedesktop.appearance");
+const QString common = QStringLiteral("org.freedesktop.appearance");
 const QString gnome = QStringLiteral("org.gnome.desktop.interface");
 const QString kde = QStringLiteral("org.kde.kdeglobals.KDE");
 
-struct LooksCase {
+struct AppearanceCase {
     const char* name;
-    std::vector<std::pair<LookSettings::Key, QVariant>> settings;
-    DesktopLooks looks;
+    std::vector<std::pair<AppearanceSettings::Key, QVariant>> settings;
+    Appearance appearance;
 };
 
-TEST(LookSettings, HaveASenseWhateverTheValuesAre) {
-    const LookSettings::Key scheme{"org.freedesktop.appearance", "color-scheme"};
-    const LookSettings::Key reduced{"org.freedesktop.appearance", "reduced-motion"};
-    const LookSettings::Key moving{"org.gnome.desktop.interface", "enable-animations"};
-    const LookSettings::Key text{"org.gnome.desktop.interface", "text-scaling-factor"};
-    const LookSettings::Key factor{"org.kde.kdeglobals.KDE", "AnimationDurationFactor"};
-    const LookSettings::Key theme{"", "Net/ThemeName"};
-    const LooksCase cases[]{
+TEST(AppearanceSettings, HaveASenseWhateverTheValuesAre) {
+    const AppearanceSettings::Key scheme{"org.freedesktop.appearance", "color-scheme"};
+    const AppearanceSettings::Key reduced{"org.freedesktop.appearance", "reduced-motion"};
+    const AppearanceSettings::Key moving{"org.gnome.desktop.interface", "enable-animations"};
+    const AppearanceSettings::Key text{"org.gnome.desktop.interface", "text-scaling-factor"};
+    const AppearanceSettings::Key factor{"org.kde.kdeglobals.KDE", "AnimationDurationFactor"};
+    const AppearanceSettings::Key theme{"", "Net/ThemeName"};
+    const AppearanceCase cases[]{
         {"nothing", {}, {}},
         {"dark", {{scheme, 1U}}, {.scheme = Scheme::dark}},
         {"light", {{scheme, 2U}}, {.scheme = Scheme::light}},
@@ -65,11 +65,11 @@ TEST(LookSettings, HaveASenseWhateverTheValuesAre) {
         {"endless", {{text, std::numeric_limits<double>::infinity()}}, {}},
         {"text in words", {{text, QStringLiteral("1.25")}}, {}},
     };
-    for (const LooksCase& each : cases) {
-        LookSettings settings;
+    for (const AppearanceCase& each : cases) {
+        AppearanceSettings settings;
         for (const auto& [key, value] : each.settings)
             settings.set(key, value);
-        EXPECT_EQ(settings.looks(), each.looks) << each.name;
+        EXPECT_EQ(settings.appearance(), each.appearance) << each.name;
     }
 }
 
@@ -156,17 +156,17 @@ private:
 class LinuxAppearanceTest : public testing::Test {
 protected:
     LinuxAppearanceTest() {
-        portal_.follow([this](const DesktopLooks& looks) { told.push_back(looks); });
+        portal_.follow([this](const Appearance& appearance) { told.push_back(appearance); });
     }
     ~LinuxAppearanceTest() override {
         QDBusConnection::disconnectFromBus(QStringLiteral("program"));
     }
 
-    [[nodiscard]] bool isTold(const DesktopLooks& looks) const {
-        return waitUntil([&] { return !told.empty() && told.back() == looks; });
+    [[nodiscard]] bool isTold(const Appearance& appearance) const {
+        return waitUntil([&] { return !told.empty() && told.back() == appearance; });
     }
 
-    std::vector<DesktopLooks> told;
+    std::vector<Appearance> told;
 
 private:
     SessionBus daemon_;
@@ -174,21 +174,21 @@ private:
 };
 
 TEST_F(LinuxAppearanceTest, FollowsAPortalThatComesLateAndAgain) {
-    const Settings dark{{appearance, {{QStringLiteral("color-scheme"), 1U}}},
+    const Settings dark{{common, {{QStringLiteral("color-scheme"), 1U}}},
                         {gnome,
                          {{QStringLiteral("text-scaling-factor"), 1.25},
                           {QStringLiteral("enable-animations"), false},
                           {QStringLiteral("cursor-size"), 24}}}};
     std::optional<FakePortal> portal{QVariant::fromValue(dark)};
     EXPECT_TRUE(isTold({.scheme = Scheme::dark, .animations = false, .textScale = 1.25}));
-    portal->change(appearance, "color-scheme", 2U);
+    portal->change(common, "color-scheme", 2U);
     EXPECT_TRUE(isTold({.scheme = Scheme::light, .animations = false, .textScale = 1.25}));
     portal->change(gnome, "enable-animations", true);
     portal->change(gnome, "text-scaling-factor", 1.0);
     EXPECT_TRUE(isTold({.scheme = Scheme::light, .animations = true}));
     const std::size_t changes = told.size();
     portal->change(gnome, "cursor-size", 48);
-    portal->change(appearance, "color-scheme", 2U);
+    portal->change(common, "color-scheme", 2U);
     portal->change(kde, "AnimationDurationFactor", QStringLiteral("0"));
     EXPECT_TRUE(isTold({.scheme = Scheme::light, .animations = false}));
     EXPECT_EQ(told.size(), changes + 1) << "what changes nothing is not told";
@@ -203,7 +203,7 @@ TEST_F(LinuxAppearanceTest, TakesNoHarmFromAPortalThatHangsOrTalksNonsense) {
         told.clear();
         const FakePortal portal{answer};
         EXPECT_TRUE(waitUntil([&] { return portal.asked(); }));
-        portal.change(appearance, "color-scheme", answer ? 1U : 2U);
+        portal.change(common, "color-scheme", answer ? 1U : 2U);
         EXPECT_TRUE(isTold({.scheme = answer ? Scheme::dark : Scheme::light}));
     }
 }

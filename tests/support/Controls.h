@@ -49,7 +49,7 @@ public:
         std::vector<std::string> names;
         for (QWidget* widget : root_.findChildren<QWidget*>()) {
             const auto* label = qobject_cast<const IconLabel*>(widget);
-            const QString name = label ? label->wholeText() : nameOf(widget);
+            const QString name = label ? label->text().plain() : nameOf(widget);
             if (widget->isVisible() && !name.isEmpty()) names.push_back(name.toStdString());
         }
         return names;

@@ -6,18 +6,18 @@
 
 namespace quillon::test {
 
-/// A desktop whose looks the test changes.
-class FakeAppearance : public Appearance {
+/// A desktop whose appearance the test changes.
+class FakeAppearance : public AppearanceSource {
 public:
-    void follow(std::function<void(const DesktopLooks&)> changed) override {
+    void follow(std::function<void(const Appearance&)> changed) override {
         changed_ = std::move(changed);
     }
-    void change(const DesktopLooks& looks) const {
-        if (changed_) changed_(looks);
+    void change(const Appearance& appearance) const {
+        if (changed_) changed_(appearance);
     }
 
 private:
-    std::function<void(const DesktopLooks&)> changed_;
+    std::function<void(const Appearance&)> changed_;
 };
 
 } // namespace quillon::test

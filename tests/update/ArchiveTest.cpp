@@ -11,8 +11,6 @@
 
 #include <sys/stat.h>
 
-#include <fstream>
-
 namespace quillon::test {
 namespace {
 

@@ -39,8 +39,8 @@ void setDescription(QWidget& control, const QString& description) {
 
 void readOut(QWidget& widget) {
     if (!widget.isVisible()) return;
-    // Screen readers read out alerts and notifications that come to show; Qt passes on to the bus
-    // that something shows, but not its own event for alerts.
+    // Screen readers read out alerts and notifications when they appear. Qt passes on to the
+    // accessibility bus that something appears, but not its own event for alerts.
     QAccessibleEvent shown{&widget, QAccessible::ObjectShow};
     QAccessible::updateAccessibility(&shown);
 }

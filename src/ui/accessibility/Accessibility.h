@@ -7,9 +7,9 @@ class QWidget;
 
 namespace quillon {
 
-/// Has Qt describe the widgets of a class, and of those derived from it, to assistive technology. A
-/// description is made from a pointer to the widget. The class calls this in its constructor; only
-/// the first call counts.
+/// Makes Qt describe the widgets of a class, and of classes derived from it, to assistive
+/// technology by objects of type Description, which are made from a pointer to the widget. The
+/// class calls this in its constructor; only the first call counts.
 template <typename Widget, typename Description>
 void describeAs() {
     [[maybe_unused]] static const bool installed = [] {
@@ -23,8 +23,8 @@ void describeAs() {
     }();
 }
 
-/// Describes a widget without a role of its own: a window, or what holds others together. Of these,
-/// decoration is left out.
+/// Describes a widget without a role of its own: a window, or a widget that groups others. Leaves
+/// decoration out.
 class ContainerDescription : public QAccessibleWidget {
 public:
     explicit ContainerDescription(QWidget* widget) : QAccessibleWidget{widget} {}
@@ -39,20 +39,20 @@ public:
     }
 
 protected:
-    /// Whether a widget only decorates: assistive technology does not hear of it.
+    /// Whether a widget is mere decoration, of which assistive technology is not told.
     [[nodiscard]] static bool decorates(const QAccessibleInterface* part);
-    /// What it consists of for assistive technology.
+    /// The children that assistive technology is told of.
     [[nodiscard]] virtual QList<QAccessibleInterface*> parts() const;
 };
 
-/// Tells assistive technology that the states that are set in `changed` have changed.
+/// Tells assistive technology that the states set in `changed` have changed.
 void announce(QObject& object, QAccessible::State changed);
 
-/// Gives a control a description, and tells of it when it is new; a widget's own setter tells each
-/// time it is called.
+/// Gives a control a description, unless it has it already: QWidget's own setter would announce it
+/// to assistive technology again.
 void setDescription(QWidget& control, const QString& description);
 
-/// Has screen readers read an alert or a notification that already shows, for its text is new.
+/// Makes screen readers read the new text of an alert or a notification that already shows.
 void readOut(QWidget& widget);
 
 } // namespace quillon

@@ -10,7 +10,7 @@ namespace quillon {
 
 namespace {
 
-/// From here on a text may need to be scrolled, and is one that its reader wants to copy.
+/// Texts longer than this may need scrolling, and their readers may want to copy them.
 constexpr std::size_t longText = 300; // bytes
 
 void addText(MessageWindow& window, const QString& text) {
@@ -18,12 +18,12 @@ void addText(MessageWindow& window, const QString& text) {
     window.setAccessibleDescription(text);
 }
 
-/// The first is the default, and the last is what Escape and closing the window mean.
+/// Adds the buttons. The first is the default; Escape and closing the window count as the last.
 void addButtons(MessageWindow& window, const std::vector<std::string>& texts,
                 const Answer<std::size_t>& answer) {
     for (std::size_t i = 0; i < texts.size(); ++i) {
         const auto place = i == 0 ? MessageWindow::Place::primary : MessageWindow::Place::secondary;
-        // An "&" of the text is no mnemonic.
+        // An "&" in the text does not mark a mnemonic.
         QString text = QString::fromStdString(texts[i]);
         text.replace(QLatin1Char{'&'}, QLatin1String{"&&"});
         window.setEscape(window.addButton(text, place, [answer, i] { answer.give(i); }));

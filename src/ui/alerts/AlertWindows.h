@@ -6,8 +6,8 @@ namespace quillon {
 
 class Workspace;
 
-/// Alerts as windows in front of all others of the program, which take no input meanwhile. The
-/// event loop goes on.
+/// Shows alerts as windows in front of the program's other windows, which take no input meanwhile.
+/// The event loop goes on.
 class AlertWindows final : public Alerts {
 public:
     explicit AlertWindows(Workspace& workspace) : workspace_{workspace} {}

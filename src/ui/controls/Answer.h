@@ -8,8 +8,8 @@
 
 namespace quillon {
 
-/// An answer to come from a window, given once. Copies share it; when the last one goes unanswered,
-/// the answer is the one for a window that is closed.
+/// The answer that a window will give, once. Copies share it. When the last copy goes without an
+/// answer, the answer is `ifClosed`.
 template <typename T>
 class Answer {
 public:

@@ -24,7 +24,7 @@ public:
         return pixmap;
     }
 
-    /// Sides in pixels of what title bars, task bars and switchers show.
+    /// The sizes, in pixels, that title bars, task bars and window switchers show.
     QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
         QList<QSize> sizes;
         for (const int side : {16, 24, 32, 48, 64, 128})

@@ -4,8 +4,7 @@
 
 namespace quillon {
 
-/// The application's icon for windows and lists of them, painted in each size when somebody asks
-/// for it.
+/// The application's icon for windows and lists of windows, painted in each size on demand.
 [[nodiscard]] QIcon appIcon();
 
 } // namespace quillon

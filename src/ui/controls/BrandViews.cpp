@@ -1,9 +1,9 @@
 #include "ui/controls/BrandViews.h"
 
 #include "artwork/Brand.h"
+#include "artwork/Colors.h"
 #include "artwork/Mark.h"
 #include "ui/text/SymbolView.h"
-#include "ui/theme/Colors.h"
 
 #include <QFontMetricsF>
 #include <QLinearGradient>
@@ -21,8 +21,8 @@ constexpr double iconRadius = 0.225; // of its side
 constexpr double iconMark = 0.60;
 constexpr double iconRim = 0.10; // opacity
 constexpr double tracking = -0.3;
-constexpr double planeDisc = 0.80; // of the icon: what shines through the cut-out of the plane
-constexpr int accentFrom = 5;      // Quill and on
+constexpr double planeDisc = 0.80; // of the icon: the white that shows through the plane's cut-out
+constexpr int accentFrom = 5;      // "on" has the accent colour
 
 QString productName() {
     return QStringLiteral("Quillon");
@@ -43,27 +43,11 @@ void paintAppIcon(QPainter& painter, const QRectF& frame) {
     QLinearGradient ground{box.topLeft(), box.bottomLeft()};
     ground.setColorAt(0, iconTop);
     ground.setColorAt(1, Brand::navy);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(ground);
-    painter.drawRoundedRect(box, radius, radius);
+    paintBox(painter, box, radius, ground);
     // A rim keeps it apart from dark windows.
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen{faded(Qt::white, iconRim), 1});
-    painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
+    paintBox(painter, box, radius - 0.5, Qt::NoBrush, faded(Qt::white, iconRim));
     const double inset = box.width() * (1 - iconMark) / 2;
     paintMark(painter, box.adjusted(inset, inset, -inset, -inset), Qt::white, Brand::coral);
-    painter.restore();
-}
-
-SquareView::SquareView(double size, QWidget* parent) : View{parent}, size_{size} {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-QSize SquareView::sizeHint() const {
-    const int side = static_cast<int>(std::ceil(size_ * Theme::textScale()));
-    return {side, side};
 }
 
 void AppIconView::paintEvent(QPaintEvent* /*event*/) {

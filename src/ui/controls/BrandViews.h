@@ -1,36 +1,21 @@
 #pragma once
 
-#include "ui/accessibility/View.h"
+#include "ui/controls/SquareView.h"
 
 namespace quillon {
-
-/// A picture in a square that the text around it makes grow.
-class SquareView : public View {
-    Q_OBJECT
-
-public:
-    /// `size` in points of the design.
-    SquareView(double size, QWidget* parent);
-
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
-
-private:
-    double size_;
-};
 
 /// The application's icon.
 class AppIconView : public SquareView {
     Q_OBJECT
 
 public:
-    explicit AppIconView(double size, QWidget* parent = nullptr) : SquareView{size, parent} {}
+    using SquareView::SquareView;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// The product's name as it is written everywhere.
+/// The product's name in its lettering.
 class Wordmark : public View {
     Q_OBJECT
 
@@ -57,17 +42,17 @@ class TelegramIcon : public SquareView {
     Q_OBJECT
 
 public:
-    explicit TelegramIcon(double size, QWidget* parent = nullptr) : SquareView{size, parent} {}
+    using SquareView::SquareView;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// The symbol and the colour of Telegram's logo on a button or a label.
+/// The symbol and the colour of Telegram's logo on buttons and labels.
 inline constexpr const char* telegramSymbol = "paperplane.circle.fill";
 inline constexpr QColor telegramBlue{38, 165, 228};
 
-/// Draws the application's icon into a square.
+/// Paints the application's icon, as large as fits into the frame.
 void paintAppIcon(QPainter& painter, const QRectF& frame);
 
 } // namespace quillon

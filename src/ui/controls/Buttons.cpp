@@ -4,9 +4,7 @@
 #include "ui/text/SymbolView.h"
 
 #include <QFontMetricsF>
-#include <QKeyEvent>
 #include <QPainter>
-#include <QStyle>
 
 #include <algorithm>
 #include <array>
@@ -18,9 +16,9 @@ namespace {
 
 /// What the kinds of buttons differ in.
 struct KindLook {
-    int beside;         // pixels between the edge and the text
-    int above;          // and above it
-    double leastHeight; // points
+    int beside;         // pixels between the edge and the text on either side
+    int above;          // pixels above and below the text
+    double leastHeight; // in points of the design
     Tint ink;
 };
 
@@ -34,23 +32,13 @@ const KindLook& kindLook(ButtonKind kind) {
     return table.at(static_cast<std::size_t>(kind));
 }
 
-bool framed(ButtonKind kind) {
-    return kind == ButtonKind::bordered || kind == ButtonKind::destructive;
-}
-
-constexpr double symbolScale = 1.1; // of the text's size
-constexpr double symbolGap = 0.46;
 constexpr int hoveredProminent = 106; // percent of its lightness
 constexpr int pressedProminent = 108;
-
-double symbolSide(const TextStyle& style) {
-    return style.points * Theme::textScale() * symbolScale;
-}
 
 } // namespace
 
 TextButton::TextButton(const QString& text, std::string symbol, ButtonLook look, QWidget* parent)
-    : Themed{text, parent},
+    : PressedByReturn{text, parent},
       symbol_{std::move(symbol)},
       look_{look} {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -79,28 +67,20 @@ double TextButton::contentWidth() const {
 }
 
 double TextButton::symbolWidth() const {
-    if (symbol_.empty()) return 0;
-    const double gap = text().isEmpty() ? 0 : look_.style.points * Theme::textScale() * symbolGap;
-    return std::ceil(symbolSide(look_.style) + gap);
+    return symbol_.empty() ? 0 : symbolRoom(look_.style, !text().isEmpty());
 }
 
 QSize TextButton::sizeHint() const {
     const KindLook& kind = kindLook(look_.kind);
     const double line = QFontMetricsF{Theme::font(look_.style)}.height();
     const double height = std::max(Theme::length(kind.leastHeight), line + 2 * kind.above);
-    return {static_cast<int>(std::ceil(contentWidth() + 2 * kind.beside)),
-            static_cast<int>(std::ceil(height))};
-}
-
-void TextButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
-    Themed::keyPressEvent(event);
+    return wholeSize(contentWidth() + 2 * kind.beside, height);
 }
 
 void TextButton::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing); // also smooths the line below the mnemonic
     paintGround(painter, theme);
     paintContent(painter, theme);
     if (!showsFocus()) return;
@@ -111,27 +91,25 @@ void TextButton::paintEvent(QPaintEvent* /*event*/) {
 
 void TextButton::paintGround(QPainter& painter, const Theme& theme) const {
     const bool lit = underMouse() && isEnabled();
-    painter.setPen(framed(look_.kind) ? QPen{theme.separator(), 1} : QPen{Qt::NoPen});
+    QColor fill;
+    QPen line{Qt::NoPen};
     switch (look_.kind) {
     case ButtonKind::prominent:
-        painter.setBrush(theme.fill(isDown() ? Brand::coral.darker(pressedProminent)
-                                    : lit    ? Brand::coral.lighter(hoveredProminent)
-                                             : Brand::coral));
+        fill = theme.fill(isDown() ? Brand::coral.darker(pressedProminent)
+                          : lit    ? Brand::coral.lighter(hoveredProminent)
+                                   : Brand::coral);
         break;
     case ButtonKind::bordered:
     case ButtonKind::destructive:
-        painter.setBrush(isDown() ? theme.pressedFill()
-                         : lit    ? theme.hoverFill()
-                                  : theme.quaternaryFill());
+        fill = isDown() ? theme.pressedFill() : lit ? theme.hoverFill() : theme.quaternaryFill();
+        line = theme.separator();
         break;
     case ButtonKind::borderless:
         if (!lit && !isDown()) return;
-        painter.setBrush(isDown() ? theme.hoverFill() : theme.quaternaryFill());
+        fill = isDown() ? theme.hoverFill() : theme.quaternaryFill();
         break;
     }
-    const double inset = framed(look_.kind) ? 0.5 : 0;
-    painter.drawRoundedRect(QRectF{rect()}.adjusted(inset, inset, -inset, -inset),
-                            Space::controlRadius, Space::controlRadius);
+    paintBox(painter, rect(), Space::controlRadius, fill, line);
 }
 
 void TextButton::paintContent(QPainter& painter, const Theme& theme) const {
@@ -150,12 +128,11 @@ void TextButton::paintContent(QPainter& painter, const Theme& theme) const {
     const QFont font = Theme::font(look_.style);
     const QRectF box{rightToLeft ? left : left + symbolWidth(), 0, content - symbolWidth(),
                      static_cast<double>(height())};
-    const bool underlined = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
     painter.setFont(font);
     painter.setPen(color);
     painter.setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter.drawText(
-        box, Qt::AlignCenter | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+        box, Qt::AlignCenter | (underlinesMnemonic() ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
         QFontMetricsF{font}.elidedText(text(), Qt::ElideRight, box.width(), Qt::TextShowMnemonic));
 }
 

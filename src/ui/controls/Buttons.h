@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/theme/Themed.h"
+#include "ui/controls/PressedByReturn.h"
 
 #include <QPushButton>
 
@@ -11,8 +11,8 @@ namespace quillon {
 
 enum class ButtonKind {
     bordered,
-    prominent,  // the one thing to do here
-    borderless, // text with room around it that lights up under the pointer
+    prominent,  // for the main action of a window
+    borderless, // a text with room around it, which lights up under the pointer
     destructive,
 };
 
@@ -24,9 +24,8 @@ struct ButtonLook {
     std::optional<Tint> symbolInk{};
 };
 
-/// A button with a text, a symbol or both. An "&" in the text marks its mnemonic. Space presses it,
-/// and so does Return while it has the focus.
-class TextButton : public Themed<QPushButton> {
+/// A button with a text, a symbol or both. An "&" in the text marks its mnemonic.
+class TextButton : public PressedByReturn<QPushButton> {
     Q_OBJECT
 
 public:
@@ -35,8 +34,8 @@ public:
 
     void setSymbol(const std::string& symbol);
 
-    /// Room between the edge and the text on either side, for those who line its text up with other
-    /// texts.
+    /// The distance between the button's edge and its text on either side, with which the text can
+    /// be lined up with other texts.
     [[nodiscard]] int inset() const;
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -44,56 +43,55 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void paintGround(QPainter& painter, const Theme& theme) const;
     void paintContent(QPainter& painter, const Theme& theme) const;
     [[nodiscard]] Tint ink() const;
-    /// Symbol, gap and text.
+    /// The width of symbol, gap and text.
     [[nodiscard]] double contentWidth() const;
-    /// The symbol and the gap after it.
+    /// The width of the symbol and the gap after it.
     [[nodiscard]] double symbolWidth() const;
 
     std::string symbol_;
     ButtonLook look_;
 };
 
-/// A button whose face is made of views, laid out inside it: they take no clicks, the button does,
-/// over its whole rectangle. Without an accessible name it is silent. Space and Return press it.
-class ContentButton : public Themed<QPushButton> {
+/// A button whose face consists of views in its layout. The views take no clicks; the button does,
+/// with its whole rectangle. It needs an accessible name.
+class ContentButton : public PressedByReturn<QPushButton> {
     Q_OBJECT
 
 public:
     explicit ContentButton(QWidget* parent = nullptr);
 
-    /// One of several, and the one that is taken; told to assistive technology as "selected".
+    /// Makes it one of several choices, and says whether it is the one that is taken. Assistive
+    /// technology is told of it as "selected".
     void setSelected(bool selected);
     [[nodiscard]] std::optional<bool> selected() const { return selected_; }
-    /// Opens and closes something, and whether that is open; nothing for a button that does not.
+    /// Says whether what the button opens and closes is open. No value for other buttons.
     void setExpanded(std::optional<bool> expanded);
     [[nodiscard]] std::optional<bool> expanded() const { return expanded_; }
-    /// Does what it is for at the moment: disabled meanwhile, but not faded.
+    /// Says whether its action is under way. Meanwhile the button is disabled, but not faded.
     void setBusy(bool busy);
     [[nodiscard]] bool busy() const { return busy_; }
-    /// The corners of its face, for the focus ring.
+    /// The radius of its corners, which the focus ring follows.
     void setCornerRadius(double radius);
 
-    /// Those of its layout.
+    /// The sizes are those of its layout.
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] bool hasHeightForWidth() const override;
     [[nodiscard]] int heightForWidth(int width) const override;
 
 protected:
-    /// What is under the views: nothing but a trace of the pointer, unless overridden.
+    /// Paints what is under the views. Unless overridden, only the pointer leaves a trace.
     virtual void paintGround(QPainter& painter, const Theme& theme);
     /// The colour of the focus ring on that ground.
     [[nodiscard]] virtual Tint focusTint() const { return Ink::accent; }
     [[nodiscard]] double cornerRadius() const { return radius_; }
 
     void paintEvent(QPaintEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void childEvent(QChildEvent* event) override;
 
 private:

@@ -7,8 +7,14 @@
 
 namespace quillon {
 
+void CardGround::paintEvent(QPaintEvent* /*event*/) {
+    const Theme theme = this->theme();
+    QPainter painter{this};
+    paintBox(painter, rect(), Space::cardRadius, theme.cardFill(), theme.separator());
+}
+
 Card::Card(const QString& title, const std::string& symbol, QWidget* parent)
-    : View{parent},
+    : CardGround{parent},
       title_{new IconLabel{
           title,
           symbol,
@@ -27,17 +33,7 @@ QAccessible::Role Card::accessibleRole() const {
 }
 
 QString Card::accessibleText() const {
-    return title_->text();
-}
-
-void Card::paintEvent(QPaintEvent* /*event*/) {
-    const Theme theme = this->theme();
-    QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen{theme.separator(), 1});
-    painter.setBrush(theme.cardFill());
-    painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), Space::cardRadius,
-                            Space::cardRadius);
+    return title_->text().plain();
 }
 
 Divider::Divider(QWidget* parent) : View{parent} {

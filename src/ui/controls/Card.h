@@ -10,28 +10,36 @@ namespace quillon {
 
 class IconLabel;
 
-/// A titled box: the title with its symbol, and whatever is put into its body.
-class Card : public View {
+/// The box with round corners that cards, rows and long texts stand on.
+class CardGround : public View {
+    Q_OBJECT
+
+public:
+    using View::View;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// A box with a title, a symbol before it, and a body below.
+class Card : public CardGround {
     Q_OBJECT
 
 public:
     Card(const QString& title, const std::string& symbol, QWidget* parent = nullptr);
 
-    /// Where the content goes, from top to bottom.
+    /// The layout that takes the content, from top to bottom.
     [[nodiscard]] QVBoxLayout* body() const { return body_; }
 
     [[nodiscard]] QAccessible::Role accessibleRole() const override;
     [[nodiscard]] QString accessibleText() const override;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     IconLabel* title_;
     QVBoxLayout* body_;
 };
 
-/// A thin line across, between sections.
+/// A thin horizontal line between sections.
 class Divider : public View {
     Q_OBJECT
 

@@ -3,7 +3,6 @@
 #include "ui/accessibility/Accessibility.h"
 
 #include <QChildEvent>
-#include <QKeyEvent>
 #include <QLayout>
 #include <QPainter>
 
@@ -33,7 +32,7 @@ public:
         return state;
     }
 
-    // Its name and description say what the views on its face say.
+    // The name and the description say all that the views on the button's face say.
     [[nodiscard]] int childCount() const override { return 0; }
     [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
     [[nodiscard]] int indexOfChild(const QAccessibleInterface* /*child*/) const override {
@@ -60,7 +59,7 @@ private:
 
 } // namespace
 
-ContentButton::ContentButton(QWidget* parent) : Themed{parent} {
+ContentButton::ContentButton(QWidget* parent) : PressedByReturn{parent} {
     describeAs<ContentButton, ButtonDescription>();
     QSizePolicy policy{QSizePolicy::Preferred, QSizePolicy::Preferred};
     policy.setHeightForWidth(true);
@@ -89,8 +88,8 @@ void ContentButton::setBusy(bool busy) {
     if (busy_ == busy) return;
     busy_ = busy;
     setBrightWhileDisabled(*this, busy);
-    // The focus comes back, instead of going on to the next control as it does from what is
-    // disabled for good.
+    // Qt would move the focus from a disabled control to the next one. Here it comes back when the
+    // action has ended.
     const bool focused = hasFocus();
     if (busy && focused) clearFocus();
     setEnabled(!busy);
@@ -124,28 +123,20 @@ int ContentButton::heightForWidth(int width) const {
 
 void ContentButton::paintGround(QPainter& painter, const Theme& theme) {
     if (!isEnabled() || (!underMouse() && !isDown())) return;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(isDown() ? theme.hoverFill() : theme.quaternaryFill());
-    painter.drawRoundedRect(rect(), radius_, radius_);
+    paintBox(painter, rect(), radius_, isDown() ? theme.hoverFill() : theme.quaternaryFill());
 }
 
 void ContentButton::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
     paintGround(painter, theme);
     if (showsFocus()) theme.paintFocusRing(painter, rect(), radius_, focusTint());
-}
-
-void ContentButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
-    Themed::keyPressEvent(event);
 }
 
 void ContentButton::childEvent(QChildEvent* event) {
     if (event->added() && event->child()->isWidgetType())
         static_cast<QWidget*>(event->child())->setAttribute(Qt::WA_TransparentForMouseEvents);
-    Themed::childEvent(event);
+    PressedByReturn::childEvent(event);
 }
 
 } // namespace quillon

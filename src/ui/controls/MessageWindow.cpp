@@ -9,7 +9,6 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -18,11 +17,11 @@ namespace {
 constexpr double iconSize = 56;
 constexpr int columnGap = 16;
 constexpr TextStyle titleStyle{15, QFont::Bold};
-/// Of the icon's side.
+// Shares of the icon's side.
 constexpr double badgeSize = 0.46;
 constexpr double badgeEdge = 0.05;
 
-/// What it says is read out when it comes.
+/// Describes the window as an alert, which screen readers read out when it appears.
 class MessageDescription : public ContainerDescription {
 public:
     using ContainerDescription::ContainerDescription;
@@ -30,10 +29,10 @@ public:
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::AlertMessage; }
 };
 
-/// The application's icon, with the symbol of a warning in its corner if there is one to be given.
+/// The application's icon, with the symbol of a warning in its corner if there is a warning.
 class MessageIcon : public SquareView {
 public:
-    explicit MessageIcon(bool warning) : SquareView{iconSize, nullptr}, warning_{warning} {}
+    explicit MessageIcon(bool warning) : SquareView{iconSize}, warning_{warning} {}
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
@@ -73,7 +72,7 @@ MessageWindow::MessageWindow(const QString& title, const QString& text, bool war
     column_->setSpacing(Space::small);
     column_->addWidget(title_);
     column_->addWidget(text_);
-    column_->addStretch(0); // keeps the texts together where there is room to spare
+    column_->addStretch(0); // keeps the texts together if there is room to spare
     auto* body = new QHBoxLayout;
     body->setSpacing(columnGap);
     body->addWidget(new MessageIcon{warning}, 0, Qt::AlignTop);
@@ -91,7 +90,7 @@ MessageWindow::MessageWindow(const QString& title, const QString& text, bool war
 }
 
 void MessageWindow::setWidths() {
-    const int width = static_cast<int>(std::ceil(Theme::length(textWidth)));
+    const int width = Theme::wholeLength(textWidth);
     title_->setFixedWidth(width);
     text_->setMinimumWidth(width);
 }
@@ -102,9 +101,8 @@ void MessageWindow::themeChanged() {
 }
 
 void MessageWindow::setTexts(const QString& title, const QString& text) {
-    // Names and versions come from outside, and may hold stars.
-    title_->setText(TextBlock::verbatim(title));
-    text_->setText(TextBlock::verbatim(text));
+    title_->setText(title);
+    text_->setText(text);
     text_->setVisible(!text.isEmpty());
     setAccessibleName(title);
     setAccessibleDescription(text);
@@ -142,8 +140,8 @@ TextButton* MessageWindow::addButton(const QString& text, Place place,
 
 void MessageWindow::showEvent(QShowEvent* event) {
     Themed::showEvent(event);
-    // Return presses the primary button. Where there is none, it presses nothing that the user has
-    // not gone to: it may have been meant for the window before.
+    // Return presses the primary button. Without a primary button it must press nothing that the
+    // user has not gone to, because it may have been meant for the window before this one.
     if (!focusWidget()) setFocus();
     QAccessibleEvent announcement{this, QAccessible::Alert};
     QAccessible::updateAccessibility(&announcement);
@@ -151,7 +149,7 @@ void MessageWindow::showEvent(QShowEvent* event) {
 
 void MessageWindow::leave() {
     hide();
-    // The buttons hold the answers that are being waited for: those must not wait for the deletion.
+    // The buttons hold the answers that are waited for, and those must not wait for the deletion.
     for (TextButton* button : findChildren<TextButton*>())
         disconnect(button, nullptr, this, nullptr);
     deleteLater();

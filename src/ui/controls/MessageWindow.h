@@ -15,35 +15,35 @@ namespace quillon {
 class IconLabel;
 
 /// A small window that says or asks something: the application's icon, a title, a text, and buttons
-/// below. On the heap, since it goes by itself. The event loop goes on meanwhile.
+/// below. It deletes itself, and therefore has to be on the heap. The event loop goes on meanwhile.
 class MessageWindow : public Themed<QDialog> {
     Q_OBJECT
 
 public:
     enum class Place {
-        primary,   ///< at the end, pressed by Return
-        secondary, ///< beside it
-        apart,     ///< at the other end
+        primary,   ///< at the trailing end; Return presses it
+        secondary, ///< beside the primary one
+        apart,     ///< at the leading end
     };
 
-    /// With `warning`, the icon has the symbol of one.
+    /// If `warning`, the icon has the symbol of a warning.
     MessageWindow(const QString& title, const QString& text, bool warning = false);
 
     void setTexts(const QString& title, const QString& text);
 
-    /// Below the text, as wide as it. What can use more height than it asks for, lets the user
-    /// resize the window.
+    /// Adds a widget below the text, as wide as the text. If `growing`, it can use more height than
+    /// it asks for, and the user can resize the window.
     void addContent(QWidget* content, bool growing = false);
-    /// Of the secondary ones, the first is next to the primary one. Takes the window away, then
-    /// calls `pressed`.
+    /// Adds a button that takes the window away and then calls `pressed`. The first secondary
+    /// button stands next to the primary one.
     TextButton* addButton(const QString& text, Place place, std::function<void()> pressed = {});
-    /// Escape and the window's own button do the same as this one.
+    /// Makes Escape, and the button with which the desktop closes the window, press this button.
     void setEscape(TextButton* button) { escape_ = button; }
 
-    /// Takes the window away without any button.
+    /// Takes the window away without pressing a button.
     void leave();
 
-    /// In points of the design.
+    /// The width of the text in points of the design.
     static constexpr double textWidth = 370;
 
 protected:

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <numbers>
 
 namespace quillon {
 
@@ -14,10 +15,11 @@ namespace {
 
 constexpr int thickness = 6;
 constexpr int leastLength = 120;
-/// The piece that goes to and fro, of the bar's length, and how long it takes.
+/// The length of the piece that goes to and fro, as a share of the bar's, and the time for both
+/// ways.
 constexpr double piece = 0.3;
 constexpr std::chrono::milliseconds wayTime{2400};
-/// Where it stands while nothing may move.
+/// The place of the piece, from 0 to 1, while nothing may move.
 constexpr double standing = 0.5;
 
 } // namespace
@@ -28,8 +30,7 @@ ProgressBar::ProgressBar(const QString& name, QWidget* parent) : Themed{parent} 
     setAccessibleName(name);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     way_.setStartValue(0.0);
-    way_.setKeyValueAt(0.5, 1.0);
-    way_.setEndValue(0.0);
+    way_.setEndValue(1.0);
     way_.setDuration(static_cast<int>(wayTime.count()));
     way_.setLoopCount(-1);
     connect(&way_, &QVariantAnimation::valueChanged, this, [this] { update(); });
@@ -53,30 +54,26 @@ ProgressBar::Part ProgressBar::filledPart() const {
     if (maximum() > minimum())
         return {0, static_cast<double>(value() - minimum()) / (maximum() - minimum())};
     const bool moves = way_.state() == QAbstractAnimation::Running;
-    const double eased =
-        moves ? (1 - std::cos(way_.currentValue().toDouble() * M_PI)) / 2 : standing;
-    const double from = eased * (1 - piece);
+    const double angle = 2 * std::numbers::pi * way_.currentValue().toDouble();
+    const double place = moves ? (1 - std::cos(angle)) / 2 : standing; // to and fro
+    const double from = place * (1 - piece);
     return {from, from + piece};
 }
 
 void ProgressBar::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
     const QRectF box{0, (height() - thickness) / 2.0, static_cast<double>(width()), thickness};
     const double radius = thickness / 2.0;
-    painter.setBrush(theme.hoverFill());
-    painter.drawRoundedRect(box, radius, radius);
+    paintBox(painter, box, radius, theme.hoverFill());
     const Part part = filledPart();
     if (part.to <= part.from) return;
     const double length = std::max<double>(thickness, (part.to - part.from) * box.width());
     const bool rightToLeft = layoutDirection() == Qt::RightToLeft;
     const double start = part.from * box.width();
-    painter.setBrush(theme.color(Ink::accent));
     const QRectF filled{rightToLeft ? box.width() - start - length : start, box.top(), length,
                         box.height()};
-    painter.drawRoundedRect(filled, radius, radius);
+    paintBox(painter, filled, radius, theme.color(Ink::accent));
 }
 
 } // namespace quillon

@@ -7,13 +7,13 @@
 
 namespace quillon {
 
-/// A thin bar that fills. Without an end in sight (a range from 0 to 0) a piece of it goes to and
-/// fro, or stands where animations are off.
+/// A thin bar that fills. With a range from 0 to 0, for work without an end in sight, a piece of it
+/// goes to and fro, or stands still if the user wants no animations.
 class ProgressBar : public Themed<QProgressBar> {
     Q_OBJECT
 
 public:
-    /// `name` is what assistive technology calls it.
+    /// `name` is its accessible name.
     explicit ProgressBar(const QString& name, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -25,7 +25,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    /// What is filled, from 0 to 1 along the writing direction.
+    /// The part that is filled, from 0 to 1 in the direction of writing.
     struct Part {
         double from;
         double to;

@@ -29,7 +29,7 @@ void Refresher::refreshNow() {
 
 bool Refresher::event(QEvent* event) {
     if (event->type() != due) return QObject::event(event);
-    scheduled_ = false; // a change that the refresh itself makes is shown by the next one
+    scheduled_ = false; // first: a change that the refresh itself makes needs another refresh
     refresh_();
     return true;
 }

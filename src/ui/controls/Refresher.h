@@ -6,25 +6,25 @@
 
 namespace quillon {
 
-/// Calls a view's refresh() once on the next turn of the event loop, however many changes were
-/// announced until then, and so always after the changes themselves.
+/// Calls a view's refresh function once on the next turn of the event loop, however many changes
+/// have been announced until then. So it is always called after the changes themselves.
 class Refresher : public QObject {
     Q_OBJECT
 
 public:
-    /// Lives with the view, which `refresh` may therefore use.
+    /// Becomes a child of the view, which `refresh` may therefore use.
     Refresher(QObject* view, std::function<void()> refresh);
 
-    /// Listens to an announcement of changes, such as Store::objectWillChange.
+    /// Listens to a signal that announces changes, such as Store::objectWillChange.
     template <typename Sender>
     Refresher& watch(const Sender& sender, void (Sender::*announcement)()) {
         connect(&sender, announcement, this, &Refresher::schedule);
         return *this;
     }
 
-    /// As if a change had been announced.
+    /// Schedules a refresh, as an announced change does.
     void schedule();
-    /// Refreshes at once; announcements from before have had their refresh with that.
+    /// Refreshes at once, which also answers the changes announced before.
     void refreshNow();
 
 private:

@@ -1,6 +1,6 @@
 #include "ui/controls/SegmentedPicker.h"
 
-#include "ui/theme/Colors.h"
+#include "artwork/Colors.h"
 
 #include <QFontMetricsF>
 #include <QHBoxLayout>
@@ -9,7 +9,6 @@
 #include <QRadioButton>
 
 #include <algorithm>
-#include <cmath>
 
 namespace quillon {
 namespace {
@@ -32,7 +31,7 @@ public:
         const double width = metrics.size(Qt::TextShowMnemonic, text()).width() + 2 * besideText;
         const double height =
             std::max(Theme::length(leastHeight), metrics.height() + 2 * aboveText);
-        return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height))};
+        return wholeSize(width, height);
     }
 
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
@@ -55,13 +54,11 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         const Theme theme = this->theme();
         QPainter painter{this};
-        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setRenderHint(QPainter::Antialiasing); // smooths the line below the mnemonic
         if (isChecked()) {
             paintPlate(painter, theme);
         } else if (underMouse() && isEnabled()) {
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(theme.quaternaryFill());
-            painter.drawRoundedRect(rect(), segmentRadius, segmentRadius);
+            paintBox(painter, rect(), segmentRadius, theme.quaternaryFill());
         }
         painter.setFont(Theme::font(isChecked() ? Text::body.semibold() : Text::body));
         painter.setPen(theme.color(isChecked() ? Ink::primary : Ink::secondary));
@@ -71,7 +68,7 @@ protected:
     }
 
 private:
-    /// How far a key goes along the choices.
+    /// How many choices further a key goes.
     [[nodiscard]] int stepOf(int key) const {
         const int right = layoutDirection() == Qt::RightToLeft ? -1 : 1;
         switch (key) {
@@ -89,14 +86,11 @@ private:
     }
 
     void paintPlate(QPainter& painter, const Theme& theme) const {
-        const QRectF plate = QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(theme.fill(faded(Qt::black, 0.12)));
-        painter.drawRoundedRect(plate.translated(0, 0.75), segmentRadius, segmentRadius);
-        painter.setBrush(theme.fill(
-            theme.dark() ? laidOver(faded(Qt::white, 0.25), theme.cardFill()) : QColor{Qt::white}));
-        painter.setPen(QPen{theme.separator(), 1});
-        painter.drawRoundedRect(plate, segmentRadius, segmentRadius);
+        const QRectF shadow = QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5).translated(0, 0.75);
+        paintBox(painter, shadow, segmentRadius, theme.fill(faded(Qt::black, 0.12)));
+        const QColor plate =
+            theme.dark() ? laidOver(faded(Qt::white, 0.25), theme.cardFill()) : QColor{Qt::white};
+        paintBox(painter, rect(), segmentRadius, theme.fill(plate), theme.separator());
     }
 };
 
@@ -137,7 +131,7 @@ void SegmentedPicker::setCurrentIndex(int index) {
     keepOneTabStop();
     if (index >= 0) return segments_.at(static_cast<std::size_t>(index))->setChecked(true);
     Segment* const last = segments_.at(static_cast<std::size_t>(before));
-    last->setAutoExclusive(false); // or it would have to stay checked
+    last->setAutoExclusive(false); // otherwise Qt keeps it checked
     last->setChecked(false);
     last->setAutoExclusive(true);
 }
@@ -152,10 +146,7 @@ QAccessible::Role SegmentedPicker::accessibleRole() const {
 
 void SegmentedPicker::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(theme().hoverFill());
-    painter.drawRoundedRect(rect(), Space::controlRadius, Space::controlRadius);
+    paintBox(painter, rect(), Space::controlRadius, theme().hoverFill());
 }
 
 } // namespace quillon

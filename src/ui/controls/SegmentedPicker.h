@@ -10,20 +10,20 @@ namespace quillon {
 
 class Segment;
 
-/// A few choices side by side, one of them picked. The Tab key reaches the picked one, the arrow
-/// keys pick its neighbours. To assistive technology it is a group of radio buttons; it needs an
-/// accessible name.
+/// A few choices side by side, one of which is picked. The Tab key reaches the picked one, and the
+/// arrow keys pick its neighbours. To assistive technology it is a group of radio buttons, which
+/// needs an accessible name.
 class SegmentedPicker : public View {
     Q_OBJECT
 
 public:
     explicit SegmentedPicker(const QStringList& items, QWidget* parent = nullptr);
 
-    /// -1 when none is picked.
+    /// The picked choice, or -1.
     [[nodiscard]] int currentIndex() const;
-    /// Does not emit picked().
+    /// Picks a choice without emitting picked().
     void setCurrentIndex(int index);
-    /// What the item is called where its text does not say it.
+    /// Names a choice for assistive technology, if its text does not do so.
     void setItemAccessibleName(int index, const QString& name);
 
     [[nodiscard]] QAccessible::Role accessibleRole() const override;

@@ -1,14 +1,13 @@
 #include "ui/controls/Spinner.h"
 
+#include "artwork/Colors.h"
 #include "ui/accessibility/Accessibility.h"
-#include "ui/theme/Colors.h"
 #include "ui/theme/Motion.h"
 
 #include <QPainter>
 #include <QTimerEvent>
 
 #include <chrono>
-#include <cmath>
 
 namespace quillon {
 namespace {
@@ -16,20 +15,13 @@ namespace {
 constexpr int spokes = 8;
 constexpr std::chrono::milliseconds stepTime{100};
 constexpr double faintest = 0.18;
-/// Of the radius.
+// Shares of the radius.
 constexpr double spokeStart = 0.48;
 constexpr double spokeWidth = 0.20;
 
 } // namespace
 
-Spinner::Spinner(double size, QWidget* parent) : View{parent}, size_{size} {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-QSize Spinner::sizeHint() const {
-    const int side = static_cast<int>(std::ceil(size_ * Theme::textScale()));
-    return {side, side};
-}
+Spinner::Spinner(double size, QWidget* parent) : SquareView{size, parent} {}
 
 QAccessible::Role Spinner::accessibleRole() const {
     return QAccessible::ProgressBar;
@@ -40,13 +32,13 @@ QString Spinner::accessibleText() const {
 }
 
 void Spinner::showEvent(QShowEvent* event) {
-    View::showEvent(event);
+    SquareView::showEvent(event);
     if (animationsEnabled()) timer_.start(static_cast<int>(stepTime.count()), this);
     announceBusy();
 }
 
 void Spinner::hideEvent(QHideEvent* event) {
-    View::hideEvent(event);
+    SquareView::hideEvent(event);
     timer_.stop();
     announceBusy();
 }
@@ -58,7 +50,7 @@ void Spinner::announceBusy() {
 }
 
 void Spinner::timerEvent(QTimerEvent* event) {
-    if (event->timerId() != timer_.timerId()) return View::timerEvent(event);
+    if (event->timerId() != timer_.timerId()) return SquareView::timerEvent(event);
     step_ = (step_ + 1) % spokes;
     update();
 }
@@ -67,7 +59,7 @@ void Spinner::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(QRectF{rect()}.center());
-    const double radius = size_ * Theme::textScale() / 2;
+    const double radius = side() / 2;
     const double width = radius * spokeWidth;
     const QColor ink = theme().color(Ink::primary);
     for (int i = 0; i < spokes; ++i) {

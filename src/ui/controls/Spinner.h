@@ -1,25 +1,23 @@
 #pragma once
 
-#include "ui/accessibility/View.h"
+#include "ui/controls/SquareView.h"
 
 #include <QBasicTimer>
 
 namespace quillon {
 
-/// Turns while something is being done. It takes no time of the processor while it does not show,
-/// and stands still where animations are reduced.
-class Spinner : public View {
+/// Turns while something is being done. While it does not show it takes no processor time, and if
+/// the user wants no animations it stands still.
+class Spinner : public SquareView {
     Q_OBJECT
 
 public:
-    /// `size` in points of the design; it grows with the text.
+    /// `size` in points of the design.
     explicit Spinner(double size = 16, QWidget* parent = nullptr);
 
-    /// Whether it turns at the moment.
+    /// Whether it is turning now.
     [[nodiscard]] bool turning() const { return timer_.isActive(); }
 
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
     [[nodiscard]] QAccessible::Role accessibleRole() const override;
     [[nodiscard]] QString accessibleText() const override;
     [[nodiscard]] bool accessibleBusy() const override { return isVisible(); }
@@ -33,7 +31,6 @@ protected:
 private:
     void announceBusy();
 
-    double size_;
     int step_ = 0;
     QBasicTimer timer_;
 };

@@ -1,12 +1,9 @@
 #include "ui/controls/Switch.h"
 
+#include "artwork/Colors.h"
 #include "ui/controls/Tile.h"
-#include "ui/theme/Colors.h"
-#include "ui/theme/Motion.h"
 
-#include <QKeyEvent>
 #include <QPainter>
-#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -24,7 +21,7 @@ constexpr double comfortableTitle = 300;
 constexpr double leastTitle = 64;
 
 QSizeF trackSize() {
-    return {std::ceil(Theme::length(trackWidth)), std::ceil(Theme::length(trackHeight))};
+    return wholeSize(Theme::length(trackWidth), Theme::length(trackHeight));
 }
 
 QColor mixed(QColor from, QColor to, double share) {
@@ -38,20 +35,15 @@ QColor mixed(QColor from, QColor to, double share) {
 } // namespace
 
 Switch::Switch(const QString& title, std::string symbol, QColor color, QWidget* parent)
-    : Themed{title, parent},
+    : PressedByReturn{title, parent},
       symbol_{std::move(symbol)},
-      color_{color} {
+      color_{color},
+      position_{0, [this](double) { update(); }} {
     QSizePolicy policy{QSizePolicy::Preferred, QSizePolicy::Minimum};
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
-    slide_.setDuration(static_cast<int>(changeDuration.count()));
-    slide_.setEasingCurve(QEasingCurve::InOutQuad);
-    connect(&slide_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-        position_ = value.toDouble();
-        update();
-    });
     connect(this, &QCheckBox::toggled, this, [this](bool on) {
-        slide(on);
+        position_.go(on ? 1 : 0, isVisible());
         if (!showing_) Q_EMIT switched(on);
     });
 }
@@ -62,26 +54,14 @@ void Switch::showOn(bool on) {
     showing_ = false;
 }
 
-void Switch::slide(bool on) {
-    slide_.stop();
-    if (!isVisible() || !animationsEnabled()) {
-        position_ = on ? 1 : 0;
-        return update();
-    }
-    slide_.setStartValue(position_);
-    slide_.setEndValue(on ? 1.0 : 0.0);
-    slide_.start();
-}
-
 void Switch::hideEvent(QHideEvent* event) {
-    slide_.stop();
-    position_ = isChecked() ? 1 : 0;
-    Themed::hideEvent(event);
+    position_.arrive();
+    PressedByReturn::hideEvent(event);
 }
 
 TextBlock Switch::titleBlock() const {
     return TextBlock::title(text(), Theme::font(Text::body), layoutDirection(),
-                            style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0);
+                            underlinesMnemonic());
 }
 
 double Switch::besideTitle() const {
@@ -105,7 +85,7 @@ QSize Switch::hintFor(double mostTitle) const {
 
 int Switch::heightForWidth(int width) const {
     double height = trackSize().height();
-    if (!symbol_.empty()) height = std::max(height, Tile::side());
+    if (!symbol_.empty()) height = std::max<double>(height, Tile::side());
     TextBlock title = titleBlock();
     height = std::max(height, title.wrap(std::max(1.0, width - besideTitle())).height());
     return static_cast<int>(std::ceil(height));
@@ -113,11 +93,6 @@ int Switch::heightForWidth(int width) const {
 
 bool Switch::hitButton(const QPoint& position) const {
     return rect().contains(position);
-}
-
-void Switch::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
-    Themed::keyPressEvent(event);
 }
 
 void Switch::paintEvent(QPaintEvent* /*event*/) {
@@ -157,12 +132,12 @@ void Switch::paintTrack(QPainter& painter) const {
     const QColor off =
         faded(theme.color(Ink::primary), underMouse() ? offOpacity + 0.06 : offOpacity);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(mixed(off, theme.color(Ink::accent), position_));
+    painter.setBrush(mixed(off, theme.color(Ink::accent), position_.value()));
     painter.drawRoundedRect(track, radius, radius);
 
     const double knob = size.height() - 2 * knobGap;
     const double way = size.width() - 2 * knobGap - knob;
-    const double along = rightToLeft ? 1 - position_ : position_;
+    const double along = rightToLeft ? 1 - position_.value() : position_.value();
     const QRectF disc{track.left() + knobGap + way * along, track.top() + knobGap, knob, knob};
     painter.setBrush(theme.fill(faded(Qt::black, 0.20)));
     painter.drawEllipse(disc.translated(0, 1));

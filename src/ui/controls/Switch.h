@@ -1,25 +1,25 @@
 #pragma once
 
+#include "ui/controls/PressedByReturn.h"
 #include "ui/text/TextBlock.h"
-#include "ui/theme/Themed.h"
+#include "ui/theme/Transition.h"
 
 #include <QCheckBox>
-#include <QVariantAnimation>
 
 #include <string>
 
 namespace quillon {
 
-/// A switch at the trailing end of its row, with a tile and the title at the other end; all of the
-/// row switches it, as do Space, Return and the title's mnemonic. To assistive technology it is a
-/// check box.
-class Switch : public Themed<QCheckBox> {
+/// A row with a tile and a title at its leading end and a switch at the other. A click anywhere in
+/// the row switches it, and so do Space, Return and the title's mnemonic. To assistive technology
+/// it is a check box.
+class Switch : public PressedByReturn<QCheckBox> {
     Q_OBJECT
 
 public:
     Switch(const QString& title, std::string symbol, QColor color, QWidget* parent = nullptr);
 
-    /// Shows whether it is on, which is no switching.
+    /// Shows whether it is on, without emitting switched().
     void showOn(bool on);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -28,29 +28,26 @@ public:
     [[nodiscard]] int heightForWidth(int width) const override;
 
 Q_SIGNALS:
-    /// The user switched it, with whatever; assistive technology does so without a click.
+    /// The user switched it, by whatever means. (Assistive technology does so without a click.)
     void switched(bool on);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     [[nodiscard]] bool hitButton(const QPoint& position) const override;
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void slide(bool on);
     [[nodiscard]] TextBlock titleBlock() const;
-    /// The width of all that is not the title.
+    /// The width of all but the title.
     [[nodiscard]] double besideTitle() const;
-    /// The size with a title that is wrapped into this many points.
+    /// The size if the title is wrapped into at most this many points.
     [[nodiscard]] QSize hintFor(double mostTitle) const;
     void paintTitle(QPainter& painter) const;
     void paintTrack(QPainter& painter) const;
 
     std::string symbol_;
     QColor color_;
-    QVariantAnimation slide_;
-    double position_ = 0; // of the knob: 0 off, 1 on
+    Transition position_; // of the knob: 0 is off, 1 is on
     bool showing_ = false;
 };
 

@@ -5,7 +5,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace quillon {
 namespace {
@@ -19,7 +18,7 @@ constexpr double leastWidth = 80;
 } // namespace
 
 TextField::TextField(QWidget* parent) : Themed{parent} {
-    // The style draws the text alone. (A style sheet would keep the colours it has found first.)
+    // The style draws nothing but the text. (With a style sheet, Qt would keep the first colours.)
     setFrame(false);
     QPalette bare;
     bare.setColor(QPalette::Base, Qt::transparent);
@@ -30,7 +29,7 @@ TextField::TextField(QWidget* parent) : Themed{parent} {
 
 QSize TextField::sizeHint() const {
     const int text = fontMetrics().height() + 2 * aboveText;
-    const int least = static_cast<int>(std::ceil(Theme::length(leastHeight)));
+    const int least = Theme::wholeLength(leastHeight);
     return {static_cast<int>(Theme::length(usualWidth)), std::max(text, least)};
 }
 
@@ -42,13 +41,9 @@ void TextField::paintEvent(QPaintEvent* event) {
     const Theme theme = this->theme();
     {
         QPainter painter{this};
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen{theme.pressedFill(), 1});
-        painter.setBrush(
-            theme.fill(QGuiApplication::palette().color(QPalette::Active, QPalette::Base)));
-        painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), Space::controlRadius,
-                                Space::controlRadius);
-        // Where the text goes is worth knowing for those who use the mouse, too.
+        const QColor base = QGuiApplication::palette().color(QPalette::Active, QPalette::Base);
+        paintBox(painter, rect(), Space::controlRadius, theme.fill(base), theme.pressedFill());
+        // Users of the mouse, too, need to see where the text goes.
         if (hasFocus()) theme.paintFocusRing(painter, rect(), Space::controlRadius);
     }
     Themed::paintEvent(event);

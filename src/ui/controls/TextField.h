@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-/// A line of text to type, in a box with round corners. It needs an accessible name.
+/// A field for a line of text, in a box with round corners. It needs an accessible name.
 class TextField : public Themed<QLineEdit> {
     Q_OBJECT
 

@@ -12,6 +12,7 @@ namespace quillon {
 namespace {
 
 constexpr double sidePoints = 20;
+// Shares of the side.
 constexpr double symbolShare = 0.55;
 constexpr double cornerShare = 0.27;
 
@@ -31,37 +32,31 @@ void Tile::setSymbol(const std::string& symbol, QColor color) {
 }
 
 QSize Tile::sizeHint() const {
-    const int whole = static_cast<int>(side());
-    return {whole, whole};
+    return {side(), side()};
 }
 
-double Tile::side() {
-    return std::ceil(Theme::length(sidePoints));
+int Tile::side() {
+    return Theme::wholeLength(sidePoints);
 }
 
 void Tile::paint(QPainter& painter, const QRectF& box, const std::string& symbol, QColor color,
                  const Theme& theme) {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(theme.fill(color));
-    const double radius = box.width() * cornerShare;
-    painter.drawRoundedRect(box, radius, radius);
+    paintBox(painter, box, box.width() * cornerShare, theme.fill(color));
     paintSymbol(painter, box, symbol, std::round(box.width() * symbolShare), Theme::onTile(color),
                 SymbolWeight::semibold);
-    painter.restore();
 }
 
 void Tile::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
-    const QSizeF size{side(), side()};
+    const QSizeF size = sizeHint();
     const QPointF corner{(width() - size.width()) / 2, (height() - size.height()) / 2};
     paint(painter, {corner, size}, symbol_, color_, theme());
 }
 
-TileLabel::TileLabel(const QString& title, const std::string& symbol, QColor color, QWidget* parent)
+TileLabel::TileLabel(const QString& title, const std::string& symbol, QColor color,
+                     const TextStyle& style, QWidget* parent)
     : View{parent},
-      title_{new IconLabel{title}} {
+      title_{new IconLabel{title, {}, {.style = style}}} {
     auto* row = new QHBoxLayout{this};
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(10);
@@ -78,7 +73,7 @@ QAccessible::Role TileLabel::accessibleRole() const {
 }
 
 QString TileLabel::accessibleText() const {
-    return title_->text();
+    return title_->text().plain();
 }
 
 } // namespace quillon

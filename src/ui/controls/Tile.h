@@ -17,8 +17,9 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
-    /// The side of a tile in device-independent pixels, for those who paint one themselves.
-    [[nodiscard]] static double side();
+    /// The side of a tile in device-independent pixels.
+    [[nodiscard]] static int side();
+    /// Paints a tile as large as `box`, for views that contain one.
     static void paint(QPainter& painter, const QRectF& box, const std::string& symbol, QColor color,
                       const Theme& theme);
 
@@ -30,13 +31,13 @@ private:
     QColor color_;
 };
 
-/// The label of a row: a tile and the title after it.
+/// The label of a row: a tile, and a title after it.
 class TileLabel : public View {
     Q_OBJECT
 
 public:
     TileLabel(const QString& title, const std::string& symbol, QColor color,
-              QWidget* parent = nullptr);
+              const TextStyle& style = Text::body, QWidget* parent = nullptr);
 
     void setTitle(const QString& title);
     [[nodiscard]] QAccessible::Role accessibleRole() const override;

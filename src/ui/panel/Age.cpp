@@ -19,7 +19,7 @@ struct Unit {
     URelativeDateTimeUnit unit;
 };
 
-/// Largest first; months and years have their average length.
+/// The units, largest first. Months and years have their average length.
 constexpr std::array units{
     Unit{std::chrono::years{1}, UDAT_REL_UNIT_YEAR},
     Unit{std::chrono::months{1}, UDAT_REL_UNIT_MONTH},

@@ -4,7 +4,6 @@
 #include "ui/panel/Age.h"
 #include "ui/text/IconLabel.h"
 #include "ui/text/SymbolView.h"
-#include "ui/text/TextBlock.h"
 
 #include <QHBoxLayout>
 
@@ -49,13 +48,12 @@ HistoryRow::HistoryRow(QWidget* parent)
 void HistoryRow::setEntry(const Sent& entry, Date now, const std::string& locale) {
     const QString before = accessibleText();
     symbol_->setSymbol(entry.symbol);
-    title_->setText(TextBlock::verbatim(QString::fromStdString(entry.title)));
+    title_->setText(QString::fromStdString(entry.title));
     if (entry.error) {
-        detail_->setText(TextBlock::verbatim(QString::fromStdString(*entry.error)));
+        detail_->setText(QString::fromStdString(*entry.error));
     } else {
         const QString topic = QString::fromStdString(entry.topic);
-        detail_->setText(TextBlock::verbatim(
-            tr("%1 · %2", "topic and age").arg(topic, age(entry.date, now, locale))));
+        detail_->setText(tr("%1 · %2", "topic and age").arg(topic, age(entry.date, now, locale)));
     }
     setFailed(entry.error.has_value());
     if (accessibleText() != before) announceText();

@@ -11,7 +11,7 @@ namespace quillon {
 class IconLabel;
 class SymbolView;
 
-/// One send: what it was, where it went and when, or why it failed.
+/// One send: what was sent, to which topic and when, or why it failed.
 class HistoryRow : public View {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private:
     IconLabel* title_;
     IconLabel* detail_;
     SymbolView* mark_;
-    std::optional<bool> failed_; // what the marks now tell
+    std::optional<bool> failed_; // what the row shows now
 };
 
 } // namespace quillon

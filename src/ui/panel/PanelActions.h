@@ -4,7 +4,7 @@
 
 namespace quillon {
 
-/// What the panel's buttons do outside the panel.
+/// The actions of the panel's buttons that lie outside the panel.
 struct PanelActions {
     std::function<void()> showSettings;
     std::function<void()> quit;

@@ -6,17 +6,17 @@ namespace quillon {
 
 class TextButton;
 
-/// The row of small buttons at the panel's foot.
+/// The row of small buttons at the bottom of the panel.
 class PanelFooter : public QWidget {
     Q_OBJECT
 
 public:
     explicit PanelFooter(QWidget* parent = nullptr);
 
-    /// `available`: there is an updater at all; `canCheck`: it can look for updates now.
+    /// `available` says whether there is an updater, `canCheck` whether it can look for updates.
     void setUpdates(bool available, bool canCheck);
 
-    /// How far the text of the first and the last button is from the footer's edges.
+    /// The distance between the footer's edges and the texts of the first and the last button.
     [[nodiscard]] int inset() const;
 
 Q_SIGNALS:

@@ -3,7 +3,6 @@
 #include "ui/controls/BrandViews.h"
 #include "ui/text/IconLabel.h"
 #include "ui/text/SymbolView.h"
-#include "ui/text/TextBlock.h"
 
 #include <QHBoxLayout>
 
@@ -49,8 +48,7 @@ void PanelHeader::setStatus(bool ready, const std::optional<std::string>& group)
     connected_->setVisible(ready);
     notSetUp_->setVisible(!ready);
     const QString name = group ? QString::fromStdString(*group) : tr("your group");
-    status_->setText(ready ? tr("Connected · %1").arg(TextBlock::verbatim(name))
-                           : tr("Not set up yet"));
+    status_->setText(ready ? tr("Connected · %1").arg(name) : tr("Not set up yet"));
 }
 
 } // namespace quillon

@@ -11,14 +11,14 @@ class IconLabel;
 class SymbolView;
 class TelegramIcon;
 
-/// The head of the panel: whose it is, and whether it is connected.
+/// The top of the panel: the program's icon and name, and whether it is connected.
 class PanelHeader : public View {
     Q_OBJECT
 
 public:
     explicit PanelHeader(QWidget* parent = nullptr);
 
-    /// `group` is the title of the group, if one is known.
+    /// `group` is the title of the group, if it is known.
     void setStatus(bool ready, const std::optional<std::string>& group);
 
     [[nodiscard]] QAccessible::Role accessibleRole() const override {

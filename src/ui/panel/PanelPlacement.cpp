@@ -6,7 +6,7 @@ namespace quillon {
 
 namespace {
 
-/// The nearest place inside; the top left corner stays inside whatever the size.
+/// Moves the panel into the room. The top left corner is inside even if the panel is too large.
 QRect movedInto(QRect panel, const QRect& room) {
     panel.moveRight(std::min(panel.right(), room.right()));
     panel.moveBottom(std::min(panel.bottom(), room.bottom()));
@@ -21,7 +21,7 @@ QRect panelBesideIcon(QSize panel, const QRect& icon, const QRect& screen, const
     const QRect inner = room.adjusted(panelGap, panelGap, -panelGap, -panelGap);
     QRect frame{{}, panel};
     frame.moveCenter(icon.center());
-    // The desktop's panel takes its strip off the room, so that tells on which side it stands.
+    // The desktop's panel is not part of the room, which tells on which side of the screen it lies.
     if (icon.center().x() < room.left()) {
         frame.moveLeft(room.left() + panelGap);
     } else if (icon.center().x() > room.right()) {

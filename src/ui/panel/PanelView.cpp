@@ -30,7 +30,7 @@ namespace {
 constexpr double panelWidth = 320;
 constexpr int padding = 14;
 constexpr int spacing = 14;
-/// What the footer's buttons have above and below their texts.
+/// The room above and below the texts of the footer's buttons.
 constexpr int footerRoom = 3;
 constexpr std::chrono::seconds tickInterval{1};
 
@@ -67,7 +67,7 @@ void PanelView::build() {
          std::initializer_list<QWidget*>{header_, setup_, send_, warning_, recent_, new Divider})
         parts->addWidget(part);
 
-    // The texts of the footer's buttons stand in line with everything else, their edges outside.
+    // The texts of the footer's buttons line up with everything else, not the buttons' edges.
     const int inset = footer_->inset();
     parts->setContentsMargins(inset, 0, inset, 0);
     auto* const column = new QVBoxLayout{this};
@@ -110,7 +110,7 @@ QString PanelView::takenText(ShortcutChoice shortcut) {
 }
 
 void PanelView::focusMainAction() {
-    // Not a reason that shows the focus: only those who go on with the keyboard need to see it.
+    // This reason does not show the focus. Users of the keyboard see it from their next key on.
     if (send_->isVisible() && send_->isEnabled()) return send_->setFocus(Qt::PopupFocusReason);
     if (!store_.isReady()) setup_->findChild<TextButton*>()->setFocus(Qt::PopupFocusReason);
 }
@@ -148,7 +148,7 @@ QCoro::Task<> PanelView::readClipboard() {
     if (std::holds_alternative<ClipEmpty>(content)) readAt_.reset();
     clip_ = Clipboard::summary(content);
     refresher_.schedule();
-    // It takes the system milliseconds to get back the memory of a large picture.
+    // Freeing the memory of a large picture takes milliseconds, so another thread does it.
     if (std::holds_alternative<ClipImage>(content))
         QThreadPool::globalInstance()->start([gone = std::move(content)] {});
 }

@@ -25,8 +25,9 @@ class Store;
 class Updater;
 struct Platform;
 
-/// What the icon in the desktop's panel opens: the state of things, the one big action, the last
-/// sends and the way to everything else. Looks at the clipboard once a second while it is shown.
+/// The panel that the icon opens: the state of the program, the button that sends the clipboard,
+/// the last sends, and the way to everything else. It looks at the clipboard every second while it
+/// shows.
 class PanelView : public QWidget {
     Q_OBJECT
 
@@ -34,13 +35,13 @@ public:
     PanelView(Platform& platform, Store& store, const Updater& updater, PanelActions actions,
               QWidget* parent = nullptr);
 
-    /// Gives the keyboard to the one thing to do here.
+    /// Gives the keyboard focus to the main button.
     void focusMainAction();
 
-    /// What it says of a shortcut that another program has.
+    /// The warning that another program has the shortcut.
     [[nodiscard]] static QString takenText(ShortcutChoice shortcut);
 
-    /// The panel has one width, however long its texts are; the height follows from it.
+    /// The width is the same however long the texts are, and the height follows from it.
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -53,7 +54,7 @@ private:
     void connectActions();
     /// Shows the state of the store, the updater and the clipboard.
     void refresh();
-    /// Looks at everything that changes without telling, now and in a second again.
+    /// Looks at everything that changes without a signal, and schedules the next look.
     void tick();
     QCoro::Task<> readClipboard();
 
@@ -65,8 +66,8 @@ private:
     Clipboard::Summary clip_;
     std::unique_ptr<Clock::Timer> tick_;
     bool reading_ = false;
-    /// The pasteboard's change count when what is in clip_ was read; none while that was nothing,
-    /// which may be because the clipboard's owner did not answer.
+    /// The pasteboard's change count when clip_ was read. No value if nothing was read, which may
+    /// mean that the clipboard's owner did not answer.
     std::optional<std::uint64_t> readAt_;
 
     PanelHeader* header_;

@@ -22,8 +22,8 @@ namespace quillon {
 
 namespace {
 
-/// A click on the icon first takes the focus away, which closes the panel, and is then told: within
-/// this time it is that same click, and no wish to open it again.
+/// A click on the icon first takes the focus, which closes the panel, and is reported only then. A
+/// click that is reported within this time is that same click, and must not open the panel again.
 constexpr std::chrono::milliseconds sameClick{300};
 constexpr double cornerRadius = 10;
 
@@ -40,7 +40,7 @@ PanelWindow::PanelWindow(Compositor& compositor, Workspace& workspace, MakePanel
 PanelWindow::~PanelWindow() = default;
 
 void PanelWindow::makePanel() {
-    // Decided once, since a window cannot change the depth of its pixels.
+    // This is decided once, because a window cannot change its colour depth.
     setAttribute(Qt::WA_TranslucentBackground, compositor_.active());
     panel_ = makePanel_().release();
     scroll_ = new QScrollArea;
@@ -109,11 +109,7 @@ void PanelWindow::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme{*this};
     const bool round = testAttribute(Qt::WA_TranslucentBackground);
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(theme.separator());
-    painter.setBrush(palette().window());
-    const double radius = round ? cornerRadius : 0;
-    painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    paintBox(painter, rect(), round ? cornerRadius : 0, palette().window(), theme.separator());
 }
 
 } // namespace quillon

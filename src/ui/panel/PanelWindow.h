@@ -15,20 +15,20 @@ class Compositor;
 class PanelView;
 class Workspace;
 
-/// The small window that the panel is shown in. Opens beside the icon that was clicked and closes
-/// by itself: on Escape, when it loses the focus, and when the icon is clicked again.
+/// The small window of the panel. It opens beside the icon that was clicked, and closes on Escape,
+/// when it loses the focus, and when the icon is clicked again.
 class PanelWindow : public QWidget {
     Q_OBJECT
 
 public:
     using MakePanel = std::function<std::unique_ptr<PanelView>()>;
 
-    /// The panel itself is made when it is first opened.
+    /// Makes the panel itself when the window opens for the first time.
     PanelWindow(Compositor& compositor, Workspace& workspace, MakePanel makePanel);
     ~PanelWindow() override;
 
-    /// Opens it, or closes it if it is open. `icon` is the icon's place on the screen, empty where
-    /// the desktop does not tell: then the pointer's corner of the screen is taken.
+    /// Opens the window, or closes it if it is open. `icon` is the icon's place on the screen. With
+    /// an empty one, when the place is unknown, the pointer's corner of the screen is taken.
     void toggle(const QRect& icon);
     void open(const QRect& icon);
 
@@ -40,7 +40,7 @@ protected:
 
 private:
     void makePanel();
-    /// Gives the window the panel's size, at the place that it opened at.
+    /// Gives the window the panel's size, and keeps it where it opened.
     void place();
 
     Compositor& compositor_;
@@ -50,7 +50,7 @@ private:
     QScrollArea* scroll_ = nullptr;
     QRect icon_;
     QPoint pointer_;
-    /// Since it was closed because something else took the focus.
+    /// The time since the window closed because it lost the focus.
     QElapsedTimer sinceLostFocus_;
 };
 

@@ -12,17 +12,17 @@ namespace quillon {
 class HistoryRow;
 class IconLabel;
 
-/// The last few sends, and what became of them.
+/// The list of the last few sends.
 class RecentSends : public View {
     Q_OBJECT
 
 public:
-    /// How many of them are listed, the newest.
+    /// The number of sends that are listed.
     static constexpr std::size_t limit = 5;
 
     explicit RecentSends(QWidget* parent = nullptr);
 
-    /// `history` has the newest first; `locale` is that of the ages.
+    /// `history` has the newest send first. The ages are written in the language of `locale`.
     void setHistory(const std::vector<Sent>& history, Date now, const std::string& locale);
 
     [[nodiscard]] QAccessible::Role accessibleRole() const override { return QAccessible::List; }

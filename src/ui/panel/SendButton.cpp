@@ -1,12 +1,11 @@
 #include "ui/panel/SendButton.h"
 
 #include "artwork/Brand.h"
+#include "artwork/Colors.h"
 #include "ui/accessibility/Accessibility.h"
 #include "ui/text/IconLabel.h"
 #include "ui/text/Keycap.h"
 #include "ui/text/SymbolView.h"
-#include "ui/text/TextBlock.h"
-#include "ui/theme/Colors.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -21,7 +20,8 @@ constexpr double symbolSize = 18;
 constexpr double symbolFrame = 24;
 constexpr double lineOpacity = 0.75;
 constexpr TextStyle titleStyle{14, QFont::Bold};
-/// How much darker or lighter the ground is while pressed and under the pointer, in per cent.
+// The lightness of the ground while pressed and under the pointer, as percentages that darker() and
+// lighter() take.
 constexpr int pressedDarker = 108;
 constexpr int hoverLighter = 103;
 
@@ -61,7 +61,7 @@ void SendButton::setClip(const Clipboard::Summary& clip, bool busy) {
     const QString line = QString::fromStdString(clip.line);
     symbol_->setSymbol(busy ? "arrow.up.circle" : clip.symbol);
     title_->setText(busy ? tr("Sending…") : tr("Send clipboard"));
-    line_->setText(TextBlock::verbatim(line));
+    line_->setText(line);
     setBusy(busy);
     setDescription(*this, busy ? tr("Sending…") : line);
 }
@@ -77,9 +77,7 @@ void SendButton::paintGround(QPainter& painter, const Theme& theme) {
     } else if (isEnabled() && underMouse()) {
         ground = ground.lighter(hoverLighter);
     }
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(theme.fill(ground));
-    painter.drawRoundedRect(QRectF{rect()}, Space::cardRadius, Space::cardRadius);
+    paintBox(painter, rect(), cornerRadius(), theme.fill(ground));
 }
 
 Tint SendButton::focusTint() const {

@@ -10,7 +10,7 @@ class IconLabel;
 class KeyRow;
 class SymbolView;
 
-/// The panel's one big action: sends the clipboard, and tells what is on it.
+/// The panel's main button, which sends the clipboard and tells what is on it.
 class SendButton : public ContentButton {
     Q_OBJECT
 

@@ -40,10 +40,7 @@ void SetupCard::setShortcut(const QString& keys) {
 
 void SetupCard::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(theme().quaternaryFill());
-    painter.drawRoundedRect(QRectF{rect()}, Space::cardRadius, Space::cardRadius);
+    paintBox(painter, rect(), Space::cardRadius, theme().quaternaryFill());
 }
 
 } // namespace quillon

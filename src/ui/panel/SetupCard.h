@@ -6,14 +6,14 @@ namespace quillon {
 
 class IconLabel;
 
-/// The way into the setup, in place of the send button.
+/// The way into the setup. It stands in place of the send button.
 class SetupCard : public View {
     Q_OBJECT
 
 public:
     explicit SetupCard(QWidget* parent = nullptr);
 
-    /// The key caps of the shortcut, joined.
+    /// `keys` are the symbols of the shortcut's keys.
     void setShortcut(const QString& keys);
 
     [[nodiscard]] QAccessible::Role accessibleRole() const override {
@@ -21,7 +21,7 @@ public:
     }
 
 Q_SIGNALS:
-    /// The user wants to set it up.
+    /// The user wants to set the program up.
     void startSetup();
 
 protected:

@@ -16,7 +16,6 @@
 
 #include <QVBoxLayout>
 
-#include <cmath>
 #include <tuple>
 #include <utility>
 
@@ -26,7 +25,7 @@ namespace {
 
 constexpr double pickerWidth = 200;
 
-/// A value at the end of a row.
+/// The value at the end of a row.
 IconLabel* makeValue() {
     return new IconLabel{{}, {}, {.ink = Ink::secondary, .overflow = Overflow::elideMiddle}};
 }
@@ -142,7 +141,7 @@ void GeneralView::refresh() {
     refreshShortcut();
     sound_->showOn(config.playSound);
     banner_->showOn(config.showBanner);
-    // What is disabled is drawn dimmed.
+    // Disabled views are painted dimmed.
     positions_->setEnabled(config.showBanner);
     for (const auto& [position, card] : positionCards_)
         card->showSelected(config.bannerPosition == position);
@@ -152,7 +151,7 @@ void GeneralView::refresh() {
 
 void GeneralView::refreshShortcut() {
     const ShortcutChoice choice = store_.config().shortcut;
-    shortcut_->setFixedWidth(static_cast<int>(std::ceil(Theme::length(pickerWidth))));
+    shortcut_->setFixedWidth(Theme::wholeLength(pickerWidth));
     shortcut_->setCurrentIndex(static_cast<int>(choice));
     taken_->setText(tr("Another app already uses %1. Pick another one.")
                         .arg(QString::fromStdString(keysText(choice))));
@@ -162,11 +161,9 @@ void GeneralView::refreshShortcut() {
 void GeneralView::refreshTelegram() {
     const Config& config = store_.config();
     const QString bot = config.botName ? QString::fromStdString(*config.botName) : tr("connected");
-    bot_->setText(store_.tokenSaved() ? tr("@%1").arg(TextBlock::verbatim(bot))
-                                      : tr("Not connected"));
-    group_->setText(config.chatTitle
-                        ? TextBlock::verbatim(QString::fromStdString(*config.chatTitle))
-                        : tr("Not found yet"));
+    bot_->setText(store_.tokenSaved() ? tr("@%1").arg(bot) : tr("Not connected"));
+    group_->setText(config.chatTitle ? QString::fromStdString(*config.chatTitle)
+                                     : tr("Not found yet"));
     disconnect_->setVisible(store_.tokenSaved());
 }
 
@@ -189,7 +186,7 @@ void GeneralView::confirmUninstall() {
     sheet_->open();
 }
 
-/// The desktop may have changed what opens at login.
+/// Refreshes, because the desktop may have changed what opens at login.
 void GeneralView::showEvent(QShowEvent* event) {
     View::showEvent(event);
     refresher_.refreshNow();

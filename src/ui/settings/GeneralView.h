@@ -21,7 +21,7 @@ class TextButton;
 class UninstallSheet;
 class Updater;
 
-/// The settings of the program itself, and the way to remove it.
+/// The general settings of the program, and the way to uninstall it.
 class GeneralView : public View {
     Q_OBJECT
 

@@ -4,8 +4,8 @@
 
 namespace quillon {
 
-/// The strip at the settings window's foot that leads to the panel, for desktops without a place
-/// for the icon that otherwise opens it.
+/// The strip at the bottom of the settings window with a button that opens the panel, for desktops
+/// without a place for the icon that usually opens it.
 class PanelOffer : public QWidget {
     Q_OBJECT
 

@@ -1,9 +1,9 @@
 #include "ui/settings/PositionCard.h"
 
 #include "artwork/Brand.h"
+#include "artwork/Colors.h"
 #include "ui/text/IconLabel.h"
 #include "ui/text/SymbolView.h"
-#include "ui/theme/Colors.h"
 
 #include <QPainter>
 #include <QVBoxLayout>
@@ -19,7 +19,7 @@ constexpr double borderWidth = 1.5;
 constexpr double selectedFill = 0.12;
 constexpr double cardCorner = 9;
 
-/// In the order of BannerPosition: what a language makes of "in the" goes with the word.
+/// In the order of BannerPosition. Each is a whole phrase, because languages differ in "in the".
 constexpr std::array spokenNames{
     QT_TRANSLATE_NOOP("quillon::PositionCard", "Banner in the top"),
     QT_TRANSLATE_NOOP("quillon::PositionCard", "Banner in the middle"),
@@ -56,14 +56,11 @@ void PositionCard::showSelected(bool selected) {
 void PositionCard::paintGround(QPainter& painter, const Theme& theme) {
     const bool taken = selected().value_or(false);
     const bool lit = isEnabled() && (underMouse() || isDown());
-    painter.setPen(taken ? QPen{theme.fill(Brand::coral), borderWidth}
-                         : QPen{theme.separator(), 1});
-    painter.setBrush(taken ? theme.fill(faded(Brand::coral, selectedFill))
-                     : lit ? theme.hoverFill()
-                           : theme.quaternaryFill());
-    const double half = (taken ? borderWidth : 1) / 2;
-    painter.drawRoundedRect(QRectF{rect()}.adjusted(half, half, -half, -half),
-                            cornerRadius() - half, cornerRadius() - half);
+    const QPen line = taken ? QPen{theme.fill(Brand::coral), borderWidth} : QPen{theme.separator()};
+    const QColor fill = taken ? theme.fill(faded(Brand::coral, selectedFill))
+                        : lit ? theme.hoverFill()
+                              : theme.quaternaryFill();
+    paintBox(painter, rect(), cornerRadius() - line.widthF() / 2, fill, line);
 }
 
 } // namespace quillon

@@ -8,14 +8,14 @@ namespace quillon {
 class IconLabel;
 class SymbolView;
 
-/// A place that the banner can have, as a card to pick it with (`clicked`).
+/// A card for one of the banner's positions. A click (clicked()) picks it.
 class PositionCard : public ContentButton {
     Q_OBJECT
 
 public:
     explicit PositionCard(BannerPosition position, QWidget* parent = nullptr);
 
-    /// It is the banner's place at the moment.
+    /// Shows whether this is the banner's position now.
     void showSelected(bool selected);
 
 protected:

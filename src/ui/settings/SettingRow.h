@@ -6,8 +6,8 @@
 
 namespace quillon {
 
-/// A row of a card: its label at one end, and what belongs to it at the other, which gives way when
-/// both are too long.
+/// A row of a card: its label at the leading end, and its control or value at the other, which
+/// becomes narrower if there is too little room for both.
 [[nodiscard]] inline QHBoxLayout* settingRow(TileLabel* label, QWidget* trailing) {
     auto* row = new QHBoxLayout;
     row->setSpacing(Space::medium);

@@ -8,13 +8,13 @@
 
 namespace quillon {
 
-/// What the settings do that is neither a setting nor an action of the store. All of it lives
-/// longer than the views.
+/// The actions of the settings that are neither settings nor actions of the store. What they use
+/// must outlive the views.
 struct SettingsActions {
     std::function<void(BannerMessage)> showBanner;
     /// Removes the program, and ends it.
     std::function<QCoro::Task<>()> uninstall;
-    /// Opens the panel, where no icon does.
+    /// Opens the panel, for desktops without a place for the icon.
     std::function<void()> openPanel{};
 };
 

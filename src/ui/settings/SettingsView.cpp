@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -35,12 +34,12 @@ constexpr std::array<Tab, 3> tabs{{
     {"general", QT_TRANSLATE_NOOP("quillon::SettingsView", "&General"), "gearshape.fill"},
 }};
 
-/// How far keys go along the tabs, from wherever the keyboard is.
+/// Keys that go to another tab, wherever the focus is, and the number of tabs that they go further.
 constexpr std::array<std::pair<const char*, int>, 4> tabKeys{
     {{"Ctrl+Tab", 1}, {"Ctrl+Shift+Tab", -1}, {"Ctrl+PgDown", 1}, {"Ctrl+PgUp", -1}}};
 
-/// Holds the tabs' contents. They are as high as their width makes them, which their least heights,
-/// at the least width, say nothing about.
+/// Holds the pages of the tabs. A page's height depends on its width, so minimumSizeHint(), which
+/// is about the least width, would be meaningless here.
 class Pages : public QWidget {
 public:
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, 0}; }
@@ -130,7 +129,7 @@ void SettingsView::showPage(int index) {
 }
 
 int SettingsView::fittingWidth() {
-    return static_cast<int>(std::ceil(Theme::length(designWidth)));
+    return Theme::wholeLength(designWidth);
 }
 
 int SettingsView::fittingHeight() const {
@@ -139,7 +138,7 @@ int SettingsView::fittingHeight() const {
     const int below = offer_->isHidden() ? 0 : offer_->sizeHint().height();
     const int height = above + page->heightForWidth(fittingWidth()) + below;
     if (page != setup_ || !setup_->moving()) return height;
-    // The window changes once: before the guide's rows take more room, after they gave some back.
+    // The window changes its height once: before rows of the guide grow, or after they have shrunk.
     return std::max(reported_, height + setup_->growthAhead());
 }
 

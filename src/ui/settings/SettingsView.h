@@ -16,34 +16,34 @@ class Store;
 class TabStrip;
 class Updater;
 
-/// The content of the settings window: the setup guide, the topics and the general settings, each
-/// behind a tab. As wide as it is made for; tells how high it would like to be.
+/// The content of the settings window: three tabs with the setup guide, the topics and the general
+/// settings. Its width is fixed, and it tells the height that it needs.
 class SettingsView : public View {
     Q_OBJECT
 
 public:
-    /// The tag of the tab that is selected at first: "setup", "topics" or "general".
+    /// `tab` is the tag of the first tab to show: "setup", "topics" or "general".
     SettingsView(Store& store, Updater& updater, SettingsActions actions, const QString& tab,
                  QWidget* parent = nullptr);
 
     [[nodiscard]] QString tab() const;
-    /// A tag that no tab has changes nothing.
+    /// Ignores a tag that no tab has.
     void setTab(const QString& tag);
 
-    /// Whether to offer a way to the panel: there is no icon that opens it.
+    /// Whether to offer a button that opens the panel, because there is no icon to do so.
     void setPanelOffered(bool offered);
 
-    /// Its own, whatever the window's: 540 points, more where the text is larger than usual.
+    /// Its width in device-independent pixels: 540 points of the design.
     [[nodiscard]] static int fittingWidth();
-    /// The height that the selected tab needs, in device-independent pixels. In a window of less
-    /// height the tab scrolls.
+    /// The height that the selected tab needs, in device-independent pixels. In a lower window the
+    /// tab scrolls.
     [[nodiscard]] int fittingHeight() const;
 
     [[nodiscard]] QSize sizeHint() const override { return {fittingWidth(), fittingHeight()}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {fittingWidth(), 0}; }
 
 Q_SIGNALS:
-    /// fittingHeight() is now this.
+    /// fittingHeight() has changed to this.
     void fittingHeightChanged(int height);
 
 protected:
@@ -54,7 +54,7 @@ protected:
 private:
     void build();
     void addPage(QWidget* page);
-    /// Goes to the tab that many further along, around the ends.
+    /// Goes `by` tabs further, from the last to the first and back.
     void stepTab(int by);
     void showPage(int index);
     void measure();

@@ -6,10 +6,8 @@
 #include <QFontMetricsF>
 #include <QHoverEvent>
 #include <QPainter>
-#include <QStyle>
 
 #include <algorithm>
-#include <cmath>
 
 namespace quillon {
 
@@ -51,12 +49,12 @@ QSize TabStrip::tabSizeHint(int index) const {
         std::max(Theme::length(leastWidth), title + 2 * besideTitle) + 2 * betweenTabs;
     const double height =
         aboveSymbol + Theme::length(symbolPoints) + belowSymbol + metrics.height() + belowTitle;
-    return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height))};
+    return wholeSize(width, height);
 }
 
 void TabStrip::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing); // smooths the line below the mnemonic
     for (int i = 0; i < count(); ++i)
         paintTab(painter, i);
 }
@@ -66,20 +64,19 @@ void TabStrip::paintTab(QPainter& painter, int index) const {
     const bool current = index == currentIndex();
     const QRectF box = QRectF{tabRect(index)}.adjusted(betweenTabs, 0, -betweenTabs, 0);
     if (current || index == hovered_) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(current ? theme.hoverFill() : theme.quaternaryFill());
-        painter.drawRoundedRect(box, Space::controlRadius, Space::controlRadius);
+        paintBox(painter, box, Space::controlRadius,
+                 current ? theme.hoverFill() : theme.quaternaryFill());
     }
     const double side = Theme::length(symbolPoints);
     const Tint ink = current ? Ink::accent : Ink::secondary;
     paintSymbol(painter, {box.left(), box.top() + aboveSymbol, box.width(), side},
                 symbols_.at(static_cast<std::size_t>(index)), side, theme.color(ink));
-    const bool underlined = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
     const double top = box.top() + aboveSymbol + side + belowSymbol;
     painter.setFont(Theme::font(current ? Text::caption.semibold() : Text::caption));
     painter.setPen(theme.color(current ? Ink::primary : Ink::secondary));
     painter.drawText(QRectF{box.left(), top, box.width(), titleMetrics().height()},
-                     Qt::AlignCenter | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+                     Qt::AlignCenter |
+                         (underlinesMnemonic() ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
                      tabText(index));
     if (current && showsFocus()) theme.paintFocusRing(painter, box, Space::controlRadius);
 }

@@ -9,7 +9,7 @@
 
 namespace quillon {
 
-/// The tabs of a window, each a symbol above its title. Arrow keys and mnemonics switch, too.
+/// The tabs of a window, each a symbol above a title. Arrow keys and mnemonics switch between them.
 class TabStrip : public Themed<QTabBar> {
     Q_OBJECT
 

@@ -11,7 +11,7 @@
 namespace quillon {
 namespace {
 
-/// One tab.
+/// Describes one tab.
 class TabDescription : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
     TabDescription(TabStrip* strip, int index) : strip_{strip}, index_{index} {}
@@ -78,6 +78,7 @@ private:
     int index_;
 };
 
+/// Describes the strip, whose children are the tabs.
 class StripDescription : public QAccessibleWidget {
 public:
     explicit StripDescription(TabStrip* strip)
@@ -94,7 +95,7 @@ public:
 
     [[nodiscard]] QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
-        state.focused = false; // the tab is
+        state.focused = false; // the tab has the focus
         return state;
     }
 
@@ -103,7 +104,7 @@ public:
     [[nodiscard]] QAccessibleInterface* child(int index) const override {
         if (index < 0 || index >= childCount()) return nullptr;
         for (int next = static_cast<int>(tabs_.size()); next <= index; ++next) {
-            auto* tab = new TabDescription{strip_, next}; // deleted with the strip's own
+            auto* tab = new TabDescription{strip_, next}; // deleted by the destructor
             tabs_.push_back(QAccessible::registerAccessibleInterface(tab));
         }
         return QAccessible::accessibleInterface(tabs_[static_cast<std::size_t>(index)]);
@@ -127,7 +128,7 @@ public:
 
 private:
     TabStrip* strip_;
-    mutable std::vector<QAccessible::Id> tabs_; // as far as they have been asked for
+    mutable std::vector<QAccessible::Id> tabs_; // up to the last one that was asked for
 };
 
 } // namespace

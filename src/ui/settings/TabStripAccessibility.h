@@ -2,8 +2,8 @@
 
 namespace quillon {
 
-/// Has Qt tell assistive technology which tab of a TabStrip is selected, and which has the
-/// keyboard, where its own description of tabs does not.
+/// Makes Qt tell assistive technology which tab of a TabStrip is selected and which has the focus,
+/// which Qt's own description of tabs does not.
 void describeTabStrips();
 
 } // namespace quillon

@@ -8,8 +8,6 @@
 
 #include <QHBoxLayout>
 
-#include <cmath>
-
 namespace quillon {
 
 namespace {
@@ -43,7 +41,7 @@ TopicRow::TopicRow(QWidget* parent)
     row->addWidget(name_, 1);
     row->addWidget(rule_);
     sizeRule();
-    // Assistive technology edits without what Qt takes for editing.
+    // QLineEdit::textEdited is not emitted when assistive technology edits the text.
     connect(name_, &QLineEdit::textChanged, this, [this](const QString& name) {
         if (name == shown_) return;
         shown_ = name;
@@ -73,7 +71,7 @@ void TopicRow::themeChanged() {
 }
 
 void TopicRow::sizeRule() {
-    rule_->setFixedWidth(static_cast<int>(std::ceil(Theme::length(ruleWidth))));
+    rule_->setFixedWidth(Theme::wholeLength(ruleWidth));
 }
 
 } // namespace quillon

@@ -9,7 +9,7 @@ class IconLabel;
 class TextField;
 class Tile;
 
-/// The name of one topic, to be edited.
+/// The row in which the user edits the name of a topic.
 class TopicRow : public View {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
 
     void setTopic(const Topic& topic);
 
-    /// What the keyboard goes to.
+    /// The field that takes the focus.
     [[nodiscard]] QWidget* field() const;
 
 Q_SIGNALS:

@@ -56,7 +56,7 @@ void TopicsView::refreshRows() {
                 [this, index = rows_.size()](const QString& name) { rename(index, name); });
         names_->addWidget(row);
         rows_.push_back(row);
-        // It comes later than the button below it, also where the keyboard goes.
+        // The row is newer than the button below it, so that Tab would otherwise reach it later.
         setTabOrder(row->field(), save_);
     }
     for (std::size_t i = 0; i < topics.size(); ++i)
@@ -95,13 +95,12 @@ QCoro::Task<> TopicsView::perform(QPointer<TopicsView> view, Store& store) {
 }
 
 void TopicsView::finish(const std::optional<std::string>& error, int editsBefore) {
-    // Names typed meanwhile are not saved, and have taken the place of this one's status.
+    // Names that were typed meanwhile are not saved, so that "saved" would be wrong.
     if (edits_ != editsBefore && !error) return;
     if (!error) edited_ = false;
-    // Disabled, it would pass the keyboard on to a name, which the next key would overwrite.
+    // The disabled button would pass the focus on to a name, which the next key would replace.
     if (!error && save_->hasFocus()) save_->clearFocus();
-    status_ =
-        error ? TextBlock::verbatim(QString::fromStdString(*error)) : tr("Saved to Telegram.");
+    status_ = error ? QString::fromStdString(*error) : tr("Saved to Telegram.");
     refresher_.refreshNow();
 }
 

@@ -20,7 +20,7 @@ class Store;
 class TextButton;
 class TopicRow;
 
-/// The names of the topics: kept as they are typed, and given to Telegram on demand.
+/// The names of the topics. They are stored while the user types, and go to Telegram on demand.
 class TopicsView : public View {
     Q_OBJECT
 
@@ -36,13 +36,13 @@ private:
     void rename(std::size_t topic, const QString& name);
     void save();
     static QCoro::Task<> perform(QPointer<TopicsView> view, Store& store);
-    /// `editsBefore` are those that the save has taken along.
+    /// `editsBefore` is the value of edits_ when the names were sent.
     void finish(const std::optional<std::string>& error, int editsBefore);
 
     Store& store_;
     std::optional<QString> status_;
     bool edited_ = false;
-    /// How often the user changed a name.
+    /// How often the user has changed a name.
     int edits_ = 0;
     std::vector<TopicRow*> rows_;
     QVBoxLayout* names_ = nullptr;

@@ -12,7 +12,6 @@
 #include <QVBoxLayout>
 
 #include <array>
-#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -26,7 +25,7 @@ constexpr double headerCorner = 10;
 constexpr TextStyle titleStyle{16, QFont::Bold};
 constexpr double telegramSize = 16;
 
-/// One line of what is removed.
+/// One line of the list of what is removed.
 struct Row {
     const char* symbol;
     QColor color;
@@ -45,23 +44,20 @@ constexpr std::array<Row, 5> rows{{
      QT_TRANSLATE_NOOP("quillon::UninstallSheet", "Then it moves the app to the Trash and quits")},
 }};
 
-/// The trash on its tile, larger than those of rows.
+/// A tile with the trash, larger than the tiles of rows.
 class HeaderTile : public View {
 public:
     HeaderTile() { setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); }
 
     [[nodiscard]] QSize sizeHint() const override {
-        const int side = static_cast<int>(std::ceil(Theme::length(headerTile)));
+        const int side = Theme::wholeLength(headerTile);
         return {side, side};
     }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter{this};
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(theme().fill(Palette::pink));
-        painter.drawRoundedRect(rect(), headerCorner, headerCorner);
+        paintBox(painter, rect(), headerCorner, theme().fill(Palette::pink));
         paintSymbol(painter, rect(), "trash.fill", Theme::length(headerSymbol),
                     Theme::onTile(Palette::pink));
     }
@@ -88,12 +84,12 @@ UninstallSheet::UninstallSheet(std::function<QCoro::Task<>()> uninstall, QWidget
 }
 
 void UninstallSheet::fit() {
-    const int width = static_cast<int>(std::ceil(Theme::length(sheetWidth)));
+    const int width = Theme::wholeLength(sheetWidth);
     setFixedSize(width, layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
                                                       : layout()->totalSizeHint().height());
 }
 
-/// The texts may become larger while it shows.
+/// Fits again, because the texts may become larger while the sheet shows.
 bool UninstallSheet::event(QEvent* event) {
     if (event->type() == QEvent::LayoutRequest) fit();
     return QDialog::event(event);
@@ -110,13 +106,8 @@ QHBoxLayout* UninstallSheet::buildHeader() {
 QVBoxLayout* UninstallSheet::buildRows() {
     auto* list = new QVBoxLayout;
     list->setSpacing(Space::small);
-    for (const Row& each : rows) {
-        auto* row = new QHBoxLayout;
-        row->setSpacing(Space::small + Space::hair);
-        row->addWidget(new Tile{each.symbol, each.color});
-        row->addWidget(new IconLabel{tr(each.text), {}, {.style = Text::callout}}, 1);
-        list->addLayout(row);
-    }
+    for (const Row& each : rows)
+        list->addWidget(new TileLabel{tr(each.text), each.symbol, each.color, Text::callout});
     return list;
 }
 
@@ -157,7 +148,7 @@ void UninstallSheet::confirm() {
     uninstall_();
 }
 
-/// Escape, Cancel and the window's own button.
+/// Called for Escape, for Cancel, and when the desktop closes the window.
 void UninstallSheet::reject() {
     if (!working_) QDialog::reject();
 }

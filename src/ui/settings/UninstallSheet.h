@@ -13,13 +13,13 @@ namespace quillon {
 class Spinner;
 class TextButton;
 
-/// Says what uninstalling removes, and does it when the user confirms. Escape leaves, until then.
-/// On the heap, since it goes by itself.
+/// Says what uninstalling removes, and uninstalls when the user confirms. Until then Escape closes
+/// it. It deletes itself, and therefore has to be on the heap.
 class UninstallSheet : public QDialog {
     Q_OBJECT
 
 public:
-    /// `uninstall` ends the program; it is called once.
+    /// `uninstall` is called once, and ends the program.
     UninstallSheet(std::function<QCoro::Task<>()> uninstall, QWidget* parent);
 
     void reject() override;
@@ -28,7 +28,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    /// As wide as the design, and as high as that takes.
+    /// Gives the sheet its fixed width, and the height that it needs with it.
     void fit();
     [[nodiscard]] QHBoxLayout* buildHeader();
     [[nodiscard]] QVBoxLayout* buildRows();

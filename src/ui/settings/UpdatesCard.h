@@ -10,8 +10,8 @@ class TextButton;
 class TileLabel;
 class Updater;
 
-/// Whether the program looks for updates by itself, which version it is, and a look for updates
-/// now.
+/// The settings card about updates: whether the program looks for them by itself, its version, and
+/// a button that looks for them now.
 class UpdatesCard : public Card {
     Q_OBJECT
 

@@ -1,8 +1,8 @@
 #include "ui/setup/Badge.h"
 
+#include "artwork/Colors.h"
 #include "artwork/Palette.h"
 #include "ui/text/SymbolView.h"
-#include "ui/theme/Colors.h"
 
 #include <QLocale>
 #include <QPainter>

@@ -13,10 +13,9 @@ class Badge : public View {
 public:
     explicit Badge(QWidget* parent = nullptr);
 
-    /// A number, or a symbol on a lighter or darker ground of the same tint.
     void setNumber(int number);
     void setSymbol(const std::string& symbol);
-    /// The checkmark of what is done, on a full circle.
+    /// Shows the checkmark of what is done, on a circle in full colour.
     void setDone();
 
     [[nodiscard]] QSize sizeHint() const override;

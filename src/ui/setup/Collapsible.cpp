@@ -17,7 +17,7 @@ Collapsible::Collapsible(QWidget* content, QWidget* parent)
 }
 
 void Collapsible::setOpen(bool open, bool animated) {
-    if (open) show(); // from the start, so that the keyboard can go there at once
+    if (open) show(); // at once, so that the content can take the focus
     openness_.go(open ? 1 : 0, animated);
 }
 
@@ -49,7 +49,7 @@ void Collapsible::resizeEvent(QResizeEvent* event) {
 }
 
 bool Collapsible::event(QEvent* event) {
-    // The content asks for another size.
+    // The content wants another size.
     if (event->type() == QEvent::LayoutRequest) {
         layOut();
         updateGeometry();

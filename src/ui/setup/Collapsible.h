@@ -1,22 +1,22 @@
 #pragma once
 
 #include "ui/accessibility/View.h"
-#include "ui/setup/Transition.h"
+#include "ui/theme/Transition.h"
 
 namespace quillon {
 
-/// Shows its content or takes no room. While it opens or closes, the content is uncovered from the
-/// top; what is closed can neither be clicked nor reached with the keyboard.
+/// Shows its content while open, and takes no room while closed. On the way it uncovers the content
+/// from the top. Closed content can neither be clicked nor reached with the keyboard.
 class Collapsible : public View {
     Q_OBJECT
 
 public:
-    /// Closed at first. Takes the content over.
+    /// Is closed at first. Becomes the parent of the content.
     explicit Collapsible(QWidget* content, QWidget* parent = nullptr);
 
     void setOpen(bool open, bool animated);
     [[nodiscard]] bool moving() const { return openness_.running(); }
-    /// By how many pixels it will be higher when it has stopped moving.
+    /// The number of pixels that it will have grown by when it has stopped moving.
     [[nodiscard]] int growthAhead() const;
 
     [[nodiscard]] QSize sizeHint() const override;

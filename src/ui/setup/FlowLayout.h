@@ -7,13 +7,13 @@
 
 namespace quillon {
 
-/// Items one after the other in the direction of writing, on as many lines as they need. One that
-/// is wider than a line gets the line's width.
+/// Lays items out one after the other in the direction of writing, on as many lines as they need.
+/// An item that is wider than a line gets the line's width.
 class FlowLayout : public QLayout {
     Q_OBJECT
 
 public:
-    /// `spacing` in device-independent pixels, between items and between lines.
+    /// `spacing` is the distance between items and between lines, in device-independent pixels.
     explicit FlowLayout(int spacing, QWidget* parent = nullptr);
     ~FlowLayout() override;
 
@@ -22,7 +22,7 @@ public:
     [[nodiscard]] QLayoutItem* itemAt(int index) const override;
     QLayoutItem* takeAt(int index) override;
 
-    /// All on one line.
+    /// The size of all items on one line.
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSize() const override;
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
@@ -31,7 +31,7 @@ public:
     void setGeometry(const QRect& frame) override;
 
 private:
-    /// Gives the height; moves the items only if told to.
+    /// Returns the height that the items take in a frame of this width, and moves them if `move`.
     int arrange(const QRect& frame, bool move) const;
 
     std::vector<std::unique_ptr<QLayoutItem>> items_;

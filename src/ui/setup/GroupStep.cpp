@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-GroupStep::GroupStep(const std::string& symbol, const QString& text, QWidget* parent)
+GroupStep::GroupStep(const std::string& symbol, const StyledText& text, QWidget* parent)
     : View{parent},
       label_{new IconLabel{text}} {
     auto* row = new QHBoxLayout{this};

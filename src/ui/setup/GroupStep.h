@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/accessibility/View.h"
+#include "ui/text/StyledText.h"
 
 #include <string>
 
@@ -8,12 +9,12 @@ namespace quillon {
 
 class IconLabel;
 
-/// One line of the instructions for the group: a symbol in a badge, and a text with bold parts.
+/// One line of the instructions for the group: a symbol in a badge, and a text.
 class GroupStep : public View {
     Q_OBJECT
 
 public:
-    GroupStep(const std::string& symbol, const QString& text, QWidget* parent = nullptr);
+    GroupStep(const std::string& symbol, const StyledText& text, QWidget* parent = nullptr);
 
     [[nodiscard]] QAccessible::Role accessibleRole() const override;
     [[nodiscard]] QString accessibleText() const override;

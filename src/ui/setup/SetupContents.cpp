@@ -1,4 +1,4 @@
-// What the guide consists of, from top to bottom.
+// Builds the parts of the guide, from top to bottom.
 #include "artwork/Palette.h"
 #include "state/Store.h"
 #include "ui/controls/BrandViews.h"
@@ -54,7 +54,7 @@ constexpr std::array<Titled, 4> groupSteps{{
     {QT_TRANSLATE_NOOP("quillon::SetupView", "Send “hi” in the group."), "hand.wave"},
 }};
 
-/// A view that stacks its parts.
+/// The layout of a step's content, from top to bottom.
 QVBoxLayout* columnIn(QWidget* content) {
     auto* column = new QVBoxLayout{content};
     column->setContentsMargins(0, 0, 0, 0);
@@ -99,9 +99,9 @@ QVBoxLayout* SetupView::buildRows() {
 QWidget* SetupView::buildBotStep() {
     auto* content = new QWidget;
     auto* column = columnIn(content);
-    column->addWidget(new IconLabel{
+    column->addWidget(new IconLabel{markedUp(
         tr("In Telegram, open **@BotFather**, send **/newbot** and follow the steps. It gives you "
-           "a token. The bot is yours alone.")});
+           "a token. The bot is yours alone."))});
     auto* open = new TextButton{tr("&Open BotFather"), telegramSymbol, {.symbolInk = telegramBlue}};
     column->addWidget(open, 0, Qt::AlignLeading);
     connect(open, &QPushButton::clicked, this,
@@ -122,7 +122,7 @@ QWidget* SetupView::buildGroupStep() {
     auto* column = columnIn(content);
     column->addWidget(new IconLabel{tr("In Telegram:")});
     for (const Titled& line : groupSteps)
-        column->addWidget(new GroupStep{line.symbol, tr(line.text)});
+        column->addWidget(new GroupStep{line.symbol, markedUp(tr(line.text))});
     findGroup_ = new TextButton{{}, "magnifyingglass", {.kind = ButtonKind::prominent}};
     column->addWidget(findGroup_, 0, Qt::AlignLeading);
     connect(findGroup_, &QPushButton::clicked, this,

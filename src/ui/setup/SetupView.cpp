@@ -50,7 +50,7 @@ SetupProgress SetupView::progress() const {
 QString SetupView::summary(int n) const {
     const Config& config = store_.config();
     const auto orElse = [](const std::optional<std::string>& name, const QString& other) {
-        return name ? TextBlock::verbatim(QString::fromStdString(*name)) : other;
+        return name ? QString::fromStdString(*name) : other;
     };
     switch (n) {
     case 1:
@@ -74,10 +74,9 @@ void SetupView::refresh() {
     refreshControls(now);
     closing_->setOpen(position > stepCount, animated);
     spinner_->setVisible(working_);
-    errorLine_->setText(
-        TextBlock::verbatim(QString::fromStdString(error_.value_or(std::string{}))));
+    errorLine_->setText(QString::fromStdString(error_.value_or(std::string{})));
     errorLine_->setVisible(error_.has_value());
-    // What was hidden here has passed the keyboard on: that was not the user.
+    // Controls that were hidden here have passed the focus on. That was not the user's doing.
     if (focused && focused == focusMeanwhile_) focusMeanwhile_ = window()->focusWidget();
 }
 
@@ -121,7 +120,7 @@ void SetupView::toggle(int n) {
 void SetupView::run(Action action) {
     stepBefore_ = step(progress());
     focusBefore_ = window()->focusWidget();
-    // A button would pass the keyboard on to the next control when it is disabled.
+    // A button that is disabled passes the focus on to the next control, which this avoids.
     if (qobject_cast<QAbstractButton*>(focusBefore_)) focusBefore_->clearFocus();
     focusMeanwhile_ = window()->focusWidget();
     working_ = true;
@@ -152,10 +151,10 @@ void SetupView::restoreFocus() {
     const auto usable = [](const QWidget* control) {
         return control && control->isVisible() && control->isEnabled();
     };
-    // Whoever went elsewhere meanwhile stays there.
+    // If the user has moved the focus meanwhile, it stays there.
     const QWidget* now = window()->focusWidget();
     if (now && now != focusMeanwhile_ && usable(now)) return;
-    // A row that is done still shows for a moment, while it closes.
+    // After a success the control of the action still shows while its row closes, so skip it.
     const bool advanced = step(progress()) != stepBefore_;
     for (QWidget* control : {advanced ? nullptr : focusBefore_.data(), nextControl()}) {
         if (usable(control)) return control->setFocus(Qt::OtherFocusReason);

@@ -28,19 +28,20 @@ class TextButton;
 class TokenStep;
 class TopicChips;
 
-/// The guide through the setup: four steps, of which it shows what is done, what is next and what
-/// is still ahead. The work is done by the store's actions, which go on when the view is gone.
+/// The guide through the four steps of the setup, which shows which are done, which is next and
+/// which are still ahead. The store's actions do the work, and go on even if the view is closed.
 class SetupView : public View {
     Q_OBJECT
 
 public:
     explicit SetupView(Store& store, QWidget* parent = nullptr);
 
-    /// Some row is opening or closing; and by how many pixels the view will then be higher.
+    /// Whether a row is opening or closing, and the number of pixels that the view will have grown
+    /// by after that.
     [[nodiscard]] bool moving() const;
     [[nodiscard]] int growthAhead() const;
 
-    /// Where new users make their bots.
+    /// The chat in which users make their bots.
     static constexpr const char* botFatherAddress = "https://t.me/BotFather";
 
 private:
@@ -60,14 +61,14 @@ private:
     [[nodiscard]] SetupProgress progress() const;
     [[nodiscard]] QString summary(int n) const;
 
-    /// Opens or closes a row by hand.
+    /// Opens or closes a row for the user.
     void toggle(int n);
-    /// Carries out one of the store's actions, showing that it works and what it failed with.
+    /// Carries out one of the store's actions, and shows that it is under way or why it failed.
     void run(Action action);
     static QCoro::Task<> perform(QPointer<SetupView> view, Action action);
     void finish(std::optional<std::string> error);
     void connectBot(const QString& token);
-    /// Gives the keyboard what comes next or, where the action failed, what it stood on when the
+    /// Moves the focus to the next control or, if the action failed, back to where it was when the
     /// action began.
     void restoreFocus();
     [[nodiscard]] QWidget* nextControl() const;
@@ -76,7 +77,7 @@ private:
     bool working_ = false;
     std::optional<std::string> error_;
     std::set<int> opened_;
-    /// The position shown last, for the animation to the next.
+    /// The position that was shown last. A new one is animated.
     std::optional<int> shownStep_;
     int stepBefore_ = 1;
     QPointer<QWidget> focusBefore_;

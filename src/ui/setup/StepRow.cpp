@@ -8,13 +8,12 @@
 #include "ui/text/SymbolView.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 
 namespace quillon {
 
 namespace {
 
-// The header keeps a little off the row's edge, so that it can light up under the pointer.
+// The header keeps a small distance from the row's edge, since it lights up under the pointer.
 constexpr int edge = Space::tight;
 constexpr int headerPadding = Space::small + Space::hair;
 constexpr double chevronPoints = 11;
@@ -23,7 +22,7 @@ constexpr double chevronPoints = 11;
 
 StepRow::StepRow(int n, const QString& title, const std::string& symbol, QWidget* content,
                  QWidget* parent)
-    : View{parent},
+    : CardGround{parent},
       n_{n},
       badge_{new Badge},
       summary_{new IconLabel{
@@ -47,7 +46,7 @@ StepRow::StepRow(int n, const QString& title, const std::string& symbol, QWidget
 
 ContentButton* StepRow::buildHeader(const QString& title, const std::string& symbol) {
     auto* header = new ContentButton;
-    // Its own button may be called as the step is.
+    // The step's button may have the same title as the step.
     header->setAccessibleName(tr("Step %1: %2").arg(n_).arg(title));
     header->setCornerRadius(Space::cardRadius - edge);
     auto* row = new QHBoxLayout{header};
@@ -90,9 +89,8 @@ void StepRow::showHeader(const State& state) {
     chevron_->setVisible(state.done);
     chevron_->setSymbol(state.open ? "chevron.up" : "chevron.down");
     setDescription(*header_,
-                   TextBlock::plain(state.done ? tr("Done") + QStringLiteral(". ") + state.summary
-                                               : QString{}));
-    // The current step stays open whatever one clicks.
+                   state.done ? tr("Done") + QStringLiteral(". ") + state.summary : QString{});
+    // The current step stays open, so that its header opens and closes nothing.
     header_->setExpanded(state.current ? std::nullopt : std::optional{state.open});
 }
 
@@ -105,18 +103,8 @@ int StepRow::growthAhead() const {
 }
 
 void StepRow::themeChanged() {
-    View::themeChanged();
+    CardGround::themeChanged();
     indentContent();
-}
-
-void StepRow::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    const Theme theme = this->theme();
-    painter.setPen(theme.separator());
-    painter.setBrush(theme.cardFill());
-    painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), Space::cardRadius,
-                            Space::cardRadius);
 }
 
 } // namespace quillon

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/accessibility/View.h"
-#include "ui/setup/Transition.h"
+#include "ui/controls/Card.h"
+#include "ui/theme/Transition.h"
 
 #include <string>
 
@@ -13,18 +13,18 @@ class ContentButton;
 class IconLabel;
 class SymbolView;
 
-/// One step of the guide: a badge, a header to click on, and its instructions and controls while it
-/// is open.
-class StepRow : public View {
+/// One step of the guide: a header with a badge, which opens and closes the row, and below it,
+/// while the row is open, the step's instructions and controls.
+class StepRow : public CardGround {
     Q_OBJECT
 
 public:
-    /// What a row shows.
+    /// What the row shows.
     struct State {
         bool done = false;
         bool current = false;
         bool open = false;
-        /// What was achieved; shown once done, while closed.
+        /// The result of the step, shown while it is done and closed.
         QString summary;
 
         bool operator==(const State&) const = default;
@@ -37,7 +37,8 @@ public:
 
     [[nodiscard]] ContentButton* header() const { return header_; }
 
-    /// Its contents are on their way in or out; and by how many pixels it will then be higher.
+    /// Whether the row is opening or closing, and the number of pixels that it will have grown by
+    /// after that.
     [[nodiscard]] bool moving() const;
     [[nodiscard]] int growthAhead() const;
 
@@ -46,7 +47,6 @@ Q_SIGNALS:
     void toggle();
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void themeChanged() override;
 
 private:

@@ -67,7 +67,7 @@ void TokenStep::enableConnect() {
 }
 
 void TokenStep::wantConnect() {
-    // Return works whatever the button does, but one at a time.
+    // Return in the field works even if the button is disabled, so check here as well.
     if (!working_) Q_EMIT connectWanted(token_->text());
 }
 

@@ -7,8 +7,8 @@ namespace quillon {
 class TextButton;
 class TextField;
 
-/// The controls of the step with the bot's token: the field for it or, once there is a token, the
-/// way to another one. The token is in the field and nowhere else.
+/// The controls of the step with the bot's token: the field for the token or, once there is one,
+/// the way to use another bot. This view keeps the token in the field and nowhere else.
 class TokenStep : public View {
     Q_OBJECT
 
@@ -17,11 +17,11 @@ public:
 
     void setState(bool tokenSaved, bool working);
     void clearToken();
-    /// Where the user goes on.
+    /// The control with which the user goes on.
     [[nodiscard]] QWidget* mainControl() const;
 
 Q_SIGNALS:
-    /// The user wants the token, as it was typed, to be the bot's.
+    /// The user wants to connect the bot with this token, which is as it was typed.
     void connectWanted(const QString& token);
     void anotherBotWanted();
 

@@ -9,7 +9,7 @@ namespace quillon {
 
 class Chip;
 
-/// The topics by name, each in its colour.
+/// The names of the topics, each in the topic's colour.
 class TopicChips : public View {
     Q_OBJECT
 

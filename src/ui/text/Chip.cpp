@@ -1,6 +1,6 @@
 #include "ui/text/Chip.h"
 
-#include "ui/theme/Colors.h"
+#include "artwork/Colors.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -38,8 +38,8 @@ void Chip::setChip(const QString& text, QColor color) {
 
 QSize Chip::sizeHint() const {
     const QFontMetricsF metrics{Theme::font(chipText)};
-    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text_) + 2 * besideText)),
-            static_cast<int>(std::ceil(metrics.height() + 2 * aboveText))};
+    return wholeSize(metrics.horizontalAdvance(text_) + 2 * besideText,
+                     metrics.height() + 2 * aboveText);
 }
 
 QSize Chip::minimumSizeHint() const {
@@ -55,11 +55,8 @@ QAccessible::Role Chip::accessibleRole() const {
 void Chip::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF capsule = QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(QPen{theme.fill(faded(color_, borderOpacity)), 1});
-    painter.setBrush(theme.fill(faded(color_, tintOpacity)));
-    painter.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
+    paintBox(painter, rect(), (height() - 1) / 2.0, theme.fill(faded(color_, tintOpacity)),
+             theme.fill(faded(color_, borderOpacity)));
     const QFont font = Theme::font(chipText);
     const double room = width() - 2 * besideText;
     painter.setFont(font);

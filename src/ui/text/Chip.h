@@ -4,8 +4,8 @@
 
 namespace quillon {
 
-/// A text on a capsule that is tinted with a colour. One that is given less room than its text
-/// needs cuts it at the end.
+/// A text on a capsule in a tint of a colour. Given less room than the text needs, it cuts the text
+/// at the end.
 class Chip : public View {
     Q_OBJECT
 

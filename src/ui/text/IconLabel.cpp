@@ -15,16 +15,13 @@
 namespace quillon {
 namespace {
 
-/// A wrapped text asks for this much width at most, and for this much at least.
+// The most and the least width that a wrapped text asks for, in points of the design.
 constexpr double comfortableWidth = 360;
 constexpr double leastWidth = 56;
-/// How large a symbol is, and the gap after it, as multiples of its text's size.
-constexpr double symbolScale = 1.1;
-constexpr double symbolGap = 0.46;
 
 } // namespace
 
-IconLabel::IconLabel(QString text, std::string symbol, LabelLook look, QWidget* parent)
+IconLabel::IconLabel(StyledText text, std::string symbol, LabelLook look, QWidget* parent)
     : View{parent},
       text_{std::move(text)},
       symbol_{std::move(symbol)},
@@ -34,7 +31,7 @@ IconLabel::IconLabel(QString text, std::string symbol, LabelLook look, QWidget* 
     setSizePolicy(policy);
 }
 
-void IconLabel::setText(const QString& text) {
+void IconLabel::setText(const StyledText& text) {
     if (text == text_) return;
     text_ = text;
     themeChanged();
@@ -56,12 +53,8 @@ void IconLabel::setLook(const LabelLook& look) {
     themeChanged();
 }
 
-QString IconLabel::wholeText() const {
-    return TextBlock::plain(text_);
-}
-
 QString IconLabel::shownText() const {
-    if (look_.overflow == Overflow::wrap) return wholeText();
+    if (look_.overflow == Overflow::wrap) return text_.plain();
     TextBlock text = block();
     layOut(text, width() - indent());
     return text.shownText();
@@ -72,10 +65,7 @@ TextBlock IconLabel::block() const {
 }
 
 double IconLabel::indent() const {
-    if (symbol_.empty()) return 0;
-    const double size = look_.style.points * Theme::textScale();
-    return text_.isEmpty() ? std::ceil(size * symbolScale)
-                           : std::ceil(size * (symbolScale + symbolGap));
+    return symbol_.empty() ? 0 : symbolRoom(look_.style, !text_.isEmpty());
 }
 
 QSizeF IconLabel::layOut(TextBlock& block, double width) const {
@@ -119,7 +109,7 @@ QAccessible::Role IconLabel::accessibleRole() const {
 }
 
 QString IconLabel::accessibleText() const {
-    return spokenText(wholeText());
+    return spokenText(text_.plain());
 }
 
 void IconLabel::paintEvent(QPaintEvent* /*event*/) {
@@ -135,7 +125,7 @@ void IconLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     const bool rightToLeft = layoutDirection() == Qt::RightToLeft;
     if (!symbol_.empty()) {
-        const double side = look_.style.points * Theme::textScale() * symbolScale;
+        const double side = symbolSide(look_.style);
         const double x = rightToLeft ? width() - left - side : left;
         paintSymbol(painter, {x, top, side, text.lineHeight()}, symbol_, side,
                     theme.color(look_.symbolInk.value_or(look_.ink)),

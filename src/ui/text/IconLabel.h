@@ -8,7 +8,7 @@
 
 namespace quillon {
 
-/// What becomes of a text that is wider than its label.
+/// What a label does with a text that is wider than the label.
 enum class Overflow { wrap, elideEnd, elideMiddle };
 
 /// How a label looks.
@@ -18,29 +18,27 @@ struct LabelLook {
     /// The symbol's colour where it is not the text's.
     std::optional<Tint> symbolInk{};
     Overflow overflow = Overflow::wrap;
-    Qt::Alignment align = Qt::AlignLeading; // where one line stands: leading or centred
+    Qt::Alignment align = Qt::AlignLeading; // of a single line: leading or centred
 };
 
-/// A text, with a symbol before its first line if it is given one. Parts of the text **between
-/// stars** are bold. A text that lost a part of itself shows all of it in a tool tip.
+/// A text, with a symbol before its first line if it has one. If the text is cut, a tool tip shows
+/// all of it.
 class IconLabel : public View {
     Q_OBJECT
 
 public:
-    explicit IconLabel(QString text = {}, std::string symbol = {}, LabelLook look = {},
+    explicit IconLabel(StyledText text = {}, std::string symbol = {}, LabelLook look = {},
                        QWidget* parent = nullptr);
 
-    void setText(const QString& text);
-    [[nodiscard]] QString text() const { return text_; }
-    /// What it is for assistive technology: as an alert or a notification it is read out as soon as
-    /// it shows.
+    void setText(const StyledText& text);
+    [[nodiscard]] const StyledText& text() const { return text_; }
+    /// What the label is for assistive technology. An alert or a notification is read out as soon
+    /// as it shows.
     void setAccessibleRole(QAccessible::Role role) { role_ = role; }
     /// An empty name takes the symbol away.
     void setSymbol(const std::string& symbol);
     void setLook(const LabelLook& look);
-    /// The text without stars.
-    [[nodiscard]] QString wholeText() const;
-    /// What of it is on the screen: without what did not fit.
+    /// The part of the text that is on the screen, without what did not fit.
     [[nodiscard]] QString shownText() const;
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -60,7 +58,7 @@ private:
     [[nodiscard]] double indent() const;
     QSizeF layOut(TextBlock& block, double width) const;
 
-    QString text_;
+    StyledText text_;
     std::string symbol_;
     LabelLook look_;
     QAccessible::Role role_ = QAccessible::StaticText;

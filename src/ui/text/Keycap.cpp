@@ -1,17 +1,16 @@
 #include "ui/text/Keycap.h"
 
 #include "artwork/Brand.h"
-#include "ui/theme/Colors.h"
+#include "artwork/Colors.h"
+#include "artwork/Shapes.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -47,12 +46,6 @@ QString spokenKey(const QString& label) {
     return QCoreApplication::translate("quillon::Keycap", known->name);
 }
 
-QPainterPath rounded(const QRectF& box) {
-    QPainterPath path;
-    path.addRoundedRect(box, radius, radius);
-    return path;
-}
-
 } // namespace
 
 KeyView::KeyView(QString label, QWidget* parent) : View{parent}, label_{std::move(label)} {
@@ -71,7 +64,7 @@ QSize KeyView::sizeHint() const {
     const double least = Theme::length(leastSide);
     const double width = std::max(least, metrics.horizontalAdvance(label_) + 2 * besideLabel);
     const double height = std::max(least, metrics.height() + 2);
-    return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height + shadowRoom))};
+    return wholeSize(width, height + shadowRoom);
 }
 
 QAccessible::Role KeyView::accessibleRole() const {
@@ -100,8 +93,8 @@ void Keycap::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
-    const QPainterPath cap = rounded(keyBox());
-    // What lies under the cap shows through it; its own shadow must not.
+    const QPainterPath cap = roundedPath(keyBox(), radius);
+    // The cap is translucent, and its own shadow must not show through it.
     painter.fillPath(cap.translated(0, shadowOffset).subtracted(cap),
                      theme.fill(faded(Qt::black, shadowOpacity)));
     if (dark_) {
@@ -110,7 +103,7 @@ void Keycap::paintEvent(QPaintEvent* /*event*/) {
     } else if (theme.dark()) {
         painter.fillPath(cap, theme.fill(faded(Qt::white, lightCapOpacity)));
         paintLabel(painter, theme.color(QColor{Qt::white}));
-    } else { // white on white would be no cap at all
+    } else { // a white cap would be invisible on white
         painter.fillPath(cap, theme.fill(faded(Brand::navy, lightCapOpacity)));
         paintLabel(painter, theme.color(Ink::primary));
     }
@@ -119,8 +112,7 @@ void Keycap::paintEvent(QPaintEvent* /*event*/) {
 void KeyLabel::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(rounded(keyBox()), faded(theme.color(Ink::accent), labelTint));
+    paintBox(painter, keyBox(), radius, faded(theme.color(Ink::accent), labelTint));
     paintLabel(painter, theme.color(Ink::primary));
 }
 

@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-/// A view that shows the label of one key, and says it in words.
+/// Shows the label of one key, and says it in words to assistive technology.
 class KeyView : public View {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] QString accessibleText() const override;
 
 protected:
-    /// The box of the key, without the room for its shadow.
+    /// The key's box, without the room for its shadow.
     [[nodiscard]] QRectF keyBox() const;
     void paintLabel(QPainter& painter, QColor color) const;
 
@@ -31,7 +31,8 @@ private:
     QString label_;
 };
 
-/// A key as a raised cap. `dark` is for light and coloured ground, whatever the desktop's colours.
+/// A key as a raised cap. A `dark` cap is made for light and coloured grounds, whatever the
+/// desktop's colours are.
 class Keycap : public KeyView {
     Q_OBJECT
 
@@ -58,7 +59,8 @@ protected:
 
 enum class KeyKind { cap, darkCap, label };
 
-/// The keys of a shortcut side by side, in the order they are pressed in every writing direction.
+/// The keys of a shortcut side by side, in the order in which they are pressed, whatever the
+/// direction of writing.
 class KeyRow : public View {
     Q_OBJECT
 
@@ -76,13 +78,13 @@ private:
     QStringList labels_;
 };
 
-/// The labels of a shortcut's keys, in their order.
+/// The labels of a shortcut's keys, in the order in which they are pressed.
 [[nodiscard]] QStringList keyLabels(ShortcutChoice shortcut);
 
-/// The keys in words, one after the other: "Control Alt V" for ⌃, ⌥ and V.
+/// The names of the keys: "Control Alt V" for ⌃, ⌥ and V.
 [[nodiscard]] QString spokenKeys(const QStringList& labels);
 
-/// A text with the symbols of keys in words: "press Control Alt V" for "press ⌃⌥V".
+/// The text with words in place of the symbols of keys: "press Control Alt V" for "press ⌃⌥V".
 [[nodiscard]] QString spokenText(QString text);
 
 } // namespace quillon

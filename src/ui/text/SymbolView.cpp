@@ -11,6 +11,23 @@
 
 namespace quillon {
 
+namespace {
+
+// The side of a symbol beside text and the gap between them, as multiples of the text's size.
+constexpr double symbolScale = 1.1;
+constexpr double symbolGap = 0.46;
+
+/// Symbols that point in the direction of writing.
+constexpr std::array<std::string_view, 3> directed{"arrow.right.circle.fill", "checklist",
+                                                   "text.alignleft"};
+
+bool isMirrored(const std::string& symbol) {
+    return QGuiApplication::isRightToLeft() &&
+           std::ranges::find(directed, symbol) != directed.end();
+}
+
+} // namespace
+
 SymbolView::SymbolView(std::string symbol, SymbolLook look, QWidget* parent)
     : View{parent},
       symbol_{std::move(symbol)},
@@ -36,8 +53,7 @@ void SymbolView::setFrameWidth(double points) {
 
 QSize SymbolView::sizeHint() const {
     const double scale = Theme::textScale();
-    const int height = static_cast<int>(std::ceil(look_.size * scale));
-    return {std::max(height, static_cast<int>(std::ceil(frameWidth_ * scale))), height};
+    return wholeSize(std::max(look_.size, frameWidth_) * scale, look_.size * scale);
 }
 
 void SymbolView::paintEvent(QPaintEvent* /*event*/) {
@@ -45,19 +61,6 @@ void SymbolView::paintEvent(QPaintEvent* /*event*/) {
     paintSymbol(painter, rect(), symbol_, look_.size * Theme::textScale(), theme().color(look_.ink),
                 look_.weight);
 }
-
-namespace {
-
-/// Symbols that point along the line of writing.
-constexpr std::array<std::string_view, 3> directed{"arrow.right.circle.fill", "checklist",
-                                                   "text.alignleft"};
-
-bool isMirrored(const std::string& symbol) {
-    return QGuiApplication::isRightToLeft() &&
-           std::ranges::find(directed, symbol) != directed.end();
-}
-
-} // namespace
 
 void paintSymbol(QPainter& painter, const QRectF& frame, const std::string& symbol, double size,
                  QColor color, SymbolWeight weight) {
@@ -68,6 +71,15 @@ void paintSymbol(QPainter& painter, const QRectF& frame, const std::string& symb
     const QPointF corner{frame.center() - QPointF{size / 2, size / 2}};
     const QPointF whole = toDevice.map(corner).toPoint();
     painter.drawPixmap(toDevice.inverted().map(whole), pixmap);
+}
+
+double symbolSide(const TextStyle& style) {
+    return style.points * Theme::textScale() * symbolScale;
+}
+
+double symbolRoom(const TextStyle& style, bool withGap) {
+    const double gap = withGap ? style.points * Theme::textScale() * symbolGap : 0;
+    return std::ceil(symbolSide(style) + gap);
 }
 
 SymbolWeight symbolWeight(QFont::Weight weight) {

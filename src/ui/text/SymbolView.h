@@ -9,15 +9,14 @@ class QPainter;
 
 namespace quillon {
 
-/// How a symbol looks; `size` is in points of the design, as a TextStyle's, and grows with the
-/// text.
+/// How a symbol looks. `size` is in points of the design, like that of a TextStyle.
 struct SymbolLook {
     double size = 13;
     SymbolWeight weight = SymbolWeight::regular;
     Tint ink = Ink::primary;
 };
 
-/// One symbol, centred. Decoration, unless it is given an accessible name.
+/// One symbol, centred. It is decoration unless it has an accessible name.
 class SymbolView : public View {
     Q_OBJECT
 
@@ -27,8 +26,8 @@ public:
     void setSymbol(const std::string& symbol);
     [[nodiscard]] const std::string& symbol() const { return symbol_; }
     void setLook(const SymbolLook& look);
-    /// The width of the frame it stands in, in points of the design, so that symbols of several
-    /// rows stand below each other.
+    /// The width that it asks for at least, in points of the design. With the same frame, symbols
+    /// of several rows stand below each other.
     void setFrameWidth(double points);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -43,11 +42,19 @@ private:
     double frameWidth_ = 0;
 };
 
-/// Draws a symbol centred in `frame`, `size` device-independent pixels large, on whole pixels.
+/// Paints a symbol centred in `frame`, `size` device-independent pixels large, aligned to whole
+/// pixels of the screen.
 void paintSymbol(QPainter& painter, const QRectF& frame, const std::string& symbol, double size,
                  QColor color, SymbolWeight weight = SymbolWeight::regular);
 
-/// The weight of symbols beside text of this weight.
+/// The side of a symbol beside text of this style, in device-independent pixels.
+[[nodiscard]] double symbolSide(const TextStyle& style);
+
+/// The width in whole pixels of such a symbol and, if `withGap`, of the gap between it and the
+/// text.
+[[nodiscard]] double symbolRoom(const TextStyle& style, bool withGap);
+
+/// The weight for symbols beside text of this weight.
 [[nodiscard]] SymbolWeight symbolWeight(QFont::Weight weight);
 
 } // namespace quillon

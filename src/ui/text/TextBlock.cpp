@@ -10,18 +10,13 @@
 namespace quillon {
 namespace {
 
-/// Wider than any text, and far from what the layout's fixed-point numbers hold.
+/// A width beyond that of any text, but within the range of the layout's fixed-point numbers.
 constexpr double unlimited = 100'000;
 
-const QString& stars() {
-    static const QString text = QStringLiteral("**");
-    return text;
-}
-
-/// Keeps what is before it and what is after it on one line, and shows nothing.
+/// An invisible character that keeps what is before it and what is after it on one line.
 constexpr QChar joiner{0x2060};
 
-/// Bold parts are names and commands: "/newbot" must not break behind its slash.
+/// Bold parts are names and commands, and one like "/newbot" must not break after its slash.
 QString joined(QString name) {
     return name.replace(QLatin1Char{'/'}, QStringLiteral("/") + joiner);
 }
@@ -31,43 +26,42 @@ QString joined(QString name) {
 struct TextBlock::Parts {
     QString text;
     std::vector<QTextLayout::FormatRange> formats;
+
+    void append(const QString& part, const QTextCharFormat& format) {
+        formats.push_back({.start = static_cast<int>(text.size()),
+                           .length = static_cast<int>(part.size()),
+                           .format = format});
+        text += part;
+    }
 };
 
-/// Stars without a second pair after them are part of the text.
-TextBlock::Parts TextBlock::parts(const QString& text) {
+TextBlock::Parts TextBlock::styledParts(const StyledText& text) {
     Parts parts;
-    qsizetype from = 0;
-    while (true) {
-        const qsizetype open = text.indexOf(stars(), from);
-        const qsizetype close = open < 0 ? -1 : text.indexOf(stars(), open + stars().size());
-        if (close < 0) break;
-        parts.text += text.mid(from, open - from);
-        const QString content =
-            joined(text.mid(open + stars().size(), close - open - stars().size()));
-        QTextLayout::FormatRange range{.start = static_cast<int>(parts.text.size()),
-                                       .length = static_cast<int>(content.size()),
-                                       .format = {}};
-        range.format.setFontWeight(QFont::Bold);
-        parts.formats.push_back(range);
-        parts.text += content;
-        from = close + stars().size();
+    for (const auto& [words, bold] : text.runs()) {
+        if (bold) {
+            QTextCharFormat format;
+            format.setFontWeight(QFont::Bold);
+            parts.append(joined(words), format);
+        } else {
+            parts.text += words;
+        }
     }
-    parts.text += text.mid(from);
     return parts;
 }
 
-/// Two "&" stand for one.
+/// Two "&" stand for a visible one.
 TextBlock::Parts TextBlock::titleParts(const QString& text, bool underlined) {
     Parts parts;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const bool mark = text[i] == QLatin1Char{'&'} && i + 1 < text.size();
         if (mark) ++i;
         if (mark && underlined && text[i] != QLatin1Char{'&'}) {
-            parts.formats.push_back(
-                {.start = static_cast<int>(parts.text.size()), .length = 1, .format = {}});
-            parts.formats.back().format.setFontUnderline(true);
+            QTextCharFormat underline;
+            underline.setFontUnderline(true);
+            parts.append(text[i], underline);
+        } else {
+            parts.text += text[i];
         }
-        parts.text += text[i];
     }
     return parts;
 }
@@ -80,23 +74,12 @@ TextBlock::TextBlock(Parts parts, const QFont& font, Qt::LayoutDirection directi
     layout_.setFont(font_);
 }
 
-TextBlock::TextBlock(const QString& text, const QFont& font, Qt::LayoutDirection direction)
-    : TextBlock{parts(text), font, direction} {}
+TextBlock::TextBlock(const StyledText& text, const QFont& font, Qt::LayoutDirection direction)
+    : TextBlock{styledParts(text), font, direction} {}
 
 TextBlock TextBlock::title(const QString& text, const QFont& font, Qt::LayoutDirection direction,
                            bool underlined) {
     return TextBlock{titleParts(text, underlined), font, direction};
-}
-
-/// Between the stars comes what is never seen: a word joiner.
-QString TextBlock::verbatim(QString text) {
-    while (text.contains(stars())) // three stars make two pairs
-        text.replace(stars(), QStringLiteral("*\u2060*"));
-    return text;
-}
-
-QString TextBlock::plain(const QString& text) {
-    return parts(text).text.remove(joiner);
 }
 
 QSizeF TextBlock::wrap(double width) {
@@ -112,7 +95,7 @@ QSizeF TextBlock::elide(double width, Qt::TextElideMode mode) {
     elided_ = true;
     layout_.setText(line);
     layout_.clearFormats();
-    // A rounding more of width must not bring a second line.
+    // Without wrapping, a rounding error in the width cannot bring a second line.
     return layOut(width, QTextOption::NoWrap);
 }
 
@@ -130,7 +113,7 @@ double TextBlock::lineHeight() const {
 
 QSizeF TextBlock::layOut(double width, QTextOption::WrapMode wrapMode) {
     QTextOption option;
-    // Names and untranslated texts are written their own way, wherever the lines begin.
+    // Names and untranslated texts keep their own direction, whichever side the lines start from.
     option.setTextDirection(Qt::LayoutDirectionAuto);
     option.setAlignment(Qt::AlignAbsolute |
                         (direction_ == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft));

@@ -2,10 +2,8 @@
 
 #include <QDesktopServices>
 #include <QImage>
-#include <QPainter>
 #include <QTextDocument>
 #include <QUrl>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -14,7 +12,7 @@
 namespace quillon {
 namespace {
 
-/// In points of the design.
+/// The greatest height of a message, in points of the design.
 constexpr double highestMessage = 260;
 
 } // namespace
@@ -31,8 +29,8 @@ ReadOnlyText::ReadOnlyText(QWidget* parent) : Themed{parent} {
 
 void ReadOnlyText::setStructuredText(const QString& html) {
     html_ = html;
-    // The colours of links are part of a document from when it is read. Not every dark theme has
-    // one for them, and the usual blue is lost on it.
+    // A document takes the colour of its links when it is read. Not every dark theme has a colour
+    // for links, and the usual blue is illegible on it.
     const QColor link = theme().readable(palette().color(QPalette::Link));
     document()->setDefaultStyleSheet(
         QStringLiteral("a { color: %1 } h1, h2, h3 { font-size: medium; margin: 0 } "
@@ -57,21 +55,6 @@ QVariant ReadOnlyText::loadResource(int /*type*/, const QUrl& /*name*/) {
     return QImage{};
 }
 
-TextGround::TextGround(ReadOnlyText* text) {
-    auto* column = new QVBoxLayout{this};
-    column->setContentsMargins(Space::small, Space::small, Space::small, Space::small);
-    column->addWidget(text);
-}
-
-void TextGround::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(theme().separator());
-    painter.setBrush(theme().cardFill());
-    painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), Space::cardRadius,
-                            Space::cardRadius);
-}
-
 MessageText::MessageText(const QString& text, double width, QWidget* parent)
     : ReadOnlyText{parent},
       width_{width} {
@@ -87,13 +70,13 @@ void MessageText::themeChanged() {
     fit();
 }
 
-/// A document of its own tells the height: the view's takes the width and the font of what is on
-/// screen, which the view may not be yet.
+/// Measures the height with a document of its own, because the view's document has the width and
+/// the font of the screen only once the view shows.
 void MessageText::fit() {
     QPalette colors = palette();
     colors.setColor(QPalette::Text, theme().color(Ink::secondary));
     if (colors != palette()) setPalette(colors);
-    const double width = std::ceil(Theme::length(width_));
+    const int width = Theme::wholeLength(width_);
     QTextDocument document{toPlainText()};
     document.setDocumentMargin(0);
     document.setDefaultFont(font());
@@ -103,11 +86,11 @@ void MessageText::fit() {
     document.setTextWidth(width);
     const double height = std::ceil(document.size().height());
     const double highest = Theme::length(highestMessage);
-    // The texts keep off the scroll bar.
+    // Keeps the text off the scroll bar.
     setViewportMargins(0, 0, height > highest ? Space::small : 0, 0);
     setVerticalScrollBarPolicy(height > highest ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     setFocusPolicy(height > highest ? Qt::StrongFocus : Qt::ClickFocus);
-    setFixedSize(static_cast<int>(width), static_cast<int>(std::min(height, highest)));
+    setFixedSize(width, static_cast<int>(std::min(height, highest)));
 }
 
 } // namespace quillon

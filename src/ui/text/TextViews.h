@@ -1,46 +1,35 @@
 #pragma once
 
-#include "ui/accessibility/View.h"
+#include "ui/theme/Themed.h"
 
 #include <QTextBrowser>
 
 namespace quillon {
 
-/// Text from outside, read-only, to be selected and scrolled. Loads nothing; opens links to https
-/// addresses in the browser.
+/// A read-only text from outside, which can be selected and scrolled. It loads nothing, and opens
+/// links to https addresses in the browser.
 class ReadOnlyText : public Themed<QTextBrowser> {
     Q_OBJECT
 
 public:
     explicit ReadOnlyText(QWidget* parent = nullptr);
 
-    /// Structured text, whose links have the theme's colour.
+    /// Shows an HTML text, with links in the theme's colour.
     void setStructuredText(const QString& html);
-    /// How high it would be without scrolling, in pixels.
+    /// The height in pixels that it needs at this width if it is not to scroll.
     [[nodiscard]] int heightFor(double width) const;
 
 protected:
     void themeChanged() override;
-    /// Whatever a document names stays where it is.
+    /// Loads nothing, whatever the document names.
     QVariant loadResource(int type, const QUrl& name) override;
 
 private:
     QString html_;
 };
 
-/// The ground that a long text stands on.
-class TextGround : public View {
-    Q_OBJECT
-
-public:
-    explicit TextGround(ReadOnlyText* text);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-};
-
-/// The sentences of a message below its title, as high as they need up to a limit, beyond which
-/// they scroll.
+/// The text of a message, below its title. It is as high as it needs up to a limit, and scrolls
+/// beyond that.
 class MessageText : public ReadOnlyText {
     Q_OBJECT
 

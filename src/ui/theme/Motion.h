@@ -5,15 +5,14 @@
 
 namespace quillon {
 
-/// How long a change of state takes to show, with an ease-in-out curve.
+/// The duration of the animation that shows a change of state.
 inline constexpr std::chrono::milliseconds changeDuration{200};
 
-/// Whether things may move: what setAnimationsEnabled() said or, as long as it said nothing, what
-/// the style does. Asked at the start of each movement; nothing remembers the answer.
+/// Whether things may move: what setAnimationsEnabled() was told or, without that, what the style
+/// does. Each animation asks when it starts, so that a change counts from the next one on.
 [[nodiscard]] bool animationsEnabled();
 
-/// What the desktop's "reduce animations" setting says, where somebody reads it; nothing goes back
-/// to the style's answer.
+/// Sets what the desktop's setting for animations says. Without a value the style decides again.
 void setAnimationsEnabled(std::optional<bool> enabled);
 
 } // namespace quillon

@@ -1,8 +1,8 @@
 #include "ui/theme/Theme.h"
 
 #include "artwork/Brand.h"
+#include "artwork/Colors.h"
 #include "artwork/Palette.h"
-#include "ui/theme/Colors.h"
 
 #include <QFontInfo>
 #include <QGraphicsOpacityEffect>
@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -22,11 +23,11 @@ constexpr double lightCard = 0.62; // of white over the window's colour
 constexpr double darkCard = 0.06;
 constexpr double tileContrast = 2;
 constexpr QColor red{235, 60, 60};
-/// Darkened to be legible, the palette's orange would be brown.
+/// The palette's orange, darkened until it is legible, would be brown.
 constexpr QColor deepOrange{222, 98, 0};
 constexpr const char* brightProperty = "quillon_bright";
 
-/// Disabled, and not within something that keeps its colours while it is.
+/// Whether the widget is disabled and does not keep its colours meanwhile.
 bool looksDisabled(const QWidget& widget) {
     if (widget.isEnabled()) return false;
     for (const QWidget* each = &widget; each; each = each->parentWidget()) {
@@ -101,7 +102,8 @@ QColor Theme::onTile(QColor tile) {
 
 void Theme::paintFocusRing(QPainter& painter, const QRectF& box, double radius,
                            const Tint& tint) const {
-    // On a fill, a rim of it stays outside: the ring may have the colour of what is around.
+    // On a fill, the ring leaves a rim of the fill outside, because it may have the same colour as
+    // what surrounds the control.
     const bool onFill = std::holds_alternative<QColor>(tint);
     const double inset = Space::focusWidth * (onFill ? 1.5 : 0.5);
     painter.save();
@@ -133,6 +135,14 @@ double Theme::length(double points) {
     return points * std::max(1.0, textScale());
 }
 
+int Theme::wholeLength(double points) {
+    return static_cast<int>(std::ceil(length(points)));
+}
+
+QSize wholeSize(double width, double height) {
+    return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height))};
+}
+
 void setBrightWhileDisabled(QWidget& widget, bool bright) {
     widget.setProperty(brightProperty, bright);
 }
@@ -145,6 +155,17 @@ void setOpacity(QWidget& widget, double opacity) {
         widget.setGraphicsEffect(effect);
     }
     effect->setOpacity(opacity);
+}
+
+void paintBox(QPainter& painter, const QRectF& box, double radius, const QBrush& fill,
+              const QPen& line) {
+    const double inset = line.style() == Qt::NoPen ? 0 : line.widthF() / 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(line);
+    painter.setBrush(fill);
+    painter.drawRoundedRect(box.adjusted(inset, inset, -inset, -inset), radius, radius);
+    painter.restore();
 }
 
 } // namespace quillon

@@ -4,17 +4,18 @@
 
 #include <QEvent>
 #include <QFocusEvent>
+#include <QStyle>
 
 #include <utility>
 
 namespace quillon {
 
-/// Whether the user last moved the focus with the keyboard, and not with the pointer.
+/// Whether the user last moved the focus with the keyboard rather than with the pointer.
 inline bool keyboardInUse = false;
 
 /// Adds to a widget class what all views have in common: they measure and paint themselves again
-/// when colours, font, style or writing direction change, and know whether to show the focus, which
-/// they do only for those who use the keyboard.
+/// when colours, font, style or writing direction change, and they show the focus only to users who
+/// move it with the keyboard.
 template <typename Base>
 class Themed : public Base {
 public:
@@ -24,7 +25,13 @@ protected:
     [[nodiscard]] Theme theme() const { return Theme{*this}; }
     [[nodiscard]] bool showsFocus() const { return this->hasFocus() && byKeyboard_; }
 
-    /// Something changed that size or looks derive from; overriders drop what they keep of it.
+    /// Whether the style shows the mnemonic of a title by a line below it.
+    [[nodiscard]] bool underlinesMnemonic() const {
+        return this->style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
+    }
+
+    /// Called when something has changed that the view's size or look derives from. Overriders drop
+    /// what they have kept of it.
     virtual void themeChanged() {
         this->updateGeometry();
         this->update();
@@ -56,10 +63,10 @@ protected:
         case Qt::ShortcutFocusReason:
             byKeyboard_ = keyboardInUse = true;
             break;
-        case Qt::OtherFocusReason: // moved by the program
+        case Qt::OtherFocusReason: // the program moved it
             byKeyboard_ = keyboardInUse;
             break;
-        default: // comes back
+        default: // it comes back, with another window or a menu
             break;
         }
         Base::focusInEvent(event);

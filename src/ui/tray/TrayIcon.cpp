@@ -20,13 +20,13 @@ namespace quillon {
 
 namespace {
 
-/// The name under which the icon theme has the icon, for hosts that draw it in their own colour.
+/// The icon's name in the icon theme, for hosts that paint icons in a colour of their own.
 const QString themeIcon = QStringLiteral("dev.vostrel.quillon-symbolic");
 
-/// An X11 tray has drawn the icon by then.
+/// The time after which an X11 tray has painted the icon.
 constexpr std::chrono::milliseconds drawn{500};
 
-/// What is behind the icon: the colour in its corner, where it draws nothing itself.
+/// The colour behind the icon, taken from the icon's corner, where the icon itself is transparent.
 QColor groundOf(const QRect& place) {
     QScreen* const screen = QGuiApplication::screenAt(place.topLeft());
     if (!screen) return {};
@@ -35,7 +35,7 @@ QColor groundOf(const QRect& place) {
     return pixel.isNull() ? QColor{} : pixel.pixelColor(0, 0);
 }
 
-/// The desktop's colour of texts, or that of its windows where it stands out better.
+/// The desktop's text colour, or its window colour if that stands out better from the ground.
 QColor inkOn(const QColor& ground) {
     const QPalette palette = QGuiApplication::palette();
     const QColor text = palette.color(QPalette::WindowText);
@@ -46,7 +46,7 @@ QColor inkOn(const QColor& ground) {
     return ground.isValid() && contrast(window) > contrast(text) ? window : text;
 }
 
-/// Longer than the desktop's panel takes to start, or to start again.
+/// Longer than the desktop's panel takes to start or restart.
 constexpr std::chrono::seconds panelPatience{3};
 
 } // namespace
@@ -85,14 +85,14 @@ void TrayIcon::buildMenu() {
 
 bool TrayIcon::hasPlace() const {
     if (!watch_.known()) return false;
-    // Qt gives all icons of a process to the kind of place that there was for the first one: better
-    // wait for a status notifier host that is about to come than to take less than that for good.
+    // Qt gives all icons of a process to the kind of place that the first one had. If a status
+    // notifier host is about to come, waiting for it is better than having an X11 tray for good.
     if (!overBus_) return watch_.hosted() || (watch_.managed() && (waited_ || !watch_.watched()));
     return *overBus_ ? watch_.hosted() : watch_.managed();
 }
 
 void TrayIcon::settle() {
-    // An icon on the bus stays where it is, whatever X11 trays do; any new place gets a new icon.
+    // An icon on the bus stays, whatever X11 trays do. Any other place that is new gets a new icon.
     if (icon_ && overBus_.value_or(false) && watch_.hosted()) return redraw();
     icon_.reset();
     patience_.reset();
@@ -144,14 +144,14 @@ void TrayIcon::refresh() {
 }
 
 QIcon TrayIcon::image() const {
-    // Best in the very colour of the icons around it, where somebody tells.
+    // The best colour is that of the icons around it, if the tray tells.
     if (const auto told = watch_.foreground()) return MenuBarIcon::image(*told);
     if (watch_.hosted() && QIcon::hasThemeIcon(themeIcon)) return QIcon::fromTheme(themeIcon);
     return MenuBarIcon::image(inkOn(ground_));
 }
 
 bool TrayIcon::eventFilter(QObject* watched, QEvent* event) {
-    // The menu, as a widget, is told of the desktop's colours.
+    // The menu is a widget, and therefore receives changes of the desktop's colours.
     if (event->type() == QEvent::PaletteChange) redraw();
     return QObject::eventFilter(watched, event);
 }

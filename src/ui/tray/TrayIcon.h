@@ -17,17 +17,17 @@ namespace quillon {
 
 class Store;
 
-/// What a click on the icon and its menu do.
+/// The actions of the icon and of its menu.
 struct TrayActions {
-    /// Given the icon's place on the screen, empty where the desktop does not tell.
+    /// `icon` is the icon's place on the screen. It is empty if the desktop does not tell.
     std::function<void(const QRect& icon)> togglePanel;
     std::function<void(const QRect& icon)> openPanel;
     std::function<void()> showSettings;
     std::function<void()> quit;
 };
 
-/// The icon in the desktop's panel, for as long as there is a place for it, and its menu for those
-/// desktops that open nothing but menus.
+/// The icon in the desktop's panel, which exists while the desktop has a place for it. Its menu is
+/// for desktops on which icons open nothing but menus.
 class TrayIcon : public QObject {
     Q_OBJECT
 
@@ -36,9 +36,9 @@ public:
              QDBusConnection bus = QDBusConnection::sessionBus());
     ~TrayIcon() override;
 
-    /// Whether the desktop has had no place for it for longer than a panel takes to start again.
+    /// Whether there has been no place for the icon for longer than a panel takes to restart.
     [[nodiscard]] bool missing() const { return missing_; }
-    /// The icon's place on the screen; empty when there is none or nobody knows.
+    /// The icon's place on the screen. It is empty if there is no icon or its place is unknown.
     [[nodiscard]] QRect place() const;
 
 Q_SIGNALS:
@@ -47,7 +47,7 @@ Q_SIGNALS:
 private:
     void buildMenu();
     [[nodiscard]] bool hasPlace() const;
-    /// Gives the icon to whatever place there is now.
+    /// Puts the icon into the place that there is now, if there is one.
     void settle();
     void makeIcon();
     void redraw();
@@ -63,11 +63,11 @@ private:
     QAction* send_ = nullptr;
     TrayWatch watch_;
     std::unique_ptr<QSystemTrayIcon> icon_;
-    /// Whether Qt gives icons to a status notifier host, which it decides with the first one.
+    /// Whether Qt gives icons to a status notifier host, which it decides with the first icon.
     std::optional<bool> overBus_;
     std::unique_ptr<Clock::Timer> patience_;
     bool waited_ = false;
-    /// The colour of the X11 tray, once it has been looked at.
+    /// The background colour of the X11 tray, once it is known.
     QColor ground_;
     std::unique_ptr<Clock::Timer> look_;
     bool missing_ = false;

@@ -21,7 +21,7 @@ public:
 
     /// Whether the bus has answered; before that, nothing is certain.
     [[nodiscard]] bool known() const { return hosted_.has_value(); }
-    /// There is a status notifier host.
+    /// Whether there is a status notifier host.
     [[nodiscard]] bool hosted() const { return hosted_.value_or(false); }
     /// There is an X11 system tray.
     [[nodiscard]] bool managed() const { return tray_.present(); }

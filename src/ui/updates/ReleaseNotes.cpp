@@ -8,9 +8,9 @@ namespace quillon {
 
 namespace {
 
-/// More than a version has to tell of itself; in UTF-16 units. Takes 10 ms to lay out.
+/// The longest notes, in UTF-16 units: more than any version needs, and laid out in 10 ms.
 constexpr qsizetype maximumNotes = 10'000;
-/// Deeper structures make the layout slow, and no text needs them.
+/// The deepest nesting of tags: deeper ones make the layout slow, and no text needs them.
 constexpr int maximumDepth = 12;
 
 bool isStructure(const QString& name) {
@@ -23,7 +23,7 @@ bool isStructure(const QString& name) {
     return names.contains(name);
 }
 
-/// What is not text at all, with all it holds.
+/// Removes comments, and elements that are not text together with their contents.
 QString withoutHidden(QString html) {
     static const QRegularExpression hidden{
         QStringLiteral(R"(<!--.*?(-->|$)|<(script|style|head|title)\b.*?(</\2\s*>|$))"),
@@ -31,9 +31,10 @@ QString withoutHidden(QString html) {
     return html.remove(hidden);
 }
 
-/// One tag without its attributes, or nothing.
+/// Reduces tags, one after the other, to what a structured text needs.
 class Tags {
 public:
+    /// The tag without its attributes, or nothing.
     QString keep(const QString& name, bool closes, const QString& attributes) {
         if (name == QLatin1String{"a"}) return link(closes, attributes);
         if (!isStructure(name)) return {};
@@ -57,7 +58,7 @@ private:
     int depth_ = 0;
 };
 
-/// Text between two tags, where "<" begins none.
+/// Escapes the text between two tags, where "<" does not begin a tag.
 QString between(QString text) {
     return text.replace(QLatin1Char{'<'}, QLatin1String{"&lt;"});
 }
@@ -80,7 +81,7 @@ QString releaseNotesHtml(const std::string& notes) {
             tags.keep(found.captured(2).toLower(), !found.captured(1).isEmpty(), found.captured(3));
         end = found.capturedEnd();
     }
-    // What the loop has left may hold a tag that was cut off.
+    // The rest may end with a tag that was cut off.
     const QString rest = html.mid(end);
     return structured + rest.left(rest.indexOf(QLatin1Char{'<'}));
 }

@@ -6,9 +6,9 @@
 
 namespace quillon {
 
-/// Release notes, plain text or HTML, as HTML that only structures a text: paragraphs, headings,
-/// lists, emphasis and links to https addresses. Colours, sizes, tables and whatever would be
-/// loaded are gone; so is the end of notes of unreasonable length.
+/// Converts release notes, plain text or HTML, to HTML that only structures the text: paragraphs,
+/// headings, lists, emphasis and links to https addresses. Drops colours, sizes, tables and
+/// whatever would be loaded, and cuts notes of unreasonable length.
 [[nodiscard]] QString releaseNotesHtml(const std::string& notes);
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #include "ui/updates/UpdateWindows.h"
 
 #include "ui/controls/Answer.h"
+#include "ui/controls/Card.h"
 #include "ui/controls/MessageWindow.h"
 #include "ui/controls/ProgressBar.h"
 #include "ui/text/TextViews.h"
@@ -8,10 +9,10 @@
 
 #include <QLocale>
 #include <QTimer>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 
 namespace quillon {
 
@@ -19,13 +20,13 @@ namespace {
 
 using Place = MessageWindow::Place;
 
-/// A progress bar counts in int, bytes do not fit.
+/// The progress bar's range. Its values are of type int, which is too small for bytes.
 constexpr int barSteps = 1'000;
-/// A version from outside must not fill the window.
+/// The longest version that is shown: those from outside must not fill the window.
 constexpr qsizetype longestVersion = 40;
-/// A quicker check shows nothing but what it came to.
+/// How long a check takes before its window shows. A quicker check shows nothing but its result.
 constexpr std::chrono::milliseconds checkPatience{400};
-/// Of the notes, in points; higher ones scroll.
+/// The height of release notes, in points. Longer notes scroll.
 constexpr double lowestNotes = 60;
 constexpr double highestNotes = 240;
 
@@ -47,11 +48,15 @@ QWidget* makeNotes(const std::string& notes) {
     auto* view = new ReadOnlyText;
     view->setStructuredText(releaseNotesHtml(notes));
     const int height = view->heightFor(Theme::length(MessageWindow::textWidth) - 2 * Space::small);
-    view->setMinimumHeight(std::clamp(height, static_cast<int>(lowestNotes),
-                                      static_cast<int>(std::ceil(Theme::length(highestNotes)))));
+    view->setMinimumHeight(
+        std::clamp(height, static_cast<int>(lowestNotes), Theme::wholeLength(highestNotes)));
     view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     view->setAccessibleName(UpdateWindows::tr("Release notes"));
-    return new TextGround{view};
+    auto* ground = new CardGround;
+    auto* column = new QVBoxLayout{ground};
+    column->setContentsMargins(Space::small, Space::small, Space::small, Space::small);
+    column->addWidget(view);
+    return ground;
 }
 
 } // namespace
@@ -63,7 +68,8 @@ UpdateWindows::~UpdateWindows() {
 
 void UpdateWindows::present(MessageWindow* dialog, bool gently) {
     if (current_ && current_->isVisible()) {
-        // Whoever has turned to something else during a download must not press a button blindly.
+        // A user who has turned to another window during a download must not press a button
+        // blindly.
         if (bar_ && !current_->isActiveWindow()) gently = true;
         const QPoint centre = current_->frameGeometry().center();
         dialog->adjustSize();
@@ -135,7 +141,7 @@ QFuture<UpdateChoice> UpdateWindows::showUpdate(UpdateOffer offer) {
     if (!offer.notes.empty()) dialog->addContent(makeNotes(offer.notes), true);
     TextButton* const install = dialog->addButton(tr("Install"), Place::primary,
                                                   [answer] { answer.give(UpdateChoice::install); });
-    // A window that nobody asked for takes no Return that was meant for another program.
+    // In a window that the user did not ask for, Return may have been meant for another program.
     install->setDefault(!offer.gently);
     dialog->setEscape(dialog->addButton(tr("Later"), Place::secondary));
     dialog->addButton(tr("Skip this version"), Place::apart,

@@ -11,7 +11,7 @@ namespace quillon {
 
 class MessageWindow;
 
-/// Shows updates in small windows of their own, which block nothing.
+/// Shows the progress of updates in small windows that block nothing.
 class UpdateWindows final : public UpdateUserDriver {
     Q_DECLARE_TR_FUNCTIONS(quillon::UpdateWindows)
 
@@ -34,13 +34,13 @@ public:
     void dismiss() override;
 
 private:
-    /// Takes the place of what shows.
+    /// Shows the dialog in place of the present one. If `gently`, it does not become active.
     void present(MessageWindow* dialog, bool gently = false);
     void showMessage(const QString& title, const QString& text);
 
     QPointer<MessageWindow> current_;
     QPointer<MessageWindow> permission_;
-    /// While an update is being prepared.
+    /// The bar of the window that shows while an update is being prepared.
     QPointer<QProgressBar> bar_;
     QString preparing_;
 };

@@ -65,9 +65,10 @@ private:
     bool nativeEventFilter(const QByteArray& /*type*/, void* message, qintptr*) override {
         const auto* const event = static_cast<const xcb_generic_event_t*>(message);
         const int first = xcb_get_extension_data(qtConnection(), &xcb_xfixes_id)->first_event;
-        if ((event->response_type & eventTypeMask) == first + XCB_XFIXES_SELECTION_NOTIFY)
-            selections.insert(
-                reinterpret_cast<const xcb_xfixes_selection_notify_event_t*>(event)->selection);
+        if ((event->response_type & eventTypeMask) != first + XCB_XFIXES_SELECTION_NOTIFY)
+            return false;
+        selections.insert(
+            reinterpret_cast<const xcb_xfixes_selection_notify_event_t*>(event)->selection);
         return false;
     }
 };

@@ -94,6 +94,8 @@ TEST_F(NewPanel, LeadsIntoTheSetupBeforeItIsDone) {
 
 TEST_F(ReadyPanel, ShowsTheShortcutAndWarnsWhileAnotherProgramHasIt) {
     open();
+    const std::string warning =
+        "⌃⌥V is already used by another app. Pick another shortcut in Settings.";
     const auto keys = [this] {
         QString labels;
         for (const KeyView* key : button(sendName)->findChildren<KeyView*>())
@@ -101,15 +103,11 @@ TEST_F(ReadyPanel, ShowsTheShortcutAndWarnsWhileAnotherProgramHasIt) {
         return labels.toStdString();
     };
     EXPECT_EQ(keys(), "⌃⌥V");
-    const std::string warning =
-        "⌃⌥V is already used by another app. Pick another shortcut in Settings.";
     EXPECT_THAT(seen(), Not(Contains(warning)));
-    for (const PhysicalKey key : {PhysicalKey::v, PhysicalKey::p, PhysicalKey::c})
-        computer.hotKeys.takenByOthers.insert(key);
+    computer.hotKeys.takenByOthers = {PhysicalKey::v};
     computer.store->registerShortcut();
     turn();
     EXPECT_THAT(seen(), Contains(warning));
-    computer.hotKeys.takenByOthers.clear();
     computer.store->changeConfig(
         [](Config& config) { config.shortcut = ShortcutChoice::ctrlOptP; });
     computer.store->registerShortcut();
@@ -167,10 +165,7 @@ TEST_F(ReadyPanel, NamesTheGroupItIsConnectedTo) {
     for (const auto& [title, status] : cases) {
         computer.store->changeConfig([&](Config& config) { config.chatTitle = title; });
         turn();
-        std::vector<std::string> names = seen();
-        for (std::string& name : names)
-            name = QString::fromStdString(name).remove(QChar{0x2060}).toStdString();
-        EXPECT_THAT(names, Contains(status));
+        EXPECT_THAT(seen(), Contains(status));
     }
     computer.pasteboard.copy({{"UTF8_STRING", QByteArray(5000, 'W')}});
     computer.clock.advance(1s);
@@ -214,7 +209,7 @@ TEST_F(ReadyPanel, LooksAtTheClipboardOnceASecondAndOnlyWhileShown) {
 TEST_F(ReadyPanel, ListsTheFiveNewestWithTheirAge) {
     const Date now = computer.clock.now();
     std::vector<Sent> history{sent("new.pdf", now - 59s), sent("minute.pdf", now - 60s),
-                              sent("bad.pdf", now - 1h, "The file is too big.")};
+                              sent("**bad**.pdf", now - 1h, "The **file** is too big.")};
     for (const char* const name : {"4", "5", "6", "7"})
         history.push_back(sent(name, now - 48h));
     computer.setContent("history.json", encodeHistory(history));
@@ -222,7 +217,7 @@ TEST_F(ReadyPanel, ListsTheFiveNewestWithTheirAge) {
     open();
     EXPECT_THAT(seen(), AllOf(Contains("new.pdf, 📄 Files · just now, Sent"),
                               Contains("minute.pdf, 📄 Files · 1 min. ago, Sent"),
-                              Contains("bad.pdf, The file is too big., Not sent"),
+                              Contains("**bad**.pdf, The **file** is too big., Not sent"),
                               Contains("5, 📄 Files · 2 days ago, Sent")));
     EXPECT_THAT(seen(), AllOf(Not(Contains("6")), Not(Contains("Nothing sent yet."))));
     computer.clock.advance(1s);

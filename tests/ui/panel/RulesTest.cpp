@@ -1,8 +1,6 @@
 #include "ui/panel/Age.h"
 #include "ui/panel/PanelPlacement.h"
 
-#include "ui/text/TextBlock.h"
-
 #include <gmock/gmock.h>
 
 namespace quillon::test {
@@ -26,13 +24,6 @@ TEST(Age, IsTheLargestWholeUnitInTheUsersLanguage) {
     };
     for (const auto& each : cases)
         EXPECT_EQ(age(now - each.elapsed, now, each.locale).toStdString(), each.text);
-}
-
-TEST(Literal, KeepsStarsOfTheUsersFromMakingThingsBold) {
-    for (const char* const text : {"**", "a **b** c", "*****", "no stars"}) {
-        QString shown = TextBlock::plain(TextBlock::verbatim(QString::fromUtf8(text)));
-        EXPECT_EQ(shown.remove(QChar{0x2060}), QString::fromUtf8(text));
-    }
 }
 
 TEST(PanelPlacement, HangsFromTheIconAndStaysOnItsScreen) {

@@ -11,7 +11,6 @@
 #include "ui/theme/Motion.h"
 
 #include <QLineEdit>
-#include <QRadioButton>
 #include <QTabBar>
 
 #include <gmock/gmock.h>

@@ -5,6 +5,7 @@
 #include "support/Faults.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Spinner.h"
+#include "ui/text/IconLabel.h"
 #include "ui/text/Keycap.h"
 #include "ui/theme/Motion.h"
 
@@ -20,6 +21,7 @@ namespace {
 using namespace std::chrono_literals;
 using sandbox::FaultKind;
 using testing::ElementsAre;
+using testing::UnorderedElementsAre;
 
 /// The guide in a window, over a store that the test leads through the setup.
 template <typename Computer>
@@ -138,6 +140,18 @@ TEST_F(NewUser, MayCloseTheWindowWhileAnActionRuns) {
     inside.click("Connect");
     closing.reset();
     EXPECT_TRUE(waitUntil([&] { return computer.store->tokenSaved(); }));
+}
+
+TEST_F(NewUser, ReadsInBoldWhatToLookFor) {
+    std::vector<std::string> bold;
+    for (const IconLabel* label : view.findChildren<IconLabel*>()) {
+        for (const StyledText::Run& run : label->text().runs()) {
+            if (run.bold) bold.push_back(run.text.toStdString());
+        }
+    }
+    EXPECT_THAT(bold,
+                UnorderedElementsAre("@BotFather", "/newbot", "New Group", "group name", "pencil",
+                                     "Topics", "hold", "Promote to admin", "Manage Topics"));
 }
 
 TEST_F(NewUser, OpensTheChatWithBotFather) {

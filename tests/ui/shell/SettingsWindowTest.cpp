@@ -1,6 +1,5 @@
 #include "ui/SettingsWindow.h"
 
-#include "support/Await.h"
 #include "support/FakeDesktop.h"
 
 #include <QApplication>

@@ -46,7 +46,7 @@ Settings settingsOf(const QDBusMessage& reply) {
 
 LinuxAppearance::LinuxAppearance(QDBusConnection bus) : bus_{std::move(bus)} {}
 
-void LinuxAppearance::follow(std::function<void(const DesktopLooks&)> changed) {
+void LinuxAppearance::follow(std::function<void(const Appearance&)> changed) {
     changed_ = std::move(changed);
     xSettings_.emplace([this](const XSettingsValues& values) {
         for (const auto& [name, value] : values)
@@ -102,9 +102,9 @@ void LinuxAppearance::ownerChanged(const QString& /*name*/, const QString& /*bef
 }
 
 void LinuxAppearance::announce() {
-    const DesktopLooks looks = settings_.looks();
-    if (std::exchange(announced_, looks) == looks) return;
-    if (changed_) changed_(looks);
+    const Appearance appearance = settings_.appearance();
+    if (std::exchange(announced_, appearance) == appearance) return;
+    if (changed_) changed_(appearance);
 }
 
 } // namespace quillon

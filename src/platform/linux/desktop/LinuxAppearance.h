@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/desktop/LookSettings.h"
+#include "platform/linux/desktop/AppearanceSettings.h"
 #include "platform/linux/x11/XSettings.h"
 
 #include <QDBusConnection>
@@ -9,17 +9,17 @@
 
 namespace quillon {
 
-/// The desktop's looks as the settings portal tells them (org.freedesktop.portal.Settings) and, for
-/// what that leaves open, the XSETTINGS manager, which X11 desktops without a portal have. Waits
-/// for nobody: a portal that hangs or is missing leaves the looks as they are, and one that comes
-/// later is asked then.
-class LinuxAppearance : public QObject, public Appearance {
+/// Reads the desktop's appearance from the settings portal (org.freedesktop.portal.Settings) and,
+/// for what that leaves open, from the XSETTINGS manager of X11 desktops without a portal. It
+/// blocks on neither: while the portal hangs or is missing the appearance stays as it is, and a
+/// portal that starts later is asked then.
+class LinuxAppearance : public QObject, public AppearanceSource {
     Q_OBJECT
 
 public:
     explicit LinuxAppearance(QDBusConnection bus = QDBusConnection::sessionBus());
 
-    void follow(std::function<void(const DesktopLooks&)> changed) override;
+    void follow(std::function<void(const Appearance&)> changed) override;
 
 private:
     Q_SLOT void take(const QString& nameSpace, const QString& key, const QDBusVariant& value);
@@ -29,10 +29,10 @@ private:
     void announce();
 
     QDBusConnection bus_;
-    LookSettings settings_;
+    AppearanceSettings settings_;
     std::optional<XSettings> xSettings_;
-    std::optional<DesktopLooks> announced_;
-    std::function<void(const DesktopLooks&)> changed_;
+    std::optional<Appearance> announced_;
+    std::function<void(const Appearance&)> changed_;
 };
 
 } // namespace quillon

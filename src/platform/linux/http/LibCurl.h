@@ -16,6 +16,7 @@ namespace quillon {
 /// directory services among them, which would take a third of the program's start-up time and a
 /// fifth of its memory, although most of the time it has nothing to send.
 struct LibCurl {
+// A declared name takes no parentheses. NOLINTNEXTLINE(bugprone-macro-parentheses)
 #define QUILLON_DECLARE(name) decltype(&::curl_##name) name;
     QUILLON_CURL_FUNCTIONS(QUILLON_DECLARE)
 #undef QUILLON_DECLARE

@@ -27,9 +27,9 @@ X11ManagerSelection::X11ManagerSelection(std::string_view name, std::string_view
         if (selection == selection_) setOwner(window);
     };
     const auto onProperty = [this](std::uint32_t window, std::uint32_t changed) {
-        if (window == window_ && changed == property_)
-            QMetaObject::invokeMethod(this, &X11ManagerSelection::propertyChanged,
-                                      Qt::QueuedConnection);
+        if (window != window_ || changed != property_) return;
+        QMetaObject::invokeMethod(this, &X11ManagerSelection::propertyChanged,
+                                  Qt::QueuedConnection);
     };
     connect(events, &X11Events::ownerChanged, this, onOwner, Qt::QueuedConnection);
     if (property_) connect(events, &X11Events::propertyChanged, this, onProperty);

@@ -1,4 +1,4 @@
-#include "ui/theme/Colors.h"
+#include "artwork/Colors.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,9 +6,9 @@
 namespace quillon {
 namespace {
 
-/// Where black and white are equally far away.
+/// The luminance that has the same contrast to black and to white.
 constexpr double middleLuminance = 0.179;
-/// Halvings of the lightness that are searched: to less than a step of an 8-bit channel.
+/// Halvings in the search for a lightness: enough to be exact to a step of an 8-bit channel.
 constexpr int searchSteps = 9;
 
 double linear(double channel) {

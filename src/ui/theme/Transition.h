@@ -6,14 +6,16 @@
 
 namespace quillon {
 
-/// A number that goes to its new value along an ease-in-out curve, or at once.
+/// A number that changes to a new value along an ease-in-out curve, or at once.
 class Transition {
 public:
-    /// `apply` is called with each value on the way, the last one included.
+    /// Calls `apply` with each value on the way, the last one included.
     Transition(double value, std::function<void(double)> apply);
 
-    /// At once when not `animated` or where animations are reduced.
+    /// Changes at once unless `animated`, or if the user wants no animations.
     void go(double target, bool animated);
+    /// Ends a change that is under way: takes its last value at once.
+    void arrive();
 
     [[nodiscard]] double value() const { return value_; }
     [[nodiscard]] double target() const { return target_; }

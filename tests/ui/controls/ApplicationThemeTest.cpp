@@ -1,4 +1,4 @@
-#include "ui/theme/Looks.h"
+#include "ui/theme/ApplicationTheme.h"
 
 #include "support/FakeAppearance.h"
 #include "ui/text/IconLabel.h"
@@ -11,12 +11,12 @@
 namespace quillon::test {
 namespace {
 
-using Scheme = DesktopLooks::Scheme;
+using Scheme = Appearance::Scheme;
 
 /// Gives the application back what it had.
-class LooksTest : public testing::Test {
+class ApplicationThemeTest : public testing::Test {
 protected:
-    ~LooksTest() override {
+    ~ApplicationThemeTest() override {
         setAnimationsEnabled(std::nullopt);
         QApplication::setFont(font_);
         QApplication::setPalette(palette_);
@@ -29,9 +29,9 @@ private:
     QPalette palette_ = QApplication::palette();
 };
 
-TEST_F(LooksTest, ChangeAWindowWhileItShows) {
-    Looks looks;
-    looks.follow(desktop);
+TEST_F(ApplicationThemeTest, ChangesAWindowWhileItShows) {
+    ApplicationTheme theme;
+    theme.follow(desktop);
     IconLabel label{QStringLiteral("Clipboard")};
     label.show();
     const auto brightness = [&] {
@@ -51,11 +51,11 @@ TEST_F(LooksTest, ChangeAWindowWhileItShows) {
     EXPECT_EQ(label.sizeHint(), normal) << "scales do not add up";
 }
 
-TEST_F(LooksTest, LeaveTheColoursThatTheDesktopGivesQt) {
+TEST_F(ApplicationThemeTest, LeavesTheColoursThatTheDesktopGivesQt) {
     const QPalette given{QColor{10, 60, 10}, QColor{20, 80, 20}};
     QApplication::setPalette(given);
-    Looks looks;
-    looks.follow(desktop);
+    ApplicationTheme theme;
+    theme.follow(desktop);
     for (const Scheme scheme : {Scheme::dark, Scheme::light}) {
         desktop.change({.scheme = scheme});
         EXPECT_EQ(QApplication::palette().color(QPalette::Window), QColor(20, 80, 20));

@@ -1,4 +1,4 @@
-#include "platform/linux/desktop/LookSettings.h"
+#include "platform/linux/desktop/AppearanceSettings.h"
 
 #include <QMetaType>
 
@@ -10,22 +10,22 @@ namespace quillon {
 
 namespace {
 
-using Scheme = DesktopLooks::Scheme;
+using Scheme = Appearance::Scheme;
 
 /// The layouts hold for texts up to this size.
 constexpr double largestTextScale = 1.5;
 
 // Common to all desktops: the settings that the portal's documentation defines itself.
-const LookSettings::Key colorScheme{"org.freedesktop.appearance", "color-scheme"};
-const LookSettings::Key reducedMotion{"org.freedesktop.appearance", "reduced-motion"};
+const AppearanceSettings::Key colorScheme{"org.freedesktop.appearance", "color-scheme"};
+const AppearanceSettings::Key reducedMotion{"org.freedesktop.appearance", "reduced-motion"};
 // GNOME's, which the portal of GTK serves as well.
-const LookSettings::Key gnomeAnimations{"org.gnome.desktop.interface", "enable-animations"};
-const LookSettings::Key gnomeTextScale{"org.gnome.desktop.interface", "text-scaling-factor"};
+const AppearanceSettings::Key gnomeAnimations{"org.gnome.desktop.interface", "enable-animations"};
+const AppearanceSettings::Key gnomeTextScale{"org.gnome.desktop.interface", "text-scaling-factor"};
 // KDE's: how long its animations take, of the usual time.
-const LookSettings::Key kdeAnimations{"org.kde.kdeglobals.KDE", "AnimationDurationFactor"};
+const AppearanceSettings::Key kdeAnimations{"org.kde.kdeglobals.KDE", "AnimationDurationFactor"};
 // XSETTINGS, from the desktops that have no portal.
-const LookSettings::Key themeName{"", "Net/ThemeName"};
-const LookSettings::Key gtkAnimations{"", "Gtk/EnableAnimations"};
+const AppearanceSettings::Key themeName{"", "Net/ThemeName"};
+const AppearanceSettings::Key gtkAnimations{"", "Gtk/EnableAnimations"};
 
 const std::array keys{&colorScheme,   &reducedMotion, &gnomeAnimations, &gnomeTextScale,
                       &kdeAnimations, &themeName,     &gtkAnimations};
@@ -51,23 +51,23 @@ std::optional<bool> flag(const QVariant& value) {
 
 } // namespace
 
-void LookSettings::set(const Key& key, const QVariant& value) {
+void AppearanceSettings::set(const Key& key, const QVariant& value) {
     const bool known = std::ranges::any_of(keys, [&](const Key* each) { return *each == key; });
     if (known) values_[key] = value;
 }
 
-DesktopLooks LookSettings::looks() const {
+Appearance AppearanceSettings::appearance() const {
     return {.scheme = scheme(), .animations = animations(), .textScale = textScale()};
 }
 
-QVariant LookSettings::value(const Key& key) const {
+QVariant AppearanceSettings::value(const Key& key) const {
     const auto found = values_.find(key);
     return found == values_.end() ? QVariant{} : found->second;
 }
 
 /// The portal's 1 is dark and 2 is light; its 0, and what it may mean one day, leave it to the
 /// theme, which by custom has "dark" at the end of its name if it is.
-Scheme LookSettings::scheme() const {
+Scheme AppearanceSettings::scheme() const {
     const auto preference = number(value(colorScheme));
     if (preference == 1) return Scheme::dark;
     if (preference == 2) return Scheme::light;
@@ -79,7 +79,7 @@ Scheme LookSettings::scheme() const {
 }
 
 /// Whoever says that nothing is to move has the last word.
-std::optional<bool> LookSettings::animations() const {
+std::optional<bool> AppearanceSettings::animations() const {
     std::optional<bool> kde;
     // A number, or the text that its file has.
     const QVariant written = value(kdeAnimations);
@@ -97,7 +97,7 @@ std::optional<bool> LookSettings::animations() const {
     return std::nullopt;
 }
 
-double LookSettings::textScale() const {
+double AppearanceSettings::textScale() const {
     const double scale = number(value(gnomeTextScale)).value_or(1);
     return std::isfinite(scale) ? std::clamp(scale, 1.0, largestTextScale) : 1;
 }

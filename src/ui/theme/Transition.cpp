@@ -1,4 +1,4 @@
-#include "ui/setup/Transition.h"
+#include "ui/theme/Transition.h"
 
 #include "ui/theme/Motion.h"
 
@@ -23,11 +23,16 @@ Transition::Transition(double value, std::function<void(double)> apply)
 void Transition::go(double target, bool animated) {
     if (target == target_) return;
     target_ = target;
+    if (!animated || !animationsEnabled()) return arrive();
     animation_.stop();
-    if (!animated || !animationsEnabled()) return set(target);
     animation_.setStartValue(value_);
     animation_.setEndValue(target);
     animation_.start();
+}
+
+void Transition::arrive() {
+    animation_.stop();
+    set(target_);
 }
 
 void Transition::set(double value) {

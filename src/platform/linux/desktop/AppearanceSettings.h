@@ -11,20 +11,20 @@
 
 namespace quillon {
 
-/// What the desktop's settings say about looks: a namespace and a key of the settings portal, or
-/// the empty namespace and the name of a setting of XSETTINGS, with what was given for it.
-class LookSettings {
+/// The desktop's settings that make up its appearance. A setting's key is a namespace and a key of
+/// the settings portal, or the empty namespace and the name of an XSETTINGS setting.
+class AppearanceSettings {
 public:
     using Key = std::pair<std::string, std::string>;
 
-    /// Settings that say nothing about looks are passed over.
+    /// Ignores settings that say nothing about the appearance.
     void set(const Key& key, const QVariant& value);
-    /// Values of another type than theirs, and those without a sense, count as not given.
-    [[nodiscard]] DesktopLooks looks() const;
+    /// A value of the wrong type or without a meaning counts as not set.
+    [[nodiscard]] Appearance appearance() const;
 
 private:
     [[nodiscard]] QVariant value(const Key& key) const;
-    [[nodiscard]] DesktopLooks::Scheme scheme() const;
+    [[nodiscard]] Appearance::Scheme scheme() const;
     [[nodiscard]] std::optional<bool> animations() const;
     [[nodiscard]] double textScale() const;
 
