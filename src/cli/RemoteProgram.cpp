@@ -61,8 +61,7 @@ public:
             QStringLiteral("Progress"), this, SLOT(progress(QString, qlonglong, qlonglong)));
     }
 
-private Q_SLOTS:
-    void progress(const QString& activity, qlonglong done, qlonglong total) {
+    Q_SLOT void progress(const QString& activity, qlonglong done, qlonglong total) {
         console_.progress(activity.toStdString(), done, total);
     }
 

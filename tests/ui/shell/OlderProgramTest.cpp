@@ -3,30 +3,29 @@
 #include "support/Await.h"
 
 #include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusVirtualObject>
+#include <QDBusUnixFileDescriptor>
 #include <QProcess>
 
 namespace quillon::test {
 
 namespace {
 
-/// A program of the first version, which takes a command and one argument.
-class OlderProgram : public QDBusVirtualObject {
+/// A program of the first version, which knows commands by one argument.
+class OlderProgram : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "dev.vostrel.quillon")
+
 public:
     std::string asked;
 
-    [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
-    /// A method that this does not handle is unknown to the caller.
-    bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override {
-        if (call.member() != QStringLiteral("Run") || call.signature() != QStringLiteral("ssh"))
-            return false;
-        const QVariantList arguments = call.arguments();
-        asked = (arguments[0].toString() + QStringLiteral("(") + arguments[1].toString() +
-                 QStringLiteral(")"))
-                    .toStdString();
-        return bus.send(
-            call.createReply({1, QStringLiteral("said\n"), QStringLiteral("warned\n")}));
+public Q_SLOTS:
+    Q_SCRIPTABLE int Run(const QString& command, const QString& argument,
+                         const QDBusUnixFileDescriptor& /*input*/, QString& output,
+                         QString& errors) {
+        asked = command.toStdString() + "(" + argument.toStdString() + ")";
+        output = QStringLiteral("said\n");
+        errors = QStringLiteral("warned\n");
+        return 1;
     }
 };
 
@@ -37,8 +36,10 @@ TEST(RemoteProgram, IsAlsoUnderstoodByAProgramOfTheVersionBefore) {
     // By its address: libdbus takes the session bus for the one that a process used first.
     QDBusConnection bus = QDBusConnection::connectToBus(
         qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("older"));
+    qRegisterMetaType<QDBusUnixFileDescriptor>();
     OlderProgram older;
-    ASSERT_TRUE(bus.registerVirtualObject(QLatin1String{RemoteProgram::objectPath}, &older));
+    ASSERT_TRUE(bus.registerObject(QLatin1String{RemoteProgram::objectPath}, &older,
+                                   QDBusConnection::ExportScriptableContents));
     ASSERT_TRUE(bus.registerService(QLatin1String{RemoteProgram::busName}));
 
     for (const auto& [words, asked] :
@@ -57,3 +58,5 @@ TEST(RemoteProgram, IsAlsoUnderstoodByAProgramOfTheVersionBefore) {
 }
 
 } // namespace quillon::test
+
+#include "OlderProgramTest.moc"
