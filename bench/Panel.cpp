@@ -96,16 +96,12 @@ QCoro::Task<> measure(PanelWindow& panel, Clock& clock) {
 
 } // namespace
 
-int main(int argc, char** argv) {
-    const QApplication application{argc, argv};
-    QApplication::setQuitOnLastWindowClosed(false);
-    auto pasteboard = X11Pasteboard::open(nullptr);
-    if (!pasteboard) return EXIT_FAILURE;
-    bench::RunningProgram program{std::move(pasteboard)};
+int main() {
+    bench::RunningProgram program;
     Platform& platform = program.services.platform();
-    const Updater updater{platform, program.analytics, {}};
-    PanelWindow panel{program.compositor, platform.workspace, [&] {
-                          return std::make_unique<PanelView>(platform, program.store, updater,
+    const Updater updater{platform, program.core.analytics, {}};
+    PanelWindow panel{*program.desktop.compositor, platform.workspace, [&] {
+                          return std::make_unique<PanelView>(platform, program.core.store, updater,
                                                              PanelActions{});
                       }};
     QTimer::singleShot(0, &panel, [&] { measure(panel, platform.clock); });

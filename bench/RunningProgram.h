@@ -1,33 +1,22 @@
 // The program's objects on the real desktop, as a benchmark finds them: set up and running.
 #pragma once
 
-#include "analytics/Analytics.h"
-#include "cli/SpokenBanner.h"
-#include "desktop/HUD.h"
+#include "core/Core.h"
+#include "platform/linux/Desktop.h"
 #include "platform/linux/LinuxPlatform.h"
-#include "platform/linux/x11/X11Compositor.h"
-#include "platform/linux/x11/X11Pasteboard.h"
-#include "state/Store.h"
 
 #include <algorithm>
-#include <memory>
 #include <utility>
 
 namespace quillon::bench {
 
+/// There is one in a process, and it makes the application object.
 class RunningProgram {
 public:
-    explicit RunningProgram(std::unique_ptr<Pasteboard> pasteboard)
-        : services{std::move(pasteboard)},
-          hud{services.platform().clock, compositor,
-              [this] { return store.config().bannerPosition; }} {}
-
-    LinuxPlatform services;
-    Analytics analytics{services.platform()};
-    X11Compositor compositor;
-    HUD hud;
-    SpokenBanner banner{&hud};
-    Store store{services.platform(), analytics, banner};
+    /// The desktop has to be there.
+    Desktop desktop = openDesktop(DesktopNeeds::clipboardAndBanner).value();
+    LinuxPlatform services{std::move(desktop.pasteboard), std::move(desktop.hotKeys)};
+    Core core{services.platform(), desktop.compositor.get()};
 };
 
 /// Whether all of the history's newest `count` entries were sent.

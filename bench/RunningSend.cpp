@@ -16,10 +16,10 @@ using namespace quillon;
 
 QCoro::Task<> sendRepeatedly(Store& store, int rounds) {
     using Milliseconds = std::chrono::duration<double, std::milli>;
-    co_await store.sendClipboard("shortcut");
+    co_await store.sendClipboard(Trigger::shortcut);
     for (int round = 0; round < rounds; ++round) {
         const auto start = std::chrono::steady_clock::now();
-        co_await store.sendClipboard("shortcut");
+        co_await store.sendClipboard(Trigger::shortcut);
         const Milliseconds took = std::chrono::steady_clock::now() - start;
         std::printf("%.3f\n", took.count());
     }
@@ -30,11 +30,9 @@ QCoro::Task<> sendRepeatedly(Store& store, int rounds) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const QApplication application{argc, argv};
-    auto pasteboard = X11Pasteboard::open(nullptr);
-    if (argc != 2 || !pasteboard) return EXIT_FAILURE;
-    bench::RunningProgram program{std::move(pasteboard)};
-    QTimer::singleShot(0, &program.store,
-                       [&] { sendRepeatedly(program.store, std::atoi(argv[1])); });
+    if (argc != 2) return EXIT_FAILURE;
+    bench::RunningProgram program;
+    Store& store = program.core.store;
+    QTimer::singleShot(0, &store, [&] { sendRepeatedly(store, std::atoi(argv[1])); });
     return QApplication::exec();
 }

@@ -24,18 +24,19 @@ using namespace std::chrono_literals;
 
 QCoro::Task<> measure(bench::RunningProgram& program, std::string_view mode) {
     Clock& clock = program.services.platform().clock;
-    Store& store = program.store;
-    if (mode != "banner") program.banner.show("Ready", "checkmark.circle.fill", true, false);
+    Store& store = program.core.store;
+    const BannerMessage ready{.text = "Ready", .symbol = "checkmark.circle.fill"};
+    if (mode != "banner") program.core.banner.show(ready);
     co_await sleep(clock, 400ms);
     const std::size_t before = store.history().size();
     const bench::Pulse pulse;
     if (mode == "send") {
-        co_await store.sendClipboard("shortcut");
+        co_await store.sendClipboard(Trigger::shortcut);
     }
-    if (mode == "banner") program.banner.show("Ready", "checkmark.circle.fill", true, false);
+    if (mode == "banner") program.core.banner.show(ready);
     co_await sleep(clock, 1000ms);
     const std::size_t items = store.history().size() - before;
-    const bool nothingRead = program.banner.problem() == "The clipboard is empty";
+    const bool nothingRead = program.core.banner.problem() == "The clipboard is empty";
     std::printf("%.2f %.2f %zu\n", pulse.longestGap().count(), pulse.longestOwnGap().count(),
                 items);
     const bool asExpected =
@@ -49,11 +50,8 @@ QCoro::Task<> measure(bench::RunningProgram& program, std::string_view mode) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const QApplication application{argc, argv};
-    QApplication::setQuitOnLastWindowClosed(false);
-    auto pasteboard = X11Pasteboard::open(nullptr);
-    if (argc != 2 || !pasteboard) return EXIT_FAILURE;
-    bench::RunningProgram program{std::move(pasteboard)};
-    QTimer::singleShot(0, &program.store, [&] { measure(program, argv[1]); });
+    if (argc != 2) return EXIT_FAILURE;
+    bench::RunningProgram program;
+    QTimer::singleShot(0, &program.core.store, [&] { measure(program, argv[1]); });
     return QApplication::exec();
 }

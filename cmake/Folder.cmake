@@ -1,9 +1,11 @@
-# quillon_folder(NAME [DEPENDS target...]): the sources of the calling folder as the static library
-# quillon_NAME. Each header is also compiled alone (target all_verify_interface_header_sets).
+# quillon_folder(NAME [DEPENDS target...] [LINKS target...]): the sources of the calling folder as the
+# static library quillon_NAME. It may include what it depends on; what it only links defines actions
+# of the store, which is declared elsewhere. Each header is also compiled alone (target
+# all_verify_interface_header_sets).
 set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
 
 function(quillon_folder NAME)
-    cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "DEPENDS;LINKS" ${ARGN})
     file(GLOB SOURCES CONFIGURE_DEPENDS *.cpp)
     file(GLOB HEADERS CONFIGURE_DEPENDS *.h)
     set(KIND PUBLIC)
@@ -15,7 +17,17 @@ function(quillon_folder NAME)
     endif()
     target_sources(quillon_${NAME} ${KIND}
         FILE_SET HEADERS BASE_DIRS ${CMAKE_SOURCE_DIR}/src FILES ${HEADERS})
-    target_link_libraries(quillon_${NAME} ${KIND} quillon_compiler ${ARG_DEPENDS})
+    target_link_libraries(quillon_${NAME} ${KIND} quillon_compiler ${ARG_DEPENDS} ${ARG_LINKS})
+
+    # For the test that compares includes with DEPENDS: "core: state desktop +send".
+    list(TRANSFORM ARG_LINKS REPLACE ^quillon_ quillon_+)
+    set(FOLDERS ${ARG_DEPENDS} ${ARG_LINKS})
+    list(FILTER FOLDERS INCLUDE REGEX ^quillon_)
+    list(TRANSFORM FOLDERS REPLACE ^quillon_ "")
+    list(TRANSFORM FOLDERS REPLACE _ /)
+    list(JOIN FOLDERS " " FOLDERS)
+    string(REPLACE _ / FOLDER ${NAME})
+    set_property(GLOBAL APPEND PROPERTY QUILLON_FOLDERS "${FOLDER}: ${FOLDERS}")
 endfunction()
 
 # quillon_test(NAME [DEPENDS target...]): the sources of the calling folder as one GoogleTest program,

@@ -29,7 +29,7 @@ std::optional<BotPath> botPath(std::string_view path) {
     return BotPath{std::string{path.substr(0, slash)}, std::string{path.substr(slash + 1)}};
 }
 
-// A number without leading zeros, a colon, letters, digits, hyphens and underscores.
+// A token is a number without leading zeros, a colon, and letters, digits, hyphens and underscores.
 bool isToken(std::string_view token) {
     const auto colon = token.find(':');
     if (colon == std::string_view::npos || colon == 0 || colon + 1 == token.size() ||
@@ -68,7 +68,7 @@ std::optional<std::string> Backend::methodOf(std::string_view path) {
     if (path == eventsPath) return "events";
     const auto bot = botPath(path);
     if (!bot) return std::nullopt;
-    // Whatever else stands there (a token, by a client's mistake) is not for the log.
+    // Anything else there may be a token, by a client's mistake, and must not be logged.
     const auto letter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
     const bool name = std::all_of(bot->method.begin(), bot->method.end(), letter);
     return name ? bot->method : "(no method)";

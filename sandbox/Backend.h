@@ -29,13 +29,13 @@ public:
     /// The Bot API method (or "events") that a path asks for; none for the control pages.
     static std::optional<std::string> methodOf(std::string_view path);
 
-    /// Never throws; `faultName` is only noted.
+    /// Never throws; `faultName` is only recorded.
     HttpReply serve(HttpRequest& request, const std::string& faultName = {});
 
-    /// Keeps a request that is not carried out; `bodyRead` tells whether the body is there.
+    /// Records a request that is not carried out; `bodyRead` tells whether its body was read.
     void record(HttpRequest& request, const std::string& faultName, bool bodyRead, int status);
 
-    /// Runs `action` on the world, alone.
+    /// Runs `action` on the world under the lock.
     template <typename Action>
     auto withWorld(const Action& action) {
         const std::lock_guard lock{mutex_};

@@ -1,5 +1,5 @@
-// A certificate made on the spot, so that a client can be tried over TLS without a key in a file
-// that anybody could misuse.
+// A freshly made certificate, so that clients can be tested over TLS without a key file that
+// anybody could misuse.
 #pragma once
 
 #include <boost/asio/ssl/context.hpp>
@@ -20,7 +20,7 @@ public:
 
     boost::asio::ssl::context& context() { return context_; }
 
-    /// The certificate in PEM form, for a client to trust; removed with this object.
+    /// The certificate as a PEM file, for a client to trust. Removed with this object.
     const std::filesystem::path& file() const { return file_; }
 
 private:

@@ -17,8 +17,9 @@ namespace asio = boost::asio;
 using asio::ip::tcp;
 using boost::system::error_code;
 
-// The socket is left open: its number must not be given away while others may still name it. Closed
-// in the end, it sends the reset. Set behind Asio's back, which else undoes it on destruction.
+// Makes the later close of the socket send a reset. It is not closed here, because its number must
+// not be reused while other threads may still use it. The option is set without Asio, which would
+// otherwise undo it on destruction.
 void resetSocket(tcp::socket& socket) {
     const linger none{1, 0};
     setsockopt(socket.native_handle(), SOL_SOCKET, SO_LINGER, &none, sizeof none);
@@ -73,7 +74,7 @@ public:
     }
     bool write(std::string_view bytes) override { return writeAll(stream_, bytes); }
     void close() override {
-        // The client's own farewell is not waited for: it may never come.
+        // The client's answer is not awaited, because it may never come.
         SSL_shutdown(stream_.native_handle());
         error_code ignored;
         stream_.next_layer().shutdown(tcp::socket::shutdown_send, ignored);

@@ -15,12 +15,12 @@ class Channel {
 public:
     virtual ~Channel() = default;
 
-    /// Readies the stream; false when the client does not come to terms.
+    /// Prepares the stream; false if the TLS handshake fails.
     virtual bool open() = 0;
-    /// At least one byte, at most `size`; 0 at the end.
+    /// Reads at least one byte and at most `size`; 0 at the end.
     virtual std::size_t read(char* data, std::size_t size) = 0;
     virtual bool write(std::string_view bytes) = 0;
-    /// Ends the stream in order.
+    /// Ends the stream properly.
     virtual void close() = 0;
     /// Makes the connection end by a TCP reset, as after a crash, once this object goes.
     virtual void reset() = 0;

@@ -69,8 +69,8 @@ bool Connection::answerWithFault(HttpRequest& request, const Fault& fault) {
     return false;
 }
 
-// The rest of the request, if any, is not read, so the connection cannot be used again. Closing it
-// with unread bytes would reset it and lose the reply; what is still under way is read and dropped.
+// The rest of the request is not parsed, so the connection cannot be used again. Closing it with
+// unread bytes would reset it and lose the reply, so bytes that still arrive are read and dropped.
 bool Connection::refuse(int status, std::string_view description) {
     closing_ = true;
     const Json body{{"ok", false}, {"error_code", status}, {"description", description}};
@@ -94,7 +94,7 @@ bool Connection::send(const HttpReply& reply) {
     return channel_.write(onTheWire(reply));
 }
 
-// The header and half of the body.
+// Sends the header and half of the body.
 void Connection::sendPart(const HttpReply& reply) {
     const std::string bytes = onTheWire(reply);
     channel_.write(std::string_view{bytes}.substr(0, bytes.size() - (reply.body.size() + 1) / 2));
@@ -111,7 +111,7 @@ bool Connection::trickle(const HttpReply& reply, std::chrono::milliseconds betwe
     return true;
 }
 
-// False when the client has gone, or the server stops, before the time is over.
+// False if the client disconnects or the server stops before the time is over.
 bool Connection::pause(std::chrono::milliseconds duration) {
     pollfd descriptor{channel_.descriptor(), POLLRDHUP, 0};
     return poll(&descriptor, 1, static_cast<int>(duration.count())) == 0;

@@ -1,4 +1,4 @@
-// Serves the requests of one connection, one after the other, faults included.
+// Serves the requests of one connection, one after the other, and carries out faults.
 #pragma once
 
 #include "sandbox/Backend.h"

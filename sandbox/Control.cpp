@@ -96,7 +96,7 @@ HttpReply groupPage(Backend& backend, const Json& in) {
     }));
 }
 
-// {"group":…,"title":…,"forum":…,"role":…}: what is given changes.
+// {"group":…,"title":…,"forum":…,"role":…}: changes what is given.
 HttpReply changeGroupPage(Backend& backend, const Json& in) {
     backend.withWorld([&](World& world) {
         Chat& chat = groupOf(world, in);

@@ -1,4 +1,4 @@
-// The pages under /sandbox/ by which scripts look into the sandbox and steer it.
+// The pages under /sandbox/ with which scripts inspect and control the sandbox.
 #pragma once
 
 #include "sandbox/Http.h"
@@ -8,7 +8,7 @@ namespace quillon::sandbox {
 class Backend;
 
 /// Answers with JSON (the view also as text): 404 for an unknown page, 400 with {"error":…} for
-/// parameters it cannot use. What each page takes is listed in Control.cpp.
+/// parameters it cannot use. Control.cpp lists what each page takes.
 HttpReply serveControl(Backend& backend, const HttpRequest& request);
 
 } // namespace quillon::sandbox

@@ -1,5 +1,4 @@
-// What can go wrong between a client and the Bot API, and the switch that makes the next calls fail
-// in such a way.
+// Failures between a client and the Bot API, and the queue of those that the next calls meet.
 #pragma once
 
 #include "sandbox/Http.h"
@@ -15,7 +14,7 @@
 namespace quillon::sandbox {
 
 enum class FaultKind {
-    closeAtAccept, ///< the connection is reset as soon as it stands
+    closeAtAccept, ///< the connection is reset as soon as it is accepted
     cutBeforeBody, ///< reset once the header is read
     cutAfterBody,  ///< closed once the whole request is read, without a reply
     cutReply,      ///< carried out; closed in the middle of the reply
@@ -33,7 +32,7 @@ enum class FaultKind {
 
 struct Fault {
     FaultKind kind = FaultKind::hang;
-    int count = 1;      ///< how many calls it meets
+    int count = 1;      ///< how many calls fail
     std::string method; ///< only calls of this method ("events" for usage events); empty for any
                         ///< Bot API method
     std::chrono::milliseconds delay{500};
@@ -41,19 +40,19 @@ struct Fault {
     int retryAfter = 1;
     std::string body;
 
-    /// From what POST /sandbox/fail takes, for example
+    /// Reads the JSON that POST /sandbox/fail takes, for example
     /// {"kind":"retry-after","count":2,"method":"sendMessage","retry_after":3}. Throws
-    /// std::invalid_argument, which names it, for an unknown kind or a field that the kind does not
-    /// take.
+    /// std::invalid_argument for an unknown kind or a field that the kind does not take, and names
+    /// it.
     static Fault fromJson(const Json& json);
 
-    /// The kinds and the fields that each takes, one per line, for people to read.
+    /// A help text: each kind with its fields on a line.
     static std::string help();
 
     /// The kind's name as fromJson reads it.
     std::string name() const;
 
-    /// The reply that stands in for the real one; none for kinds that leave the reply as it is.
+    /// The reply that replaces the real one; none for kinds that keep the real reply.
     std::optional<HttpReply> reply() const;
 };
 
@@ -63,10 +62,10 @@ public:
     void add(Fault fault);
     void clear();
 
-    /// A fault that breaks the connection that has just been accepted.
+    /// Takes the oldest fault that breaks a connection when it is accepted.
     std::optional<Fault> takeForConnection();
 
-    /// The oldest fault that applies to a call of `method`.
+    /// Takes the oldest fault that applies to a call of `method`.
     std::optional<Fault> takeForCall(std::string_view method);
 
 private:

@@ -12,7 +12,8 @@ namespace quillon::sandbox {
 
 namespace {
 
-// "span" is decided by its class, "a" by its address, so both stand here only to be known.
+// The entity of "span" depends on its class and that of "a" on its address; here they are only
+// known tags.
 const std::map<std::string, std::string, std::less<>> entityOfTag{
     {"a", "text_link"},       {"b", "bold"},          {"strong", "bold"},
     {"i", "italic"},          {"em", "italic"},       {"u", "underline"},
@@ -62,7 +63,7 @@ public:
     }
 
 private:
-    // A NUL stands for the end, as a NUL in the text would end it.
+    // Returns NUL at the end; a NUL in the text ends it as well.
     char at(std::size_t position) const { return position < html_.size() ? html_[position] : '\0'; }
 
     void skipSpace() {
@@ -74,8 +75,8 @@ private:
         throw EntityError{what + " at byte offset " + std::to_string(offset)};
     }
 
-    // The four named references and numeric ones; the semicolon may be missing. An ampersand that
-    // begins none of them stands for itself.
+    // Reads one of the four named references or a numeric one; the semicolon may be missing. An
+    // ampersand that begins none of them stands for itself.
     std::string characterReference() {
         static const std::map<std::string_view, char> named{
             {"lt", '<'}, {"gt", '>'}, {"amp", '&'}, {"quot", '"'}};
@@ -126,7 +127,7 @@ private:
         open_.push_back(std::move(tag));
     }
 
-    // Leaves the position on the tag's closing bracket.
+    // Reads the tag's attributes and stops at its closing bracket.
     void readAttributes(OpenTag& tag, std::size_t begin) {
         bool spoiler = false;
         for (skipSpace(); at(position_) != '>'; skipSpace()) {
@@ -216,14 +217,14 @@ private:
         if (tag.name == "blockquote" && tag.expandable) entity.type = "expandable_blockquote";
         if (tag.name == "pre") absorbInner(entity);
         if (tag.name == "code") {
-            // A language belongs to a pre block only; it is kept till the block around it closes.
+            // Only a pre block has a language, so it is kept until the block around it closes.
             language_ = std::exchange(entity.argument, {});
             eraseWithin(entity);
         }
         entities_.push_back(std::move(entity));
     }
 
-    // Nothing is nested in a pre block; a code tag that fills it gives it its language.
+    // Nothing may be nested in a pre block, but a code tag that fills it sets its language.
     void absorbInner(Entity& pre) {
         const bool filled = std::any_of(entities_.begin(), entities_.end(), [&](const Entity& e) {
             return e.type == "code" && e.begin == pre.begin && e.end == pre.end;

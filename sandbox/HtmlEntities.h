@@ -21,10 +21,10 @@ struct Entity {
 
 struct FormattedText {
     std::string text;
-    std::vector<Entity> entities; ///< outer before inner, in the order of their beginnings
+    std::vector<Entity> entities; ///< in the order of their beginnings, outer before inner
 };
 
-/// Its text continues "Bad Request: can't parse entities: ".
+/// The message continues "Bad Request: can't parse entities: ".
 class EntityError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -34,7 +34,7 @@ public:
 /// or not opened; the wordings, with offsets in bytes of `html`, are the Bot API's.
 FormattedText parseHtml(std::string_view html);
 
-/// White space at the end goes, and at the beginning as far as the first entity.
+/// Without white space at the end, and at the beginning up to the first entity.
 FormattedText trimmed(FormattedText formatted);
 
 } // namespace quillon::sandbox

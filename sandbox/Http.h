@@ -13,7 +13,7 @@
 
 namespace quillon::sandbox {
 
-/// Bytes received, in memory that is never initialised first nor copied later.
+/// Received bytes, in memory that is neither initialised first nor copied later.
 struct Body {
     std::unique_ptr<char[]> bytes;
     std::size_t size = 0;
@@ -27,13 +27,13 @@ struct HttpRequest {
     HttpRequest& operator=(const HttpRequest&) = delete;
     ~HttpRequest() { finish(); }
 
-    /// Runs the work that was put off until the client has its reply.
+    /// Runs the work that was deferred until the client has its reply.
     void finish() {
         for (auto& task : std::exchange(afterReply, {}))
             task();
     }
 
-    /// By its name in lower case; empty when there is none.
+    /// The header with this name in lower case; empty if there is none.
     std::string header(const std::string& name) const {
         const auto found = headers.find(name);
         return found == headers.end() ? std::string{} : found->second;
@@ -46,7 +46,7 @@ struct HttpRequest {
     int connection = 0; ///< counts from 1; requests over one kept-alive connection share it
     std::chrono::system_clock::time_point time;
     Body body;
-    std::vector<std::packaged_task<std::string()>> afterReply; ///< may look at `body`
+    std::vector<std::packaged_task<std::string()>> afterReply; ///< may use `body`
 };
 
 struct HttpReply {

@@ -19,7 +19,7 @@ std::uint16_t HttpServer::start(std::uint16_t port) {
 
 void HttpServer::stop() {
     if (!acceptor_) return;
-    // Wakes the accepting thread, which close() would not.
+    // This wakes the accepting thread; close() would not.
     ::shutdown(acceptor_->native_handle(), SHUT_RDWR);
     acceptThread_.join();
     acceptor_.reset();

@@ -31,10 +31,10 @@ public:
     /// when the port is taken. Returns the port.
     std::uint16_t start(std::uint16_t port);
 
-    /// Breaks every connection and frees the port; returns when all threads have ended.
+    /// Breaks all connections and frees the port; returns when all threads have ended.
     void stop();
 
-    /// Breaks every connection; new ones are still accepted.
+    /// Breaks all connections; new ones are still accepted.
     void dropConnections();
 
 private:

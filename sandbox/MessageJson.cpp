@@ -1,4 +1,4 @@
-// How the Bot API writes chats and messages.
+// Writes chats and messages as the Bot API does.
 #include "sandbox/Text.h"
 #include "sandbox/World.h"
 
@@ -101,7 +101,7 @@ Json World::messageJson(const Chat& chat, const Message& message, bool withReply
               {"date", message.date}};
     if (message.topic != 0) {
         json["message_thread_id"] = message.topic;
-        // What is said in a topic is a reply to the message that made the topic.
+        // A message in a topic is a reply to the message that made the topic.
         const auto first =
             std::find_if(chat.messages.begin(), chat.messages.end(),
                          [&](const Message& candidate) { return candidate.id == message.topic; });

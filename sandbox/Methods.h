@@ -11,20 +11,20 @@
 
 namespace quillon::sandbox {
 
-/// One call: who calls, with what, and the world it acts on (locked by `lock`).
+/// One call: the bot, the parameters, and the world it acts on (locked by `lock`).
 struct MethodCall {
     World& world;
     Bot& bot;
     const Parameters& parameters;
     std::unique_lock<std::mutex>& lock;
-    std::condition_variable& changed; ///< told of whatever may end a long poll
+    std::condition_variable& changed; ///< notified of everything that may end a long poll
     const bool& stopping;
 };
 
-/// Gives the "result"; throws ApiError.
+/// Returns the "result"; throws ApiError.
 using Method = Json (*)(MethodCall& call);
 
-/// By its name in any case; null when there is no such method.
+/// The method with this name, in upper or lower case; null if there is none.
 Method findMethod(std::string_view name);
 
 Json sendMessage(MethodCall& call);
@@ -36,7 +36,7 @@ Json deleteForumTopic(MethodCall& call);
 
 /// The chat that "chat_id" names, of which the bot must be a member. Throws ApiError.
 Chat& chatOf(MethodCall& call);
-/// The same for calls that change something: a group that became a supergroup is refused.
+/// The same for calls that change something, which a group that became a supergroup refuses.
 Chat& writableChatOf(MethodCall& call);
 
 } // namespace quillon::sandbox

@@ -47,7 +47,7 @@ std::size_t findBytes(std::string_view bytes, std::string_view wanted, std::size
 
 using HeaderParameters = std::map<std::string, std::string, std::less<>>;
 
-// The parameters behind a header's value: `; name=token` and `; name="anything but a quote"`.
+// Parses the parameters after a header's value: `; name=token` and `; name="anything but a quote"`.
 HeaderParameters parseParameters(std::string_view rest) {
     HeaderParameters parameters;
     const auto skipSpace = [&] {
@@ -156,7 +156,8 @@ std::vector<MultipartPart> parseMultipart(std::string_view body, std::string_vie
             throw MultipartError{"stray bytes behind a boundary"};
         MultipartPart part;
         const std::size_t content = readHeader(body, position + lineEnd.size(), part);
-        // The line end of the header's empty line may be the one before the boundary.
+        // In an empty part, the line end of the header's empty line is also the one before the
+        // boundary.
         const auto end = findBytes(body, delimiter, content - lineEnd.size());
         if (end == std::string_view::npos) throw MultipartError{"closing boundary is missing"};
         if (end < content) throw MultipartError{"part without content"};

@@ -1,5 +1,5 @@
-// A strict reader of multipart/form-data bodies (RFC 7578 over RFC 2046): what a careless encoder
-// gets wrong is refused here, where a lenient server would hide it.
+// A strict reader of multipart/form-data bodies (RFC 7578 over RFC 2046): it refuses the mistakes
+// of careless encoders, which a lenient server would hide.
 #pragma once
 
 #include <optional>
@@ -12,7 +12,7 @@ namespace quillon::sandbox {
 
 struct MultipartPart {
     std::string name;
-    std::optional<std::string> filename; ///< bytes as they came, a backslash included
+    std::optional<std::string> filename; ///< the raw bytes, including any backslash
     std::string mime;                    ///< empty when the part names none
     std::string_view bytes;              ///< within the body that was read
 };
@@ -27,8 +27,8 @@ public:
 std::string boundaryOf(std::string_view contentType);
 
 /// The parts, in order. Throws MultipartError for bytes before the first or after the last
-/// boundary, a missing closing boundary, a malformed part header and a part without a name.
-/// Content is never copied, only looked through once.
+/// boundary, a missing closing boundary, a malformed part header and a part without a name. Content
+/// is never copied, only searched once.
 std::vector<MultipartPart> parseMultipart(std::string_view body, std::string_view boundary);
 
 } // namespace quillon::sandbox

@@ -1,4 +1,4 @@
-// The parameters of a Bot API call, whichever way the client sent them.
+// The parameters of a Bot API call, in whatever form the client sent them.
 #pragma once
 
 #include "sandbox/Http.h"
@@ -23,7 +23,7 @@ struct Parameter {
 
 struct UploadedFile {
     std::string field;
-    std::string filename; ///< bytes as they came
+    std::string filename; ///< the raw bytes
     std::string mime;
     std::size_t size = 0;
     std::shared_future<std::string> sha256; ///< hexadecimal; ready soon after the reply is sent
@@ -34,11 +34,11 @@ struct Parameters {
     std::vector<Parameter> values;
     std::vector<UploadedFile> files;
 
-    /// The value as the Bot API reads it: text, whatever JSON type it had. Empty when absent, which
-    /// is the same to the Bot API; the first one counts when a name comes twice.
+    /// The value as text, whatever its JSON type, as the Bot API reads it. Empty if absent, which
+    /// is the same to the Bot API. If a name comes twice, the first one counts.
     std::string text(std::string_view name) const;
 
-    /// The value as an integer; none when it is no decimal number.
+    /// The value as an integer; none if it is no decimal number.
     std::optional<std::int64_t> integer(std::string_view name) const;
 
     /// "true", "yes" and "1" are true.
@@ -47,9 +47,9 @@ struct Parameters {
     const UploadedFile* file(std::string_view field) const;
 };
 
-/// Reads query string and body; the SHA-256 of each file is left to `request.afterReply` (and is
-/// the empty text when `hashFiles` is off). Throws ApiError with what the Bot API says to a
-/// malformed request.
+/// Reads query string and body. The SHA-256 of each file is computed by `request.afterReply` (and
+/// is empty if `hashFiles` is off). Throws ApiError with the Bot API's error for a malformed
+/// request.
 Parameters readParameters(HttpRequest& request, bool hashFiles);
 
 } // namespace quillon::sandbox

@@ -32,14 +32,14 @@ std::optional<PictureSize> checked(int width, int height) {
     return PictureSize{width, height};
 }
 
-// Signature, then the chunk IHDR of 13 bytes; some image data must follow.
+// A PNG has a signature, then the chunk IHDR of 13 bytes, then image data.
 std::optional<PictureSize> png(std::string_view bytes) {
     if (bytes.size() < 45 || bytes.substr(8, 8) != "\0\0\0\x0DIHDR"sv) return std::nullopt;
     if (bytes.find("IDAT"sv) == std::string_view::npos) return std::nullopt;
     return checked(big(bytes, 16, 4), big(bytes, 20, 4));
 }
 
-// The segments up to the first frame header (SOF0…SOF15 without DHT, JPG and DAC).
+// Skips the segments before the first frame header (SOF0…SOF15 without DHT, JPG and DAC).
 std::optional<PictureSize> jpeg(std::string_view bytes) {
     std::size_t position = 2;
     while (position + 9 < bytes.size()) {
@@ -62,7 +62,7 @@ std::optional<PictureSize> gif(std::string_view bytes) {
     return checked(little(bytes, 6, 2), little(bytes, 8, 2));
 }
 
-// RIFF container with a lossy, a lossless or an extended first chunk.
+// A WebP is a RIFF container with a lossy, a lossless or an extended first chunk.
 std::optional<PictureSize> webp(std::string_view bytes) {
     if (bytes.size() < 30 || bytes.substr(8, 4) != "WEBP"sv) return std::nullopt;
     const std::string_view chunk = bytes.substr(12, 4);

@@ -11,7 +11,7 @@ struct PictureSize {
     int height = 0;
 };
 
-/// In pixels; none for bytes that are no PNG, JPEG, WebP or GIF or whose header is broken.
+/// The size in pixels; none if the bytes are no PNG, JPEG, WebP or GIF or their header is broken.
 std::optional<PictureSize> pictureSize(std::string_view bytes);
 
 } // namespace quillon::sandbox

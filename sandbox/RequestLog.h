@@ -1,4 +1,4 @@
-// What the clients asked for: one record per request, and one printed line where that is wanted.
+// The clients' requests: one record each and, on demand, one printed line.
 #pragma once
 
 #include "sandbox/Json.h"
@@ -17,16 +17,16 @@ struct RequestRecord {
     int connection = 0;
     std::chrono::system_clock::time_point time;
     std::string verb;
-    std::string method;      ///< as the path spells it
-    std::int64_t bot = 0;    ///< 0 for a token that is not known
+    std::string method;      ///< as spelt in the path
+    std::int64_t bot = 0;    ///< 0 for an unknown token
     std::string contentType; ///< empty without a body
     Parameters parameters;   ///< without the files' bytes; empty when the body was not read
     std::size_t bodySize = 0;
-    std::string fault; ///< the name of the fault that met it; empty for none
+    std::string fault; ///< the name of the fault that it met; empty for none
     int status = 0;    ///< HTTP status of the reply; 0 when there was none
     std::string error; ///< the reply's description when it was refused
 
-    /// The parameter's value with its JSON type; null when there is none.
+    /// The parameter's value with its JSON type; null if there is none.
     Json parameter(std::string_view name) const;
 };
 
@@ -40,7 +40,7 @@ public:
     void add(RequestRecord record);
     void clear();
     std::vector<RequestRecord> records() const;
-    /// A line for what is not a Bot API request.
+    /// Prints a line that is about no Bot API request.
     void note(const std::string& line) const;
 
 private:

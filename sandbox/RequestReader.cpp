@@ -34,7 +34,7 @@ bool RequestReader::receive() {
 
 RequestReader::Outcome RequestReader::readHeader(HttpRequest& request) {
     http::request_parser<http::empty_body> parser;
-    // Not "none": Beast 1.74 takes every length to be beyond that.
+    // boost::none would not do: for Beast 1.74, every length exceeds it.
     parser.body_limit(std::numeric_limits<std::uint64_t>::max());
     while (!parser.is_header_done()) {
         boost::system::error_code error;
@@ -81,7 +81,7 @@ void RequestReader::recycle(HttpRequest& request) {
     spareSize_ = std::exchange(bodySize_, 0);
 }
 
-// What has been read ahead, then from the channel without a detour.
+// Takes the bytes that were read ahead, then reads from the channel directly.
 bool RequestReader::readBytes(char* data, std::size_t size) {
     const std::size_t ahead = std::min(size, buffer_.size());
     if (ahead > 0) std::memcpy(data, buffer_.data().data(), ahead);
@@ -127,7 +127,7 @@ RequestReader::Outcome RequestReader::readChunkedBody(HttpRequest& request) {
         const std::size_t begin = body.size();
         body.resize(begin + *size);
         if (!readBytes(body.data() + begin, *size)) return Outcome::closed;
-        // After the last chunk trailing header lines may stand before the empty one.
+        // Trailing header lines may come between the last chunk and the empty line.
         auto line = readLine();
         while (*size == 0 && line && !line->empty())
             line = readLine();

@@ -17,21 +17,21 @@ namespace quillon::sandbox {
 
 class RequestReader {
 public:
-    /// Bodies beyond this are refused unread; a file of 50 MB with its parameters fits.
+    /// Larger bodies are refused unread, in bytes. A file of 50 MB with its parameters fits.
     static constexpr std::uint64_t biggestBody = 64'000'000;
 
     explicit RequestReader(Channel& channel) : channel_{channel} {}
 
     enum class Outcome { ready, closed, malformed, tooLarge };
 
-    /// Fills everything of the request but its body.
+    /// Fills in the request except for its body.
     Outcome readHeader(HttpRequest& request);
 
-    /// Reads the body that the header announced; answers an "Expect: 100-continue" first.
+    /// Reads the body that the header announced, after answering an "Expect: 100-continue".
     Outcome readBody(HttpRequest& request);
 
-    /// Ends the request and keeps its memory for the next body: fresh pages cost as much time as
-    /// the bytes in them.
+    /// Ends the request and keeps its memory for the next body, because new pages take as much time
+    /// as filling them.
     void recycle(HttpRequest& request);
 
     bool keepAlive() const { return keepAlive_; }
@@ -52,7 +52,7 @@ private:
     std::uint64_t length_ = 0;
     std::unique_ptr<char[]> spare_;
     std::size_t spareSize_ = 0;
-    std::size_t bodySize_ = 0; ///< what the memory of the request's body can hold
+    std::size_t bodySize_ = 0; ///< capacity of the request's body
 };
 
 } // namespace quillon::sandbox

@@ -120,7 +120,7 @@ void Sandbox::deleteTopic(std::int64_t group, std::int64_t topic) {
 
 void Sandbox::failNext(const Fault& fault) {
     parts_->backend.faults.add(fault);
-    // A client that keeps its connection would not meet the fault before it needs a new one.
+    // A client with an open connection would not meet the fault before it needs a new one.
     if (fault.kind == FaultKind::closeAtAccept) parts_->server->dropConnections();
 }
 

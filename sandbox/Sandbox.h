@@ -1,5 +1,5 @@
-// A local stand-in for the Telegram Bot API, for tests, demonstrations and benchmarks. It keeps to
-// what Telegram does, limits and error texts included, and can be told to fail like a network.
+// A local stand-in for the Telegram Bot API, for tests, demonstrations and benchmarks. It behaves
+// like Telegram, including limits and error texts, and can be told to fail like a network.
 #pragma once
 
 #include "sandbox/Backend.h"
@@ -22,8 +22,8 @@ struct Options {
     bool hashFiles = true; ///< keep each upload's SHA-256
 };
 
-/// Serves on threads of its own from construction on; every member may be called from any thread.
-/// Groups and topics are named by their ids; an unknown one throws std::out_of_range.
+/// Serves on its own threads from construction on. Thread-safe. Groups and topics are named by
+/// their ids; an unknown id throws std::out_of_range.
 class Sandbox {
 public:
     static constexpr const char* demoToken = "7000000001:demo-demo-demo-demo-demo-demo-demo1";
@@ -37,23 +37,23 @@ public:
     /// Such as "http://127.0.0.1:40123"; the same after stop() and start().
     std::string baseUrl() const;
     std::uint16_t port() const;
-    /// What a client must trust to speak TLS; empty without TLS.
+    /// The certificate that a client must trust to use TLS; empty without TLS.
     std::filesystem::path caFile() const;
 
     /// Breaks all connections and refuses new ones, as a killed server does.
     void stop();
-    /// Serves again, on the same port, with everything it knew.
+    /// Serves again on the same port, with the same world.
     void start();
 
     /// The token must be a number, a colon and letters. A bot may have no username. Throws
     /// std::invalid_argument for a token without a number.
     void addBot(const std::string& token, const std::string& username = {});
-    /// Returns the group's id. All bots there are join it in the role that the options name.
+    /// Returns the group's id. All existing bots join it in the role that the options name.
     std::int64_t addGroup(const GroupOptions& options = {});
-    /// Changes what every bot is in the group, and tells it so.
+    /// Changes the role of every bot in the group, and sends the bots updates about that.
     void addBotToGroup(std::int64_t group, BotRole role = BotRole::topicAdmin);
     void setForum(std::int64_t group, bool forum);
-    /// Returns the id of the supergroup that the basic group becomes.
+    /// Turns the basic group into a supergroup and returns its id.
     std::int64_t migrateGroup(std::int64_t group, bool forum = true);
 
     /// Returns the message's id.
@@ -63,7 +63,7 @@ public:
     void userRenamesTopic(std::int64_t group, std::int64_t topic, const std::string& name);
     void deleteTopic(std::int64_t group, std::int64_t topic);
 
-    /// Makes the next calls fail; several faults wait in line.
+    /// Makes the next calls fail; several faults are queued.
     void failNext(const Fault& fault);
     void clearFaults();
 
@@ -72,7 +72,7 @@ public:
     std::vector<EventsRecord> events() const;
     void setEventsStatus(int status);
 
-    /// What the phone shows (View.h tells the form).
+    /// The groups as the phone shows them; View.h describes the form.
     Json view() const;
     std::string viewText() const;
 

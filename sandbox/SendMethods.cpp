@@ -51,7 +51,7 @@ FormattedText caption(const MethodCall& call) {
 // `right` continues "not enough rights to send … to the chat".
 Json deliver(MethodCall& call, Message message, const std::string& right) {
     Chat& chat = writableChatOf(call);
-    // 0 stands for the General topic; 1, which is its number on the phone, does not.
+    // 0 stands for the General topic; 1, its number on the phone, is refused.
     const auto thread =
         std::max<std::int64_t>(0, call.parameters.integer("message_thread_id").value_or(0));
     if (thread != 0 && chat.topic(thread) == nullptr) throw badRequest("message thread not found");
@@ -79,7 +79,7 @@ const UploadedFile& uploaded(const MethodCall& call, const std::string& field) {
     return *file;
 }
 
-// A name is shown without folders, and not at all when it is no UTF-8.
+// A name is shown without folders, and not at all if it is not UTF-8.
 std::string shownName(const std::string& filename) {
     if (!isUtf8(filename)) return {};
     return cleaned(filename.substr(filename.find_last_of('/') + 1));
@@ -96,7 +96,7 @@ Message fileMessage(const std::string& kind, const UploadedFile& file, Formatted
     return message;
 }
 
-// Unless detection is off, a GIF or an MP4 is shown as what it is.
+// Unless detection is off, a GIF becomes an animation and an MP4 a video.
 std::string documentKind(const MethodCall& call, std::string_view bytes) {
     if (call.parameters.flag("disable_content_type_detection")) return "document";
     if (bytes.starts_with("GIF8")) return "animation";
@@ -124,7 +124,7 @@ Json sendPhoto(MethodCall& call) {
     const auto size = pictureSize(file.bytes);
     if (!size) throw badRequest("IMAGE_PROCESS_FAILED");
     const auto [shorter, longer] = std::minmax({size->width, size->height});
-    // Subtracted, as the sum of two widths read from a file may not fit.
+    // This subtracts, because the sum of two widths from a file might overflow.
     if (longer > longestSides - shorter || longer / greatestRatio > shorter ||
         (longer / greatestRatio == shorter && longer % greatestRatio != 0))
         throw badRequest("PHOTO_INVALID_DIMENSIONS");

@@ -1,4 +1,4 @@
-// UTF-8 as the Bot API counts, checks and cleans it.
+// Counts, checks and cleans UTF-8 as the Bot API does.
 #pragma once
 
 #include <cstddef>
@@ -8,8 +8,8 @@
 
 namespace quillon::sandbox {
 
-/// The code point at `position`, which is moved behind it; none (and no move) where the bytes are
-/// no well-formed UTF-8 (overlong forms and surrogates included) or at the end.
+/// The code point at `position`, which moves past it. None, without moving, at the end or if the
+/// bytes are not well-formed UTF-8; overlong forms and surrogates are not.
 std::optional<char32_t> nextCodePoint(std::string_view text, std::size_t& position);
 
 bool isUtf8(std::string_view text);
@@ -23,15 +23,16 @@ std::size_t utf16Units(std::string_view text);
 /// The first `count` code points.
 std::string_view firstCodePoints(std::string_view text, std::size_t count);
 
-/// What the Bot API makes of any text before it looks at it: control characters (the tab included)
-/// become spaces, carriage returns, line separators, direction marks U+2028…U+202E and three
-/// combining lines are dropped.
+/// The text as the Bot API cleans it first of all: control characters (the tab included) become
+/// spaces, carriage returns, line separators, direction marks U+2028…U+202E and three combining
+/// lines are dropped.
 std::string cleaned(std::string_view text);
 
-/// Whether nothing in the text can be seen: spaces, line breaks, zero-width and blank letters.
+/// Whether nothing in the text can be seen, because it has only spaces, line breaks, zero-width and
+/// blank letters.
 bool isBlank(std::string_view text);
 
-/// A topic's name as it is kept: cleaned, on one line, trimmed, at most `limit` code points.
+/// A topic's name as it is stored: cleaned, on one line, trimmed, at most `limit` code points.
 std::string cleanedName(std::string_view text, std::size_t limit);
 
 std::string lowered(std::string_view ascii);

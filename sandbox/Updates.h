@@ -1,4 +1,4 @@
-// What a bot has not read yet.
+// The updates that a bot has not read yet.
 #pragma once
 
 #include "sandbox/Json.h"
@@ -12,14 +12,15 @@
 
 namespace quillon::sandbox {
 
-/// The update queue of one bot with Telegram's rules: an update leaves it when a greater offset is
-/// asked for, and the kinds allowed last decide what is recorded, not what is handed out.
+/// The update queue of one bot, by Telegram's rules: asking for a greater offset removes an update,
+/// and the kinds that were allowed last decide which new updates are recorded, not which are handed
+/// out.
 class UpdateQueue {
 public:
     void push(const std::string& kind, Json content);
 
-    /// `allowedUpdates` is the JSON list as text; a list that is none changes nothing, an empty one
-    /// stands for the default.
+    /// `allowedUpdates` is a JSON list as text. A text that is no list changes nothing, and an
+    /// empty list stands for the default.
     void allow(const std::string& allowedUpdates);
 
     /// The oldest updates from `offset` on, at most `limit`; everything before `offset` is
@@ -28,7 +29,7 @@ public:
 
     bool has(std::int64_t offset) const;
 
-    std::uint64_t polls = 0; ///< how often the queue was asked; a newer poll ends an older one
+    std::uint64_t polls = 0; ///< counts the polls; a newer poll ends an older one
 
 private:
     std::deque<std::pair<std::int64_t, Json>> updates_;

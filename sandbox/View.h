@@ -14,7 +14,7 @@ namespace quillon::sandbox {
 /// "size", "sha256", "width" and "height".
 Json viewJson(const World& world);
 
-/// The same to read: pre blocks behind a bar, one line per photo and document.
+/// The same as readable text: pre blocks behind a bar, one line per photo and document.
 std::string viewText(const World& world);
 
 } // namespace quillon::sandbox

@@ -10,8 +10,8 @@ namespace quillon::sandbox {
 
 namespace {
 
-// Basic groups have small negative ids; a supergroup's is −100… before its own number, and such
-// numbers have long left 32 bits.
+// Basic groups have small negative ids. A supergroup's id is −100… followed by its own number,
+// which long exceeds 32 bits.
 constexpr std::int64_t firstGroupId = -4'123'456'789;
 constexpr std::int64_t firstSupergroupId = -1'001'234'567'890;
 constexpr std::int64_t idStep = 111'111'113;
@@ -200,8 +200,9 @@ Message& World::post(Chat& chat, Message message) {
     return kept;
 }
 
-// A bot hears service messages (its own included) and the user, but no other bot. In a group, one
-// that is no administrator hears of the user only commands: bots are made with their privacy on.
+// A bot gets service messages (including its own) and the user's messages, but none of other bots.
+// In a group, a bot that is no administrator gets only the user's commands, because bots have their
+// privacy mode on by default.
 void World::announce(const Chat& chat, const Message& message) {
     const bool service = message.kind == "service";
     for (Bot& bot : bots_) {

@@ -1,5 +1,5 @@
-// The Telegram that the sandbox knows: bots, groups with their topics, one user, and the messages
-// between them. Not thread-safe: its owner guards it.
+// The sandbox's Telegram: bots, groups with their topics, one user, and the messages between them.
+// Not thread-safe: the owner must lock it.
 #pragma once
 
 #include "sandbox/HtmlEntities.h"
@@ -62,8 +62,8 @@ struct Chat {
     bool forum = false;
     std::int64_t migratedTo = 0;
     std::int64_t lastMessage = 0;
-    std::map<std::int64_t, BotRole> roles; ///< by bot id; absent when not listed
-    std::vector<Topic> topics;             ///< deleted ones included
+    std::map<std::int64_t, BotRole> roles; ///< by bot id; BotRole::absent for those not listed
+    std::vector<Topic> topics;             ///< including deleted ones
     std::vector<Message> messages;
 
     Topic* topic(std::int64_t topicId); ///< null when unknown or deleted
@@ -75,12 +75,12 @@ struct GroupOptions {
     std::int64_t id = 0; ///< 0 for one that fits the kind
     ChatKind kind = ChatKind::supergroup;
     bool forum = true;
-    BotRole bot = BotRole::topicAdmin; ///< of every bot there is when the group is made
+    BotRole bot = BotRole::topicAdmin; ///< of every bot that exists when the group is made
 };
 
 class World {
 public:
-    static constexpr std::int64_t userId = 5'000'000'001; // user ids exceed 32 bits as well
+    static constexpr std::int64_t userId = 5'000'000'001; // user ids exceed 32 bits too
 
     Bot& addBot(const std::string& token, const std::string& username);
     Bot* bot(std::string_view token);
@@ -94,7 +94,7 @@ public:
     void setRole(Chat& chat, Bot& bot, BotRole role);
     void setRoleOfAll(Chat& chat, BotRole role);
     std::int64_t userSays(Chat& chat, const std::string& text, std::int64_t topic);
-    /// The user's private chat with the bot, begun when need be.
+    /// Says the text in the user's private chat with the bot, which is begun if necessary.
     std::int64_t userSaysTo(Bot& bot, const std::string& text);
     /// Turns a basic group into a supergroup; returns the new one.
     Chat& migrate(Chat& chat, bool forum);
@@ -102,10 +102,10 @@ public:
     /// `by` is a bot's id or the user's.
     Topic& createTopic(Chat& chat, const std::string& name, int iconColor, std::int64_t by);
     void renameTopic(Chat& chat, Topic& topic, const std::string& name, std::int64_t by);
-    /// Its messages go with it; no update tells of it.
+    /// Deletes the topic with its messages; there is no update about that.
     void deleteTopic(Chat& chat, std::int64_t topicId);
 
-    /// Gives the message its id and date, keeps it and tells the bots that may see it.
+    /// Sets the message's id and date, stores it, and sends updates to the bots that may see it.
     Message& post(Chat& chat, Message message);
 
     Json userJson(std::int64_t id) const;

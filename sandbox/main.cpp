@@ -1,4 +1,4 @@
-// quillon-sandbox: the Bot API stand-in as a program, for demonstrations and scripts.
+// quillon-sandbox: the local Bot API as a program, for demonstrations and scripts.
 #include "sandbox/Sandbox.h"
 
 #include <csignal>
@@ -102,7 +102,7 @@ Arguments parse(const std::vector<std::string>& words) {
     return result;
 }
 
-// Appears whole or not at all: it is renamed into place.
+// The file is renamed into place, so that readers never see an unfinished one.
 void writeReadyFile(const std::filesystem::path& path, const Json& content) {
     std::filesystem::path fresh = path;
     fresh += ".new";
@@ -135,7 +135,7 @@ void serve(const Arguments& arguments, const sigset_t& signals) {
 } // namespace
 
 int main(int argc, char** argv) {
-    // Blocked before any thread starts, so that only sigwait sees them.
+    // These are blocked before any thread starts, so that only sigwait receives them.
     sigset_t signals;
     sigemptyset(&signals);
     sigaddset(&signals, SIGINT);

@@ -60,8 +60,9 @@ QPixmap overDesktop(const QPixmap& banner) {
 QPixmap take(const Scene& scene) {
     FakeClock clock;
     const FakeCompositor compositor{scene.blended};
-    HUD hud{clock, compositor, [] { return BannerPosition::top; }};
-    hud.show(shown(scene.text).toStdString(), scene.symbol, scene.ok, false);
+    HUD hud{clock, compositor};
+    hud.show(
+        {.text = shown(scene.text).toStdString(), .symbol = scene.symbol, .ok = scene.ok});
     clock.advance(200ms);
     QWidget& window = onlyWindow();
     const QPixmap banner = pictureOf(window);

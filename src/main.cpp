@@ -1,11 +1,9 @@
-#include "base/Translate.h"
 #include "cli/CommandLine.h"
-#include "cli/Detach.h"
 #include "cli/RemoteProgram.h"
 #include "cli/Session.h"
 #include "cli/Terminal.h"
+#include "platform/linux/Application.h"
 #include "platform/linux/Hardening.h"
-#include "platform/linux/desktop/LinuxBundle.h"
 #include "platform/linux/desktop/RunningPrograms.h"
 #include "ui/App.h"
 
@@ -15,11 +13,10 @@
 
 namespace {
 
-/// In the user's language, which takes an application object.
-std::string help(int argc, char** argv) {
-    const QCoreApplication application{argc, argv};
-    quillon::loadCatalogue();
-    return quillon::helpText();
+std::string textOf(const quillon::Invocation& invocation) {
+    // Translates the text.
+    const auto application = quillon::makeApplication<QCoreApplication>();
+    return invocation.command->text(invocation.arguments);
 }
 
 } // namespace
@@ -35,25 +32,20 @@ int main(int argc, char** argv) {
     }
     const auto invocation = parseCommandLine({argv + 1, argv + argc});
     if (!invocation) {
-        Terminal::printErrorText(help(argc, argv));
+        Terminal::printErrorText(textOf(*parseCommandLine({"--help"})));
         return exitUsage;
     }
-    switch (invocation->command) {
-    case Command::help:
-        Terminal::printText(help(argc, argv));
+    switch (invocation->command->where) {
+    case Where::here:
+        Terminal::printText(textOf(*invocation));
         return exitDone;
-    case Command::version:
-        Terminal::print("quillon " + runningBundle().shortVersion());
-        return exitDone;
-    case Command::settings:
-    case Command::panel:
+    case Where::residentOnly:
         if (const auto code = RemoteProgram::run(*invocation)) return *code;
         runByAbsolutePath(argv);
-        return App::run(invocation->command == Command::panel ? App::Start::withPanel
-                                                              : App::Start::withSettings);
-    case Command::send:
-        return Detach::run([&](Detach& detach) { return Session::run(*invocation, detach); });
-    default:
-        return Session::run(*invocation);
+        return App::run(invocation->command->name);
+    case Where::dataHolder:
+    case Where::hereAfterQuit:
+        break;
     }
+    return Session::run(*invocation);
 }

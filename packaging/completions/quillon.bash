@@ -1,20 +1,7 @@
-# Completion of quillon(1) in bash.
+# Completion of quillon(1) in bash: the program knows what may follow.
 _quillon() {
-    local words=
-    case $COMP_CWORD in
-    1)
-        words='send panel settings connect find-group create-topics rename-topics forget status
-            history launch-at-login check-for-updates uninstall --help --version'
-        ;;
-    2)
-        case ${COMP_WORDS[1]} in
-        status | history) words=--json ;;
-        launch-at-login) words='on off status' ;;
-        check-for-updates) words=--install ;;
-        uninstall) words=--yes ;;
-        esac
-        ;;
-    esac
+    local words
+    words=$("$1" --complete "${COMP_WORDS[@]:1:COMP_CWORD-1}" 2>/dev/null | cut -f 1)
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "${COMP_WORDS[COMP_CWORD]}")
 }
 complete -F _quillon quillon

@@ -17,8 +17,8 @@ namespace quillon {
 struct Platform;
 
 /// Records anonymous usage events in a queue on disk, and delivers them to the makers' server where
-/// there is one. Never what was copied: a send is described by kind, count, outcome and a coarse
-/// size alone. Errors are dropped. Main thread only.
+/// there is one. Events never hold what was copied: they describe a send by kind, count, outcome
+/// and a coarse size. Errors are dropped. Main thread only.
 class Analytics {
 public:
     explicit Analytics(const Platform& platform);
@@ -43,8 +43,8 @@ public:
     /// nothing while a delivery is under way. The task need not be kept.
     QCoro::Task<> flushNow();
 
-    /// Delivers one last batch, and blocks for at most 3 seconds. A delivery under way is waited
-    /// for first, within these: its events are not sent again if they arrive.
+    /// Delivers one last batch, and blocks for at most 3 seconds. First waits, within these, for a
+    /// delivery under way, so that its events are not sent twice.
     void flushBeforeQuit();
 
     /// The events not yet delivered; read from disk on first use.

@@ -30,7 +30,7 @@ constexpr std::chrono::seconds flushInterval = 900s;
 constexpr std::chrono::seconds deliveryTimeout = 20s;
 constexpr std::chrono::seconds quitTimeout = 3s;
 
-/// "yyyy-MM-dd" where the user is now: Qt asks anew for the time zone each time.
+/// The date as "yyyy-MM-dd" in the user's time zone, which Qt looks up at each call.
 std::string localDay(Clock::Time now) {
     const auto time = std::chrono::floor<std::chrono::milliseconds>(now.time_since_epoch());
     const QDateTime local = QDateTime::fromMSecsSinceEpoch(time.count());
@@ -50,7 +50,7 @@ using Reply = QFuture<std::optional<HttpReply>>;
 /// Blocks until the reply is there; false when that takes too long. The transport's thread finishes
 /// the reply, so the main thread's event loop need not turn.
 bool arrives(Reply reply, const QDeadlineTimer& deadline) {
-    // Held by both, since either may be done with it first.
+    // Both sides own it, since either may finish first.
     const auto arrived = std::make_shared<QSemaphore>();
     reply.then(QtFuture::Launch::Sync,
                [arrived](const Reply& /*finished*/) { arrived->release(); });
@@ -90,7 +90,7 @@ void Analytics::armTimer() {
 void Analytics::tick() {
     heartbeat();
     const Clock::Time now = platform_.clock.now();
-    // A clock that was set back counts from there, rather than wait for the old time to return.
+    // If the clock was set back, the interval starts anew: the old time may be far away.
     if (lastFlush_) lastFlush_ = std::min(*lastFlush_, now);
     if (!lastFlush_ || now - *lastFlush_ >= flushInterval) flushNow();
     armTimer();
@@ -131,7 +131,7 @@ QCoro::Task<> Analytics::flushNow() {
         const std::weak_ptr<Batch> sent = inFlight_;
         const Reply reply = inFlight_->reply;
         co_await reply;
-        // Settled while the program was quitting, or not even the queue is there any more.
+        // flushBeforeQuit() has settled the batch, or this object is gone.
         if (sent.expired()) co_return;
         const auto batch = std::exchange(inFlight_, nullptr);
         if (!settle(*batch)) co_return;
@@ -141,7 +141,7 @@ QCoro::Task<> Analytics::flushNow() {
 void Analytics::flushBeforeQuit() {
     const QDeadlineTimer deadline{quitTimeout};
     if (inFlight_) {
-        // What is under way would arrive twice if it were sent again now.
+        // The events under way would arrive twice if they were sent again now.
         if (!arrives(inFlight_->reply, deadline)) return;
         const auto batch = std::exchange(inFlight_, nullptr);
         settle(*batch);

@@ -1,16 +1,17 @@
 #include "analytics/Event.h"
 
+#include "base/JsonDecoding.h"
+
 namespace quillon {
 
 Json Prop::toJson() const {
     return std::visit([](const auto& value) { return Json(value); }, value_);
 }
 
-std::optional<Prop> Prop::fromJson(const Json& value) {
-    if (value.is_boolean()) return Prop{value.get<bool>()};
-    if (const auto integer = asInteger(value)) return Prop{*integer};
-    if (value.is_string()) return Prop{value.get<std::string>()};
-    return std::nullopt;
+Prop Prop::fromJson(const Json& value) {
+    if (value.is_boolean()) return value.get<bool>();
+    if (value.is_string()) return value.get<std::string>();
+    return decodedAs<std::int64_t>(value);
 }
 
 Json Event::toJson() const {
@@ -21,17 +22,14 @@ Json Event::toJson() const {
     return {{"name", name}, {"at", at}, {"props", std::move(properties)}};
 }
 
-std::optional<Event> Event::fromJson(const Json& object) {
-    const auto name = textMember(object, "name");
-    const auto at = integerMember(object, "at");
-    const Json* properties = objectMember(object, "props");
-    if (!name || !at || properties == nullptr) return std::nullopt;
-    Event event{.name = *name, .at = *at, .props = {}};
-    for (const auto& [key, value] : properties->items()) {
-        std::optional<Prop> prop = Prop::fromJson(value);
-        if (!prop) return std::nullopt;
-        event.props.emplace_back(key, std::move(*prop));
-    }
+Event Event::fromJson(const Json& object) {
+    Event event{.name = requiredField<std::string>(object, "name"),
+                .at = requiredField<std::int64_t>(object, "at"),
+                .props = {}};
+    const Json& properties = requiredMember(object, "props");
+    if (!properties.is_object()) throw Undecodable{};
+    for (const auto& [key, value] : properties.items())
+        event.props.emplace_back(key, Prop::fromJson(value));
     return event;
 }
 

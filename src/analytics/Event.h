@@ -3,7 +3,6 @@
 #include "base/Json.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <utility>
 #include <variant>
@@ -24,8 +23,8 @@ public:
 
     /// The bare JSON value.
     [[nodiscard]] Json toJson() const;
-    /// None for anything but a Boolean, a 64-bit integer or a text.
-    [[nodiscard]] static std::optional<Prop> fromJson(const Json& value);
+    /// Throws Undecodable for anything but a Boolean, a 64-bit integer or a text.
+    [[nodiscard]] static Prop fromJson(const Json& value);
 
 private:
     std::variant<std::string, std::int64_t, bool> value_;
@@ -45,8 +44,8 @@ struct Event {
 
     /// {"name": text, "at": integer, "props": object}
     [[nodiscard]] Json toJson() const;
-    /// None when a key is missing or has a value of another type.
-    [[nodiscard]] static std::optional<Event> fromJson(const Json& object);
+    /// Throws Undecodable when a key is missing or has a value of another type.
+    [[nodiscard]] static Event fromJson(const Json& object);
 };
 
 } // namespace quillon

@@ -1,18 +1,18 @@
 #include "analytics/EventQueue.h"
 
+#include "base/JsonDecoding.h"
+
 #include <algorithm>
 
 namespace quillon {
 
 EventQueue EventQueue::decode(std::string_view bytes) {
-    const std::optional<Json> array = parseJson(bytes);
-    if (!array || !array->is_array()) return {};
+    const auto eventsFromJson = [](const Json& array) {
+        return decodedList(array, &Event::fromJson);
+    };
     EventQueue queue;
-    for (const Json& element : *array) {
-        const std::optional<Event> event = Event::fromJson(element);
-        if (!event) return {};
-        queue.append(*event);
-    }
+    for (const Event& event : decoded(bytes, eventsFromJson).value_or(std::vector<Event>{}))
+        queue.append(event);
     return queue;
 }
 

@@ -6,9 +6,9 @@ namespace quillon {
 
 struct SystemInfo;
 
-/// What kind of machine this is, without what tells its generation: "Desk Pro (14-inch, 2023)"
-/// gives "DeskPro". Without a product name in UTF-8 it is the leading letters of the coarser
-/// hardware model, which may be none.
+/// The kind of machine without its generation: "Desk Pro (14-inch, 2023)" gives "DeskPro". Falls
+/// back to the leading letters of the hardware model, possibly none, when there is no product name
+/// in UTF-8.
 [[nodiscard]] std::string modelFamily(const SystemInfo& system);
 
 } // namespace quillon

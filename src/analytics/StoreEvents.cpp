@@ -1,6 +1,6 @@
-// The store's hooks that turn changed settings and finished sends into usage events.
+#include "analytics/StoreEvents.h"
+
 #include "analytics/Analytics.h"
-#include "state/Store.h"
 
 #include <algorithm>
 #include <array>
@@ -8,20 +8,24 @@
 
 namespace quillon {
 
+template <>
+inline constexpr std::array<std::string_view, 4> rawValues<Store::SetupStep>{
+    "bot_connected", "group_found", "topics_created", "topics_reused"};
+
 namespace {
 
 struct SettingEvent {
     std::string_view setting;
-    bool (*changed)(const Config& old, const Config& current);
-    Prop (*value)(const Config& current);
+    bool (*changed)(const Config& old, const Config& now);
+    Prop (*value)(const Config& now);
 };
 
 template <auto Field>
-bool differs(const Config& old, const Config& current) {
-    return old.*Field != current.*Field;
+bool differs(const Config& old, const Config& now) {
+    return old.*Field != now.*Field;
 }
 
-/// In the order the events are recorded. Group, bot and topics are nobody's business.
+/// In the order in which the events are recorded.
 const std::array settingEvents{
     SettingEvent{"shortcut", differs<&Config::shortcut>,
                  [](const Config& config) { return Prop{keysText(config.shortcut)}; }},
@@ -33,37 +37,50 @@ const std::array settingEvents{
                  [](const Config& config) { return Prop{rawValue(config.bannerPosition)}; }},
 };
 
-std::string mostFrequentKind(const std::vector<Store::SendInfo>& items) {
-    std::map<std::string, int> counts;
-    for (const Store::SendInfo& item : items) {
+std::string_view word(TopicKind kind) {
+    return traits(kind).item;
+}
+
+TopicKind mostFrequentKind(const std::vector<SendInfo>& items) {
+    std::map<TopicKind, int> counts;
+    for (const SendInfo& item : items)
         ++counts[item.kind];
-    }
     return std::ranges::max_element(counts, {}, [](const auto& entry) { return entry.second; })
         ->first;
 }
 
 } // namespace
 
-void Store::trackSettings(const Config& old) {
-    if (!persist_) return;
+StoreEvents::StoreEvents(Store& store, Analytics& analytics)
+    : store_{store},
+      analytics_{analytics} {
+    connect(&store, &Store::configChanged, this, &StoreEvents::trackSettings);
+    connect(&store, &Store::sent, this, &StoreEvents::trackSend);
+    connect(&store, &Store::setupStepDone, this, &StoreEvents::trackSetupStep);
+    connect(&store, &Store::sendRefused, this, [this] {
+        analytics_.track("send_failed", {{"reason", "not_set_up"}});
+    });
+    connect(&store, &Store::launchAtLoginChanged, this, [this](bool opens) {
+        analytics_.track("settings_changed", {{"setting", "launch_at_login"}, {"value", opens}});
+    });
+}
+
+void StoreEvents::trackSettings(const Config& old, const Config& now) {
+    if (!store_.persists()) return;
     for (const SettingEvent& event : settingEvents) {
-        if (!event.changed(old, config_)) continue;
+        if (!event.changed(old, now)) continue;
         analytics_.track("settings_changed",
-                         {{"setting", event.setting}, {"value", event.value(config_)}});
+                         {{"setting", event.setting}, {"value", event.value(now)}});
     }
 }
 
-void Store::trackLaunchAtLogin(bool opens) {
-    analytics_.track("settings_changed", {{"setting", "launch_at_login"}, {"value", opens}});
-}
-
-void Store::trackSend(const std::vector<SendInfo>& items, const std::string& via) {
+void StoreEvents::trackSend(const std::vector<SendInfo>& items, Trigger via) {
     if (items.empty()) return;
     const bool ok =
         std::ranges::none_of(items, [](const SendInfo& item) { return item.reason.has_value(); });
-    Props props{{"kind", mostFrequentKind(items)},
+    Props props{{"kind", word(mostFrequentKind(items))},
                 {"ok", ok},
-                {"via", via},
+                {"via", rawValue(via)},
                 {"count", static_cast<std::int64_t>(items.size())}};
     const std::int64_t largest = std::ranges::max(items, {}, &SendInfo::bytes).bytes;
     if (const auto bucket = Analytics::sizeBucket(largest)) props.emplace_back("size", *bucket);
@@ -71,8 +88,13 @@ void Store::trackSend(const std::vector<SendInfo>& items, const std::string& via
 
     for (const SendInfo& item : items) {
         if (!item.reason) continue;
-        analytics_.track("send_failed", {{"kind", item.kind}, {"reason", *item.reason}});
+        analytics_.track("send_failed",
+                         {{"kind", word(item.kind)}, {"reason", rawValue(*item.reason)}});
     }
+}
+
+void StoreEvents::trackSetupStep(Store::SetupStep step) {
+    analytics_.track("setup_step", {{"step", rawValue(step)}});
 }
 
 } // namespace quillon

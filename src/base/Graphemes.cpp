@@ -12,7 +12,7 @@ namespace quillon {
 
 namespace {
 
-/// Printable ASCII and line feed, by far the most common.
+/// Printable ASCII and line feed are by far the most common characters.
 bool isPlain(UChar32 codePoint) {
     return (codePoint >= 0x20 && codePoint < 0x7F) || codePoint == '\n';
 }
@@ -35,7 +35,7 @@ bool standsAlone(UChar32 codePoint) {
 
 } // namespace
 
-/// ICU's own segmentation of the whole text, made only when a text needs it.
+/// ICU's own segmentation of the whole text. It is made only for texts that need it.
 class GraphemeCursor::Breaks {
 public:
     explicit Breaks(std::string_view text) {

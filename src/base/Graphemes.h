@@ -13,8 +13,8 @@ struct Grapheme {
     std::size_t codePoints = 0;
 };
 
-/// Walks UTF-8 text by extended grapheme clusters (Unicode Standard Annex 29). Most neighbouring
-/// code points are seen to be apart from a table look-up; ICU's break iterator decides the rest.
+/// Walks UTF-8 text by extended grapheme clusters (Unicode Standard Annex 29). A table look-up
+/// separates most neighbouring code points; ICU's break iterator decides the rest.
 class GraphemeCursor {
 public:
     /// The text must outlive the cursor.
@@ -43,7 +43,7 @@ private:
 
     std::string_view text_;
     std::size_t offset_ = 0;
-    Step ahead_; ///< the last one looked at; empty when there is none
+    Step ahead_; ///< the step after the cursor, where next() has looked at it already; else empty
     std::unique_ptr<Breaks> breaks_;
 };
 

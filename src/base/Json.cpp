@@ -17,7 +17,7 @@ public:
         using Event = Json::parse_event_t;
         if (event == Event::array_start || event == Event::object_start) {
             if (depth > maximumJsonDepth) throw Refused{};
-            // The keys of what begins here are told one level deeper.
+            // The parser reports this container's keys with a depth one greater than its own.
             keys_.resize(level + 2);
             keys_[level + 1] = 0;
         }

@@ -12,11 +12,11 @@ namespace quillon {
 /// JSON whose objects keep their keys in the order written.
 using Json = nlohmann::ordered_json;
 
-/// Deeper nesting than any of our files or the Bot API has; refusing it bounds memory.
+/// None of our files and no reply of the Bot API is nested deeper; refusing more bounds memory.
 inline constexpr int maximumJsonDepth = 128;
 
-/// More keys than any of our objects has. Finding a key takes time by their number, and building an
-/// object by its square.
+/// None of our objects has more keys. Finding a key takes linear time, building an object quadratic
+/// time.
 inline constexpr std::size_t maximumJsonKeys = 1000;
 
 /// The value, or none when the bytes are not one JSON text in UTF-8, are nested too deeply, or hold
@@ -26,8 +26,8 @@ inline constexpr std::size_t maximumJsonKeys = 1000;
 /// Compact UTF-8. Invalid UTF-8 in a string is written as U+FFFD.
 [[nodiscard]] std::string writeJson(const Json& value);
 
-// Members by key and type: none when `object` is no object, has no such key, or the value has
-// another type.
+// These read a member by key and type. They give none when `object` is no object, has no such key,
+// or the value has another type.
 [[nodiscard]] const Json* member(const Json& object, std::string_view key);
 [[nodiscard]] const Json* objectMember(const Json& object, std::string_view key);
 [[nodiscard]] std::optional<std::string> textMember(const Json& object, std::string_view key);

@@ -39,7 +39,7 @@ bool isLineBreak(UChar32 codePoint) {
            codePoint == 0x2029;
 }
 
-/// Moves the cursor over as many characters as the limit allows, and gives where it stands then.
+/// Moves the cursor over as many characters as the limit allows; returns where it then stands.
 std::size_t advance(GraphemeCursor& cursor, std::string_view text, TextLimit limit) {
     const std::size_t begin = cursor.offset();
     std::size_t end = begin;
@@ -51,7 +51,7 @@ std::size_t advance(GraphemeCursor& cursor, std::string_view text, TextLimit lim
         end = grapheme.end;
     }
     if (end == begin) {
-        // A single character over the limit: losing its shape beats losing the text.
+        // This single character exceeds the limit. It is better to break it than to lose the text.
         for (std::size_t count = 0; end < text.size() && count < limit.codePoints; ++count) {
             nextCodePoint(text, end);
         }

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-/// Rules on UTF-8 text. All sizes are in bytes unless a comment says otherwise; text that is not
-/// valid UTF-8 is taken as validUtf8 would repair it.
+/// Rules on UTF-8 text. All sizes are in bytes unless a comment says otherwise; invalid UTF-8 is
+/// read as validUtf8 would repair it.
 namespace quillon {
 
 /// Without white space and line breaks (Unicode White_Space) at both ends.

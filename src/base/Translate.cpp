@@ -39,9 +39,10 @@ std::string filled(std::string_view text, std::initializer_list<std::string_view
 }
 
 void loadCatalogue() {
-    // Where the build puts what it makes of translations/*.ts.
+    // The build compiles translations/*.ts into this resource folder.
     if (!install(QStringLiteral("quillon"), QStringLiteral(":/i18n"))) return;
-    // Also tells the direction of writing, which must be that of the texts.
+    // Qt's own catalogue also sets the direction of writing, which must fit the texts, so it is
+    // loaded only with ours.
     install(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
 }
 

@@ -17,7 +17,7 @@ namespace quillon {
 [[nodiscard]] std::string translate(const char* context, const char* text,
                                     const char* note = nullptr, int count = -1);
 
-/// The text with the values at its places "%1" to "%9". A value may hold anything, such as a place.
+/// The text with the values at its places "%1" to "%9". A value may hold anything, even "%1".
 [[nodiscard]] std::string filled(std::string_view text,
                                  std::initializer_list<std::string_view> values);
 

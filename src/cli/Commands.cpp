@@ -3,47 +3,51 @@
 #include "base/Text.h"
 #include "base/Translate.h"
 #include "cli/Console.h"
-#include "cli/RemoteProgram.h"
 #include "cli/Reports.h"
-#include "cli/SpokenBanner.h"
 #include "cli/TerminalAlerts.h"
 #include "cli/UpdateCheckCommand.h"
+#include "core/Core.h"
 #include "maintenance/Uninstaller.h"
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
-#include "state/Store.h"
+#include "platform/linux/desktop/LinuxBundle.h"
 
 #include <QCoroFuture>
 
+#include <algorithm>
 #include <array>
-#include <map>
 #include <memory>
 
 namespace quillon {
 
 namespace {
 
-QCoro::Task<int> send(CommandContext context, Invocation /*invocation*/) {
-    const std::size_t before = context.store.history().size();
-    context.banner.forget();
-    context.store.setSendProgress([console = context.console](qint64 sent, qint64 total) {
+constexpr const char* tokenPrompt = QT_TRANSLATE_NOOP("Command", "Bot token: ");
+
+bool contains(const Arguments& arguments, std::string_view word) {
+    return std::ranges::find(arguments, word) != arguments.end();
+}
+
+QCoro::Task<int> send(CommandContext context, Arguments /*arguments*/) {
+    const std::size_t before = context.core.store.history().size();
+    context.core.banner.forget();
+    SendProgress progress = [console = context.console](qint64 sent, qint64 total) {
         console->progress(translate("Send", "Sending…"), sent, total);
-    });
-    co_await context.store.sendClipboard("command");
-    context.store.setSendProgress({});
+    };
+    co_await context.core.store.sendClipboard(Trigger::command, std::move(progress));
     context.console->endProgress();
 
-    const std::vector<Sent>& history = context.store.history();
+    const std::vector<Sent>& history = context.core.store.history();
     const auto added = static_cast<std::ptrdiff_t>(history.size() - before);
-    // Nothing was sent at all: the banner told why, unless the shortcut came first.
+    // Nothing was sent at all. The banner told why, unless another send was under way.
     if (added == 0) {
-        const std::optional<std::string> problem = context.banner.problem();
+        const std::optional<std::string> problem = context.core.banner.problem();
         throw TelegramError{problem ? *problem
                                     : translate("Command", "Another send is still running.")};
     }
 
     int code = exitDone;
-    // The newest entry stands first, the items were sent in the opposite order.
+    // In the order sent: the newest entry stands first.
     for (auto entry = history.rend() - added; entry != history.rend(); ++entry) {
         context.console->print(sendLine(*entry));
         if (!entry->error) continue;
@@ -53,11 +57,11 @@ QCoro::Task<int> send(CommandContext context, Invocation /*invocation*/) {
     co_return code;
 }
 
-QCoro::Task<int> connect(CommandContext context, Invocation /*invocation*/) {
+QCoro::Task<int> connect(CommandContext context, Arguments /*arguments*/) {
     const std::string token =
-        context.console->readSecret(RemoteProgram::tokenPrompt()).value_or("");
-    const std::string name = co_await context.store.connectBot(token);
-    // The next command can only have it from there.
+        context.console->readSecret(translate("Command", tokenPrompt)).value_or("");
+    const std::string name = co_await context.core.store.connectBot(token);
+    // The next command gets the token from the keyring alone.
     const std::optional<std::string> kept = co_await context.platform.secrets.read(botTokenItem());
     if (kept != trimmed(token)) {
         throw TelegramError{
@@ -67,29 +71,29 @@ QCoro::Task<int> connect(CommandContext context, Invocation /*invocation*/) {
     co_return exitDone;
 }
 
-QCoro::Task<int> findGroup(CommandContext context, Invocation /*invocation*/) {
-    co_await context.store.findGroup();
-    const std::optional<std::string> title = context.store.config().chatTitle;
+QCoro::Task<int> findGroup(CommandContext context, Arguments /*arguments*/) {
+    co_await context.core.store.findGroup();
+    const std::optional<std::string> title = context.core.store.config().chatTitle;
     context.console->print(filled(translate("Command", "Found “%1”"),
                                   {title ? *title : translate("Command", "your group")}));
     co_return exitDone;
 }
 
-QCoro::Task<int> createTopics(CommandContext context, Invocation /*invocation*/) {
-    co_await context.store.createTopics();
-    for (const Topic& topic : context.store.config().topics) {
+QCoro::Task<int> createTopics(CommandContext context, Arguments /*arguments*/) {
+    co_await context.core.store.createTopics();
+    for (const Topic& topic : context.core.store.config().topics) {
         context.console->print(topic.name);
     }
     co_return exitDone;
 }
 
-QCoro::Task<int> renameTopics(CommandContext context, Invocation /*invocation*/) {
-    co_await context.store.renameTopics();
+QCoro::Task<int> renameTopics(CommandContext context, Arguments /*arguments*/) {
+    co_await context.core.store.renameTopics();
     co_return exitDone;
 }
 
-QCoro::Task<int> forget(CommandContext context, Invocation /*invocation*/) {
-    const bool forgotten = co_await context.store.forgetBot();
+QCoro::Task<int> forget(CommandContext context, Arguments /*arguments*/) {
+    const bool forgotten = co_await context.core.store.forgetBot();
     if (!forgotten) {
         throw TelegramError{translate(
             "Command", "The keyring still holds the bot's token. Unlock it and try again.")};
@@ -97,15 +101,16 @@ QCoro::Task<int> forget(CommandContext context, Invocation /*invocation*/) {
     co_return exitDone;
 }
 
-QCoro::Task<int> status(CommandContext context, Invocation invocation) {
-    context.console->printText(invocation.json() ? statusJson(context.store)
-                                                 : statusText(context.store));
+QCoro::Task<int> status(CommandContext context, Arguments arguments) {
+    context.console->printText(contains(arguments, "--json") ? statusJson(context.core.store)
+                                                             : statusText(context.core.store));
     co_return exitDone;
 }
 
-QCoro::Task<int> history(CommandContext context, Invocation invocation) {
-    const std::vector<Sent>& entries = context.store.history();
-    context.console->printText(invocation.json() ? historyJson(entries) : historyText(entries));
+QCoro::Task<int> history(CommandContext context, Arguments arguments) {
+    const std::vector<Sent>& entries = context.core.store.history();
+    context.console->printText(contains(arguments, "--json") ? historyJson(entries)
+                                                             : historyText(entries));
     co_return exitDone;
 }
 
@@ -114,15 +119,15 @@ constexpr std::array loginStatusTexts{
     "off", "on", QT_TRANSLATE_NOOP("Command", "switched off in the desktop's settings"),
     QT_TRANSLATE_NOOP("Command", "on, but what it would open is not there: switch it on again")};
 
-QCoro::Task<int> launchAtLogin(CommandContext context, Invocation invocation) {
+QCoro::Task<int> launchAtLogin(CommandContext context, Arguments arguments) {
     const LoginItem& item = context.platform.loginItem;
-    if (invocation.argument == "status") {
+    if (contains(arguments, "status")) {
         const char* const text = loginStatusTexts.at(static_cast<std::size_t>(item.status()));
         context.console->print(translate("Command", text));
         co_return exitDone;
     }
-    const bool on = invocation.argument == "on";
-    context.store.setLaunchAtLogin(on);
+    const bool on = contains(arguments, "on");
+    context.core.store.setLaunchAtLogin(on);
     if (item.status() != (on ? LoginItem::Status::enabled : LoginItem::Status::notRegistered)) {
         throw TelegramError{
             on ? translate("Command", "Quillon could not be set to open at login.")
@@ -131,47 +136,115 @@ QCoro::Task<int> launchAtLogin(CommandContext context, Invocation invocation) {
     co_return exitDone;
 }
 
-QCoro::Task<int> checkForUpdates(CommandContext context, Invocation invocation) {
-    return runUpdateCheck(context, invocation.argument == "--install");
+QCoro::Task<int> checkForUpdates(CommandContext context, Arguments arguments) {
+    return runUpdateCheck(context, contains(arguments, "--install"));
 }
 
-QCoro::Task<int> uninstall(CommandContext context, Invocation /*invocation*/) {
+QCoro::Task<int> uninstall(CommandContext context, Arguments /*arguments*/) {
     TerminalAlerts alerts;
-    Uninstaller uninstaller{context.platform, context.store, context.analytics, alerts};
+    Uninstaller uninstaller{context.platform, context.core.store, context.core.analytics, alerts};
     const std::function<void()> tell = [console = context.console] {
         console->print(translate(
             "Command", "Quillon and all it has stored are gone; the app is in the Trash"));
     };
     co_await uninstaller.run(tell);
-    // The process has ended.
+    // Not reached: run() ends the process.
     co_return exitDone;
 }
 
-using Action = QCoro::Task<int> (*)(CommandContext, Invocation);
+std::string helpOf(const Arguments& /*arguments*/) {
+    return helpText();
+}
 
-const std::map<Command, Action> actions{
-    {Command::send, send},
-    {Command::connect, connect},
-    {Command::findGroup, findGroup},
-    {Command::createTopics, createTopics},
-    {Command::renameTopics, renameTopics},
-    {Command::forget, forget},
-    {Command::status, status},
-    {Command::history, history},
-    {Command::launchAtLogin, launchAtLogin},
-    {Command::checkForUpdates, checkForUpdates},
-    {Command::uninstall, uninstall},
+std::string versionOf(const Arguments& /*arguments*/) {
+    return "quillon " + runningBundle().shortVersion() + "\n";
+}
+
+const Word asJson{"--json", QT_TRANSLATE_NOOP("CommandLine", "answer as JSON"), false};
+
+const std::vector<Command> commands{
+    {.name = "send",
+     .needs = DesktopNeeds::clipboardAndBanner,
+     .waitsItsTurn = false,
+     .action = send,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "send what is on the clipboard")},
+    {.name = "panel",
+     .where = Where::residentOnly,
+     .purpose =
+         QT_TRANSLATE_NOOP("CommandLine", "show the panel; starts Quillon if it is not running")},
+    {.name = "settings",
+     .where = Where::residentOnly,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine",
+                                  "show the settings; starts Quillon if it is not running")},
+    {.name = "connect",
+     .secretPrompt = tokenPrompt,
+     .action = connect,
+     .purpose =
+         QT_TRANSLATE_NOOP("CommandLine", "connect your bot; reads its token from standard input")},
+    {.name = "find-group",
+     .action = findGroup,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "find the group in which you wrote to the bot")},
+    {.name = "create-topics",
+     .action = createTopics,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "create the four topics, or find them again")},
+    {.name = "rename-topics",
+     .action = renameTopics,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "give the topics the names set here")},
+    {.name = "forget",
+     .action = forget,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "forget the bot, the group and the topics")},
+    {.name = "status",
+     .words = {asJson},
+     .onlyReads = true,
+     .action = status,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "tell what is set up")},
+    {.name = "history",
+     .words = {asJson},
+     .onlyReads = true,
+     .action = history,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "list what was sent, newest first")},
+    {.name = "launch-at-login",
+     .words = {{"on", QT_TRANSLATE_NOOP("CommandLine", "open it")},
+               {"off", QT_TRANSLATE_NOOP("CommandLine", "do not")},
+               {"status", QT_TRANSLATE_NOOP("CommandLine", "tell which"), true}},
+     .needsWord = true,
+     .action = launchAtLogin,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "open Quillon at login, or do not")},
+    {.name = "check-for-updates",
+     .words = {{"--install", QT_TRANSLATE_NOOP("CommandLine", "install it too")}},
+     .action = checkForUpdates,
+     .purpose =
+         QT_TRANSLATE_NOOP("CommandLine", "tell whether there is a newer version; install it")},
+    {.name = "uninstall",
+     .words = {{"--yes", QT_TRANSLATE_NOOP("CommandLine", "yes, remove it")}},
+     .needsWord = true,
+     .where = Where::hereAfterQuit,
+     .action = uninstall,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "remove Quillon and all it has stored")},
+    {.name = "--help",
+     .where = Where::here,
+     .text = helpOf,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "print this")},
+    {.name = "--version",
+     .where = Where::here,
+     .text = versionOf,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "print the version")},
+    // The shells call this with the words before the one that is being typed.
+    {.name = "--complete", .takesAnything = true, .where = Where::here, .text = completions},
 };
 
 } // namespace
 
+const std::vector<Command>& allCommands() {
+    return commands;
+}
+
 QCoro::Task<int> runCommand(Invocation invocation, CommandContext context) {
-    const Action action = actions.at(invocation.command);
     try {
-        co_return co_await action(context, invocation);
+        co_return co_await invocation.command->action(context, invocation.arguments);
     } catch (const std::exception& error) {
-        // A TelegramError says the sentence for the user; anything else, such as memory running
-        // out, at least does not pass in silence.
+        // The message of a TelegramError is for the user. Other exceptions, such as bad_alloc, at
+        // least do not pass in silence.
         context.console->printError(error.what());
         co_return exitFailed;
     }

@@ -2,30 +2,23 @@
 
 #include "cli/CommandLine.h"
 
-#include <QCoroTask>
-
 #include <memory>
 
 namespace quillon {
 
-class Analytics;
 class Console;
-class Store;
+struct Core;
 struct Platform;
-class SpokenBanner;
 
-/// What a command works on, and where it says what; all of it outlives the command.
+/// What a command works on, and where it prints and reads. All of it outlives the command.
 struct CommandContext {
     Platform& platform;
-    Analytics& analytics;
-    Store& store;
-    /// The banner that the store shows.
-    SpokenBanner& banner;
+    Core& core;
     std::shared_ptr<Console> console;
 };
 
-/// Carries out a command that works on the store, and gives the exit code. What failed is told as
-/// error output in the very sentence the windows would show.
+/// Carries out a command that has an action, and gives the exit code. A failure is printed as error
+/// output, in the sentence that the windows show.
 [[nodiscard]] QCoro::Task<int> runCommand(Invocation invocation, CommandContext context);
 
 } // namespace quillon

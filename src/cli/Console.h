@@ -8,24 +8,23 @@
 
 namespace quillon {
 
-/// What a command says and asks, wherever whoever gave it sits.
+/// Where a command prints and reads: a terminal of this process, or another process.
 class Console {
 public:
     virtual ~Console() = default;
 
-    /// One line of output or of error output.
+    /// Prints one line to standard output or standard error.
     virtual void print(std::string_view line) = 0;
     virtual void printError(std::string_view line) = 0;
-    /// Text with line breaks of its own.
+    /// Prints text that has its own line breaks.
     virtual void printText(std::string_view text) = 0;
 
-    /// What was typed, or else came on standard input, for `prompt`, without being shown; none when
-    /// nothing came.
+    /// Asks for a line with `prompt` and reads it without showing it; none when nothing came.
     [[nodiscard]] virtual std::optional<std::string> readSecret(std::string_view prompt) = 0;
 
-    /// How far something has come, in bytes; `activity` is what is done, as in "Sending…".
+    /// Tells how many bytes of a transfer are done; `activity` names it, as in "Sending…".
     virtual void progress(std::string_view activity, qint64 done, qint64 total) = 0;
-    /// It is over: progress that still comes is not shown.
+    /// Ends the display of progress; later progress is not shown.
     virtual void endProgress() = 0;
 };
 

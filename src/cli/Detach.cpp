@@ -16,7 +16,7 @@ namespace {
 
 constexpr int killedBySignal = 128;
 
-/// The code that the child has sent; false when it ended without.
+/// Reads the code that the child sends; false when the child ended without sending one.
 bool readExitCode(int pipe, int& exitCode) {
     unsigned char byte = 0;
     ssize_t count = 0;
@@ -49,7 +49,7 @@ int Detach::run(const std::function<int(Detach&)>& work) {
         Detach detach{ends[1]};
         const int exitCode = work(detach);
         std::cout.flush();
-        // Static objects stay as they are: the work may leave threads behind.
+        // Static objects are not destroyed, since the work may leave threads behind.
         std::_Exit(exitCode);
     }
     close(ends[1]);

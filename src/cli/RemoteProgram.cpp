@@ -2,6 +2,7 @@
 
 #include "base/Translate.h"
 #include "cli/TerminalConsole.h"
+#include "platform/linux/Application.h"
 #include "platform/linux/files/FolderLock.h"
 
 #include <QCoreApplication>
@@ -14,6 +15,7 @@
 #include <QEventLoop>
 
 #include <limits>
+#include <string_view>
 #include <utility>
 
 #include <sys/mman.h>
@@ -26,7 +28,7 @@ namespace {
 /// The running program may have to wait for the user's keyring, or for a slow network.
 constexpr int noTimeout = std::numeric_limits<int>::max();
 
-/// A program that is well answers at once; in milliseconds.
+/// In milliseconds. A program that does not hang answers at once.
 constexpr int activationTimeout = 4000;
 
 QDBusMessage message(const char* method) {
@@ -37,7 +39,7 @@ QDBusMessage message(const char* method) {
     return call;
 }
 
-/// Hands over the secret as a file in memory, so that it is in no message that others may watch.
+/// A file in memory that holds the secret: others may watch the messages on the bus.
 QDBusUnixFileDescriptor inMemory(const std::string& secret) {
     const int file = ::memfd_create("quillon", MFD_CLOEXEC);
     QDBusUnixFileDescriptor descriptor;
@@ -48,7 +50,7 @@ QDBusUnixFileDescriptor inMemory(const std::string& secret) {
     return descriptor;
 }
 
-/// Passes on how far the command has come.
+/// Shows how far the command has come, as the running program tells it.
 class ProgressListener : public QObject {
     Q_OBJECT
 
@@ -68,15 +70,38 @@ private:
     TerminalConsole& console_;
 };
 
-/// `canRepeat`: whether this process can still carry the command out itself.
-std::optional<int> judge(const QDBusPendingReply<int, QString, QString>& reply,
-                         TerminalConsole& console, bool canRepeat) {
+/// Calls the running program, however long it takes; the event loop turns meanwhile.
+QDBusMessage answerTo(const QDBusMessage& call) {
+    const QDBusPendingCallWatcher watcher{QDBusConnection::sessionBus().asyncCall(call, noTimeout)};
+    QEventLoop loop;
+    QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+    if (!watcher.isFinished()) loop.exec();
+    return watcher.reply();
+}
+
+QDBusMessage handOver(const Invocation& invocation, const QDBusUnixFileDescriptor& input) {
+    QStringList words{QString::fromStdString(std::string{invocation.command->name})};
+    for (const std::string& argument : invocation.arguments)
+        words << QString::fromStdString(argument);
+    QDBusMessage call = message("RunCommand");
+    call << words << QVariant::fromValue(input);
+    const QDBusMessage answer = answerTo(call);
+    if (QDBusError{answer}.type() != QDBusError::UnknownMethod) return answer;
+    // A program from before the last update still runs, and takes one argument at the most.
+    QDBusMessage older = message("Run");
+    older << words.value(0) << words.value(1) << QVariant::fromValue(input);
+    return answerTo(older);
+}
+
+/// Prints what the command said and gives its exit code. None when the program was gone before the
+/// call arrived and `canRepeat` says that this process can still carry the command out itself.
+std::optional<int> passOn(const QDBusPendingReply<int, QString, QString>& reply,
+                          TerminalConsole& console, bool canRepeat) {
     if (!reply.isError()) {
         console.printText(reply.argumentAt<1>().toStdString());
         Terminal::printErrorText(reply.argumentAt<2>().toStdString());
         return reply.argumentAt<0>();
     }
-    // Gone before the call arrived.
     if (canRepeat && reply.error().type() == QDBusError::ServiceUnknown) return std::nullopt;
     console.printError(translate("Command", "Quillon ended before it was done."));
     return exitFailed;
@@ -86,37 +111,26 @@ std::optional<int> carryOut(const Invocation& invocation) {
     TerminalConsole console;
     const ProgressListener listener{console};
     std::string secret;
-    if (invocation.command == Command::connect)
-        secret = console.readSecret(tokenPrompt()).value_or("");
-    QDBusMessage call = message("Run");
-    call << QString::fromStdString(std::string{commandName(invocation.command)})
-         << QString::fromStdString(invocation.argument) << QVariant::fromValue(inMemory(secret));
-    const QDBusPendingCallWatcher watcher{QDBusConnection::sessionBus().asyncCall(call, noTimeout)};
-    QEventLoop loop;
-    QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
-    if (!watcher.isFinished()) loop.exec();
+    if (const char* const prompt = invocation.command->secretPrompt)
+        secret = console.readSecret(translate("Command", prompt)).value_or("");
+    const QDBusMessage answer = handOver(invocation, inMemory(secret));
     console.endProgress();
-    // What was read from standard input cannot be read again.
-    return judge(watcher, console, secret.empty());
+    // A secret cannot be read from standard input a second time.
+    return passOn(answer, console, secret.empty());
 }
 
-int show(Command wanted) {
-    const std::string name{commandName(wanted)};
-    if (activate(name.c_str(), activationData())) return exitDone;
+int show(const Command& wanted) {
+    if (activate(wanted.name, activationData())) return exitDone;
     Terminal::printError(FolderLock::heldMessage());
     return exitFailed;
 }
 
-/// Asks the running program to end; whoever needs its data waits until it has.
+/// Asks the running program to end. It still holds the data for a moment.
 void quit() {
     QDBusConnection::sessionBus().call(message("Quit"));
 }
 
 } // namespace
-
-std::string tokenPrompt() {
-    return translate("Command", "Bot token: ");
-}
 
 QVariantMap activationData() {
     QVariantMap data;
@@ -128,30 +142,32 @@ QVariantMap activationData() {
     return data;
 }
 
-bool activate(const char* wanted, const QVariantMap& activationData) {
+bool activate(std::string_view wanted, const QVariantMap& activationData) {
     QDBusMessage call = QDBusMessage::createMethodCall(
         QLatin1String{busName}, QLatin1String{objectPath},
         QStringLiteral("org.freedesktop.Application"), QStringLiteral("ActivateAction"));
     call.setAutoStartService(false);
-    call << QString::fromLatin1(wanted) << QVariantList{} << activationData;
+    call << QString::fromStdString(std::string{wanted}) << QVariantList{} << activationData;
     return QDBusConnection::sessionBus().call(call, QDBus::Block, activationTimeout).type() ==
            QDBusMessage::ReplyMessage;
 }
 
 std::optional<int> run(const Invocation& invocation) {
-    int argc = 1;
-    char name[] = "quillon";
-    char* argv[] = {name, nullptr};
-    const QCoreApplication application{argc, argv};
-    loadCatalogue();
+    const auto application = makeApplication<QCoreApplication>();
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) return std::nullopt;
     if (!bus.interface()->isServiceRegistered(QLatin1String{busName})) return std::nullopt;
-    if (worksOnState(invocation.command)) return carryOut(invocation);
-    if (invocation.command == Command::settings || invocation.command == Command::panel)
-        return show(invocation.command);
-    // The program would write again what is removed.
-    if (invocation.command == Command::uninstall) quit();
+    switch (invocation.command->where) {
+    case Where::dataHolder:
+        return carryOut(invocation);
+    case Where::residentOnly:
+        return show(*invocation.command);
+    case Where::hereAfterQuit:
+        quit();
+        return std::nullopt;
+    case Where::here:
+        return std::nullopt;
+    }
     return std::nullopt;
 }
 

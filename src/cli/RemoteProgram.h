@@ -6,33 +6,25 @@
 #include <QVariantMap>
 
 #include <optional>
-#include <string>
+#include <string_view>
 
-namespace quillon {
-
-/// The program that runs already, as the session bus leads to it.
-namespace RemoteProgram {
+/// The program that already runs in this session, which is reached over the session bus.
+namespace quillon::RemoteProgram {
 
 inline constexpr const char* busName = applicationIdentifier;
 inline constexpr const char* objectPath = "/dev/vostrel/quillon";
 inline constexpr const char* interfaceName = applicationIdentifier;
 
-/// The prompt with which a command asks for the bot's token.
-[[nodiscard]] std::string tokenPrompt();
-
 /// Has the running program carry out the command, prints what it says and gives the exit code. None
 /// when no program runs, or when the command is one that this process has to carry out itself.
 [[nodiscard]] std::optional<int> run(const Invocation& invocation);
 
-/// What lets the running program take the focus from whatever has it, as this process got it from
-/// the desktop that started it. To be asked for before there is an application object, which takes
-/// it for itself.
+/// What the desktop gave this process to let a window take the focus, for the running program to
+/// use. Call it before there is an application object, which takes it for itself.
 [[nodiscard]] QVariantMap activationData();
 
 /// Has the running program show its "settings" or its "panel". False when none runs, or when it
-/// does not answer within 4 seconds. To be called while there is an application object.
-[[nodiscard]] bool activate(const char* wanted, const QVariantMap& activationData);
+/// does not answer within 4 seconds. Call it while there is an application object.
+[[nodiscard]] bool activate(std::string_view wanted, const QVariantMap& activationData);
 
-} // namespace RemoteProgram
-
-} // namespace quillon
+} // namespace quillon::RemoteProgram

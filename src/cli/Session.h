@@ -4,17 +4,13 @@
 
 namespace quillon {
 
-class Detach;
-
-/// Carries out one command and gives its exit code: has the program do it that runs already, else
-/// builds the program's objects for it. A process has one session at the most.
+/// Carries out one command and gives its exit code. The program that already runs does it if there
+/// is one; else this process builds the program's objects. A process has one session at the most.
 class Session {
 public:
-    /// `detach` is told when the command is done but its banner still shows or its sound still
-    /// plays.
-    static int run(Invocation invocation, Detach& detach);
-    /// For commands that show nothing but text.
-    static int run(Invocation invocation);
+    /// A command that shows a banner is carried out in a child process, so that this returns once
+    /// the command is done, while the banner still shows. Call it while the process has one thread.
+    static int run(const Invocation& invocation);
 };
 
 } // namespace quillon

@@ -21,8 +21,8 @@ bool isControl(UChar32 codePoint) {
     return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
 }
 
-/// While it lives, what is typed is not shown. Also a signal that ends the program gives the echo
-/// back, which the terminal would be left without.
+/// Hides what is typed for as long as it lives. A signal that ends the program switches the echo on
+/// again, too.
 class EchoOff {
 public:
     EchoOff() {
@@ -52,7 +52,7 @@ private:
         std::raise(number);
     }
 
-    /// Where the handler finds it.
+    /// Static for the signal handler.
     static inline termios before{};
     bool on_ = false;
 };
@@ -96,7 +96,7 @@ std::optional<std::string> readSecret(std::string_view prompt) {
     std::optional<EchoOff> echoOff;
     const bool terminal = isatty(STDIN_FILENO) != 0;
     if (terminal) {
-        // First, since it drops what was typed before: nobody has been asked yet.
+        // This drops what was typed before the prompt, so it comes first.
         echoOff.emplace();
         std::cerr << prompt << std::flush;
     }

@@ -9,25 +9,25 @@
 /// Standard input and output as the command line uses them. All text is UTF-8.
 namespace quillon::Terminal {
 
-/// The text with control characters replaced (tabs stay), which a file name can hold: nothing that
-/// is printed may drive the terminal.
+/// The text with control characters other than tabs replaced, so that nothing that is printed (file
+/// names can hold them) drives the terminal.
 [[nodiscard]] std::string harmless(std::string_view text);
 
-/// One line of output or of error output, made harmless.
+/// Prints one line to standard output or standard error, made harmless.
 void print(std::string_view line);
 void printError(std::string_view line);
-/// Text with line breaks of its own, as it is.
+/// Prints text that has its own line breaks, unchanged.
 void printText(std::string_view text);
 void printErrorText(std::string_view text);
 
-/// The first line of standard input; asked for with `prompt` and without echo on a terminal. None
-/// when nothing comes.
+/// Reads the first line of standard input; on a terminal it shows `prompt` and hides what is typed.
+/// None when nothing comes.
 [[nodiscard]] std::optional<std::string> readSecret(std::string_view prompt);
 
-/// One line on a terminal that tells how much of a transfer is done; nothing elsewhere.
+/// A line that tells how much of a transfer is done. It is only shown on a terminal.
 class Progress {
 public:
-    /// `what` is on its way, as in "Sending…".
+    /// `what` names the transfer, as in "Sending…".
     explicit Progress(std::string_view what);
 
     /// Sizes in bytes. Remembered until the line is shown.

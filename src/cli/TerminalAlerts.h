@@ -4,7 +4,7 @@
 
 namespace quillon {
 
-/// Alerts as lines of error output, for commands, which ask nothing: the answer is always the last
+/// Prints alerts as lines of error output. A command asks nothing, so the answer is always the last
 /// button.
 class TerminalAlerts final : public Alerts {
 public:

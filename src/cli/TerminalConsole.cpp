@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-/// What takes less shows no progress.
+/// A transfer that takes less time shows no progress.
 constexpr std::chrono::milliseconds progressPatience{700};
 
 } // namespace

@@ -16,12 +16,12 @@ public:
     [[nodiscard]] std::optional<std::string> readSecret(std::string_view prompt) override {
         return Terminal::readSecret(prompt);
     }
-    /// Shows a line of progress once the matter has taken 0.7 s.
+    /// Shows a line of progress once the transfer has taken 0.7 s.
     void progress(std::string_view activity, qint64 done, qint64 total) override;
     void endProgress() override;
 
 private:
-    /// Shared with the timer that shows it.
+    /// Shared with the timer that shows the line.
     std::shared_ptr<Terminal::Progress> line_;
     bool ended_ = false;
 };

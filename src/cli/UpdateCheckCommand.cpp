@@ -1,8 +1,8 @@
 #include "cli/UpdateCheckCommand.h"
 
-#include "analytics/Analytics.h"
 #include "base/Translate.h"
 #include "cli/Console.h"
+#include "core/Core.h"
 #include "platform/Platform.h"
 #include "telegram/TelegramError.h"
 #include "update/BundleUpdater.h"
@@ -15,7 +15,7 @@ namespace quillon {
 
 namespace {
 
-/// Tells a console how an update comes along, and answers for its user.
+/// Prints how an update comes along, and answers in place of the user.
 class ConsoleUpdateDriver final : public UpdateUserDriver {
 public:
     ConsoleUpdateDriver(std::shared_ptr<Console> console, bool install)
@@ -61,7 +61,7 @@ private:
     int exitCode_ = exitDone;
 };
 
-/// Records the check, as the running program does for its own.
+/// Records the check as a usage event, as the program that stays does.
 class CheckRecorder final : public UpdaterDelegate {
 public:
     explicit CheckRecorder(Analytics& analytics) : analytics_{analytics} {}
@@ -86,7 +86,7 @@ QCoro::Task<int> runUpdateCheck(CommandContext context, bool install) {
     if (!bundle.isApplication() || !bundle.text("SUFeedURL"))
         throw TelegramError{translate("Command", "This copy of Quillon does not update itself.")};
     ConsoleUpdateDriver driver{context.console, install};
-    CheckRecorder recorder{context.analytics};
+    CheckRecorder recorder{context.core.analytics};
     BundleUpdater updater{context.platform, driver, BundleUpdater::Schedule::none};
     if (const auto error = updater.start(recorder)) throw TelegramError{error->description};
     co_await updater.check(install ? UpdateCheck::byUser : UpdateCheck::forInformation);

@@ -4,8 +4,8 @@
 
 namespace quillon {
 
-/// Tells whether there is a newer version and, with `install`, puts it in place; other copies that
-/// run are left alone. Throws TelegramError where this copy cannot be updated at all.
+/// Tells whether there is a newer version and, with `install`, installs it. Copies that run are
+/// left alone. Throws TelegramError where this copy cannot be updated at all.
 [[nodiscard]] QCoro::Task<int> runUpdateCheck(CommandContext context, bool install);
 
 } // namespace quillon

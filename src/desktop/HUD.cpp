@@ -7,8 +7,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-#include <utility>
-
 namespace quillon {
 namespace {
 
@@ -26,29 +24,30 @@ const QScreen* mainScreen() {
 
 } // namespace
 
-HUD::HUD(Clock& clock, const Compositor& compositor, std::function<BannerPosition()> position)
+HUD::HUD(Clock& clock, const Compositor& compositor)
     : clock_{clock},
       compositor_{compositor},
-      position_{std::move(position)},
       fade_{clock, [this](double alpha) { panel_->setAlpha(alpha); }} {}
 
 HUD::~HUD() = default;
 
-void HUD::show(std::string text, std::string symbol, bool ok, bool sticky) {
+void HUD::show(BannerMessage message) {
     if (!panel_) panel_ = std::make_unique<HUDPanel>();
-    place(text, HUDView{text, std::move(symbol), ok});
+    place(message);
     fadeIn();
     hide_.reset();
-    if (!sticky) hide_ = clock_.after(ok ? goodNewsStays : badNewsStays, [this] { fadeOut(); });
+    if (message.sticky) return;
+    hide_ = clock_.after(message.ok ? goodNewsStays : badNewsStays, [this] { fadeOut(); });
 }
 
-void HUD::place(const std::string& text, const HUDView& view) {
+void HUD::place(const BannerMessage& message) {
+    const HUDView view{message.text, message.symbol, message.ok};
     const QScreen* const screen = mainScreen();
     blended_ = compositor_.active();
-    panel_->setContent(view, QString::fromStdString(text), screen ? screen->devicePixelRatio() : 1,
-                       blended_);
+    panel_->setContent(view, QString::fromStdString(message.text),
+                       screen ? screen->devicePixelRatio() : 1, blended_);
     if (!screen) return;
-    panel_->setGeometry(bannerFrame(screen->availableGeometry(), view.size(), position_()));
+    panel_->setGeometry(bannerFrame(screen->availableGeometry(), view.size(), message.position));
     if (panel_->isVisible()) panel_->repaint();
 }
 

@@ -16,9 +16,9 @@ class Hotkey : public QObject {
 public:
     explicit Hotkey(HotKeys& hotKeys) : hotKeys_{hotKeys} {}
 
-    /// Makes the choice the combination in place of the one before, which works no longer even when
-    /// this is refused, and has `action` called each time it is pressed, from the event loop.
-    /// False when the combination was refused.
+    /// Registers the choice in place of the one before, which ends even when the new one is
+    /// refused. `action` is called from the event loop at each press. False when the choice was
+    /// refused.
     [[nodiscard]] bool registerChoice(ShortcutChoice choice, std::function<void()> action);
 
 private:

@@ -15,8 +15,8 @@ void Store::setLaunchAtLogin(bool opens) {
     } else {
         platform_.loginItem.unregisterItem();
     }
-    trackLaunchAtLogin(opens);
-    // Whether it worked or not, views ask again.
+    Q_EMIT launchAtLoginChanged(opens);
+    // Views show what the desktop says now, whether this worked or not.
     Q_EMIT objectWillChange();
 }
 

@@ -1,25 +1,15 @@
-// The store's shortcut: pressing it sends the clipboard.
+// The store's shortcut, which is announced when it is pressed.
 #include "desktop/Hotkey.h"
-#include "platform/Platform.h"
 #include "state/Store.h"
 
 #include <QPointer>
 
 namespace quillon {
 
-namespace {
-
-QCoro::Task<> send(QPointer<Store> store) {
-    if (!store) co_return;
-    co_await store->sendClipboard("shortcut");
-}
-
-} // namespace
-
 void Store::registerShortcut() {
-    if (!hotkey_) hotkey_ = std::make_shared<Hotkey>(platform_.hotKeys);
-    const bool accepted =
-        hotkey_->registerChoice(config_.shortcut, [store = QPointer{this}] { send(store); });
+    const bool accepted = hotkey_.registerChoice(config_.shortcut, [store = QPointer{this}] {
+        if (store) Q_EMIT store->shortcutPressed();
+    });
     publish(shortcutTaken_, !accepted);
 }
 

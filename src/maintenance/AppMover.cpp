@@ -20,7 +20,7 @@ using std::filesystem::path;
 
 /// A part of every path below which the system keeps hidden copies.
 constexpr std::string_view translocation = "/AppTranslocation/";
-/// The mark of what was downloaded, an extended attribute.
+/// The extended attribute that marks downloaded files.
 constexpr const char* quarantine = "user.com.apple.quarantine";
 
 constexpr const char* hiddenCopy = QT_TRANSLATE_NOOP(
@@ -122,7 +122,7 @@ QCoro::Task<> AppMover::makeRoom(path destination) {
 QCoro::Task<path> AppMover::move() {
     const path from = source();
     const path to = targetFolder() / from.filename();
-    // Somebody else may have moved it since it was started: what is there now is no older copy.
+    // If somebody else has moved the application meanwhile, what lies there is no older copy.
     if (!platform_.trees.exists(from)) throw MoveError{translate("AppMover", notAllowed)};
     co_await makeRoom(to);
     bool moved = false;

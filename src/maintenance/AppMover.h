@@ -48,8 +48,8 @@ public:
     /// follow it. Gives the new place; throws MoveError.
     [[nodiscard]] QCoro::Task<std::filesystem::path> move();
 
-    /// Where an application lies that the system runs from a hidden copy; none when the system
-    /// cannot tell. Linux has no such copies, and no service that would tell.
+    /// The place of an application that the system runs from a hidden copy; none when the system
+    /// cannot tell. Linux makes no such copies, so it never can.
     [[nodiscard]] static std::optional<std::filesystem::path>
     originalURL(const std::filesystem::path& ofTranslocated);
 

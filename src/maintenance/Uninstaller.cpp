@@ -19,8 +19,8 @@ namespace {
 
 using std::filesystem::path;
 
-/// Tells how to finish: with an application folder by hand, with an executable alone the way it was
-/// installed.
+/// Tells the user how to finish: by moving the application folder to the trash, or by removing the
+/// package that holds the executable.
 Alert applicationStays(const Bundle& bundle) {
     const char* const left =
         bundle.isApplication()
@@ -50,7 +50,7 @@ std::array<path, 6> Uninstaller::folders() const {
 }
 
 QCoro::Task<bool> Uninstaller::trashApplication() {
-    // An executable alone belongs to a package or to whoever built it.
+    // An executable without an application folder belongs to a package, or to who built it.
     if (!platform_.bundle.isApplication()) co_return false;
     co_return co_await platform_.workspace.trash(platform_.bundle.url);
 }

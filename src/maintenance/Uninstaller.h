@@ -23,13 +23,12 @@ public:
           analytics_{analytics},
           alerts_{alerts} {}
 
-    /// The places that are removed, in this order; every one of them right below this user's data,
-    /// cache or state folder or below a folder of these.
+    /// The places that are removed, in this order. Each lies in this user's data, cache or state
+    /// folder, or one level deeper.
     [[nodiscard]] std::array<std::filesystem::path, 6> folders() const;
 
-    /// Removes everything, going on whatever fails, and ends the process at once with status 0.
-    /// `onTrashed` is called before that, unless the application could not go to the trash, which
-    /// the user is told.
+    /// Removes everything, whatever of it fails, and ends the process at once with status 0. Before
+    /// that, calls `onTrashed` if the application went to the trash, and else tells the user.
     [[nodiscard]] QCoro::Task<> run(std::function<void()> onTrashed = {});
 
 private:

@@ -22,10 +22,10 @@ constexpr std::string_view lastVersionKey = "qln.lastVersion";
 constexpr std::string_view feedKey = "SUFeedURL";
 constexpr std::string_view buildKey = "CFBundleVersion";
 
-/// Time for the framework's own message to be read before the offer comes up.
+/// Gives the user time to read the framework's own message before the offer comes up.
 constexpr std::chrono::milliseconds reofferDelay = 500ms;
 
-/// What a move to the Applications folder can cure.
+/// The errors that a move to the Applications folder cures.
 constexpr std::array<int, 4> curedByMoving{updateOnReadOnlyVolume, updateWhileTranslocated,
                                            updateCopyFailed, updateNotPermitted};
 
@@ -103,7 +103,7 @@ void Updater::didAbortWithError(const UpdateError& error) {
 
 void Updater::offerMoveAgain() {
     if (!hooks_.shouldAskToMove()) return;
-    // An earlier "Not now" was said before it stood in the way of an update.
+    // The user may have declined before the place stood in the way of an update: ask again.
     platform_.defaults.remove(AppMover::declinedKey);
     hooks_.askToMove();
 }

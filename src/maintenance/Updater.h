@@ -28,7 +28,7 @@ struct UpdaterHooks {
 
 /// Starts the update framework where the program can be updated, tells views what can be done with
 /// it, records usage events, and offers the move to the Applications folder again when an update
-/// failed for where the program lies. Lives on the main thread as long as the process.
+/// failed because of the place of the program. Lives on the main thread as long as the process.
 class Updater : public QObject, private UpdaterDelegate {
     Q_OBJECT
 
@@ -50,8 +50,8 @@ public:
         return available_ ? framework_.get() : nullptr;
     }
 
-    /// The user wants to know now: has the framework look for a new version, in front of all other
-    /// windows. Does nothing where it has not started.
+    /// Has the framework look for a new version, for a user who asked, and brings its windows to
+    /// the front. Does nothing while the framework has not started.
     void checkForUpdates() const;
 
 Q_SIGNALS:
@@ -75,7 +75,7 @@ private:
     bool canCheck_ = false;
     bool available_ = false;
     std::unique_ptr<Clock::Timer> reoffer_;
-    /// Last, so that it is gone before what it tells.
+    /// The last member, so that it is destroyed before what it calls.
     std::unique_ptr<UpdateFramework> framework_;
 };
 

@@ -6,7 +6,7 @@ namespace quillon {
 
 namespace {
 
-/// What an identifier is made of (reverse domain name, ASCII).
+/// An identifier is a reverse domain name in ASCII.
 bool belongsInIdentifier(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '.' ||
            c == '-';

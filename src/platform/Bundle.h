@@ -8,8 +8,8 @@
 
 namespace quillon {
 
-/// The program's name among programs: on the session bus, in file names, and the identifier of the
-/// bundles that its makers hand out.
+/// The program's unique name: on the session bus, in file names, and as the identifier of released
+/// bundles.
 inline constexpr const char* applicationIdentifier = "dev.vostrel.quillon";
 
 /// The program as it lies on disk: an application folder ("Quillon.app") or, where a package
@@ -25,10 +25,11 @@ struct Bundle {
     [[nodiscard]] std::optional<std::string> text(std::string_view key) const;
     /// Empty when the bundle names none.
     [[nodiscard]] std::string identifier() const { return text("CFBundleIdentifier").value_or(""); }
-    /// What the bundle's own folders among those of all programs are called: the identifier, or the
-    /// program's usual one where that could mean anything else, as a path or a single word might.
+    /// The name of the bundle's own folder below the cache and the like: the identifier, or the
+    /// program's usual one where the identifier could be taken for something else, such as a path
+    /// or a single word.
     [[nodiscard]] std::string folderName() const;
-    /// What the user knows as the version; "dev" when the bundle names none.
+    /// The version that the user sees; "dev" when the bundle names none.
     [[nodiscard]] std::string shortVersion() const {
         return text("CFBundleShortVersionString").value_or("dev");
     }

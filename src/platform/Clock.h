@@ -6,12 +6,12 @@
 
 namespace quillon {
 
-/// The time of day and everything that happens later. Tests drive a clock of their own.
+/// Tells the time of day and runs callbacks later. Tests drive a clock of their own.
 class Clock {
 public:
     using Time = std::chrono::system_clock::time_point;
 
-    /// A callback that is due; destroying it cancels the callback.
+    /// A callback that is still to come; destroying this cancels it.
     class Timer {
     public:
         Timer() = default;

@@ -2,13 +2,13 @@
 
 namespace quillon {
 
-/// Tells whether the desktop blends windows: without that there is no shadow, no see-through and no
-/// fading, and what is not painted is black.
+/// Tells whether the desktop blends windows. If it does not, windows have no shadow, transparency
+/// or fading, and unpainted areas are black.
 class Compositor {
 public:
     virtual ~Compositor() = default;
 
-    /// Cheap enough to ask each time a window is about to show; it may change at any time.
+    /// Cheap; ask each time a window is about to show, because the answer may change at any time.
     [[nodiscard]] virtual bool active() const = 0;
 };
 

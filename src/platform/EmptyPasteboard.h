@@ -4,7 +4,7 @@
 
 namespace quillon {
 
-/// A clipboard that never holds anything, for where there is none.
+/// A clipboard that never holds anything, used where the desktop has none.
 class EmptyPasteboard final : public Pasteboard {
 public:
     [[nodiscard]] std::uint64_t changeCount() const override { return 0; }

@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-/// What reading a file came to.
+/// The result of reading a file.
 struct FileReading {
     enum class Outcome {
         read,       ///< `bytes` holds the whole file
@@ -19,7 +19,8 @@ struct FileReading {
     QByteArray bytes;
 };
 
-/// Files by path, safe against whatever lies there. Thread-safe; errors are outcomes, never thrown.
+/// Reads and writes files by path, whatever kind of item lies there. Thread-safe; errors are
+/// outcomes, never exceptions.
 class FileSystem {
 public:
     virtual ~FileSystem() = default;
@@ -32,8 +33,8 @@ public:
     /// Replaces the content of the file in place; a new file is readable by its owner alone (0600).
     virtual bool write(const std::filesystem::path& path, const QByteArray& bytes) const = 0;
 
-    /// Replaces the file through a temporary one beside it, so that readers see the old or the new
-    /// content and nothing between.
+    /// Replaces the file through a temporary one beside it, so that readers see either the old or
+    /// the new content.
     virtual bool writeAtomically(const std::filesystem::path& path,
                                  const QByteArray& bytes) const = 0;
 

@@ -7,14 +7,14 @@
 
 namespace quillon {
 
-/// Files and whole folders as things to be moved about. What may take long runs off the main
-/// thread. Paths may hold any bytes; a symbolic link is itself, never what it points to, unless
-/// said otherwise.
+/// Moves, copies and removes files and whole folders. Long work runs off the main thread. Paths may
+/// hold any bytes; a symbolic link stands for itself, never for its target, unless a comment says
+/// otherwise.
 class FileTree {
 public:
     virtual ~FileTree() = default;
 
-    /// The path with every symbolic link followed, as far as it exists.
+    /// The path with every symbolic link resolved, as far as the path exists.
     [[nodiscard]] virtual std::filesystem::path
     resolved(const std::filesystem::path& path) const = 0;
     [[nodiscard]] virtual bool exists(const std::filesystem::path& path) const = 0;
@@ -23,17 +23,18 @@ public:
     /// Whether this user may take the item out of its folder, with all it holds.
     [[nodiscard]] virtual bool isDeletable(const std::filesystem::path& path) const = 0;
 
-    /// Moves to a path where nothing is yet, across file systems where need be. When false, the
-    /// item is still whole at `from`.
+    /// Moves to a path where nothing is yet, across file systems if necessary. If false, the item
+    /// is still whole at `from`.
     [[nodiscard]] virtual QFuture<bool> move(std::filesystem::path from,
                                              std::filesystem::path to) = 0;
     /// Copies with modes, times, extended attributes and links as they are, to a path where nothing
-    /// is yet. When false, nothing is there.
+    /// is yet. If false, nothing is there.
     [[nodiscard]] virtual QFuture<bool> copy(std::filesystem::path from,
                                              std::filesystem::path to) = 0;
     /// Removes the item with all it holds. True when nothing is there any more.
     [[nodiscard]] virtual QFuture<bool> remove(std::filesystem::path path) = 0;
-    /// Takes the extended attribute from the item and from everything in it. Failures are ignored.
+    /// Removes the extended attribute from the item and from everything in it. Failures are
+    /// ignored.
     [[nodiscard]] virtual QFuture<void> removeAttribute(std::filesystem::path root,
                                                         std::string name) = 0;
 };

@@ -4,14 +4,14 @@
 
 namespace quillon {
 
-/// Where this user's files go. All paths are absolute.
+/// The folders for this user's files. All paths are absolute.
 struct Folders {
     std::filesystem::path home;
     std::filesystem::path data;
     std::filesystem::path cache;
     std::filesystem::path state;
     std::filesystem::path config;
-    /// The applications of all users; a parameter only so that tests need not be root.
+    /// The applications of all users. Tests set another folder, so that they need not run as root.
     std::filesystem::path applications = "/Applications";
 };
 

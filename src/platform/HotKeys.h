@@ -5,11 +5,11 @@
 
 namespace quillon {
 
-/// A key by its place on the keyboard, whatever the layout makes of it; named for what stands there
-/// on a US keyboard.
+/// A key by its place on the keyboard, independent of the layout. The names are those of a US
+/// keyboard.
 enum class PhysicalKey { v, p, c };
 
-/// Keys that reach the program whichever window has the focus.
+/// Keys that reach the program no matter which window has the focus.
 class HotKeys {
 public:
     /// A hot key that works until this is destroyed.
@@ -23,16 +23,16 @@ public:
 
     virtual ~HotKeys() = default;
 
-    /// Sets what is called, on the main thread, each time a registered hot key is pressed: once for
-    /// each press, however long the key is held. To be called once.
+    /// Sets the function that is called on the main thread once for each press of a registered hot
+    /// key, however long the key is held. Call this once.
     virtual void installHandler(std::function<void()> handler) = 0;
 
     /// Makes the key a hot key while Control and Alt are held, and no other modifier but locks.
-    /// Null when that was refused, as when another program has it.
+    /// Null if that was refused, for example because another program has it.
     [[nodiscard]] virtual std::unique_ptr<Registration> registerHotKey(PhysicalKey key) = 0;
 };
 
-/// Hot keys where there is no keyboard to share: each is refused.
+/// Refuses every hot key; used where the desktop offers none.
 class NoHotKeys final : public HotKeys {
 public:
     void installHandler(std::function<void()> /*handler*/) override {}

@@ -18,51 +18,52 @@ namespace quillon {
 struct HttpRequest {
     /// May hold the bot token: nothing prints, logs or throws it.
     std::string url;
-    /// One with an empty value is left out, even where the transport would add it by itself.
+    /// A header with an empty value is left out, even if the transport would add it by itself.
     std::vector<std::pair<std::string, std::string>> headers;
-    /// Sent one after another as one body; the bytes are shared, never copied.
+    /// The pieces are sent one after another as one body; their bytes are shared, never copied.
     std::vector<QByteArray> body;
-    /// How long nothing may move in either direction before the transfer has failed.
+    /// The transfer fails after no byte has moved in either direction for this long.
     std::chrono::milliseconds inactivityTimeout{std::chrono::seconds{30}};
-    /// How long the whole transfer may take; 0 for as long as it moves.
+    /// The limit for the whole transfer; 0 for none.
     std::chrono::milliseconds totalTimeout{0};
-    /// Told on the main thread, a few times a second, how many bytes of the body have gone out.
+    /// Called on the main thread, a few times a second, with how many bytes of the body have gone
+    /// out.
     std::function<void(qint64 sent, qint64 total)> progress;
-    /// A request to stop ends the transfer soon, as a failed one.
+    /// A request to stop soon ends the transfer as a failed one.
     std::stop_token stop{};
 };
 
-/// Whatever a server answered, whole.
+/// A server's complete answer.
 struct HttpReply {
     int status = 0;
     QByteArray body;
 };
 
-/// One file to be fetched.
+/// One file to fetch.
 struct HttpDownload {
     std::string url;
-    /// Where the bytes go: a path where nothing is yet, in a folder of this user alone. The file is
-    /// for its owner alone (0600), and gone again when the download fails.
+    /// The bytes go to this path, where nothing is yet, in a folder of this user alone. The file is
+    /// readable by its owner alone (0600) and is removed when the download fails.
     std::filesystem::path file;
-    /// What is larger has failed, in bytes.
+    /// A larger file counts as failed, in bytes.
     qint64 maximumSize = 0;
-    /// How long nothing may move before the download has failed.
+    /// The download fails after nothing has moved for this long.
     std::chrono::milliseconds inactivityTimeout{std::chrono::seconds{30}};
-    /// Told on the main thread, a few times a second, how many bytes have come; `total` is -1 where
-    /// the server does not say.
+    /// Called on the main thread, a few times a second, with how many bytes have come; `total` is
+    /// -1 where the server does not say.
     std::function<void(qint64 received, qint64 total)> progress;
     /// A request to stop ends the download soon.
     std::stop_token stop;
 };
 
-/// What a download came to.
+/// The result of a download.
 enum class DownloadOutcome {
     done,
     failed,     ///< no network, host not trusted, another status than 200, connection lost…
     tooLarge,   ///< announced as or grown larger than the maximum
     unwritable, ///< the file could not be made or written
     diskFull,
-    stopped, ///< as was asked for
+    stopped, ///< at the caller's request
 };
 
 /// HTTP requests that run off the main thread.

@@ -22,7 +22,7 @@ class UserDefaults;
 class Workspace;
 
 /// The services of the desktop that the program runs on. Its owner keeps them alive for longer than
-/// whatever uses them.
+/// everything that uses them.
 struct Platform {
     Clock& clock;
     FileSystem& files;
@@ -38,7 +38,7 @@ struct Platform {
     Bundle bundle;
     Folders folders;
     SystemInfo system;
-    /// Where settings, history and usage events live.
+    /// The folder of settings, history and usage events.
     std::filesystem::path dataFolder;
     /// Scheme and host of the Bot API, without a slash at the end.
     std::string botApi;

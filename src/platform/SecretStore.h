@@ -17,9 +17,9 @@ struct KeychainItem {
     bool operator==(const KeychainItem&) const = default;
 };
 
-/// The user's keyring. No operation reports a failure: what cannot be done is none, false or
-/// nothing. Each gives up 5 seconds after its turn has come or the user, who may take any time, has
-/// answered the question to unlock or create a keyring.
+/// The user's keyring. No operation reports why it failed: it gives none or false, or does nothing.
+/// Each gives up 5 seconds after its turn has come. If the user is asked to unlock or create a
+/// keyring, the user may take any time, and the 5 seconds begin anew with the answer.
 class SecretStore {
 public:
     virtual ~SecretStore() = default;

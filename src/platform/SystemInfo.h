@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-/// What the machine says of itself.
+/// The machine's description of itself.
 struct SystemInfo {
     /// Major, minor and patch number, as in "6.1.0".
     std::string version;

@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-/// Why an update did not come to be.
+/// The reason why an update failed.
 struct UpdateError {
     std::string domain;
     int code = 0;
@@ -20,7 +20,7 @@ struct UpdateError {
 /// The domain of the update framework's own errors.
 inline constexpr std::string_view SUSparkleErrorDomain = "SUSparkleErrorDomain";
 
-/// Errors that have to do with where the application lies.
+/// Errors about the place where the application lies.
 enum UpdateErrorCode {
     updateOnReadOnlyVolume = 1003,
     updateWhileTranslocated = 1005,
@@ -28,10 +28,10 @@ enum UpdateErrorCode {
     updateNotPermitted = 4012,
 };
 
-/// What set a check off.
+/// What started a check.
 enum class UpdateCheck { inBackground, byUser, forInformation };
 
-/// Whoever is told what the framework does, and may have a say in it. All on the main thread.
+/// Is told what the framework does, and decides on some of it. All calls come on the main thread.
 class UpdaterDelegate {
 public:
     virtual ~UpdaterDelegate() = default;
@@ -41,7 +41,7 @@ public:
     /// A check or an installation has ended with an error. The user has been shown it, unless the
     /// check was in the background.
     virtual void didAbortWithError(const UpdateError& error) = 0;
-    /// An update will be installed when the program quits. True when the delegate takes over when.
+    /// An update will be installed when the program quits. True if the delegate decides when.
     virtual bool willInstallUpdateOnQuit() = 0;
     /// Whether an update found by a scheduled check may be shown without taking the focus.
     virtual bool supportsGentleScheduledUpdateReminders() = 0;
@@ -54,13 +54,13 @@ class UpdateFramework {
 public:
     virtual ~UpdateFramework() = default;
 
-    /// Begins its schedule; none when it runs. `delegate` outlives the framework.
+    /// Starts the schedule; none if that succeeded. `delegate` outlives the framework.
     [[nodiscard]] virtual std::optional<UpdateError> start(UpdaterDelegate& delegate) = 0;
 
     /// Calls `observer` with whether a check can start now: at once, and at every change.
     virtual void observeCanCheck(std::function<void(bool)> observer) = 0;
 
-    /// Checks now and shows what came out; does nothing while a check cannot start.
+    /// Checks now and shows the result; does nothing while a check cannot start.
     virtual void checkForUpdates() = 0;
 
     /// Whether it checks by itself, once a day. Kept from one start to the next.

@@ -7,7 +7,7 @@
 namespace quillon {
 
 /// The program's preferences: small values by key, kept from one start to the next. A write is on
-/// disk when it returns; one that fails is dropped, and the value holds until the process ends.
+/// disk when it returns. If writing fails, the value still holds until the process ends.
 class UserDefaults {
 public:
     virtual ~UserDefaults() = default;

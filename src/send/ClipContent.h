@@ -11,14 +11,14 @@
 /// What the clipboard holds, as the rest of the program sees it.
 namespace quillon {
 
-/// References to files or folders, in the clipboard's order; never without one.
+/// The paths of at least one file or folder, in the clipboard's order.
 struct ClipFiles {
     std::vector<std::filesystem::path> paths;
 
     bool operator==(const ClipFiles&) const = default;
 };
 
-/// A bitmap as PNG, and the text copied with it, exactly as it stood there.
+/// A bitmap as PNG, and the text that was copied with it, unchanged.
 struct ClipImage {
     QByteArray png;
     std::optional<std::string> text;

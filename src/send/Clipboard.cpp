@@ -26,7 +26,7 @@ using Paths = std::vector<std::filesystem::path>;
 /// thread pool.
 constexpr qsizetype longText = 100'000;
 
-/// Looks taken at a clipboard that changes while it is being read.
+/// How often a clipboard is read that changes each time while it is being read.
 constexpr int maximumLooks = 3;
 
 QCoro::Task<std::optional<QByteArray>> bytesOf(Pasteboard& pasteboard, std::string format) {
@@ -126,7 +126,7 @@ QCoro::Task<ClipContent> read(Pasteboard& pasteboard) {
     for (int looks = 1;; ++looks) {
         const auto before = pasteboard.changeCount();
         ClipContent content = co_await look(pasteboard);
-        // Formats of one owner and data of another make no content.
+        // When the owner has changed meanwhile, formats and data may not belong together.
         const bool changed = pasteboard.changeCount() != before;
         if (!changed || looks == maximumLooks) co_return content;
     }

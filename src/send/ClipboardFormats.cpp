@@ -26,7 +26,7 @@ struct TextEntry {
     TextCoding coding;
 };
 
-// UTF8_STRING first: some toolkits rewrite line ends for the media types.
+// UTF8_STRING comes first, because some toolkits rewrite line ends for the media types.
 constexpr std::array textTable{
     TextEntry{"utf8_string", TextCoding::utf8},
     TextEntry{"text/plain;charset=utf-8", TextCoding::utf8},
@@ -38,7 +38,7 @@ constexpr std::array textTable{
 
 constexpr std::string_view pngName = "image/png";
 
-// After TIFF, those without loss first.
+// After TIFF, lossless formats come first.
 constexpr std::array otherBitmapNames{
     std::string_view{"image/tiff"},   std::string_view{"image/bmp"},
     std::string_view{"image/x-bmp"},  std::string_view{"image/x-ms-bmp"},
@@ -75,7 +75,7 @@ std::optional<unsigned> hexDigit(char digit) {
     return {};
 }
 
-/// A "%" that two hexadecimal digits do not follow stands for itself: not every owner encodes it.
+/// A "%" without two hexadecimal digits behind it stays as it is, since not every owner encodes it.
 std::string percentDecoded(std::string_view text) {
     std::string decoded;
     decoded.reserve(text.size());
@@ -163,8 +163,8 @@ std::vector<std::string> otherBitmaps(const std::vector<std::string>& offered) {
 }
 
 std::vector<std::filesystem::path> decodedPaths(const QByteArray& list, std::string_view machine) {
-    // The comments of text/uri-list and the "copy" or "cut" of the desktops' own lists are no file
-    // URLs and go the way of web links.
+    // Comments in text/uri-list, and "copy" or "cut" in the desktops' own lists, are no file URLs
+    // and are left out as web links are.
     std::vector<std::filesystem::path> paths;
     for (const std::string_view line : lines(withoutTrailingNul(asText(list)))) {
         if (auto path = decodedPath(line, machine)) paths.push_back(std::move(*path));

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-/// Rules on the formats in which programs of this desktop offer what was copied: which of them
-/// stand for files, text and images, and how the bytes are to be read.
+/// Rules on the formats in which programs offer what was copied: which of them hold files, text and
+/// images, and how to read the bytes.
 namespace quillon::ClipboardFormats {
 
 enum class TextCoding { utf8, latin1 };
@@ -21,7 +21,7 @@ struct TextFormat {
     bool operator==(const TextFormat&) const = default;
 };
 
-// Which of the offered formats stand for what is asked, as their owner spells them.
+// Each picks from the offered formats, and gives names as the owner spells them.
 
 /// The best first.
 [[nodiscard]] std::vector<std::string> fileLists(const std::vector<std::string>& offered);
@@ -30,13 +30,13 @@ struct TextFormat {
 /// Images to be converted to PNG, the best first, which is TIFF.
 [[nodiscard]] std::vector<std::string> otherBitmaps(const std::vector<std::string>& offered);
 
-/// The files of this machine, which bears the name `machine`, that a list names, in its order. A
-/// path may hold any byte but NUL; the slash at a folder's end is dropped. Other URLs and what is
-/// no URL are left out.
+/// The local files that a list of URLs names, in its order; `machine` is the name of this machine.
+/// A path may hold any byte but NUL, and loses the slash at its end. Leaves out other URLs, and
+/// what is no URL.
 [[nodiscard]] std::vector<std::filesystem::path> decodedPaths(const QByteArray& list,
                                                               std::string_view machine);
 
-/// Valid UTF-8, without the NUL that some owners end a text with; whatever is not valid has become
+/// The text as valid UTF-8, without the NUL that some owners end it with. Invalid bytes become
 /// U+FFFD.
 [[nodiscard]] std::string decodedText(const QByteArray& bytes, TextCoding coding);
 

@@ -14,13 +14,13 @@ namespace quillon {
 inline constexpr TextLimit messageLimit{.characters = 3900, .codePoints = 4096};
 /// The Bot API's limit for captions is 1,024 code points.
 inline constexpr TextLimit captionLimit{.characters = 1024, .codePoints = 1024};
-/// How long a title in the history may be. No writing needs as many code points; a text made to
-/// annoy, with endless accents on one letter, does.
+/// How long a title in the history may be. Only texts with endless accents on one letter reach the
+/// limit of code points.
 inline constexpr TextLimit titleLimit{.characters = 60, .codePoints = 2000};
 
-/// The messages that carry a copied text, in order: each chunk as preformatted HTML. A chunk of
-/// blanks alone is left out, since the Bot API refuses a message without visible text; not so where
-/// all are, for then Telegram is to say it.
+/// The messages that carry a copied text, in order: each chunk as preformatted HTML. Chunks of
+/// blanks alone are left out, since the Bot API refuses a message without visible text. If all
+/// chunks are blank they are kept, so that the user sees Telegram's own error.
 [[nodiscard]] std::vector<std::string> textMessages(std::string_view text);
 
 /// The caption made of the text copied with an image; none when it is blank.

@@ -14,8 +14,8 @@ struct Outcome {
     bool ok = true;
 };
 
-/// All sent: "Sent to " and the topic when there is one only, else how many items. Some failed: how
-/// many of each. All failed: the first failure's own message.
+/// If all were sent, the text is "Sent to " with the topic, or the number of items for several
+/// topics. If some failed, it counts both. If all failed, it is the first failure's own message.
 [[nodiscard]] Outcome outcome(const std::vector<Sent>& entries);
 
 } // namespace quillon

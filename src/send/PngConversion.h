@@ -7,8 +7,9 @@
 
 namespace quillon {
 
-/// A bitmap in any format that the image plug-ins read (TIFF, BMP, JPEG, WebP…), upright, as PNG;
-/// none when it cannot be decoded or takes more than 512 MB decoded. Works on the thread pool.
+/// Converts a bitmap in any format that the image plug-ins read (TIFF, BMP, JPEG, WebP…) to an
+/// upright PNG, on the thread pool. None when it cannot be decoded, or takes more than 512 MB
+/// decoded.
 [[nodiscard]] QFuture<std::optional<QByteArray>> convertToPng(QByteArray bitmap);
 
 } // namespace quillon

@@ -1,5 +1,4 @@
 // Connecting the user's bot and forgetting it again.
-#include "analytics/Analytics.h"
 #include "base/Text.h"
 #include "base/Translate.h"
 #include "platform/Platform.h"
@@ -10,6 +9,7 @@
 namespace quillon {
 
 QCoro::Task<std::string> Store::connectBot(std::string pasted) {
+    const auto turn = co_await setupActions_.turn();
     const std::string token{trimmed(pasted)};
     if (token.find(':') == token.npos) {
         throw TelegramError{translate(
@@ -19,19 +19,20 @@ QCoro::Task<std::string> Store::connectBot(std::string pasted) {
     const Json me = co_await tg.call("getMe", Json::object());
     const std::string name = textMember(me, "username").value_or("your bot");
 
-    // All at once, so that nothing else the store does comes in between; the keyring follows. When
-    // it refuses, the token lives on in memory for this run.
+    // The state changes at once, so that nothing else comes in between; the keyring follows. If it
+    // refuses, the token stays in memory for this run.
     const QFuture<bool> saved = platform_.secrets.save(botTokenItem(), token);
     cachedToken_ = token;
     ++tokenChanges_;
     publish(tokenSaved_, true);
     changeConfig([&name](Config& config) { config.botName = name; });
-    analytics_.track("setup_step", {{"step", "bot_connected"}});
+    Q_EMIT setupStepDone(SetupStep::botConnected);
     co_await saved;
     co_return name;
 }
 
 QCoro::Task<bool> Store::forgetBot() {
+    const auto turn = co_await setupActions_.turn();
     const QFuture<bool> removed = platform_.secrets.remove(botTokenItem());
     cachedToken_.reset();
     ++tokenChanges_;

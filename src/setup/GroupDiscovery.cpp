@@ -1,5 +1,4 @@
 // Finding the user's group through the bot's recent updates.
-#include "analytics/Analytics.h"
 #include "base/Translate.h"
 #include "setup/GroupUpdates.h"
 #include "state/Store.h"
@@ -23,10 +22,11 @@ std::string topicsAreOff(const Json& chat) {
 } // namespace
 
 QCoro::Task<> Store::findGroup() {
+    const auto turn = co_await setupActions_.turn();
     const std::optional<Telegram> tg = co_await telegram();
     if (!tg) throw TelegramError{translate("Setup", "Connect your bot first.")};
 
-    // Without an offset the updates stay with Telegram, and creating the topics reads them again.
+    // No offset is given, so the updates stay with Telegram for createTopics() to read again.
     Json params{{"allowed_updates", Json::array({"message", "my_chat_member"})}};
     const Json updates = co_await tg->call("getUpdates", std::move(params));
     const std::optional<std::int64_t> group = latestGroup(updates);
@@ -45,7 +45,7 @@ QCoro::Task<> Store::findGroup() {
         config.chatId = group;
         config.chatTitle = textMember(chat, "title");
     });
-    analytics_.track("setup_step", {{"step", "group_found"}});
+    Q_EMIT setupStepDone(SetupStep::groupFound);
 }
 
 } // namespace quillon

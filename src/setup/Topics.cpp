@@ -1,5 +1,4 @@
 // Creating the forum topics, finding them again, and giving them new names.
-#include "analytics/Analytics.h"
 #include "base/Translate.h"
 #include "setup/GroupUpdates.h"
 #include "state/Store.h"
@@ -15,7 +14,7 @@ bool saysNotModified(const TelegramError& error) {
     return QString::fromStdString(error.message).toUpper().contains(QLatin1String{"NOT_MODIFIED"});
 }
 
-/// Gives the topic its name; one that has it already is fine.
+/// Gives the topic its name. Does not fail when it has that name already.
 QCoro::Task<> editTopic(Telegram tg, std::int64_t chat, std::int64_t thread, std::string name) {
     Json params{{"chat_id", chat}, {"message_thread_id", thread}, {"name", name}};
     try {
@@ -27,7 +26,7 @@ QCoro::Task<> editTopic(Telegram tg, std::int64_t chat, std::int64_t thread, std
 
 using TopicThreads = std::map<std::string, std::int64_t>;
 
-/// The topics that exist in the group as far as Telegram still tells; empty when it does not.
+/// The group's topics, as far as Telegram's recent updates tell; empty when the call fails.
 QCoro::Task<TopicThreads> knownTopics(Telegram tg, std::int64_t chat) {
     Json params{{"allowed_updates", Json::array({"message"})}};
     Json updates;
@@ -39,7 +38,7 @@ QCoro::Task<TopicThreads> knownTopics(Telegram tg, std::int64_t chat) {
     co_return topicThreads(updates, chat);
 }
 
-/// The thread that is known by the name, when it still is a topic of the group.
+/// The known thread of the name, if it still is a topic of the group.
 QCoro::Task<std::optional<std::int64_t>> existingThread(Telegram tg, std::int64_t chat,
                                                         TopicThreads known, std::string name) {
     const auto found = known.find(name);
@@ -76,16 +75,14 @@ std::string welcome(ShortcutChoice shortcut) {
 } // namespace
 
 QCoro::Task<> Store::createTopics() {
+    const auto turn = co_await setupActions_.turn();
     const std::optional<Telegram> tg = co_await telegram();
     if (!tg || !config_.chatId) throw TelegramError{translate("Setup", "Find your group first.")};
     const std::int64_t chat = *config_.chatId;
     const TopicThreads known = co_await knownTopics(*tg, chat);
 
     const auto storeThread = [this](std::size_t index, std::optional<std::int64_t> thread) {
-        changeConfig([&](Config& config) {
-            // The list may have become another one while Telegram answered.
-            if (index < config.topics.size()) config.topics[index].threadId = thread;
-        });
+        changeConfig([&](Config& config) { config.topics.at(index).threadId = thread; });
     };
     bool created = false;
     for (std::size_t index = 0; index < config_.topics.size(); ++index) {
@@ -98,16 +95,18 @@ QCoro::Task<> Store::createTopics() {
         }
         storeThread(index, thread);
     }
-    analytics_.track("setup_step", {{"step", created ? "topics_created" : "topics_reused"}});
+    Q_EMIT setupStepDone(created ? SetupStep::topicsCreated : SetupStep::topicsReused);
     if (!created) co_return;
 
-    Json params{{"chat_id", chat},
-                {"message_thread_id", topicFor("notes").threadId.value_or(0)},
-                {"text", welcome(config_.shortcut)}};
+    Json params{
+        {"chat_id", chat},
+        {"message_thread_id", topicFor(config_.topics, TopicKind::notes).threadId.value_or(0)},
+        {"text", welcome(config_.shortcut)}};
     co_await tg->call("sendMessage", std::move(params));
 }
 
 QCoro::Task<> Store::renameTopics() {
+    const auto turn = co_await setupActions_.turn();
     const std::optional<Telegram> tg = co_await telegram();
     if (!tg || !config_.chatId) co_return;
     const std::int64_t chat = *config_.chatId;

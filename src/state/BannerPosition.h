@@ -1,21 +1,20 @@
 #pragma once
 
-#include <array>
-#include <optional>
+#include "base/RawValue.h"
+
 #include <string>
-#include <string_view>
 
 namespace quillon {
 
 /// Where the confirmation banner appears; the order is that of the position picker.
 enum class BannerPosition { top, middle, bottom };
 
-inline constexpr std::array allBannerPositions{BannerPosition::top, BannerPosition::middle,
-                                               BannerPosition::bottom};
-
 /// How the position is stored in config.json and reported.
-[[nodiscard]] std::string_view rawValue(BannerPosition position);
-[[nodiscard]] std::optional<BannerPosition> bannerPosition(std::string_view rawValue);
+template <>
+inline constexpr std::array<std::string_view, 3> rawValues<BannerPosition>{"top", "middle",
+                                                                           "bottom"};
+
+inline constexpr auto allBannerPositions = allValues<BannerPosition>;
 
 /// What the position picker shows: a word and a symbol name.
 [[nodiscard]] std::string label(BannerPosition position);

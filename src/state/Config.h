@@ -32,8 +32,8 @@ struct Config {
 /// absent optional fields are left out.
 [[nodiscard]] std::string encodeConfig(const Config& config);
 
-/// Reads config.json. A key that is missing or null has its default; so has a "shortcut" or
-/// "bannerPosition" of any unknown value. None when the bytes are not a JSON object or any other
+/// Reads config.json. A missing or null key takes its default, and so does a "shortcut" or
+/// "bannerPosition" of an unknown value. Gives none when the bytes are no JSON object or another
 /// key holds a value of the wrong type.
 [[nodiscard]] std::optional<Config> decodeConfig(std::string_view bytes);
 

@@ -11,7 +11,7 @@ inline constexpr std::string_view configFile = "config.json";
 inline constexpr std::string_view historyFile = "history.json";
 inline constexpr std::string_view eventsFile = "events.json";
 
-/// None of those files comes near this size, in bytes; a larger one is not ours and not read.
+/// In bytes. Our files stay far below this size, so a larger one is not ours and is not read.
 inline constexpr qint64 maximumDataFileSize = 4'000'000;
 
 } // namespace quillon

@@ -1,6 +1,6 @@
 #include "state/Sent.h"
 
-#include "base/Json.h"
+#include "base/JsonDecoding.h"
 #include "base/Uuid.h"
 
 #include <algorithm>
@@ -12,12 +12,13 @@ namespace {
 /// 2001-01-01 00:00:00 UTC.
 constexpr Date referenceDate{std::chrono::sys_days{std::chrono::year{2001} / 1 / 1}};
 
-/// The UUID in its 36-character form, in either case; none for anything else.
-std::optional<QUuid> uuidFromText(const std::string& text) {
+/// The UUID in its 36-character form, in either case.
+QUuid uuidFromText(const std::string& text) {
     const QUuid id = QUuid::fromString(QString::fromStdString(text));
     const bool standardForm = QString::fromStdString(text).compare(
                                   id.toString(QUuid::WithoutBraces), Qt::CaseInsensitive) == 0;
-    return standardForm ? std::optional{id} : std::nullopt;
+    if (!standardForm) throw Undecodable{};
+    return id;
 }
 
 Json sentToJson(const Sent& sent) {
@@ -30,24 +31,18 @@ Json sentToJson(const Sent& sent) {
     return object;
 }
 
-std::optional<Sent> sentFromJson(const Json& object) {
-    const auto id = uuidFromText(textMember(object, "id").value_or(""));
-    const auto symbol = textMember(object, "symbol");
-    const auto title = textMember(object, "title");
-    const auto topic = textMember(object, "topic");
-    const Json* date = member(object, "date");
-    const Json* error = member(object, "error");
-    const bool errorUsable = error == nullptr || error->is_null() || error->is_string();
-    if (!id || !symbol || !title || !topic || date == nullptr || !date->is_number() ||
-        !errorUsable) {
-        return std::nullopt;
-    }
-    return Sent{.id = *id,
-                .symbol = *symbol,
-                .title = *title,
-                .topic = *topic,
-                .date = referenceDate + std::chrono::duration<double>{date->get<double>()},
-                .error = textMember(object, "error")};
+Sent sentFromJson(const Json& object) {
+    const std::chrono::duration<double> sinceReference{requiredField<double>(object, "date")};
+    return {.id = uuidFromText(requiredField<std::string>(object, "id")),
+            .symbol = requiredField<std::string>(object, "symbol"),
+            .title = requiredField<std::string>(object, "title"),
+            .topic = requiredField<std::string>(object, "topic"),
+            .date = referenceDate + sinceReference,
+            .error = optionalField<std::string>(object, "error")};
+}
+
+std::vector<Sent> historyFromJson(const Json& array) {
+    return decodedList(array, sentFromJson);
 }
 
 } // namespace
@@ -61,15 +56,7 @@ std::string encodeHistory(const std::vector<Sent>& history) {
 }
 
 std::vector<Sent> decodeHistory(std::string_view bytes) {
-    const std::optional<Json> array = parseJson(bytes);
-    if (!array || !array->is_array()) return {};
-    std::vector<Sent> history;
-    for (const Json& element : *array) {
-        std::optional<Sent> sent = sentFromJson(element);
-        if (!sent) return {};
-        history.push_back(std::move(*sent));
-    }
-    return history;
+    return decoded(bytes, historyFromJson).value_or(std::vector<Sent>{});
 }
 
 } // namespace quillon

@@ -13,7 +13,7 @@ namespace quillon {
 
 namespace {
 
-/// The file's content; none when it cannot be read as a file of ours.
+/// The file's content; none when it cannot be read or is too large to be ours.
 std::optional<QByteArray> readDataFile(const Platform& platform, std::string_view file) {
     FileReading reading = platform.files.read(platform.dataFolder / file, maximumDataFileSize);
     if (reading.outcome != FileReading::Outcome::read) return std::nullopt;
@@ -28,10 +28,10 @@ const KeychainItem& botTokenItem() {
     return item;
 }
 
-Store::Store(Platform& platform, Analytics& analytics, Banner& banner)
+Store::Store(Platform& platform, Banner& banner, Hotkey& hotkey)
     : platform_{platform},
-      analytics_{analytics},
       banner_{banner},
+      hotkey_{hotkey},
       tokenSaved_{platform.secrets.exists(botTokenItem())} {
     load();
 }
@@ -68,7 +68,7 @@ void Store::setConfig(Config config) {
     const Config previous = config_;
     publish(config_, std::move(config));
     save(configFile, encodeConfig(config_));
-    trackSettings(previous);
+    Q_EMIT configChanged(previous, config_);
 }
 
 void Store::changeConfig(const std::function<void(Config&)>& change) {
@@ -87,21 +87,24 @@ bool Store::isReady() const {
     return tokenSaved_ && isConnected();
 }
 
-Topic Store::topicFor(std::string_view key) const {
-    const std::vector<Topic>& topics = config_.topics.empty() ? Topic::defaults() : config_.topics;
-    const auto found = std::ranges::find(topics, key, &Topic::key);
-    return found == topics.end() ? topics.front() : *found;
-}
-
 QCoro::Task<std::optional<Telegram>> Store::telegram() {
     if (!cachedToken_) {
         const int changes = tokenChanges_;
         std::optional<std::string> stored = co_await platform_.secrets.read(botTokenItem());
-        // What the user has connected or forgotten meanwhile is newer than what was read.
+        // If the user has connected or forgotten a bot meanwhile, that is newer than this answer.
         if (changes == tokenChanges_) cachedToken_ = std::move(stored);
     }
     if (!cachedToken_) co_return std::nullopt;
     co_return telegramFor(*cachedToken_);
+}
+
+QCoro::Task<std::optional<Recipient>> Store::recipient() {
+    if (!isReady()) co_return std::nullopt;
+    std::optional<Telegram> client = co_await telegram();
+    // The user may have forgotten the group while the keyring was asked.
+    if (!client || !config_.chatId) co_return std::nullopt;
+    co_return Recipient{
+        .client = *std::move(client), .chat = *config_.chatId, .topics = config_.topics};
 }
 
 Telegram Store::telegramFor(std::string token) const {

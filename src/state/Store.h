@@ -1,28 +1,27 @@
 #pragma once
 
 #include "platform/SecretStore.h"
+#include "state/ActionQueue.h"
 #include "state/Config.h"
+#include "state/Recipient.h"
+#include "state/SendInfo.h"
 #include "state/Sent.h"
 #include "telegram/Telegram.h"
 
 #include <QCoroTask>
 #include <QObject>
 
-#include <cstdint>
-#include <filesystem>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace quillon {
 
-class Analytics;
 class Banner;
 class Hotkey;
+struct BannerMessage;
 struct Platform;
 
 /// The bot token's place in the keyring, the only place where it persists.
@@ -35,29 +34,16 @@ class Store : public QObject {
     Q_OBJECT
 
 public:
-    /// What one item's send looked like, for the usage events alone.
-    struct SendInfo {
-        /// "text", "image", "video" or "file".
-        std::string kind;
-        /// UTF-8 length of a text, length of the PNG data, or size of a file; 0 for a folder or a
-        /// file that could not be read.
-        std::int64_t bytes = 0;
-        /// Absent when sent, else "folder", "unreadable", "too_big", "no_internet" or
-        /// "telegram_error".
-        std::optional<std::string> reason;
+    /// A step of the setup that the user has finished.
+    enum class SetupStep { botConnected, groupFound, topicsCreated, topicsReused };
 
-        bool operator==(const SendInfo&) const = default;
-    };
-
-    /// What sending one item came to.
-    using Item = std::pair<Sent, SendInfo>;
-
-    /// Creates the data folder and loads settings and history from it. What cannot be read has its
-    /// default; nothing is written. Asks the keyring whether a token is stored.
-    Store(Platform& platform, Analytics& analytics, Banner& banner);
+    /// Creates the data folder and loads settings and history from it; a file that cannot be read
+    /// counts as missing, and none is written. Asks the keyring whether a token is stored. Banner
+    /// and hot key outlive the store.
+    Store(Platform& platform, Banner& banner, Hotkey& hotkey);
 
     [[nodiscard]] const Config& config() const { return config_; }
-    /// Replaces the settings: announces, saves config.json, reports changed settings.
+    /// Replaces the settings: announces the change before and after, and saves config.json.
     void setConfig(Config config);
     /// Changes the settings in place, as setConfig does.
     void changeConfig(const std::function<void(Config&)>& change);
@@ -83,25 +69,25 @@ public:
 
     /// Ends all writing for good, before the application's data is removed.
     void stopPersisting() { persist_ = false; }
-    /// Whoever wants to show how far an upload has come; told on the main thread.
-    void setSendProgress(SendProgress progress) { sendProgress_ = std::move(progress); }
+    [[nodiscard]] bool persists() const { return persist_; }
 
-    /// Makes the shortcut of the settings the one that sends, and tells by shortcutTaken() whether
-    /// that worked.
+    /// Registers the shortcut of the settings in place of the one before. shortcutTaken() tells
+    /// whether that worked, and shortcutPressed() announces each press.
     void registerShortcut();
-    /// Has the desktop open the program at login, or no longer. A failure passes in silence:
-    /// launchAtLogin() tells what it came to.
+    /// Has the desktop open the program at login, or stop doing so. Reports no failure:
+    /// launchAtLogin() tells the result.
     void setLaunchAtLogin(bool opens);
 
-    /// Sends what is on the clipboard. `via` names the trigger for the usage events: "shortcut",
-    /// "button" or "command". Reports by banner, sound and history; never throws. Ignored while
-    /// another send runs.
-    [[nodiscard]] QCoro::Task<> sendClipboard(std::string via);
+    /// Sends what is on the clipboard. Reports by banner, sound and history; never throws. Ignored
+    /// while another send runs. `progress` is told on the main thread how far an upload has come.
+    [[nodiscard]] QCoro::Task<> sendClipboard(Trigger via, SendProgress progress = {});
+
+    // The actions of the setup. One works at a time, the others wait for it in their order.
 
     /// Checks the token with Telegram, stores it and gives the bot's name. Throws TelegramError.
     [[nodiscard]] QCoro::Task<std::string> connectBot(std::string token);
-    /// Removes the token and everything learnt about the group. Ends when the keyring has answered,
-    /// with whether it holds none now; the state has changed before.
+    /// Removes the token and everything learnt about the group. The state changes at once; the task
+    /// ends when the keyring has answered, with whether the keyring holds no token now.
     [[nodiscard]] QCoro::Task<bool> forgetBot();
     /// Finds the group in the bot's recent updates. Throws TelegramError.
     [[nodiscard]] QCoro::Task<> findGroup();
@@ -115,6 +101,16 @@ Q_SIGNALS:
     /// A published field is about to change.
     void objectWillChange();
 
+    // What happened, just after it did.
+    void configChanged(const Config& old, const Config& now);
+    void launchAtLoginChanged(bool opens);
+    void shortcutPressed();
+    void setupStepDone(Store::SetupStep step);
+    /// A send has ended; one record for each item, in the order sent.
+    void sent(const std::vector<SendInfo>& items, Trigger via);
+    /// There was nothing to send with, since the setup is not finished.
+    void sendRefused();
+
 private:
     void load();
     void save(std::string_view file, const std::string& content) const;
@@ -122,34 +118,22 @@ private:
     template <typename T>
     void publish(T& field, T value);
 
-    /// The first topic with the key; the first topic when none has it. A list without any topic
-    /// (only a hand-edited config.json has one) gives the default topic of that key, which has no
-    /// thread: what is sent there goes to the group's general topic.
-    [[nodiscard]] Topic topicFor(std::string_view key) const;
     /// A client for the stored token, read from the keyring on first use; none without a token.
     [[nodiscard]] QCoro::Task<std::optional<Telegram>> telegram();
     [[nodiscard]] Telegram telegramFor(std::string token) const;
+    /// Where to send to now; none while the setup is not finished.
+    [[nodiscard]] QCoro::Task<std::optional<Recipient>> recipient();
 
-    [[nodiscard]] QCoro::Task<Item> sendText(std::string text, Telegram tg, std::int64_t chat);
-    [[nodiscard]] QCoro::Task<Item> sendImage(QByteArray png, std::optional<std::string> text,
-                                              Telegram tg, std::int64_t chat);
-    [[nodiscard]] QCoro::Task<Item> sendFile(std::filesystem::path path, Telegram tg,
-                                             std::int64_t chat);
-    /// Makes one call; gives what went wrong.
-    [[nodiscard]] QCoro::Task<std::optional<TelegramError>>
-    failureOf(Telegram tg, std::string method, Json params, std::optional<Upload> upload);
     void refuseToSend();
-    void finishSend(std::vector<Item> items, const std::string& via);
+    /// Puts the entries of one send, in the order sent, into the history, the last one first.
+    void addToHistory(const std::vector<Sent>& entries);
     void reportOutcome(const std::vector<Sent>& entries);
-
-    /// Hooks that turn changes and sends into usage events.
-    void trackSettings(const Config& old);
-    void trackSend(const std::vector<SendInfo>& items, const std::string& via);
-    void trackLaunchAtLogin(bool opens);
+    /// Shows the message where the settings want the banner.
+    void show(BannerMessage message);
 
     Platform& platform_;
-    Analytics& analytics_;
     Banner& banner_;
+    Hotkey& hotkey_;
     Config config_;
     std::vector<Sent> history_;
     bool busy_ = false;
@@ -160,9 +144,7 @@ private:
     std::optional<std::string> cachedToken_;
     /// Grows whenever the user connects or forgets a bot.
     int tokenChanges_ = 0;
-    SendProgress sendProgress_;
-    /// Shared only because it is not known here how to delete one.
-    std::shared_ptr<Hotkey> hotkey_;
+    ActionQueue setupActions_;
     bool shortcutTaken_ = false;
     bool started_ = false;
 };

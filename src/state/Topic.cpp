@@ -1,50 +1,31 @@
 #include "state/Topic.h"
 
-#include <array>
-#include <utility>
+#include <algorithm>
 
 namespace quillon {
 
-namespace {
-
-struct Row {
-    std::string_view key;
-    std::string_view name;
-    std::int64_t color;
-    std::string_view symbol;
-};
-
-constexpr std::array rows{
-    Row{"notes", "📝 Notes & text", 0xCB86DB, "text.alignleft"},
-    Row{"images", "📸 Images", 0xFFD67E, "photo.fill"},
-    Row{"files", "📎 Files", 0x8EEE98, "doc.fill"},
-    Row{"videos", "🎬 Videos", 0x6FB9F0, "film.fill"},
-};
-
-std::vector<Topic> makeDefaults() {
-    std::vector<Topic> topics;
-    topics.reserve(rows.size());
-    for (const Row& row : rows) {
-        topics.push_back({.key = std::string{row.key},
-                          .name = std::string{row.name},
-                          .color = row.color,
-                          .threadId = std::nullopt});
-    }
-    return topics;
-}
-
-} // namespace
-
 const std::vector<Topic>& Topic::defaults() {
-    static const std::vector<Topic> topics = makeDefaults();
+    static const std::vector<Topic> topics = [] {
+        std::vector<Topic> all;
+        for (const TopicKind kind : allValues<TopicKind>) {
+            all.push_back({.key = std::string{rawValue(kind)},
+                           .name = std::string{traits(kind).name},
+                           .color = traits(kind).color,
+                           .threadId = std::nullopt});
+        }
+        return all;
+    }();
     return topics;
 }
 
 std::string_view Topic::symbol() const {
-    for (const Row& row : rows) {
-        if (row.key == key) return row.symbol;
-    }
-    return "number";
+    return kind() ? traits(*kind()).symbol : "number";
+}
+
+Topic topicFor(const std::vector<Topic>& topics, TopicKind kind) {
+    if (topics.empty()) return Topic::defaults().at(static_cast<std::size_t>(kind));
+    const auto found = std::ranges::find(topics, rawValue(kind), &Topic::key);
+    return found == topics.end() ? topics.front() : *found;
 }
 
 } // namespace quillon

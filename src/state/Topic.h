@@ -1,5 +1,7 @@
 #pragma once
 
+#include "state/TopicKind.h"
+
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -11,7 +13,7 @@ namespace quillon {
 
 /// One forum topic of the group, one per kind of content.
 struct Topic {
-    /// "notes", "images", "files" or "videos": never shown, never changed.
+    /// The raw value of a TopicKind; a hand-edited config.json may hold any other text.
     std::string key;
     /// Display name; also the name of the forum topic in Telegram.
     std::string name;
@@ -22,12 +24,19 @@ struct Topic {
 
     bool operator==(const Topic&) const = default;
 
-    /// The four topics of a new user, in display order, without thread ids.
+    /// The topics of a new user, one of each kind in their order, without thread ids.
     [[nodiscard]] static const std::vector<Topic>& defaults();
 
-    /// Name of the symbol shown beside the topic; "number" for a key of none of the four.
+    /// None when the key is no kind's.
+    [[nodiscard]] std::optional<TopicKind> kind() const { return fromRawValue<TopicKind>(key); }
+    /// Name of the symbol shown beside the topic; "number" for a key of no kind.
     [[nodiscard]] std::string_view symbol() const;
 };
+
+/// The topic that content of the kind goes to: the first one of the kind, else the first of the
+/// list. An empty list (only a hand-edited config.json has one) gives the kind's default topic,
+/// which has no thread: what is sent there goes to the group's general topic.
+[[nodiscard]] Topic topicFor(const std::vector<Topic>& topics, TopicKind kind);
 
 } // namespace quillon
 

@@ -26,7 +26,8 @@ struct Refusal {
 
 using Verdict = std::variant<Success, Wait, Refusal>;
 
-/// A wait of this length or more is not waited for: the call fails with Telegram's description.
+/// The client waits for less than this. A call that is told to wait longer fails with Telegram's
+/// description.
 inline constexpr std::chrono::seconds longestWait{60};
 
 /// What a reply of the Bot API means. Its envelope is {"ok", "result", "description", "error_code",

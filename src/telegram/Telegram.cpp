@@ -38,7 +38,7 @@ HttpRequest makeRequest(const std::string& url, const Json& params,
     return request;
 }
 
-/// Replies are small; one that is not is read off the main thread.
+/// Reads a reply. Almost all are small; a large one is read off the main thread.
 QCoro::Task<Verdict> judged(HttpReply reply) {
     constexpr qsizetype small = 100'000;
     if (reply.body.size() <= small) co_return judge(reply);

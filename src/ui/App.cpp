@@ -1,18 +1,15 @@
 #include "ui/App.h"
 
-#include "base/Translate.h"
 #include "cli/CommandLine.h"
 #include "cli/RemoteProgram.h"
 #include "maintenance/AppMover.h"
 #include "platform/Sleep.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
+#include "platform/linux/Desktop.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/QuitSignals.h"
 #include "platform/linux/desktop/LinuxAppearance.h"
-#include "platform/linux/x11/X11Connection.h"
-#include "platform/linux/x11/X11HotKeys.h"
-#include "platform/linux/x11/X11Pasteboard.h"
 #include "ui/Resident.h"
 #include "ui/alerts/AlertWindows.h"
 #include "ui/controls/AppIcon.h"
@@ -28,34 +25,32 @@ namespace quillon {
 
 namespace {
 
-/// How the desktop knows the program: by its name, its icon and its desktop entry.
+/// Tells the desktop the program's name, icon and desktop entry.
 void introduce() {
-    QApplication::setQuitOnLastWindowClosed(false);
-    // Not as the display name, which Qt would put behind the title of every window.
+    // The display name stays empty: Qt would append it to the title of every window.
     QApplication::setApplicationName(QStringLiteral("Quillon"));
     QApplication::setDesktopFileName(QString::fromLatin1(applicationIdentifier));
     QApplication::setWindowIcon(appIcon());
 }
 
-/// A program that moves itself starts nothing else here.
-QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
-                     std::unique_ptr<Resident>& resident, App::Start start,
+/// Offers the move to Applications, then starts the program unless it has moved.
+QCoro::Task<> launch(Platform& platform, Compositor& compositor, Alerts& alerts, AppMover& mover,
+                     std::unique_ptr<Resident>& resident, std::string wanted,
                      QVariantMap activationData) {
     if (mover.shouldAsk() && !platform.defaults.flag(AppMover::declinedKey).value_or(false)) {
         const bool moved = co_await mover.ask();
         if (moved) co_return;
     }
-    std::unique_ptr<Resident> claimed = co_await Resident::claim(platform, alerts, mover);
+    std::unique_ptr<Resident> claimed =
+        co_await Resident::claim(platform, compositor, alerts, mover);
     resident = std::move(claimed);
     if (resident) {
-        // The icon is in its place before everything else begins.
+        // The event loop turns once, so that the icon is in its place before the rest begins.
         co_await sleep(platform.clock, std::chrono::milliseconds{0});
-        resident->start();
-        if (start == App::Start::withSettings) resident->showSettings();
-        if (start == App::Start::withPanel) resident->showPanel();
+        resident->start(wanted);
         co_return;
     }
-    const char* const wanted = start == App::Start::withPanel ? "panel" : "settings";
+    if (wanted.empty()) wanted = "settings";
     const bool shown = RemoteProgram::activate(wanted, activationData);
     if (!shown) std::cerr << FolderLock::heldMessage() << std::endl;
     QCoreApplication::exit(shown ? exitDone : exitFailed);
@@ -63,37 +58,28 @@ QCoro::Task<> launch(Platform& platform, Alerts& alerts, AppMover& mover,
 
 } // namespace
 
-int App::run(Start start) {
+int App::run(std::string_view wanted) {
     const QVariantMap activationData = RemoteProgram::activationData();
-    int argc = 1;
-    char name[] = "quillon";
-    char* argv[] = {name, nullptr};
-    std::unique_ptr<Pasteboard> pasteboard = X11Pasteboard::open(nullptr);
-    if (!pasteboard) {
-        const QCoreApplication speaker{argc, argv};
-        loadCatalogue();
-        std::cerr << translate("App", "There is no desktop to work on: no X server answers.")
-                  << std::endl;
+    std::optional<Desktop> desktop = openDesktop(DesktopNeeds::everything);
+    if (!desktop) {
+        std::cerr << noDesktopMessage() << std::endl;
         return exitFailed;
     }
-    preferX11();
-    QApplication application{argc, argv};
-    loadCatalogue();
     introduce();
     Looks looks;
     LinuxAppearance appearance;
     looks.follow(appearance);
 
-    std::unique_ptr<HotKeys> hotKeys = X11HotKeys::open(nullptr);
-    if (!hotKeys) hotKeys = std::make_unique<NoHotKeys>();
-    LinuxPlatform services{std::move(pasteboard), std::move(hotKeys)};
+    LinuxPlatform services{std::move(desktop->pasteboard), std::move(desktop->hotKeys)};
     Platform& platform = services.platform();
     const QuitSignals signals{[&platform] { platform.workspace.terminate(); }};
     AlertWindows alerts{platform.workspace};
     AppMover mover{platform, alerts};
     std::unique_ptr<Resident> resident;
-    QTimer::singleShot(0, &application,
-                       [&] { launch(platform, alerts, mover, resident, start, activationData); });
+    QTimer::singleShot(0, desktop->application.get(), [&] {
+        launch(platform, *desktop->compositor, alerts, mover, resident, std::string{wanted},
+               activationData);
+    });
     return QApplication::exec();
 }
 

@@ -1,18 +1,16 @@
 #pragma once
 
+#include <string_view>
+
 namespace quillon {
 
-/// The program that stays: it waits for the shortcut, and for its day's other work.
+/// The program that stays: it waits for the shortcut and for the user.
 class App {
 public:
-    enum class Start {
-        quiet,        ///< with the settings window while the setup is not finished
-        withSettings, ///< with the settings window in any case
-        withPanel,    ///< with the panel
-    };
-
-    /// Builds the program's objects, runs to the end and gives the exit code.
-    static int run(Start start = Start::quiet);
+    /// Builds the program's objects, runs to the end and gives the exit code. It begins with the
+    /// "panel" or the "settings" when these are `wanted`, else with the settings window as long as
+    /// the setup is not finished.
+    static int run(std::string_view wanted = {});
 };
 
 } // namespace quillon

@@ -28,8 +28,8 @@ const std::map<std::string, CommandService::Wish> wishNames{
     {"panel", &DesktopActions::showPanel},
     {"settings", &DesktopActions::showSettings}};
 
-/// The first line of a file; anything but a regular file, which never makes its reader wait, has
-/// none.
+/// The first line of a regular file. Of other files, which could make the reader wait, nothing is
+/// read.
 std::optional<std::string> firstLine(const QDBusUnixFileDescriptor& file) {
     struct stat status {};
     if (::fstat(file.fileDescriptor(), &status) != 0 || !S_ISREG(status.st_mode))
@@ -41,7 +41,7 @@ std::optional<std::string> firstLine(const QDBusUnixFileDescriptor& file) {
     return text.substr(0, text.find('\n'));
 }
 
-/// Remembers what a command says, for the process that handed it over.
+/// Collects what a command prints, for the process that handed it over.
 class DistantConsole final : public Console {
 public:
     using Progress = std::function<void(std::string_view, qint64, qint64)>;
@@ -69,7 +69,7 @@ private:
     Progress progress_;
 };
 
-/// What desktops call to start an application by its name on the bus.
+/// The interface by which desktops start an application over the bus.
 class ActivationAdaptor : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -95,7 +95,7 @@ private:
 } // namespace
 
 CommandService::CommandService(std::function<void()> quit) : quit_{std::move(quit)} {
-    new ActivationAdaptor{*this}; // the object that it is part of owns it
+    new ActivationAdaptor{*this}; // owned by this object
 }
 
 CommandService::Publication CommandService::publish() {
@@ -103,7 +103,7 @@ CommandService::Publication CommandService::publish() {
     if (!bus.isConnected()) return Publication::noBus;
     // Qt knows the type by its name only once somebody has used it.
     qRegisterMetaType<QDBusUnixFileDescriptor>();
-    // First the object: whoever sees the name may call at once.
+    // The object comes before the name: who sees the name may call at once.
     bus.registerObject(QLatin1String{RemoteProgram::objectPath}, this,
                        QDBusConnection::ExportScriptableContents | QDBusConnection::ExportAdaptors);
     if (bus.registerService(QLatin1String{RemoteProgram::busName})) return Publication::done;
@@ -117,11 +117,12 @@ void CommandService::serve(CommandContext context, DesktopActions actions) {
     actions_ = std::move(actions);
     for (const Wish waiting : std::exchange(wishes_, {}))
         (actions_.*waiting)();
-    work();
+    for (Call& call : std::exchange(early_, {}))
+        take(std::move(call));
 }
 
 void CommandService::wish(Wish wish, const QVariantMap& platformData) {
-    // Where Qt's platform plugins look for it when a window asks for the focus.
+    // Qt's platform plugins take the token from here when a window asks for the focus.
     const QByteArray token =
         platformData.value(QStringLiteral("activation-token")).toString().toUtf8();
     if (!token.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", token);
@@ -135,50 +136,68 @@ void CommandService::wishByName(const QString& action, const QVariantMap& platfo
     sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("There is no such action."));
 }
 
-int CommandService::Run(const QString& command, const QString& argument,
-                        const QDBusUnixFileDescriptor& input, QString& /*output*/,
-                        QString& /*errors*/) {
-    std::vector<std::string> words{command.toStdString()};
-    if (!argument.isEmpty()) words.push_back(argument.toStdString());
+int CommandService::RunCommand(const QStringList& arguments, const QDBusUnixFileDescriptor& input,
+                               QString& /*output*/, QString& /*errors*/) {
+    std::vector<std::string> words;
+    for (const QString& argument : arguments)
+        words.push_back(argument.toStdString());
     const auto invocation = parseCommandLine(words);
-    if (!invocation || !worksOnState(invocation->command)) {
+    if (!invocation || invocation->command->where != Where::dataHolder) {
         sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("That is no command."));
         return exitUsage;
     }
     setDelayedReply(true);
-    calls_.push_back({.invocation = *invocation, .input = input, .message = message()});
-    work();
+    take({.invocation = *invocation, .input = input, .message = message()});
     return exitDone;
+}
+
+int CommandService::Run(const QString& command, const QString& argument,
+                        const QDBusUnixFileDescriptor& input, QString& output, QString& errors) {
+    QStringList words{command};
+    if (!argument.isEmpty()) words << argument;
+    return RunCommand(words, input, output, errors);
 }
 
 void CommandService::Quit() {
     quit_();
 }
 
+void CommandService::take(Call call) {
+    if (!context_) return early_.push_back(std::move(call));
+    if (call.invocation.onlyReads()) {
+        carryOut(std::move(call));
+        return;
+    }
+    queue_.push_back(std::move(call));
+    if (!working_) work();
+}
+
 QCoro::Task<> CommandService::work() {
-    if (!context_ || working_) co_return;
     working_ = true;
-    while (!calls_.empty()) {
-        const Call call = std::move(calls_.front());
-        calls_.pop_front();
-        const auto console = std::make_shared<DistantConsole>(
-            call.input, [caller = call.message.service()](std::string_view activity, qint64 done,
-                                                          qint64 total) {
-                // To nobody else: others may be waiting for their own commands.
-                QDBusMessage progress = QDBusMessage::createTargetedSignal(
-                    caller, QLatin1String{RemoteProgram::objectPath},
-                    QLatin1String{RemoteProgram::interfaceName}, QStringLiteral("Progress"));
-                progress << QString::fromStdString(std::string{activity}) << done << total;
-                QDBusConnection::sessionBus().send(progress);
-            });
-        CommandContext context = *context_;
-        context.console = console;
-        const int code = co_await runCommand(call.invocation, context);
-        QDBusConnection::sessionBus().send(
-            call.message.createReply({code, QString::fromStdString(console->output),
-                                      QString::fromStdString(console->errors)}));
+    while (!queue_.empty()) {
+        Call call = std::move(queue_.front());
+        queue_.pop_front();
+        co_await carryOut(std::move(call));
     }
     working_ = false;
+}
+
+QCoro::Task<> CommandService::carryOut(Call call) {
+    const auto console = std::make_shared<DistantConsole>(
+        call.input,
+        [caller = call.message.service()](std::string_view activity, qint64 done, qint64 total) {
+            // Only to this caller: others may be waiting for their own commands.
+            QDBusMessage progress = QDBusMessage::createTargetedSignal(
+                caller, QLatin1String{RemoteProgram::objectPath},
+                QLatin1String{RemoteProgram::interfaceName}, QStringLiteral("Progress"));
+            progress << QString::fromStdString(std::string{activity}) << done << total;
+            QDBusConnection::sessionBus().send(progress);
+        });
+    CommandContext context = *context_;
+    context.console = console;
+    const int code = co_await runCommand(call.invocation, context);
+    QDBusConnection::sessionBus().send(call.message.createReply(
+        {code, QString::fromStdString(console->output), QString::fromStdString(console->errors)}));
 }
 
 } // namespace quillon

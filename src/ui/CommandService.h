@@ -22,8 +22,9 @@ struct DesktopActions {
     std::function<void()> send;
 };
 
-/// Carries out, one after another, the commands that other processes of the program hand over on
-/// the session bus. The name on the bus also makes this program the session's only one.
+/// Carries out the commands that other processes of the program hand over on the session bus: one
+/// after another those that change something, and at once those that only read. The name on the bus
+/// also makes this program the session's only one.
 class CommandService : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "dev.vostrel.quillon")
@@ -37,25 +38,28 @@ public:
 
     explicit CommandService(std::function<void()> quit);
 
-    /// Takes the name. Commands wait from now on.
+    /// Takes the name. Commands that come before serve() wait for it.
     [[nodiscard]] Publication publish();
-    /// Carries out what waits and what comes. The context's console is not used: each command has
-    /// one of its own.
+    /// Carries out what waits and what comes. Each command gets a console of its own in place of
+    /// the context's.
     void serve(CommandContext context, DesktopActions actions);
 
     using Wish = std::function<void()> DesktopActions::*;
-    /// The user wants this, and has given the desktop's leave to take the focus with it
-    /// (org.freedesktop.Application's platform data). Waits until the program serves.
+    /// Does what the user wants once the program serves. The platform data, as
+    /// org.freedesktop.Application defines them, may hold the desktop's leave to take the focus.
     void wish(Wish wish, const QVariantMap& platformData);
     /// The same by the name of an action of the desktop entry: "send", "panel" or
     /// "settings".
     void wishByName(const QString& action, const QVariantMap& platformData);
 
 public Q_SLOTS:
-    /// A command with its argument, as the command line takes them, and with what it reads from
-    /// standard input. Gives the exit code, and what went to standard output and standard error.
-    /// Meanwhile the caller is sent the signal Progress with how many bytes of what the command
-    /// does, as in "Sending…", are done, and of how many.
+    /// Carries out the command line of these words, with what it reads from standard input. Gives
+    /// the exit code, and what went to standard output and standard error. Meanwhile the caller is
+    /// sent the signal Progress with how many bytes of what the command does, as in "Sending…", are
+    /// done, and of how many.
+    Q_SCRIPTABLE int RunCommand(const QStringList& arguments, const QDBusUnixFileDescriptor& input,
+                                QString& output, QString& errors);
+    /// The same for the command lines of older versions, which have one argument at the most.
     Q_SCRIPTABLE int Run(const QString& command, const QString& argument,
                          const QDBusUnixFileDescriptor& input, QString& output, QString& errors);
     Q_SCRIPTABLE void Quit();
@@ -67,13 +71,18 @@ private:
         QDBusMessage message;
     };
 
+    void take(Call call);
+    /// Carries out the queue's calls until there are none.
     QCoro::Task<> work();
+    QCoro::Task<> carryOut(Call call);
 
     std::optional<CommandContext> context_;
     DesktopActions actions_;
-    std::vector<Wish> wishes_;
     std::function<void()> quit_;
-    std::deque<Call> calls_;
+    /// What came before serve().
+    std::vector<Wish> wishes_;
+    std::vector<Call> early_;
+    std::deque<Call> queue_;
     bool working_ = false;
 };
 

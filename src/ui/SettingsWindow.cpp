@@ -16,11 +16,11 @@ namespace {
 
 constexpr double contentWidth = 540;
 constexpr double leastFirstHeight = 200;
-/// About what a window manager puts around the window.
+/// Room for the title bar that the window manager adds.
 constexpr int titleBarHeight = 40;
-/// Heights up to this are those of a content that is not laid out yet.
+/// A content that is not laid out yet reports heights up to this.
 constexpr double leastHeight = 50;
-/// Changes up to this are rounding.
+/// Smaller changes come from rounding.
 constexpr double heightTolerance = 0.5;
 
 /// Titled, closable, miniaturisable and, with its fixed size, not resizable.
@@ -28,7 +28,7 @@ constexpr Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::Win
                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
                                   Qt::WindowMinimizeButtonHint;
 
-/// As wide as the content is made for. What is higher than the screen scrolls.
+/// The content has a fixed width. It scrolls when it is higher than the screen.
 QSize contentSize(double height) {
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
     return {static_cast<int>(std::ceil(Theme::length(contentWidth))),
@@ -51,8 +51,7 @@ SettingsWindow::~SettingsWindow() = default;
 
 void SettingsWindow::show() {
     if (!window_) make();
-    // A hidden window keeps its place in its widget alone: without being told, the window manager
-    // would choose a new one.
+    // The window manager forgets the place of a hidden window and would choose a new one.
     if (!window_->isVisible()) window_->move(window_->pos());
     window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
     window_->show();
@@ -76,7 +75,7 @@ void SettingsWindow::make() {
 void SettingsWindow::fit(double height) {
     if (!window_) return;
     const auto resize = [window = window_.get(), height] {
-        if (!(height > leastHeight)) return; // nor what is not a number
+        if (!(height > leastHeight)) return; // also false for NaN
         if (std::abs(window->height() - height) <= heightTolerance) return;
         window->setFixedSize(contentSize(height));
     };

@@ -10,10 +10,10 @@ namespace quillon {
 
 class Workspace;
 
-/// The settings window: made when it is first shown, and the same one ever after.
+/// The settings window. It is made when it is first shown, and kept.
 class SettingsWindow {
 public:
-    /// The content calls this with its height in device-independent pixels, each time that changes.
+    /// Called by the content with its height in device-independent pixels, each time that changes.
     using Fit = std::function<void(double height)>;
     /// Makes the content, which shows its first tab.
     using MakeContent = std::function<std::unique_ptr<QWidget>(Fit fit)>;
@@ -23,14 +23,14 @@ public:
     SettingsWindow(const SettingsWindow&) = delete;
     SettingsWindow& operator=(const SettingsWindow&) = delete;
 
-    /// Brings the window to the front, in the middle of the screen when it is new and otherwise
-    /// where the user left it.
+    /// Brings the window to the front: in the middle of the screen the first time, later where the
+    /// user left it.
     void show();
 
 private:
     void make();
-    /// Makes the window as high as its content, its top edge staying where it is; on the next turn
-    /// of the event loop.
+    /// Makes the window as high as its content on the next turn of the event loop. Its top edge
+    /// stays where it is.
     void fit(double height);
 
     Workspace& workspace_;

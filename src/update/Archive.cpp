@@ -1,7 +1,7 @@
 #include "update/Archive.h"
 
-#include "base/Utf8Locale.h"
 #include "update/Errors.h"
+#include "update/Utf8Locale.h"
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -23,7 +23,8 @@ using std::filesystem::path;
 
 constexpr mode_t privileges = S_ISUID | S_ISGID;
 
-/// A path of the archive without "." and doubled slashes; an error's code where it leads outside.
+/// A path of the archive without "." and doubled slashes, or the code of an error if it leads
+/// outside.
 struct EntryPath {
     path relative;
     int objection = 0;
@@ -41,8 +42,8 @@ EntryPath entryPath(const char* name) {
     return result;
 }
 
-/// Whether a symbolic link at `at` stays inside. Its parents are real folders, so that ".." at the
-/// front can be counted; after a name, which may be a link itself, it cannot.
+/// Whether a symbolic link at `at` stays inside. Its parents are real folders, so each ".." at the
+/// front leads up by one. After a name, which may itself be a link, ".." may lead anywhere.
 bool staysInside(const path& at, const path& target) {
     if (target.empty() || target.is_absolute()) return false;
     auto up = std::distance(at.begin(), at.end()) - 1;
@@ -65,7 +66,7 @@ struct FreeWriter {
     void operator()(archive* writer) const { archive_write_free(writer); }
 };
 
-/// One archive on its way to one folder.
+/// Unpacks one archive into one folder.
 class Unpacking {
 public:
     Unpacking(path folder, UnpackLimits limits, const std::stop_token& stop)
@@ -80,7 +81,7 @@ public:
             archive_entry* entry = nullptr;
             const int result = archive_read_next_header(reader_.get(), &entry);
             if (result == ARCHIVE_EOF) return finish();
-            // A warning is about what is not taken over anyway, such as an owner's name.
+            // Warnings concern data that is not used, such as an owner's name.
             if (result < ARCHIVE_WARN) return updateError(updateArchiveDamaged);
             if (auto error = unpack(entry)) return error;
         }
@@ -92,7 +93,7 @@ private:
                               ARCHIVE_EXTRACT_NO_OVERWRITE | ARCHIVE_EXTRACT_SECURE_SYMLINKS |
                               ARCHIVE_EXTRACT_SECURE_NODOTDOT;
         archive* reader = reader_.get();
-        // The library refuses to write through any link, those above the folder included.
+        // The library refuses to write through links, even those above the folder.
         std::error_code error;
         folder_ = std::filesystem::canonical(folder_, error);
         return !error && reader && writer_ &&
@@ -108,7 +109,7 @@ private:
         if (stop_.stop_requested()) return updateError(updateCancelled);
         const auto [relative, objection] = entryPath(name(entry));
         if (objection != 0) return updateError(objection);
-        // The folder itself is not the archive's to change.
+        // The archive must not change the folder itself.
         if (relative.empty()) return std::nullopt;
         if (const int reason = objectionTo(entry, relative)) return updateError(reason);
         if (!hasRoom(entry)) return fileError(ENOSPC);
@@ -119,13 +120,13 @@ private:
         return std::nullopt;
     }
 
-    /// As stored; in UTF-8 where the process's character set cannot express it.
+    /// The entry's path as stored, or in UTF-8 if the process's character set cannot express it.
     static const char* name(archive_entry* entry) {
         const char* name = archive_entry_pathname(entry);
         return name ? name : archive_entry_pathname_utf8(entry);
     }
 
-    /// The code of what speaks against the entry; 0 when nothing does.
+    /// The code of the error for an entry that must not be unpacked; 0 if it may be.
     int objectionTo(archive_entry* entry, const path& relative) {
         if (++entries_ > limits_.entries) return updateArchiveTooLarge;
         if (goesThroughLink(relative)) return updateArchiveLink;
@@ -162,7 +163,7 @@ private:
         if (objection != 0 || relative.empty() || goesThroughLink(relative))
             return updateArchiveLink;
         archive_entry_set_hardlink(entry, (folder_ / relative).c_str());
-        // Only a name more: modes and bytes are those of the file it names.
+        // A hard link is only another name, so it must not change the file's mode or bytes.
         archive_entry_unset_size(entry);
         archive_entry_set_perm(entry, 0);
         return 0;
@@ -191,13 +192,13 @@ private:
         }
     }
 
-    /// Folders get their modes and times last.
+    /// Closing the writer sets the modes and times of folders.
     std::optional<UpdateError> finish() {
         if (archive_write_close(writer_.get()) < ARCHIVE_WARN) return writeError();
         return std::nullopt;
     }
 
-    /// What the disk refused.
+    /// The error for what could not be written.
     UpdateError writeError() const { return fileError(archive_errno(writer_.get())); }
 
     path folder_;
@@ -205,7 +206,8 @@ private:
     const std::stop_token& stop_;
     std::unique_ptr<archive, FreeReader> reader_{archive_read_new()};
     std::unique_ptr<archive, FreeWriter> writer_{archive_write_disk_new()};
-    /// What was made so far, relative to the folder: all but folders, and the symbolic links alone.
+    /// Paths of what was made so far, relative to the folder: everything but folders, and symbolic
+    /// links only.
     std::set<path> files_;
     std::set<path> links_;
     int entries_ = 0;

@@ -29,14 +29,14 @@ constexpr std::string_view automaticKey = "SUEnableAutomaticChecks";
 constexpr std::string_view launchedBeforeKey = "SUHasLaunchedBefore";
 /// Seconds since 1970-01-01 UTC.
 constexpr std::string_view lastCheckKey = "SULastCheckTime";
-/// The skipped version as versions are compared.
+/// The skipped version, in the form in which versions are compared.
 constexpr std::string_view skippedKey = "SUSkippedVersion";
 
 constexpr seconds checkInterval{86'400};
-/// Lets the launch, and at login the network, come first.
+/// The first check waits this long, for the launch and, at login, the network.
 constexpr std::chrono::milliseconds launchPatience = 10s;
-/// Timers stand still while the machine sleeps and know nothing of a clock that is set: the time of
-/// day is looked at anew this often.
+/// Timers stop while the machine sleeps and do not notice when the clock is set, so the time of day
+/// is checked this often.
 constexpr std::chrono::milliseconds longestNap = 1h;
 
 seconds sinceEpoch(Clock::Time time) {
@@ -71,7 +71,7 @@ std::optional<UpdateError> BundleUpdater::start(UpdaterDelegate& delegate) {
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &context_,
                      [this] { finishOnQuit(); });
     if (schedule_ == Schedule::none) return std::nullopt;
-    // Nobody waits for it, and the thread pool is waited for at the end of the process.
+    // Nothing depends on this; the process waits for the thread pool at its end.
     std::ignore = QtConcurrent::run(removeLeftovers, platform_.bundle, platform_.folders);
     greetOrAskPermission();
     schedule(std::clamp(untilNextCheck(), launchPatience, longestNap));
@@ -117,8 +117,8 @@ QCoro::Task<> BundleUpdater::askPermission() {
 std::chrono::milliseconds BundleUpdater::untilNextCheck() const {
     const auto now = sinceEpoch(platform_.clock.now());
     const auto last = parseSeconds(platform_.defaults.text(lastCheckKey).value_or(""));
-    // A check that is still to come tells that the clock was wrong then or is now: check, which
-    // puts it right.
+    // A last check in the future means that the clock was wrong then or is now. A check now stores
+    // a time that fits.
     if (!last || *last < 0s || *last > now) return 0ms;
     return std::max(0s, checkInterval - std::min(checkInterval, now - *last));
 }
@@ -165,12 +165,12 @@ QCoro::Task<> BundleUpdater::lookForUpdate(UpdateCheck check) {
     const auto feed = co_await fetchFeed(platform_, feedUrl_, cancel.get_token());
     if (cancel.stop_requested()) co_return;
     if (const auto* error = std::get_if<UpdateError>(&feed)) {
-        // Nobody waits for what runs in the background.
+        // No window waits for a check in the background.
         if (!background) driver_.showError(*error);
         delegate_->didAbortWithError(*error);
         co_return;
     }
-    // Whoever asks is told also of what was skipped.
+    // A user who asks is also told of a skipped version.
     const std::string skipped =
         background ? platform_.defaults.text(skippedKey).value_or("") : std::string{};
     const Bundle& bundle = platform_.bundle;
@@ -251,7 +251,7 @@ void BundleUpdater::fail(const UpdateError& error) {
 }
 
 void BundleUpdater::dropPrepared() {
-    // With the last copy goes a folder that may hold much.
+    // Destroying the last copy removes a folder that may hold much.
     std::ignore = QtConcurrent::run([update = std::exchange(prepared_, std::nullopt)] {});
 }
 

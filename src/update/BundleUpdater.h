@@ -20,13 +20,13 @@ namespace quillon {
 struct Platform;
 class UpdateUserDriver;
 
-/// Keeps a running application folder up to date from the feed that its "SUFeedURL" names, with
-/// archives that the owner of its "SUPublicEDKey" has signed. Checks once a day where the user has
-/// agreed, which it asks for at the second launch, and whenever it is told to. Outlives its tasks.
+/// Keeps a running application folder up to date, from the feed that its "SUFeedURL" names and with
+/// archives that the owner of its "SUPublicEDKey" has signed. Checks when told to, and once a day
+/// if the user has agreed; it asks for that at the second launch. Must outlive its tasks.
 class BundleUpdater final : public UpdateFramework {
 public:
     enum class Schedule {
-        daily, ///< as the user's preferences have it
+        daily, ///< if the user's preferences say so
         none,  ///< checks only when told to, asks and cleans up nothing
     };
 
@@ -34,16 +34,16 @@ public:
                   Schedule schedule = Schedule::daily);
     ~BundleUpdater() override;
 
-    /// Fails with updateFeedNotAllowed or updateKeyMissing when the bundle has no feed that may be
-    /// read or no key that is one.
+    /// Fails with updateFeedNotAllowed if the bundle has no feed that may be read, and with
+    /// updateKeyMissing if it has no valid key.
     [[nodiscard]] std::optional<UpdateError> start(UpdaterDelegate& delegate) override;
     void observeCanCheck(std::function<void(bool)> observer) override;
     void checkForUpdates() override;
     [[nodiscard]] bool automaticallyChecksForUpdates() const override;
     void setAutomaticallyChecksForUpdates(bool automatically) override;
 
-    /// Checks, and goes on as the user driver answers, to the end. When something shows already
-    /// that waits for an answer, brings that to the front; does nothing while a check cannot start.
+    /// Checks and carries out the user driver's answers to the end. If a question to the user is
+    /// open, only brings that to the front; does nothing while a check cannot start.
     QCoro::Task<> check(UpdateCheck check);
 
 private:
@@ -79,11 +79,11 @@ private:
     Phase phase_ = Phase::idle;
     std::function<void(bool)> observer_;
     std::unique_ptr<Clock::Timer> timer_;
-    /// Ends the preparation that runs.
+    /// Stops the present preparation.
     std::stop_source stop_;
     std::optional<PreparedUpdate> prepared_;
     bool installsOnQuit_ = false;
-    /// Ends the connection to the application's quitting.
+    /// Destroying this disconnects from the application's signal.
     QObject context_;
 };
 

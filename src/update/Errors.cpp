@@ -111,8 +111,8 @@ constexpr std::array sentences{
              QT_TRANSLATE_NOOP("UpdateError", "The new version does not start on this computer.")},
 };
 
-/// System errors that lie in the place itself. Their sentences are those of the code, but for the
-/// ones that have more to tell.
+/// System errors whose cause is the place of the application. Each has the sentence of its code,
+/// unless it has its own.
 struct SystemError {
     int number;
     int code;

@@ -4,7 +4,7 @@
 
 namespace quillon {
 
-/// What can go wrong beside where the application lies (UpdateErrorCode), in the same domain.
+/// Errors that do not concern the place of the application, in the same domain as UpdateErrorCode.
 enum UpdateFailureCode {
     updateCancelled = 2000,
     updateFeedNotAllowed = 2001,
@@ -34,8 +34,8 @@ enum UpdateFailureCode {
 /// The error of this UpdateErrorCode or UpdateFailureCode, with its sentence for the user.
 [[nodiscard]] UpdateError updateError(int code);
 
-/// The error of a system call that changes files where the application lies, by its errno: the code
-/// is one of UpdateErrorCode, and the sentence tells what stood in the way.
+/// The error for the errno of a system call that failed to change files beside the application. The
+/// code is one of UpdateErrorCode, and the sentence names the cause.
 [[nodiscard]] UpdateError fileError(int systemError);
 
 } // namespace quillon

@@ -1,12 +1,10 @@
 #include "update/Feed.h"
 
+#include "base/ThisMachine.h"
 #include "update/Version.h"
 
 #include <QUrl>
 #include <QXmlStreamReader>
-
-#include <arpa/inet.h>
-#include <netinet/in.h>
 
 #include <algorithm>
 #include <array>
@@ -18,8 +16,8 @@ namespace {
 
 constexpr QStringView ourNamespace = u"urn:dev.vostrel.quillon:update";
 
-/// Deeper XML is no feed of ours: an item's element is the fourth level, and notes that were not
-/// escaped may bring some more.
+/// The deepest allowed element. An item's elements are on the fourth level; notes that were not
+/// escaped may add some more.
 constexpr int maximumDepth = 64;
 
 struct TextField {
@@ -43,7 +41,7 @@ qint64 parseLength(const QString& text) {
     return result.ec == std::errc{} && result.ptr == end ? length : 0;
 }
 
-/// Whether the item says all that it must.
+/// Whether the item has everything it needs.
 bool isUsable(const FeedItem& item) {
     return !item.version.empty() && item.length > 0 && item.length <= maximumArchiveSize &&
            item.signature != Signature{} && isAllowedUrl(item.url);
@@ -55,7 +53,7 @@ public:
     explicit FeedReader(const QByteArray& xml) : xml_{xml} { items_.emplace(); }
 
     std::optional<std::vector<FeedItem>> read() {
-        // Which is where entities are declared; a document type of its own has nothing else to say.
+        // A document type is good for nothing here but to declare entities.
         while (!xml_.atEnd() && xml_.readNext() != QXmlStreamReader::StartElement) {
             if (xml_.isDTD()) return std::nullopt;
         }
@@ -111,7 +109,7 @@ private:
         item.signature = parseSignature(signature.toString().toStdString()).value_or(Signature{});
     }
 
-    /// The text of the current element and of all that is in it.
+    /// The text of the current element and its children.
     QString text() {
         QString text;
         walk([&] {
@@ -124,7 +122,7 @@ private:
         walk([] {});
     }
 
-    /// Goes to the end of the current element, calling `action` for all that comes before.
+    /// Reads to the end of the current element, calling `action` for everything before it.
     template <typename Action>
     void walk(Action action) {
         for (int depth = 1; depth > 0 && !xml_.atEnd();) {
@@ -139,14 +137,7 @@ private:
     std::optional<std::vector<FeedItem>> items_;
 };
 
-/// Whether this is an address in 127.0.0.0/8; QUrl brings every way to write one into this form.
-bool isLoopback(const std::string& host) {
-    in_addr address{};
-    return ::inet_pton(AF_INET, host.c_str(), &address) == 1 &&
-           ntohl(address.s_addr) >> 24 == IN_LOOPBACKNET;
-}
-
-/// Bytes that no address has as they are, and that readers of addresses disagree about.
+/// False for bytes that must be encoded in an address, and that parsers disagree about.
 bool isOrdinary(char byte) {
     return byte > ' ' && byte < 0x7f && byte != '\\';
 }
@@ -178,13 +169,12 @@ bool isAllowedUrl(std::string_view text) {
     const QUrl url{QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size())),
                    QUrl::StrictMode};
     if (!url.isValid() || url.host().isEmpty()) return false;
-    // Even an empty user name ("https://@host") has no business here.
+    // QUrl does not report an empty user name ("https://@host"), so the text itself is searched.
     const std::string_view afterScheme = text.substr(text.find("//") + 2);
     const std::string_view authority = afterScheme.substr(0, afterScheme.find_first_of("/?#"));
     if (authority.find('@') != std::string_view::npos) return false;
     if (url.scheme() == u"https") return true;
-    const std::string host = url.host().toStdString();
-    return url.scheme() == u"http" && (host == "localhost" || host == "::1" || isLoopback(host));
+    return url.scheme() == u"http" && isThisMachine(url.host().toStdString());
 }
 
 } // namespace quillon

@@ -13,19 +13,19 @@ namespace quillon {
 
 /// One version that the update feed offers.
 struct FeedItem {
-    /// What versions are compared by: the bundle's "CFBundleVersion".
+    /// The version for comparing: the bundle's "CFBundleVersion".
     std::string version{};
-    /// What the user knows it as: the bundle's "CFBundleShortVersionString".
+    /// The version that the user sees: the bundle's "CFBundleShortVersionString".
     std::string shortVersion{};
-    /// Plain text or HTML from outside: whoever shows it loads nothing that it names.
+    /// Plain text or HTML from outside. A view of it must not load anything that it names.
     std::string notes{};
-    /// The least SystemInfo::version; empty when any will do.
+    /// The least SystemInfo::version that is required; empty if any will do.
     std::string minimumSystemVersion{};
-    /// The archive; allowed as isAllowedUrl has it.
+    /// The archive's address; isAllowedUrl holds.
     std::string url{};
-    /// Of the archive, in bytes; from 1 to maximumArchiveSize.
+    /// The archive's length in bytes, from 1 to maximumArchiveSize.
     qint64 length = 0;
-    /// Of all the archive's bytes.
+    /// The signature of all the archive's bytes.
     Signature signature{};
 
     bool operator==(const FeedItem&) const = default;
@@ -40,20 +40,20 @@ inline constexpr std::size_t maximumFeedItems = 10'000;
 /// The items of an RSS 2.0 feed, in its order:
 ///     <item><quillon:version/><quillon:shortVersion/><quillon:minimumSystemVersion/>
 ///     <description/><enclosure url="" length="" type="" quillon:edSignature="base64"/></item>
-/// with quillon bound to "urn:dev.vostrel.quillon:update". Without a short version the version
-/// stands for it. An item that misses something or has it wrong is left out. None when the XML is
-/// broken, no RSS, has a document type (and so entities of its own), or is too deep or too long.
+/// with quillon bound to "urn:dev.vostrel.quillon:update". Without a short version, the version
+/// stands for it. Incomplete and wrong items are left out. None if the XML is broken, is not RSS,
+/// has a document type (and so may declare entities), is nested too deeply, or has too many items.
 [[nodiscard]] std::optional<std::vector<FeedItem>> parseFeed(const QByteArray& xml);
 
-/// The newest item that is newer than `currentVersion` and runs on `systemVersion`. Those up to
-/// `skippedVersion` are passed over, unless that is empty. Null when there is none.
+/// The newest item that is newer than `currentVersion` and runs on `systemVersion`. Unless
+/// `skippedVersion` is empty, versions up to it are passed over. Null if there is none.
 [[nodiscard]] const FeedItem* newestUpdate(const std::vector<FeedItem>& items,
                                            std::string_view currentVersion,
                                            std::string_view systemVersion,
                                            std::string_view skippedVersion);
 
 /// Whether feeds and archives may come from this address: https, or http from this machine itself
-/// ("localhost", 127.0.0.0/8, ::1). Never with a user name or a password.
+/// (isThisMachine). Addresses with a user name or a password are refused.
 [[nodiscard]] bool isAllowedUrl(std::string_view url);
 
 } // namespace quillon

@@ -1,6 +1,8 @@
 #include "update/Installation.h"
 
 #include "platform/linux/desktop/LinuxBundle.h"
+#include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/Modes.h"
 #include "update/Errors.h"
 #include "update/ProgramOutput.h"
 #include "update/Version.h"
@@ -24,7 +26,7 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view translocationPart = "/AppTranslocation/";
 
-/// Exchanges two folders in one step; the errno when that fails, else 0.
+/// Exchanges two folders in one step. Returns 0 or an errno.
 int exchange(const fs::path& left, const fs::path& right) {
     const int result =
         ::renameat2(AT_FDCWD, left.c_str(), AT_FDCWD, right.c_str(), RENAME_EXCHANGE);
@@ -35,53 +37,43 @@ int tryExchange(const fs::path& folder) {
     const fs::path left = folder / "left";
     const fs::path right = folder / "right";
     int error = 0;
-    if (::mkdir(left.c_str(), S_IRWXU) != 0 || ::mkdir(right.c_str(), S_IRWXU) != 0) error = errno;
+    if (::mkdir(left.c_str(), ownersFolder) != 0 || ::mkdir(right.c_str(), ownersFolder) != 0)
+        error = errno;
     if (error == 0) error = exchange(left, right);
     ::rmdir(left.c_str());
     ::rmdir(right.c_str());
     return error;
 }
 
-/// Whether everything of a file or folder is on the disk.
+/// Writes a file or folder through to the disk; false if that fails.
 bool flush(const fs::path& path, int flags) {
-    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | flags);
-    if (file < 0) return false;
-    const bool flushed = ::fsync(file) == 0;
-    ::close(file);
-    return flushed;
+    const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | flags)};
+    return file.isOpen() && ::fsync(file.number()) == 0;
 }
 
-/// The lock on installing in the place of one application: on the folder that is there now.
+/// Locks the application folder that is there now, so that only one process replaces it.
 class InstallationLock {
 public:
     explicit InstallationLock(const fs::path& bundle)
         : file_{::open(bundle.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)} {
-        struct stat opened {};
-        struct stat named {};
-        if (file_ < 0 || ::fstat(file_, &opened) != 0) {
+        if (!file_.isOpen()) {
             error_ = fileError(errno);
-        } else if (::flock(file_, LOCK_EX | LOCK_NB) != 0) {
+        } else if (::flock(file_.number(), LOCK_EX | LOCK_NB) != 0) {
             error_ = errno == EWOULDBLOCK ? updateError(updateInstalling) : fileError(errno);
-        } else if (::lstat(bundle.c_str(), &named) != 0 || opened.st_ino != named.st_ino ||
-                   opened.st_dev != named.st_dev) {
-            // What was opened is no longer there: another process was quicker.
+        } else if (!isStillAt(bundle, file_.number())) {
+            // Another process has replaced it meanwhile.
             error_ = updateError(updateInstalling);
         }
-    }
-    InstallationLock(const InstallationLock&) = delete;
-    InstallationLock& operator=(const InstallationLock&) = delete;
-    ~InstallationLock() {
-        if (file_ >= 0) ::close(file_);
     }
 
     [[nodiscard]] const std::optional<UpdateError>& error() const { return error_; }
 
 private:
-    int file_;
+    Descriptor file_;
     std::optional<UpdateError> error_;
 };
 
-/// The one application folder in `folder`; empty when there is none, or anything beside it.
+/// The application folder in `folder`; empty if there is none, or if anything lies beside it.
 fs::path onlyApplication(const fs::path& folder) {
     std::error_code error;
     fs::path only;
@@ -103,7 +95,7 @@ bool tellsVersion(const Bundle& bundle, const FeedItem& item, std::chrono::milli
            "quillon " + item.shortVersion + "\n";
 }
 
-/// The code of what speaks against the new bundle; 0 when nothing does.
+/// The code of the error for a bundle that must not be installed; 0 if it may be.
 int objectionTo(const Bundle& bundle, const Bundle& running, const FeedItem& item,
                 std::chrono::milliseconds timeout) {
     if (bundle.identifier().empty() || bundle.identifier() != running.identifier())
@@ -128,7 +120,7 @@ std::optional<UpdateError> objectionToUpdating(const fs::path& bundle) {
     struct statvfs disk {};
     if (::statvfs(bundle.c_str(), &disk) == 0 && (disk.f_flag & ST_RDONLY) != 0)
         return updateError(updateOnReadOnlyVolume);
-    // A folder that changes its parent is itself written to: it knows that parent as "..".
+    // Moving a folder changes its ".." entry, so the folder itself must be writable.
     for (const fs::path& folder : {bundle.parent_path(), bundle}) {
         if (::access(folder.c_str(), W_OK | X_OK) != 0) return fileError(errno);
     }
@@ -182,7 +174,7 @@ std::optional<UpdateError> install(const PreparedUpdate& update) {
     if (const int error = exchange(update.staged, update.bundle); error != 0)
         return fileError(error);
     update.folder->keep();
-    // Makes the exchange last. It is done even where this fails.
+    // Writes the exchange to the disk. If this fails, the exchange is done all the same.
     flush(update.bundle.parent_path(), O_DIRECTORY);
     flush(update.folder->path(), O_DIRECTORY);
     return std::nullopt;

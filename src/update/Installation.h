@@ -15,69 +15,69 @@
 
 namespace quillon {
 
-/// How the folders are called in which an update waits beside the application.
+/// The folders in which an update waits beside the application have names with this prefix.
 inline constexpr std::string_view stagingPrefix = ".Quillon-update-";
 
-/// How the folders are called in which an archive arrives, in the identifier's cache folder.
+/// The folders for downloads, in the identifier's cache folder, have names with this prefix.
 inline constexpr std::string_view downloadPrefix = "update-";
 
-/// How long a new program may take to tell its version.
+/// The limit for a new program to print its version.
 inline constexpr std::chrono::milliseconds versionTimeout{std::chrono::seconds{10}};
 
-/// A new version that lies checked beside the running one. As long as a copy of this exists, so
-/// does the folder.
+/// A new version that has been checked and lies beside the running one. Its folder exists as long
+/// as a copy of this.
 struct PreparedUpdate {
     /// The application folder to be replaced.
     std::filesystem::path bundle;
-    /// The new one, inside `folder`.
+    /// The new application folder, inside `folder`.
     std::filesystem::path staged;
     std::shared_ptr<PrivateFolder> folder;
     FeedItem item;
 };
 
-/// Why an application that lies here cannot be replaced: 1005 below a folder "AppTranslocation",
-/// 1003 on a read-only file system, 4012 where this user may not write. Quick.
+/// The reason why an application in this place cannot be replaced: 1005 below a folder
+/// "AppTranslocation", 1003 on a read-only file system, 4012 if this user may not write. Quick.
 [[nodiscard]] std::optional<UpdateError> objectionToUpdating(const std::filesystem::path& bundle);
 
 /// A new folder beside the application, for its next version.
 struct Staging {
     std::shared_ptr<PrivateFolder> folder;
-    /// Why there is none, or why the application could not be exchanged from there.
+    /// The reason why there is no folder, or why the application could not be exchanged from there.
     std::optional<UpdateError> error;
 };
 
-/// Makes the folder where nothing speaks against updating, and tries out the exchange of two empty
-/// folders there: 4000 where the file system cannot do it in one step. Quick.
+/// Makes the folder unless objectionToUpdating has a reason, and tests the exchange of two empty
+/// folders there: error 4000 if the file system cannot do that in one step. Quick.
 [[nodiscard]] Staging makeStaging(const std::filesystem::path& bundle);
 
-/// What was found in the folder that an archive was unpacked into.
+/// The application in a folder that an archive was unpacked into.
 struct StagedBundle {
     std::filesystem::path path;
-    /// Why it must not be installed.
+    /// The reason why it must not be installed.
     std::optional<UpdateError> error;
 };
 
-/// Looks at what was unpacked into `folder` to take the place of `running`: exactly one application
-/// folder, the same identifier, the item's version and short version, newer than the running one,
-/// with a program that starts and prints "quillon SHORTVERSION". Starts that program: not for the
+/// Checks that what was unpacked into `folder` can replace `running`: it is exactly one application
+/// folder, with the same identifier, the item's version and short version, newer than the running
+/// one, and its program starts and prints "quillon SHORTVERSION". Starts that program: not for the
 /// main thread.
 [[nodiscard]] StagedBundle checkStaged(const std::filesystem::path& folder, const Bundle& running,
                                        const FeedItem& item,
                                        std::chrono::milliseconds timeout = versionTimeout);
 
-/// What versions are compared by: the bundle's "CFBundleVersion", else its short version.
+/// The version for comparing: the bundle's "CFBundleVersion", else its short version.
 [[nodiscard]] std::string comparedVersion(const Bundle& bundle);
 
-/// Writes a tree through to the disk; false when that fails. Not for the main thread.
+/// Writes a tree through to the disk; false if that fails. Not for the main thread.
 [[nodiscard]] bool flushTree(const std::filesystem::path& folder);
 
-/// Puts the new version in the place of the old one in one atomic step, under a lock that keeps
-/// other processes from doing the same; the old one stays in the staging folder until
-/// removeLeftovers. When an error comes back, nothing has changed. Quick: may be called at quit.
+/// Replaces the old version by the new one in one atomic step, under a lock that keeps other
+/// processes from doing the same. The old version stays in the staging folder until
+/// removeLeftovers. After an error nothing has changed. Quick: may be called at quit.
 [[nodiscard]] std::optional<UpdateError> install(const PreparedUpdate& update);
 
-/// Removes what earlier updates of this application have left beside it and in the cache: to be
-/// called at each start of an application folder. May take long: not for the main thread.
+/// Removes what earlier updates of this application have left beside it and in the cache. Call it
+/// at each start of an application folder. May take long: not for the main thread.
 void removeLeftovers(const Bundle& bundle, const Folders& folders);
 
 } // namespace quillon

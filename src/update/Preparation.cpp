@@ -4,6 +4,7 @@
 #include "platform/FileSystem.h"
 #include "platform/HttpTransport.h"
 #include "platform/linux/files/PosixFileSystem.h"
+#include "platform/linux/files/TreeCopy.h"
 #include "update/Archive.h"
 #include "update/Errors.h"
 #include "update/Version.h"
@@ -26,10 +27,10 @@ constexpr std::string_view publicKeyName = "SUPublicEDKey";
 
 constexpr int statusOk = 200;
 
-/// A server that drips keeps nobody waiting, nor later checks from being made.
+/// A server that sends a few bytes at a time must not keep the user waiting or delay later checks.
 constexpr std::chrono::seconds feedTimeout{60};
 
-/// The errors of downloads; "done" has none.
+/// The errors of downloads; the outcome "done" has none.
 struct Failure {
     DownloadOutcome outcome;
     int code;
@@ -49,7 +50,7 @@ std::optional<UpdateError> downloadError(DownloadOutcome outcome) {
     return std::nullopt;
 }
 
-/// All that the check of a downloaded archive needs, for another thread.
+/// Everything that another thread needs to download and check an archive.
 struct Delivery {
     Bundle running;
     FeedItem item;
@@ -61,7 +62,7 @@ struct Delivery {
 
 using Prepared = std::variant<PreparedUpdate, UpdateError>;
 
-/// What must hold before anything is unpacked.
+/// The error if the archive must not be unpacked.
 std::optional<UpdateError> objectionToArchive(const FileReading& archive,
                                               const Delivery& delivery) {
     if (archive.outcome != FileReading::Outcome::read || archive.size != delivery.item.length)
@@ -71,14 +72,14 @@ std::optional<UpdateError> objectionToArchive(const FileReading& archive,
     return std::nullopt;
 }
 
-/// Unpacks the bytes that were checked, and not what the file's name may stand for by then.
+/// Unpacks the very bytes that were checked, because the file may have been replaced meanwhile.
 std::optional<UpdateError> unpackChecked(const Delivery& delivery) {
     const FileReading archive = PosixFileSystem{}.read(delivery.archive, delivery.item.length);
     if (auto error = objectionToArchive(archive, delivery)) return error;
     return unpack(asText(archive.bytes), delivery.staging, {}, delivery.stop);
 }
 
-/// Leaves it to the caller to say who owns the folder.
+/// The caller sets the owner of the folder.
 Prepared stage(const Delivery& delivery) {
     const path& folder = delivery.staging;
     if (auto error = unpackChecked(delivery)) return std::move(*error);
@@ -92,7 +93,7 @@ Prepared stage(const Delivery& delivery) {
                           .item = delivery.item};
 }
 
-/// What can be said against an item before anything is fetched; 0 when there is nothing.
+/// The code of the error for an item that need not be downloaded at all; 0 if there is none.
 int objectionTo(const FeedItem& item, const Bundle& running) {
     if (!parsePublicKey(running.text(publicKeyName).value_or(""))) return updateKeyMissing;
     if (!isAllowedUrl(item.url)) return updateNotAllowed;
@@ -101,8 +102,8 @@ int objectionTo(const FeedItem& item, const Bundle& running) {
     return 0;
 }
 
-/// Passes progress on for as long as its owner lives. What the transport still has to say of the
-/// download once that is over comes too late.
+/// Passes progress on for as long as its owner lives. What the transport reports after the end of
+/// the download is dropped.
 class ProgressReport {
 public:
     ProgressReport(std::function<void(UpdateProgress)> listener, qint64 length)
@@ -180,7 +181,7 @@ QCoro::Task<Prepared> prepareUpdate(Platform& platform, FeedItem item,
     const Bundle& running = platform.bundle;
     if (const int code = objectionTo(item, running); code != 0) co_return updateError(code);
 
-    // Before the download, so that nothing is fetched in vain.
+    // This comes before the download, so that nothing is fetched in vain.
     const Staging staging = makeStaging(running.url);
     if (staging.error) co_return *staging.error;
     const path cache = platform.folders.cache / running.folderName();
@@ -198,13 +199,13 @@ QCoro::Task<Prepared> prepareUpdate(Platform& platform, FeedItem item,
     QCoro::Task<Prepared> delivering = deliver(platform, std::move(delivery), report);
     Prepared prepared = co_await delivering;
 
-    // The folders' owners would do this too, but here.
-    const QFuture<void> removing = QtConcurrent::run(removeTree, downloads.path());
+    // The owners of the folders would remove them too, but on this thread.
+    const QFuture<void> removing = QtConcurrent::run(discardTree, downloads.path());
     co_await removing;
     if (auto* update = std::get_if<PreparedUpdate>(&prepared)) {
         update->folder = staging.folder;
     } else {
-        const QFuture<void> undoing = QtConcurrent::run(removeTree, staging.folder->path());
+        const QFuture<void> undoing = QtConcurrent::run(discardTree, staging.folder->path());
         co_await undoing;
     }
     co_return std::move(prepared);

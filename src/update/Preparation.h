@@ -15,7 +15,7 @@
 
 namespace quillon {
 
-/// How far the preparation of an update is.
+/// The progress of the preparation of an update.
 struct UpdateProgress {
     enum class Stage { downloading, unpacking };
     Stage stage = Stage::downloading;
@@ -26,15 +26,16 @@ struct UpdateProgress {
     bool operator==(const UpdateProgress&) const = default;
 };
 
-/// Fetches and reads the feed at this address, within a minute. A request to stop ends it soon.
+/// Fetches and reads the feed at this address, within a minute. It ends soon after a request to
+/// stop.
 [[nodiscard]] QCoro::Task<std::variant<std::vector<FeedItem>, UpdateError>>
 fetchFeed(Platform& platform, std::string url, std::stop_token stop = {});
 
 /// Downloads the item's archive into the cache folder, checks its length and its signature (against
-/// the running bundle's "SUPublicEDKey"), unpacks it beside the running bundle and checks what came
-/// out. Nothing stays on disk after an error. `progress` is called on the main thread, and no more
-/// once the task has ended. A request to stop ends it soon with updateCancelled. All long work runs
-/// off the main thread; `platform` outlives the task.
+/// the running bundle's "SUPublicEDKey"), unpacks it beside the running bundle and checks the
+/// result. Nothing stays on disk after an error. `progress` is called on the main thread, until the
+/// task has ended. A request to stop soon ends it with updateCancelled. All long work runs off the
+/// main thread; `platform` must outlive the task.
 [[nodiscard]] QCoro::Task<std::variant<PreparedUpdate, UpdateError>>
 prepareUpdate(Platform& platform, FeedItem item, std::function<void(UpdateProgress)> progress,
               std::stop_token stop);

@@ -1,5 +1,7 @@
 #include "update/PrivateFolder.h"
 
+#include "platform/linux/files/TreeCopy.h"
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -19,23 +21,20 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view randomPart = "XXXXXX";
 
-/// Another process that tidies up may remove a folder before it is locked; not time after time.
+/// Another process's removeAbandoned may remove a folder before it is locked, but not again and
+/// again.
 constexpr int attempts = 10;
 
-/// A descriptor of the folder itself, never of what a link leads to, with its lock; -1 when it is
-/// gone, no folder of this user's, or in another process's hands.
-int lockFolder(const fs::path& folder) {
-    const int file = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-    if (file < 0) return -1;
-    struct stat opened {};
-    struct stat named {};
-    const bool ours = ::fstat(file, &opened) == 0 && opened.st_uid == ::geteuid() &&
-                      ::flock(file, LOCK_EX | LOCK_NB) == 0 &&
-                      ::lstat(folder.c_str(), &named) == 0 && named.st_ino == opened.st_ino &&
-                      named.st_dev == opened.st_dev;
-    if (ours) return file;
-    ::close(file);
-    return -1;
+/// Opens and locks the folder itself, never the target of a link. The result is not open if the
+/// folder is gone, belongs to another user, or is locked by another process.
+Descriptor lockFolder(const fs::path& folder) {
+    Descriptor file{::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
+    struct stat status {};
+    const bool ours = ::fstat(file.number(), &status) == 0 && status.st_uid == ::geteuid() &&
+                      ::flock(file.number(), LOCK_EX | LOCK_NB) == 0 &&
+                      isStillAt(folder, file.number());
+    if (!ours) file.close();
+    return file;
 }
 
 bool isPrivateName(const std::string& name, std::string_view prefix) {
@@ -58,14 +57,12 @@ bool PrivateFolder::create(const fs::path& parent, std::string_view prefix) {
     }
     path_ = name;
     lock_ = lockFolder(path_);
-    if (lock_ < 0) ::rmdir(name.c_str());
+    if (!lock_.isOpen()) ::rmdir(name.c_str());
     return isOpen();
 }
 
 PrivateFolder::~PrivateFolder() {
-    if (!isOpen()) return;
-    if (!keep_) removeTree(path_);
-    ::close(lock_);
+    if (isOpen() && !keep_) discardTree(path_);
 }
 
 void removeAbandoned(const fs::path& parent, std::string_view prefix) {
@@ -76,27 +73,9 @@ void removeAbandoned(const fs::path& parent, std::string_view prefix) {
         if (isPrivateName(each->path().filename().native(), prefix)) found.push_back(each->path());
     }
     for (const fs::path& folder : found) {
-        const int lock = lockFolder(folder);
-        if (lock < 0) continue;
-        removeTree(folder);
-        ::close(lock);
+        const Descriptor lock = lockFolder(folder);
+        if (lock.isOpen()) discardTree(folder);
     }
-}
-
-void removeTree(const fs::path& folder) {
-    std::error_code ignored;
-    if (fs::is_symlink(fs::symlink_status(folder, ignored))) return;
-    // A folder that may not be written to cannot be emptied. Links are never gone through.
-    std::error_code error;
-    const auto open = [&](const fs::path& each) {
-        fs::permissions(each, fs::perms::owner_all, fs::perm_options::add, ignored);
-    };
-    open(folder);
-    for (fs::recursive_directory_iterator each{folder, error}, end; !error && each != end;
-         each.increment(error)) {
-        if (each->symlink_status(ignored).type() == fs::file_type::directory) open(each->path());
-    }
-    fs::remove_all(folder, ignored);
 }
 
 } // namespace quillon

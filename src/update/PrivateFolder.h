@@ -1,12 +1,14 @@
 #pragma once
 
+#include "platform/linux/files/Descriptor.h"
+
 #include <filesystem>
 #include <string_view>
 
 namespace quillon {
 
-/// A new folder for this user alone (0700) that this process holds a lock on, so that others can
-/// tell it from one that was left behind. Removed with all it holds when its owner goes.
+/// A new folder for this user alone (0700). This process holds a lock on it, by which others can
+/// tell it from one that was left behind. The destructor removes it with all it holds.
 class PrivateFolder {
 public:
     /// Creates `parent`/`prefix`XXXXXX. Check isOpen() afterwards.
@@ -15,27 +17,24 @@ public:
     PrivateFolder& operator=(const PrivateFolder&) = delete;
     ~PrivateFolder();
 
-    [[nodiscard]] bool isOpen() const { return lock_ >= 0; }
-    /// The errno of what kept the folder from being made.
+    [[nodiscard]] bool isOpen() const { return lock_.isOpen(); }
+    /// The errno if the folder could not be made.
     [[nodiscard]] int error() const { return error_; }
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
-    /// Leaves the folder where it is, for removeAbandoned to find.
+    /// Makes the destructor leave the folder to removeAbandoned.
     void keep() { keep_ = true; }
 
 private:
     bool create(const std::filesystem::path& parent, std::string_view prefix);
 
     std::filesystem::path path_;
-    int lock_ = -1;
+    Descriptor lock_;
     int error_ = 0;
     bool keep_ = false;
 };
 
 /// Removes the private folders of this user in `parent` whose process is gone. Follows no links.
 void removeAbandoned(const std::filesystem::path& parent, std::string_view prefix);
-
-/// Removes a folder with all it holds, whatever the modes of the folders in it; follows no links.
-void removeTree(const std::filesystem::path& folder);
 
 } // namespace quillon

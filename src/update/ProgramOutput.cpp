@@ -1,5 +1,7 @@
 #include "update/ProgramOutput.h"
 
+#include "platform/linux/files/Descriptor.h"
+
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
@@ -21,23 +23,7 @@ using Moment = std::chrono::steady_clock::time_point;
 
 constexpr std::size_t maximumOutput = 4096; // bytes
 
-class Descriptor {
-public:
-    explicit Descriptor(int number = -1) : number_{number} {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() { close(); }
-
-    [[nodiscard]] int number() const { return number_; }
-    void close() {
-        if (number_ >= 0) ::close(std::exchange(number_, -1));
-    }
-
-private:
-    int number_;
-};
-
-/// Waits until there is something to read; false when the time is over.
+/// Waits until there is something to read; false if the time is over.
 bool awaitReadable(const Descriptor& file, Moment deadline) {
     for (;;) {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(
@@ -48,7 +34,7 @@ bool awaitReadable(const Descriptor& file, Moment deadline) {
     }
 }
 
-/// The process, as leader of a group of its own; 0 when it could not be started.
+/// Starts the program as leader of its own process group; 0 if it could not be started.
 pid_t start(const std::filesystem::path& program, const std::string& argument, int output) {
     posix_spawn_file_actions_t files;
     posix_spawnattr_t attributes;
@@ -57,7 +43,8 @@ pid_t start(const std::filesystem::path& program, const std::string& argument, i
     posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     posix_spawn_file_actions_adddup2(&files, output, STDOUT_FILENO);
     posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    // The threads of a pool may have signals blocked, and the program its own way with them.
+    // The child must not inherit this thread's blocked signals or the program's handling of
+    // signals.
     sigset_t none;
     sigset_t all;
     sigemptyset(&none);
@@ -78,7 +65,7 @@ pid_t start(const std::filesystem::path& program, const std::string& argument, i
     return error == 0 ? process : 0;
 }
 
-/// All that comes until the other end is closed; none when there is too much or the time is over.
+/// Everything that comes until the other end is closed; none if it is too much or the time is over.
 std::optional<std::string> readAll(const Descriptor& file, Moment deadline) {
     std::string output;
     std::array<char, maximumOutput> bytes;
@@ -106,10 +93,10 @@ std::optional<std::string> programOutput(const std::filesystem::path& program,
     if (process == 0) return std::nullopt;
 
     auto output = readAll(reading, deadline);
-    // The C library of Debian 12 has this call, but not for C++.
+    // The C library of Debian 12 does not declare pidfd_open for C++.
     const Descriptor handle{static_cast<int>(::syscall(SYS_pidfd_open, process, 0))};
     const bool ended = output && awaitReadable(handle, deadline);
-    // Its children must not stay either.
+    // The program's children must end too.
     ::kill(-process, SIGKILL);
     int status = 0;
     while (::waitpid(process, &status, 0) < 0 && errno == EINTR)

@@ -7,9 +7,9 @@
 
 namespace quillon {
 
-/// What the program prints on its standard output when it is started with this one argument, up to
-/// 4 KB. None when it cannot be started, fails, or takes longer than the time-out; it does not
-/// outlive that. Waits: not for the main thread.
+/// Runs the program with this one argument and returns its standard output, up to 4 KB. None if it
+/// cannot be started, fails, or takes longer than the time-out, after which it is killed. Waits:
+/// not for the main thread.
 [[nodiscard]] std::optional<std::string> programOutput(const std::filesystem::path& program,
                                                        const std::string& argument,
                                                        std::chrono::milliseconds timeout);

@@ -5,10 +5,10 @@
 
 namespace quillon {
 
-/// Which of two dotted versions is the newer one. Both are read as runs of digits and runs of
-/// letters; anything else only separates them. Numbers compare as numbers of any length, letters
-/// byte by byte; letters mark what comes before a release, so "1.0b2" < "1.0" < "1.0.1", and what
-/// is missing counts as 0, so "1.0" and "1.0.0" are equal. Total: any text has a place.
+/// Compares two dotted versions by age. Both are read as runs of digits and runs of letters;
+/// anything else only separates them. Numbers compare as numbers of any length, letters byte by
+/// byte; letters mark versions before a release, so "1.0b2" < "1.0" < "1.0.1"; missing parts count
+/// as 0, so "1.0" and "1.0.0" are equal. Any two texts can be compared.
 [[nodiscard]] std::strong_ordering compareVersions(std::string_view left, std::string_view right);
 
 } // namespace quillon

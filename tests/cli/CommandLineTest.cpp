@@ -2,20 +2,33 @@
 #include "cli/Reports.h"
 #include "cli/Terminal.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 using namespace quillon;
 
+namespace {
+
+/// "status(--json)", and "" for what was not understood.
+std::string understood(const std::vector<std::string>& words) {
+    const auto invocation = parseCommandLine(words);
+    if (!invocation) return {};
+    std::string text = std::string{invocation->command->name} + "(";
+    for (const std::string& argument : invocation->arguments)
+        text += argument;
+    return text + ")";
+}
+
+} // namespace
+
 TEST(CommandLine, UnderstandsOneCommandAndItsOption) {
-    EXPECT_EQ(parseCommandLine({"send"}), (Invocation{Command::send, ""}));
-    EXPECT_EQ(parseCommandLine({"settings"}), (Invocation{Command::settings, ""}));
-    EXPECT_EQ(parseCommandLine({"--json", "status"}), (Invocation{Command::status, "--json"}));
-    EXPECT_EQ(parseCommandLine({"history", "--json"}), (Invocation{Command::history, "--json"}));
-    EXPECT_EQ(parseCommandLine({"launch-at-login", "off"}),
-              (Invocation{Command::launchAtLogin, "off"}));
-    EXPECT_EQ(parseCommandLine({"launch-at-login", "status"}),
-              (Invocation{Command::launchAtLogin, "status"}));
-    EXPECT_EQ(parseCommandLine({"check-for-updates"}), (Invocation{Command::checkForUpdates, ""}));
+    EXPECT_EQ(understood({"send"}), "send()");
+    EXPECT_EQ(understood({"settings"}), "settings()");
+    EXPECT_EQ(understood({"--json", "status"}), "status(--json)");
+    EXPECT_EQ(understood({"history", "--json"}), "history(--json)");
+    EXPECT_EQ(understood({"launch-at-login", "off"}), "launch-at-login(off)");
+    EXPECT_EQ(understood({"launch-at-login", "status"}), "launch-at-login(status)");
+    EXPECT_EQ(understood({"status", "launch-at-login"}), "launch-at-login(status)");
+    EXPECT_EQ(understood({"check-for-updates"}), "check-for-updates()");
     const std::vector<std::vector<std::string>> misunderstood{{},
                                                               {""},
                                                               {"--json"},
@@ -27,9 +40,40 @@ TEST(CommandLine, UnderstandsOneCommandAndItsOption) {
                                                               {"launch-at-login"},
                                                               {"launch-at-login", "on", "off"},
                                                               {"launch-at-login", "--yes"},
+                                                              {"send", "--complete"},
                                                               {"uninstall"}};
     for (const auto& arguments : misunderstood) {
-        EXPECT_EQ(parseCommandLine(arguments), std::nullopt) << testing::PrintToString(arguments);
+        EXPECT_EQ(understood(arguments), "") << testing::PrintToString(arguments);
+    }
+}
+
+TEST(CommandLine, KnowsWhatOnlyReads) {
+    const auto reads = [](const std::vector<std::string>& words) {
+        return parseCommandLine(words)->onlyReads();
+    };
+    EXPECT_TRUE(reads({"status"}));
+    EXPECT_TRUE(reads({"history", "--json"}));
+    EXPECT_TRUE(reads({"launch-at-login", "status"}));
+    EXPECT_FALSE(reads({"launch-at-login", "on"}));
+    EXPECT_FALSE(reads({"send"}));
+}
+
+TEST(CommandLine, OffersWhatMayFollow) {
+    const std::string commands = completions({});
+    EXPECT_THAT(commands, testing::StartsWith("send\tsend what is on the clipboard\npanel\t"));
+    EXPECT_THAT(commands, testing::Not(testing::HasSubstr("--complete")));
+    EXPECT_EQ(completions({"launch-at-login"}), "on\topen it\noff\tdo not\nstatus\ttell which\n");
+    EXPECT_EQ(completions({"status", "--json"}), "");
+    EXPECT_EQ(completions({"sned"}), "");
+}
+
+/// Whoever adds a row must say what it does.
+TEST(CommandLine, HasSomethingToDoForEachCommand) {
+    for (const Command& command : allCommands()) {
+        const bool works =
+            command.where == Where::dataHolder || command.where == Where::hereAfterQuit;
+        EXPECT_EQ(command.action != nullptr, works) << command.name;
+        EXPECT_EQ(command.text != nullptr, command.where == Where::here) << command.name;
     }
 }
 

@@ -17,13 +17,18 @@ class HUDTest : public testing::Test {
 protected:
     [[nodiscard]] bool visible() const { return hud.panel() && hud.panel()->isVisible(); }
     [[nodiscard]] double alpha() const { return hud.panel()->alpha(); }
-    void good(bool sticky = false) { hud.show("Sent", "checkmark.circle.fill", true, sticky); }
-    void bad() { hud.show("No", "exclamationmark.triangle", false, false); }
+    void good(bool sticky = false) {
+        hud.show({.text = "Sent",
+                  .symbol = "checkmark.circle.fill",
+                  .sticky = sticky,
+                  .position = position});
+    }
+    void bad() { hud.show({.text = "No", .symbol = "exclamationmark.triangle", .ok = false}); }
 
     test::FakeClock clock;
     test::FakeCompositor compositor{true};
     BannerPosition position = BannerPosition::top;
-    HUD hud{clock, compositor, [this] { return position; }};
+    HUD hud{clock, compositor};
 };
 
 TEST_F(HUDTest, FadesInStaysAsLongAsItsNewsDeservesAndFadesOut) {

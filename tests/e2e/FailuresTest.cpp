@@ -120,7 +120,7 @@ TEST_F(EndToEnd, FailsClearlyWithoutADisplay) {
         blind.environment.insert(QStringLiteral("DISPLAY"), display);
         const Finished run = blind.run({"send"});
         EXPECT_EQ(run.code, 1);
-        EXPECT_EQ(run.err, "There is no clipboard to read: no X server answers.\n");
+        EXPECT_EQ(run.err, "There is no desktop to work on: no X server answers.\n");
     }
     EXPECT_EQ(blind.run({"status"}).code, 0) << "needs no display";
 }

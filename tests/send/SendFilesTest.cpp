@@ -19,9 +19,9 @@ TEST_F(SendFiles, SendsTheFileThoughTheFolderBeforeItFails) {
     computer.send(files({folder, file("a.txt")}));
 
     EXPECT_THAT(computer.messages("files"), SizeIs(1));
-    EXPECT_THAT(computer.banner.shown,
-                ElementsAre(FakeBanner::Shown{"1 sent, 1 failed", "exclamationmark.triangle", false,
-                                              false}));
+    EXPECT_THAT(
+        computer.banner.shown,
+        ElementsAre(BannerMessage{"1 sent, 1 failed", "exclamationmark.triangle", false, false}));
     EXPECT_THAT(computer.sounds.played, ElementsAre(Sound::basso));
     ASSERT_THAT(computer.store->history(), SizeIs(2));
     EXPECT_EQ(computer.store->history()[0].title, "a.txt");

@@ -95,8 +95,8 @@ TEST_F(SendPipeline, SendsEachKindOfContentToItsTopic) {
         EXPECT_EQ(entry,
                   (Sent{entry.id, kind.symbol, kind.title, topic.name, computer.clock.now(), {}}));
         EXPECT_THAT(computer.banner.shown,
-                    ElementsAre(FakeBanner::Shown{"Sent to " + topic.name, "checkmark.circle.fill",
-                                                  true, false}));
+                    ElementsAre(BannerMessage{"Sent to " + topic.name, "checkmark.circle.fill",
+                                              true, false}));
         EXPECT_THAT(computer.sounds.played, ElementsAre(Sound::pop));
         const std::size_t comma = kind.event.find(',');
         EXPECT_THAT(computer.newEvents(), ElementsAre("sent {" + kind.event.substr(0, comma) +
@@ -170,7 +170,7 @@ TEST_F(SendPipeline, SaysThatItIsSendingAfterAWhile) {
         computer.clear();
         computer.sandbox.failNext(flood(1));
         computer.pasteboard.copy({{"image/png", pngOf(1000)}});
-        auto sending = computer.store->sendClipboard("button");
+        auto sending = computer.store->sendClipboard(Trigger::button);
         // The flood-control wait, beside the one for the banner, keeps the send open.
         ASSERT_TRUE(waitUntil([&] { return computer.clock.pending() == 2; }));
         EXPECT_TRUE(computer.store->busy());
@@ -179,7 +179,7 @@ TEST_F(SendPipeline, SaysThatItIsSendingAfterAWhile) {
         computer.clock.advance(1ms);
         if (showBanner) {
             EXPECT_THAT(computer.banner.shown,
-                        ElementsAre(FakeBanner::Shown{"Sending…", "arrow.up.circle", true, true}));
+                        ElementsAre(BannerMessage{"Sending…", "arrow.up.circle", true, true}));
         }
         computer.clock.advance(1299ms);
         EXPECT_THAT(computer.sandbox.requests(), SizeIs(1))
@@ -198,9 +198,9 @@ TEST_F(SendPipeline, SaysThatItIsSendingAfterAWhile) {
 TEST_F(SendPipeline, IgnoresATriggerWhileASendRuns) {
     computer.pasteboard.copy(text("held"));
     computer.pasteboard.hesitates = true;
-    auto reading = computer.store->sendClipboard("shortcut");
+    auto reading = computer.store->sendClipboard(Trigger::shortcut);
     EXPECT_FALSE(computer.store->busy()) << "still reads the clipboard";
-    await(computer.store->sendClipboard("button"));
+    await(computer.store->sendClipboard(Trigger::button));
     computer.pasteboard.hesitates = false;
     computer.pasteboard.giveUp();
     await(std::move(reading));
@@ -209,9 +209,9 @@ TEST_F(SendPipeline, IgnoresATriggerWhileASendRuns) {
     computer.clear();
     computer.pasteboard.copy(text("one"));
     computer.sandbox.failNext(fault(FaultKind::hang));
-    auto hanging = computer.store->sendClipboard("shortcut");
+    auto hanging = computer.store->sendClipboard(Trigger::shortcut);
     ASSERT_TRUE(waitUntil([&] { return !computer.sandbox.requests().empty(); }));
-    await(computer.store->sendClipboard("button"));
+    await(computer.store->sendClipboard(Trigger::button));
     EXPECT_THAT(banners(), IsEmpty());
     computer.sandbox.stop();
     await(std::move(hanging));
@@ -221,8 +221,8 @@ TEST_F(SendPipeline, IgnoresATriggerWhileASendRuns) {
 
 TEST_F(SendPipeline, NeedsASetupAndSomethingToSend) {
     computer.send({});
-    EXPECT_THAT(computer.banner.shown, ElementsAre(FakeBanner::Shown{"The clipboard is empty",
-                                                                     "clipboard", false, false}));
+    EXPECT_THAT(computer.banner.shown,
+                ElementsAre(BannerMessage{"The clipboard is empty", "clipboard", false, false}));
     EXPECT_THAT(computer.newEvents(), IsEmpty());
 
     const std::function<void()> breakages[] = {
@@ -237,8 +237,8 @@ TEST_F(SendPipeline, NeedsASetupAndSomethingToSend) {
         breakIt();
         computer.send(text("a"));
         EXPECT_THAT(computer.banner.shown,
-                    ElementsAre(FakeBanner::Shown{"Finish setting up Quillon first",
-                                                  "exclamationmark.circle", false, false}));
+                    ElementsAre(BannerMessage{"Finish setting up Quillon first",
+                                              "exclamationmark.circle", false, false}));
         EXPECT_THAT(computer.newEvents(), ElementsAre(R"(send_failed {"reason":"not_set_up"})"));
     }
     EXPECT_THAT(computer.sandbox.requests(), IsEmpty());

@@ -58,7 +58,7 @@ protected:
 
     std::vector<std::string> banners() {
         std::vector<std::string> texts;
-        for (const FakeBanner::Shown& shown : computer.banner.shown)
+        for (const BannerMessage& shown : computer.banner.shown)
             texts.push_back(shown.text);
         return texts;
     }

@@ -49,6 +49,25 @@ TEST(Topics, AreMadeInOrderAndWelcomed) {
     EXPECT_THAT(computer.methods(), ElementsAre("getUpdates"));
 }
 
+TEST(SetupActions, WorkOneAfterTheOther) {
+    BotComputer computer;
+    computer.sandbox.userSays(computer.sandbox.addGroup(), "hi");
+    await(computer.store->connectBot(BotComputer::token));
+    auto finding = computer.store->findGroup();
+    auto creating = computer.store->createTopics();
+    auto again = computer.store->createTopics();
+    auto forgetting = computer.store->forgetBot();
+    EXPECT_TRUE(computer.store->tokenSaved()) << "forgotten before its turn";
+    await(std::move(finding));
+    await(std::move(creating));
+    EXPECT_TRUE(computer.store->isReady());
+    await(std::move(again));
+    EXPECT_TRUE(await(std::move(forgetting)));
+    EXPECT_EQ(std::ranges::count(computer.methods(), "createForumTopic"), 4);
+    EXPECT_EQ(computer.store->config().topics, Topic::defaults());
+    EXPECT_FALSE(computer.store->tokenSaved());
+}
+
 TEST(Topics, AreFoundAgainWithoutAWelcome) {
     ConnectedComputer computer;
     const auto before = computer.threads();

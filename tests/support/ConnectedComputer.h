@@ -80,7 +80,7 @@ struct ConnectedComputer : BotComputer {
     /// Sends the content as the clipboard's.
     void send(FakePasteboard::Content content) {
         pasteboard.copy(std::move(content));
-        await(store->sendClipboard("button"));
+        await(store->sendClipboard(Trigger::button));
     }
 
     [[nodiscard]] const Topic& topic(std::string_view key) const {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "analytics/Analytics.h"
+#include "analytics/StoreEvents.h"
 #include "base/Json.h"
 #include "desktop/Banner.h"
+#include "desktop/Hotkey.h"
 #include "platform/Platform.h"
 #include "platform/Sounds.h"
 #include "platform/linux/files/PosixFileSystem.h"
@@ -25,18 +27,9 @@ namespace quillon::test {
 /// Remembers the banners it was to show.
 class FakeBanner : public Banner {
 public:
-    struct Shown {
-        std::string text;
-        std::string symbol;
-        bool ok;
-        bool sticky;
-        bool operator==(const Shown&) const = default;
-    };
-    std::vector<Shown> shown;
+    std::vector<BannerMessage> shown;
 
-    void show(std::string text, std::string symbol, bool ok, bool sticky) override {
-        shown.push_back({std::move(text), std::move(symbol), ok, sticky});
-    }
+    void show(BannerMessage message) override { shown.push_back(std::move(message)); }
 };
 
 /// Remembers the sounds it was to play.
@@ -108,9 +101,11 @@ struct TestComputer {
 
     /// Ends the program and starts it again on the same data.
     void restart() {
+        storeEvents.reset();
         store.reset();
         analytics = std::make_unique<Analytics>(platform);
-        store = std::make_unique<Store>(platform, *analytics, banner);
+        store = std::make_unique<Store>(platform, banner, hotkey);
+        storeEvents = std::make_unique<StoreEvents>(*store, *analytics);
     }
 
     /// The home folder, which holds everything else.
@@ -150,7 +145,9 @@ struct TestComputer {
     FakeBanner banner;
     Platform platform;
     std::unique_ptr<Analytics> analytics;
+    Hotkey hotkey{hotKeys};
     std::unique_ptr<Store> store;
+    std::unique_ptr<StoreEvents> storeEvents;
 };
 
 } // namespace quillon::test

@@ -1,4 +1,5 @@
 #include "update/Archive.h"
+#include "platform/linux/files/TreeCopy.h"
 #include "support/Unprivileged.h"
 #include "update/Errors.h"
 #include "update/Makers.h"
@@ -26,7 +27,7 @@ protected:
         return unpack(bytes, folder, limits);
     }
     void empty() const {
-        removeTree(folder);
+        discardTree(folder);
         fs::create_directory(folder);
     }
     static mode_t mode(const fs::path& file) {

@@ -1,8 +1,8 @@
 #include "update/Makers.h"
 
-#include "base/Utf8Locale.h"
 #include "update/Archive.h"
 #include "update/ProgramOutput.h"
+#include "update/Utf8Locale.h"
 
 #include <archive.h>
 #include <gtest/gtest.h>

@@ -4,8 +4,8 @@
 
 namespace quillon {
 
-/// The folders of the user who runs this process, where freedesktop.org puts them. A variable that
-/// is relative, or that leads back up by "..", counts as not set.
+/// The folders of the user who runs this process, by freedesktop.org's base directory variables. A
+/// variable with a relative path or a ".." counts as not set.
 [[nodiscard]] Folders linuxFolders();
 
 } // namespace quillon

@@ -14,7 +14,7 @@ constexpr const char* serverVariable = "QUILLON_SERVER";
 
 constexpr const char* telegramsBotApi = "https://api.telegram.org";
 
-/// The base address in the variable, else the usual one, without slashes at the end.
+/// The base address in the variable, else the usual one, both without trailing slashes.
 std::string baseAddress(const char* variable, const char* usual) {
     std::string address = environment(variable).value_or(usual);
     while (address.ends_with('/'))

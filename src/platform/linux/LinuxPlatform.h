@@ -20,8 +20,8 @@ namespace quillon {
 /// The services of a Linux desktop, as the environment describes it.
 class LinuxPlatform {
 public:
-    /// QUILLON_BOT_API, when set, names another Bot API server, and QUILLON_SERVER another makers'
-    /// server; both may speak plain http.
+    /// If QUILLON_BOT_API is set, it names another Bot API server, and QUILLON_SERVER another
+    /// makers' server; both may then use plain http.
     explicit LinuxPlatform(std::unique_ptr<Pasteboard> pasteboard,
                            std::unique_ptr<HotKeys> hotKeys = std::make_unique<NoHotKeys>());
 

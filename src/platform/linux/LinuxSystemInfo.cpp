@@ -13,7 +13,7 @@ namespace quillon {
 
 namespace {
 
-/// Longer than any product name, in bytes.
+/// No product name is longer, in bytes.
 constexpr qint64 maximumNameSize = 4096;
 
 /// The firmware's tables on PCs, then the device tree of most other machines.
@@ -25,7 +25,7 @@ std::string threeNumbers(const char* release) {
     unsigned major = 0;
     unsigned minor = 0;
     unsigned patch = 0;
-    // What is missing stays 0. NOLINTNEXTLINE(cert-err34-c)
+    // Missing numbers stay 0. NOLINTNEXTLINE(cert-err34-c)
     std::sscanf(release, "%u.%u.%u", &major, &minor, &patch);
     return std::to_string(major) + '.' + std::to_string(minor) + '.' + std::to_string(patch);
 }

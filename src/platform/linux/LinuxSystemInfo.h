@@ -4,8 +4,8 @@
 
 namespace quillon {
 
-/// The kernel's version, Qt's idea of the locale, and the product name that the firmware (DMI) or
-/// the device tree gives.
+/// The kernel's version, Qt's locale, and the product name from the firmware (DMI) or the device
+/// tree.
 [[nodiscard]] SystemInfo linuxSystemInfo();
 
 } // namespace quillon

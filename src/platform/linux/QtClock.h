@@ -9,7 +9,7 @@ class QtClock final : public Clock {
 public:
     [[nodiscard]] Time now() const override;
 
-    /// The action may destroy its own timer. Delays beyond 24 days are cut to that.
+    /// The action may destroy its own timer. Longer delays than 24 days are cut to that.
     [[nodiscard]] std::unique_ptr<Timer> after(std::chrono::milliseconds delay,
                                                std::function<void()> action) override;
 };

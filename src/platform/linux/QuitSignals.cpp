@@ -13,14 +13,14 @@ namespace {
 
 constexpr std::array endings{SIGTERM, SIGINT, SIGHUP};
 
-/// Where the handler finds it.
+/// A signal handler can reach only globals.
 int bell = -1;
 
 void ring(int /*signal*/) {
     eventfd_write(bell, 1);
 }
 
-/// Except for those that whoever started the process has it ignore, as nohup does.
+/// Leaves signals alone that the process was started to ignore, as by nohup.
 void handleEndings(sighandler_t handler) {
     for (const int ending : endings) {
         if (std::signal(ending, handler) == SIG_IGN) std::signal(ending, SIG_IGN);

@@ -14,7 +14,7 @@ public:
     explicit QuitSignals(std::function<void()> quit);
     QuitSignals(const QuitSignals&) = delete;
     QuitSignals& operator=(const QuitSignals&) = delete;
-    /// From here on the signals end the process at once, as ever.
+    /// Restores the default: the signals end the process at once.
     ~QuitSignals();
 
 private:

@@ -79,7 +79,7 @@ void PanelView::build() {
 
 void PanelView::connectActions() {
     connect(send_, &SendButton::clicked, this,
-            [this] { std::ignore = store_.sendClipboard("button"); });
+            [this] { std::ignore = store_.sendClipboard(Trigger::button); });
     connect(setup_, &SetupCard::startSetup, this, [this] { actions_.showSettings(); });
     connect(footer_, &PanelFooter::settings, this, [this] { actions_.showSettings(); });
     connect(footer_, &PanelFooter::checkForUpdates, this, [this] { updater_.checkForUpdates(); });

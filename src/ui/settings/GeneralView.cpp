@@ -178,8 +178,9 @@ void GeneralView::pickShortcut(int index) {
 
 void GeneralView::pickPosition(BannerPosition position) {
     store_.changeConfig([position](Config& config) { config.bannerPosition = position; });
-    actions_.showBanner(tr("Sent to 📝 Notes & text").toStdString(), "checkmark.circle.fill", true,
-                        false);
+    actions_.showBanner({.text = tr("Sent to 📝 Notes & text").toStdString(),
+                         .symbol = "checkmark.circle.fill",
+                         .position = position});
 }
 
 void GeneralView::confirmUninstall() {

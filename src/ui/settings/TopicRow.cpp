@@ -1,15 +1,13 @@
 #include "ui/settings/TopicRow.h"
 
+#include "base/Translate.h"
 #include "ui/accessibility/Accessibility.h"
 #include "ui/controls/TextField.h"
 #include "ui/controls/Tile.h"
 #include "ui/text/IconLabel.h"
 
-#include <QCoreApplication>
 #include <QHBoxLayout>
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace quillon {
@@ -19,42 +17,16 @@ namespace {
 constexpr int betweenParts = 10;
 constexpr double ruleWidth = 120;
 
-/// What is said about the topic of a kind of content.
-struct Caption {
-    std::string_view key;
-    const char* hint;
-    const char* rule;
-};
-
-constexpr const char* context = "quillon::TopicRow";
-
-constexpr std::array<Caption, 4> captions{{
-    {"notes", QT_TRANSLATE_NOOP("quillon::TopicRow", "Text"),
-     QT_TRANSLATE_NOOP("quillon::TopicRow", "copied text")},
-    {"images", QT_TRANSLATE_NOOP("quillon::TopicRow", "Pictures"),
-     QT_TRANSLATE_NOOP("quillon::TopicRow", "pictures")},
-    {"files", QT_TRANSLATE_NOOP("quillon::TopicRow", "Files"),
-     QT_TRANSLATE_NOOP("quillon::TopicRow", "any other file")},
-    {"videos", QT_TRANSLATE_NOOP("quillon::TopicRow", "Videos"),
-     QT_TRANSLATE_NOOP("quillon::TopicRow", "video files")},
-}};
-
-const Caption* captionOf(const std::string& key) {
-    const auto* found = std::ranges::find(captions, key, &Caption::key);
-    return found == captions.end() ? nullptr : found;
-}
-
-/// What the name's field shows while it is empty.
-QString hint(const std::string& key) {
-    const Caption* caption = captionOf(key);
-    return caption ? QCoreApplication::translate(context, caption->hint)
-                   : QString::fromStdString(key);
+/// What the name's field is called, and shows while it is empty.
+QString hint(const Topic& topic) {
+    const auto kind = topic.kind();
+    return QString::fromStdString(kind ? translate("Topic", traits(*kind).hint) : topic.key);
 }
 
 /// What goes to the topic.
-QString rule(const std::string& key) {
-    const Caption* caption = captionOf(key);
-    return caption ? QCoreApplication::translate(context, caption->rule) : QString{};
+QString rule(const Topic& topic) {
+    const auto kind = topic.kind();
+    return QString::fromStdString(kind ? translate("Topic", traits(*kind).rule) : std::string{});
 }
 
 } // namespace
@@ -81,10 +53,10 @@ TopicRow::TopicRow(QWidget* parent)
 
 void TopicRow::setTopic(const Topic& topic) {
     tile_->setSymbol(std::string{topic.symbol()}, QColor::fromRgb(static_cast<QRgb>(topic.color)));
-    name_->setPlaceholderText(hint(topic.key));
-    if (name_->accessibleName() != hint(topic.key)) name_->setAccessibleName(hint(topic.key));
-    setDescription(*name_, rule(topic.key));
-    rule_->setText(rule(topic.key));
+    name_->setPlaceholderText(hint(topic));
+    if (name_->accessibleName() != hint(topic)) name_->setAccessibleName(hint(topic));
+    setDescription(*name_, rule(topic));
+    rule_->setText(rule(topic));
     // What the user is typing is already the topic's name, so that this is a name from elsewhere.
     const QString name = QString::fromStdString(topic.name);
     shown_ = name;

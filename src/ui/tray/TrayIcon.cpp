@@ -76,7 +76,7 @@ void TrayIcon::buildMenu() {
     QAction* const settings = menu_.addAction(tr("Settings…"));
     QAction* const quit = menu_.addAction(tr("Quit"));
     connect(send_, &QAction::triggered, this,
-            [this] { std::ignore = store_.sendClipboard("button"); });
+            [this] { std::ignore = store_.sendClipboard(Trigger::button); });
     connect(panel, &QAction::triggered, this, [this] { actions_.openPanel(place()); });
     connect(settings, &QAction::triggered, this, [this] { actions_.showSettings(); });
     connect(quit, &QAction::triggered, this, [this] { actions_.quit(); });

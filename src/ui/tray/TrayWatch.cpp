@@ -16,8 +16,8 @@ const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
 } // namespace
 
 TrayWatch::TrayWatch(QDBusConnection bus) : bus_{std::move(bus)} {
-    connect(&manager_, &X11Manager::changed, this, &TrayWatch::changed);
-    connect(&manager_, &X11Manager::propertyChanged, this, &TrayWatch::recoloured);
+    connect(&tray_, &X11Tray::changed, this, &TrayWatch::changed);
+    connect(&tray_, &X11Tray::recoloured, this, &TrayWatch::recoloured);
     watchBus();
 }
 
@@ -25,7 +25,7 @@ void TrayWatch::watchBus() {
     auto* const owner =
         new QDBusServiceWatcher{watcherName, bus_, QDBusServiceWatcher::WatchForOwnerChange, this};
     connect(owner, &QDBusServiceWatcher::serviceOwnerChanged, this, [this] {
-        setHosted(false); // whoever comes next knows nothing of icons given to another
+        setHosted(false); // the next watcher knows nothing of icons that were given to this one
         askWatcher();
     });
     for (const char* signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
@@ -53,15 +53,6 @@ void TrayWatch::setHosted(bool hosted) {
     if (hosted == hosted_) return;
     hosted_ = hosted;
     Q_EMIT changed();
-}
-
-std::optional<QColor> TrayWatch::foreground() const {
-    // Four colours, the first that of text and symbols, each of three cardinals up to 65535.
-    const auto reply = manager_.property(XCB_ATOM_CARDINAL, 3);
-    if (!reply || reply->format != 32 || reply->value_len < 3) return std::nullopt;
-    const auto* const rgb = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
-    return QColor::fromRgba64(static_cast<quint16>(rgb[0]), static_cast<quint16>(rgb[1]),
-                              static_cast<quint16>(rgb[2]));
 }
 
 } // namespace quillon

@@ -45,19 +45,17 @@ struct SettingsTest : testing::Test {
     Updater updater{computer.platform, *computer.analytics, fakeHooks(framework)};
     int uninstalls = 0;
     int panels = 0;
-    SettingsView view{
-        *computer.store, updater,
-        SettingsActions{.showBanner =
-                            [this](std::string said, std::string symbol, bool ok, bool sticky) {
-                                computer.banner.show(std::move(said), std::move(symbol), ok,
-                                                     sticky);
-                            },
-                        .uninstall = [this]() -> QCoro::Task<> {
-                            ++uninstalls;
-                            co_return;
-                        },
-                        .openPanel = [this] { ++panels; }},
-        QStringLiteral("setup")};
+    SettingsView view{*computer.store, updater,
+                      SettingsActions{.showBanner =
+                                          [this](BannerMessage message) {
+                                              computer.banner.show(std::move(message));
+                                          },
+                                      .uninstall = [this]() -> QCoro::Task<> {
+                                          ++uninstalls;
+                                          co_return;
+                                      },
+                                      .openPanel = [this] { ++panels; }},
+                      QStringLiteral("setup")};
     Controls controls{view};
 };
 
@@ -146,7 +144,9 @@ TEST_F(SettingsTest, PicksTheBannersPlace) {
     controls.click("Banner in the bottom");
     EXPECT_EQ(config().bannerPosition, BannerPosition::bottom);
     EXPECT_THAT(selected(), ElementsAre("Banner in the bottom"));
-    const FakeBanner::Shown preview{"Sent to 📝 Notes & text", "checkmark.circle.fill", true, false};
+    const BannerMessage preview{.text = "Sent to 📝 Notes & text",
+                                .symbol = "checkmark.circle.fill",
+                                .position = BannerPosition::bottom};
     EXPECT_THAT(computer.banner.shown, ElementsAre(preview));
 
     // The same again is saved and shown, but is no change to report.

@@ -1,15 +1,66 @@
 #include "ui/CommandService.h"
 
-#include "cli/SpokenBanner.h"
+#include "cli/RemoteProgram.h"
+#include "core/Core.h"
+#include "platform/SessionBus.h"
+#include "support/Await.h"
+#include "support/RawServer.h"
 #include "support/TestComputer.h"
+
+#include <QDBusConnection>
+#include <QDBusPendingReply>
 
 #include <gmock/gmock.h>
 
+#include <semaphore>
+
+#include <sys/mman.h>
+
 namespace quillon::test {
 
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+using Answer = QDBusPendingReply<int, QString, QString>;
+
+QDBusUnixFileDescriptor noInput() {
+    QDBusUnixFileDescriptor input;
+    input.giveFileDescriptor(::memfd_create("input", MFD_CLOEXEC));
+    return input;
+}
+
+/// Another process of the session, as the bus sees it.
+class Caller {
+public:
+    Answer run(const QStringList& words) {
+        return call("RunCommand", {words, QVariant::fromValue(noInput())});
+    }
+    Answer call(const char* method, const QVariantList& arguments) {
+        QDBusMessage message = QDBusMessage::createMethodCall(
+            QLatin1String{RemoteProgram::busName}, QLatin1String{RemoteProgram::objectPath},
+            QLatin1String{RemoteProgram::interfaceName}, QLatin1String{method});
+        message.setArguments(arguments);
+        return bus_.asyncCall(message);
+    }
+    static std::string output(Answer answer) {
+        EXPECT_TRUE(waitUntil([&] { return answer.isFinished(); }));
+        return answer.isError() ? answer.error().name().toStdString()
+                                : answer.argumentAt<1>().toStdString();
+    }
+
+private:
+    QDBusConnection bus_ =
+        QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("caller"));
+};
+
+} // namespace
+
 TEST(CommandService, GrantsWhatWasWishedForBeforeItWasReady) {
-    const TestComputer computer;
-    SpokenBanner banner{nullptr};
+    TestComputer computer;
+    Core core{computer.platform, nullptr};
     std::vector<std::string> granted;
     const DesktopActions actions{.showSettings = [&] { granted.emplace_back("settings"); },
                                  .showPanel = [&] { granted.emplace_back("panel"); },
@@ -18,12 +69,59 @@ TEST(CommandService, GrantsWhatWasWishedForBeforeItWasReady) {
     // As a bus does that has started the program for just this.
     service.wishByName(QStringLiteral("send"), {});
     service.wish(&DesktopActions::showSettings, {});
-    EXPECT_THAT(granted, testing::IsEmpty());
-    Platform platform = computer.platform;
-    service.serve({platform, *computer.analytics, *computer.store, banner, nullptr}, actions);
-    EXPECT_THAT(granted, testing::ElementsAre("send", "settings"));
+    EXPECT_THAT(granted, IsEmpty());
+    service.serve({computer.platform, core, nullptr}, actions);
+    EXPECT_THAT(granted, ElementsAre("send", "settings"));
     service.wishByName(QStringLiteral("settings"), {});
-    EXPECT_THAT(granted, testing::ElementsAre("send", "settings", "settings"));
+    EXPECT_THAT(granted, ElementsAre("send", "settings", "settings"));
+}
+
+TEST(CommandService, AnswersWhoOnlyReadsWhileAnotherCommandIsAtWork) {
+    std::binary_semaphore telegramAnswers{0};
+    RawServer telegram{[&](RawServer::Connection& connection) {
+        connection.request();
+        telegramAnswers.acquire();
+        connection.reply(200, R"({"ok":true,"result":[]})");
+    }};
+    const SessionBus bus;
+    TestComputer computer{"http://127.0.0.1:" + std::to_string(telegram.port())};
+    computer.secrets.values[{botTokenItem().service, botTokenItem().account}] = "1:token";
+    Core core{computer.platform, nullptr};
+    CommandService service{[] {}};
+    ASSERT_EQ(service.publish(), CommandService::Publication::done);
+
+    Caller caller;
+    Answer finding = caller.run({QStringLiteral("find-group")});
+    Answer early = caller.run({QStringLiteral("status")});
+    waitUntil([] { return false; }, std::chrono::milliseconds{50});
+    EXPECT_FALSE(early.isFinished()) << "nobody is answered before the program serves";
+    service.serve({computer.platform, core, nullptr}, {});
+    Answer next = caller.run({QStringLiteral("launch-at-login"), QStringLiteral("on")});
+    EXPECT_THAT(Caller::output(early), StartsWith("Bot:      connected"));
+    EXPECT_EQ(Caller::output(caller.run({QStringLiteral("history"), QStringLiteral("--json")})),
+              "[]\n");
+    EXPECT_EQ(
+        Caller::output(caller.run({QStringLiteral("launch-at-login"), QStringLiteral("status")})),
+        "off\n");
+    EXPECT_FALSE(finding.isFinished());
+    EXPECT_FALSE(next.isFinished()) << "what changes something keeps its turn";
+    telegramAnswers.release();
+    EXPECT_EQ(Caller::output(next), "");
+    ASSERT_TRUE(finding.isFinished());
+    EXPECT_THAT(finding.argumentAt<2>().toStdString(), StartsWith("No group found yet."));
+
+    // As the command lines of older versions call.
+    const auto run = [&](const char* command, const char* argument) {
+        return Caller::output(
+            caller.call("Run", {QString::fromLatin1(command), QString::fromLatin1(argument),
+                                QVariant::fromValue(noInput())}));
+    };
+    EXPECT_EQ(run("launch-at-login", "status"), "on\n");
+    EXPECT_THAT(run("status", ""), StartsWith("Bot:"));
+    const std::string refused = "org.freedesktop.DBus.Error.InvalidArgs";
+    EXPECT_EQ(run("uninstall", "--yes"), refused);
+    EXPECT_EQ(Caller::output(caller.run({QStringLiteral("panel")})), refused);
+    EXPECT_EQ(Caller::output(caller.run({})), refused);
 }
 
 } // namespace quillon::test

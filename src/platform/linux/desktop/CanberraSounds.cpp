@@ -16,25 +16,25 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// How long quitting waits for the sound server to be found, and for it to be left, at most.
+/// Quitting waits this long for the connection to the sound server, and again for the end of it.
 constexpr std::chrono::milliseconds closingLimit{200};
 
-/// How long quitting lets a sound go on that is with the sound server. Both together make no more
-/// than 2 seconds.
+/// Quitting lets a sound that the server has go on for this long. Both limits together are 2
+/// seconds.
 constexpr std::chrono::milliseconds soundLimit{1800};
 
-/// Names as freedesktop.org lists them for sound themes. A theme without "message-sent-instant" is
-/// searched for "message-sent" and "message".
+/// The names come from freedesktop.org's list for sound themes. A theme without
+/// "message-sent-instant" is searched for "message-sent" and "message".
 const char* eventOf(Sound sound) {
     return sound == Sound::pop ? "message-sent-instant" : "dialog-error";
 }
 
-/// An error handler in ALSA's form.
+/// An error handler with the signature that ALSA wants.
 void ignoreError(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
                  const char* /*format*/, ...) {}
 
-/// Without a sound server ALSA is tried, which complains on standard error where there is no sound
-/// card either. It is loaded once a context is open.
+/// Without a sound server libcanberra tries ALSA, which complains on standard error if there is no
+/// sound card either. ALSA is loaded once a context is open.
 void silenceAlsa() {
     using SetHandler = int (*)(decltype(&ignoreError));
     void* alsa = dlopen("libasound.so.2", RTLD_LAZY | RTLD_NOLOAD);
@@ -56,8 +56,8 @@ ca_context* connect() {
 
 } // namespace
 
-/// The thread and what it is to play next. A sound that comes while the server is still being
-/// looked for takes the place of the one before it.
+/// The thread and the sound that it plays next. A sound that is asked for before the server is
+/// found replaces the one before it.
 class CanberraSounds::Player : public std::enable_shared_from_this<Player> {
 public:
     void play(Sound sound) {
@@ -69,8 +69,7 @@ public:
         std::thread{[self = shared_from_this()] { self->run(); }}.detach();
     }
 
-    /// What was asked for last is still played. A thread that hangs in the sound server is left
-    /// behind.
+    /// Lets the last sound be played. A thread that hangs in the sound server is left behind.
     void close() {
         std::unique_lock lock{mutex_};
         const auto now = Clock::now();
@@ -101,14 +100,14 @@ private:
         }
         changed_.wait_until(lock, end_, [this] { return sounding_ == 0; });
         lock.unlock();
-        // Calls back for the sounds that it cuts off.
+        // This calls back for the sounds that it cuts off.
         if (context) ca_context_destroy(context);
         lock.lock();
         running_ = false;
         changed_.notify_all();
     }
 
-    /// False when the sound is not played, which calls nobody back.
+    /// False if the sound is not played; then there is no call back.
     bool start(ca_context* context, const char* event) {
         ca_proplist* properties = nullptr;
         if (ca_proplist_create(&properties) != CA_SUCCESS) return false;

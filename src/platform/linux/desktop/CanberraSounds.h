@@ -6,14 +6,13 @@
 
 namespace quillon {
 
-/// The sounds of the desktop's theme through libcanberra, on a thread of its own, because finding
+/// Plays the desktop theme's sounds through libcanberra, on a thread of its own, because finding
 /// the sound server can take a while.
 class CanberraSounds final : public Sounds {
 public:
     CanberraSounds();
 
-    /// Lets a sound that was asked for come to its end, which takes at most 2 seconds; 200 ms where
-    /// there is no sound server.
+    /// Lets the last sound end, for at most 2 seconds; for 200 ms if there is no sound server.
     ~CanberraSounds() override;
 
     void play(Sound sound) override;

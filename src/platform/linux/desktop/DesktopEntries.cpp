@@ -10,7 +10,8 @@
 #include <string_view>
 #include <system_error>
 
-// Outside the namespace, as the macro must be: static libraries drop resources nobody asks for.
+// Static libraries drop resources that are not initialised. The macro must be outside of
+// namespaces.
 static void loadPackagedEntry() {
     Q_INIT_RESOURCE(entries);
 }
@@ -21,7 +22,7 @@ namespace {
 
 using std::filesystem::path;
 
-/// The icon below an application folder.
+/// The icon's path below an application folder.
 constexpr const char* bundleIcon = "Contents/Resources/dev.vostrel.quillon.svg";
 
 path entryFile(const Folders& folders) {
@@ -31,7 +32,7 @@ path entryFile(const Folders& folders) {
 std::string iconOf(const path& application) {
     std::error_code ignored;
     const path icon = application / bundleIcon;
-    // Where a package has installed the icon, it goes by the application's name.
+    // Without a file in the folder, the name stands for the icon that a package has installed.
     return std::filesystem::exists(icon, ignored) ? icon.native() : applicationIdentifier;
 }
 
@@ -42,7 +43,7 @@ std::string packagedEntry() {
     return file.open(QFile::ReadOnly) ? file.readAll().toStdString() : std::string{};
 }
 
-/// The entry's own command and those of its actions, with another program.
+/// Puts another program into the commands of the entry and of its actions.
 std::string withProgram(std::string text, const std::string& exec) {
     constexpr std::string_view byName = "\nExec=quillon";
     const std::string replacement = "\nExec=" + exec;

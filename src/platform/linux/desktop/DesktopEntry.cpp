@@ -9,14 +9,14 @@ namespace quillon {
 
 namespace {
 
-/// Sets variables and starts a program.
+/// A program that starts another one.
 constexpr std::string_view environmentProgram = "env";
 
 constexpr std::string_view mainGroup = "[Desktop Entry]";
 
-/// What may not stand in an argument of Exec outside quotes.
+/// An argument of Exec with one of these needs quotes.
 constexpr std::string_view reserved = " \t\n\"'\\><~|&;$*?#()`";
-/// What a backslash must go before inside quotes.
+/// Inside quotes, these need a backslash.
 constexpr std::string_view escapedInQuotes = "\"`$\\";
 
 std::string_view withoutBlanks(std::string_view text) {
@@ -30,20 +30,20 @@ bool isControl(char byte) {
     return (byte >= 0 && byte < 0x20) || byte == 0x7F;
 }
 
-/// An argument of Exec, in quotes where it needs them, before the escapes that any string has.
+/// The text as an argument of Exec, quoted if necessary, but without the escapes of string values.
 std::string asArgument(std::string_view argument) {
     const bool needsQuotes = argument.find_first_of(reserved) != std::string_view::npos;
     std::string text;
     for (const char byte : argument) {
         if (escapedInQuotes.find(byte) != std::string_view::npos) text += '\\';
-        // What follows one alone is a field code.
+        // A single percent sign would begin a field code.
         if (byte == '%') text += '%';
         text += byte;
     }
     return needsQuotes ? '"' + text + '"' : text;
 }
 
-/// A string value without its escapes; those it does not know stay as they are.
+/// A string value with its escapes resolved; unknown ones stay as they are.
 std::string unescaped(std::string_view value) {
     constexpr std::string_view codes = R"(sntr\)";
     constexpr std::string_view meanings = " \n\t\r\\";
@@ -61,8 +61,7 @@ std::string unescaped(std::string_view value) {
     return text;
 }
 
-/// The arguments of a command line of Exec, without quotes and their escapes; none of them when its
-/// quotes do not end.
+/// The arguments of an Exec command line, unquoted; empty if a quote is not closed.
 std::vector<std::string> argumentsOf(std::string_view command) {
     std::vector<std::string> arguments;
     bool inArgument = false;
@@ -131,7 +130,7 @@ void DesktopEntry::set(std::string_view key, std::string_view value) {
         found = true;
     }
     if (found) return;
-    // Not behind the empty lines that part the group from what follows.
+    // Empty lines separate the group from the next, so the new line goes before them.
     const auto used = std::find_if(last, lines_.rend(), [](const Line& line) {
         return line.inGroup && !withoutBlanks(line.text).empty();
     });
@@ -158,7 +157,7 @@ DesktopEntry::program(const std::filesystem::path& executable) {
                           path.find('=') == std::string::npos &&
                           std::ranges::none_of(path, isControl);
     if (!nameable) return std::nullopt;
-    // GLib looks for a program in first place before it takes the doubled percent signs for single.
+    // GLib looks the program up before it turns doubled percent signs into single ones.
     const bool needsStarter = path.find('%') != std::string::npos;
     const std::string starter = needsStarter ? std::string{environmentProgram} + ' ' : "";
     return Program{.exec = starter + stringValue(asArgument(path)), .tryExec = stringValue(path)};

@@ -9,18 +9,19 @@
 namespace quillon {
 
 /// The main group of a desktop entry file, in the format of freedesktop.org's Desktop Entry
-/// standard 1.5. Whatever else the file holds, such as comments, translations and other
-/// groups, stays as it is.
+/// standard 1.5. Everything else in the file, such as comments, translations and other groups,
+/// stays as it is.
 class DesktopEntry {
 public:
-    /// Any bytes; what is no entry has no values.
+    /// Takes any bytes; text that is no entry has no values.
     explicit DesktopEntry(std::string_view text);
 
-    /// The raw value, as it is written; none when the key is missing. The last one counts.
+    /// The raw value, as it is written; none if the key is missing. If a key comes twice, the last
+    /// one counts.
     [[nodiscard]] std::optional<std::string> value(std::string_view key) const;
     /// Whether the key's value is true.
     [[nodiscard]] bool isTrue(std::string_view key) const;
-    /// Whether the key's value is false, rather than missing.
+    /// Whether the key's value is false. A missing key is not.
     [[nodiscard]] bool isFalse(std::string_view key) const;
 
     /// Gives the key this raw value; a new key goes to the end of the group. Nothing happens in a
@@ -39,7 +40,7 @@ public:
     };
     [[nodiscard]] static std::optional<Program> program(const std::filesystem::path& executable);
 
-    /// Text as a value of the type string.
+    /// The text as a value of the type string.
     [[nodiscard]] static std::string stringValue(std::string_view text);
 
     /// The program that a value of Exec starts: a path, or the name of one to be looked for. None

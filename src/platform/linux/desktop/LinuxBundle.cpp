@@ -13,7 +13,7 @@ namespace {
 
 using std::filesystem::path;
 
-/// A property list of ours has 1 KB; a larger file than this, in bytes, is none.
+/// Our property lists have 1 KB; files larger than this, in bytes, are not read.
 constexpr qint64 maximumPropertyListSize = 1'000'000;
 
 } // namespace

@@ -6,12 +6,12 @@
 
 namespace quillon {
 
-/// Where an application folder has its program, below the folder itself.
+/// The program's path below its application folder.
 inline constexpr const char* bundleProgram = "Contents/Linux/quillon";
-/// Where it has its property list.
+/// The property list's path below the application folder.
 inline constexpr const char* bundlePropertyList = "Contents/Info.plist";
 
-/// The application folder that has this program; none when it lies elsewhere.
+/// The application folder that this program belongs to; none if it lies elsewhere.
 [[nodiscard]] std::optional<std::filesystem::path>
 applicationFolder(const std::filesystem::path& program);
 
@@ -19,11 +19,11 @@ applicationFolder(const std::filesystem::path& program);
 /// version that the program was built with, and nothing else.
 [[nodiscard]] Bundle runningBundle();
 
-/// The application folder with its property list; no values where that cannot be read.
+/// The bundle in this application folder; without values if its property list cannot be read.
 [[nodiscard]] Bundle bundleAt(const std::filesystem::path& folder);
 
-/// The text values of an XML property list's outermost dictionary; none of them when the file is
-/// broken anywhere.
+/// The text values of an XML property list's outermost dictionary; empty if the file is broken
+/// anywhere.
 [[nodiscard]] std::map<std::string, std::string, std::less<>>
 parsePropertyList(const QByteArray& xml);
 

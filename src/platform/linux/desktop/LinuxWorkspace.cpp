@@ -21,7 +21,7 @@ namespace quillon {
 
 namespace {
 
-/// Not the banner, menus, tool tips or the icon in the desktop's panel.
+/// Excludes the banner, menus, tool tips and the icon in the desktop's panel.
 bool takesFocus(const QWindow& window) {
     constexpr Qt::WindowFlags unmanaged =
         Qt::WindowDoesNotAcceptFocus | Qt::BypassWindowManagerHint;
@@ -72,7 +72,7 @@ void LinuxWorkspace::openAfterExit(const std::filesystem::path& application) {
 
 void LinuxWorkspace::terminate() {
     QTimer::singleShot(0, QCoreApplication::instance(), [] {
-        // Not quit(), which first has every window closed, and a window may refuse.
+        // quit() would first close every window, and a window may refuse.
         QCoreApplication::exit(0);
     });
 }

@@ -5,7 +5,7 @@
 
 namespace quillon {
 
-/// The freedesktop.org trash, processes as /proc tells them, and desktop entries.
+/// Uses the freedesktop.org trash, /proc and desktop entries.
 class LinuxWorkspace final : public Workspace {
 public:
     explicit LinuxWorkspace(Folders folders);

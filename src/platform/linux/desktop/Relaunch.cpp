@@ -13,12 +13,12 @@ namespace quillon {
 
 namespace {
 
-/// The shell asks this often whether the process is still there. The shell's own `kill`, for not
-/// every machine has the program.
+/// The shell checks this often whether the process is still there. It uses its built-in `kill`,
+/// because not every machine has the program.
 constexpr const char* whileRunning = "while kill -0 ";
 constexpr const char* thenOpen = " 2>/dev/null; do /bin/sleep 0.2; done; exec \"$0/";
 
-/// What makes a child independent of its parent; freed with its owner.
+/// The posix_spawn attributes and file actions that make a child independent of its parent.
 struct Independence {
     posix_spawn_file_actions_t files{};
     posix_spawnattr_t attributes{};

@@ -5,7 +5,7 @@
 namespace quillon {
 
 /// Starts the application folder's program as soon as this process has ended, in a session of its
-/// own and with nothing of this process but its environment. A failure is ignored.
+/// own, inheriting only the environment. A failure is ignored.
 void openAfterExit(const std::filesystem::path& application);
 
 } // namespace quillon

@@ -17,10 +17,10 @@ namespace {
 
 using std::filesystem::path;
 
-/// Longer than any path or status, in bytes.
+/// No path or status is longer, in bytes.
 constexpr qint64 maximumSize = 1'000'000;
 
-/// What the system adds to the path of an executable that was removed or replaced.
+/// The system adds this to the path of an executable that was removed or replaced.
 constexpr std::string_view deletedSuffix = " (deleted)";
 
 bool isProcess(const path& folder) {
@@ -28,8 +28,8 @@ bool isProcess(const path& folder) {
     return !name.empty() && std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// The effective user, from the line "Uid: real effective saved file": the folder of a process that
-/// keeps out of core dumps belongs to root.
+/// The process's effective user, from the line "Uid: real effective saved file". The folder's owner
+/// does not tell, because the folder of a process that keeps out of core dumps belongs to root.
 std::optional<uid_t> userOf(const path& process) {
     constexpr std::string_view label = "\nUid:\t";
     const std::string bytes =
@@ -44,7 +44,7 @@ std::optional<uid_t> userOf(const path& process) {
     return read.ec == std::errc{} ? std::optional{user} : std::nullopt;
 }
 
-/// None for a kernel thread, or when the process is gone.
+/// The process's executable; none for a kernel thread, or if the process is gone.
 std::optional<path> programOf(const path& process) {
     std::error_code error;
     std::string program = std::filesystem::read_symlink(process / "exe", error).native();
@@ -54,7 +54,7 @@ std::optional<path> programOf(const path& process) {
     }
     if (error != std::errc::permission_denied) return std::nullopt;
     const QByteArray words = PosixFileSystem{}.read(process / "cmdline", maximumSize).bytes;
-    // Up to the first NUL.
+    // The path ends at the first NUL.
     const path word{words.constData()};
     if (!word.is_absolute()) return std::nullopt;
     auto resolved = std::filesystem::weakly_canonical(word, error);

@@ -5,14 +5,14 @@
 
 namespace quillon {
 
-/// The executables of this user's processes, this one included. A program that keeps out of core
-/// dumps shows nobody but root what it was made of; of those it is the absolute path they were
-/// started by, links followed, if any.
+/// The executables of this user's processes, this one included. Only root may see the executable of
+/// a program that keeps out of core dumps; for those this gives the absolute path by which they
+/// were started, links resolved, if it was absolute.
 [[nodiscard]] std::vector<std::filesystem::path> runningPrograms();
 
-/// Lets runningPrograms() of others find this process if it is an application folder's: starts it
-/// over by its absolute path, unless that is how it was started. To be called first of all. Returns
-/// also when that is not possible.
+/// Lets runningPrograms() of other processes find this one if it belongs to an application folder:
+/// restarts it by its absolute path, unless it was started by that. Call it first of all. Also
+/// returns if the restart fails.
 void runByAbsolutePath(char** argv);
 
 } // namespace quillon

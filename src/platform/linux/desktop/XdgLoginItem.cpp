@@ -18,10 +18,10 @@ namespace {
 
 using std::filesystem::path;
 
-/// An entry of ours has 200 bytes; a larger file than this is none.
+/// Our entries have 200 bytes; files larger than this are not read.
 constexpr qint64 maximumEntrySize = 100'000;
 
-/// The key with which desktops of the GNOME family switch an entry off.
+/// Desktops of the GNOME family switch an entry off by this key.
 constexpr const char* gnomeSwitch = "X-GNOME-Autostart-enabled";
 
 std::optional<DesktopEntry> readEntry(const path& file) {
@@ -39,7 +39,7 @@ bool isExecutable(const path& file) {
     return std::filesystem::is_regular_file(file, ignored) && ::access(file.c_str(), X_OK) == 0;
 }
 
-/// Whether the entry's program is there: at its path, or in one of the folders of $PATH.
+/// Whether the entry's program exists, at its path or in one of the folders of $PATH.
 bool findsProgram(const DesktopEntry& entry) {
     const auto program = DesktopEntry::programOf(entry.value("Exec").value_or(""));
     if (!program) return false;
@@ -70,7 +70,7 @@ bool XdgLoginItem::registerItem() {
     const auto program = DesktopEntry::program(executable_);
     if (!program || !PosixFileSystem{}.createFolder(file_.parent_path())) return false;
     auto entry = readEntry(file_);
-    // What starts nothing is no entry that anybody has put work into.
+    // An entry without a command holds nothing worth keeping, so it is written anew.
     if (!entry || !entry->value("Exec")) {
         entry = DesktopEntry{"[Desktop Entry]\nType=Application\nName=Quillon\n"
                              "Comment=Send what you copy to your phone\n"

@@ -7,8 +7,8 @@
 
 namespace quillon {
 
-/// Opening at login through an entry in the user's autostart folder, as freedesktop.org's Desktop
-/// Application Autostart standard has it. The user and the desktop may edit the entry.
+/// Opens the program at login by an entry in the user's autostart folder (freedesktop.org's Desktop
+/// Application Autostart standard). The user and the desktop may edit the entry.
 class XdgLoginItem final : public LoginItem {
 public:
     /// `executable` is the program where it is now.

@@ -1,29 +1,23 @@
 #include "platform/linux/files/Descriptor.h"
 
-#include <memory>
-
-#include <dirent.h>
+#include <sys/stat.h>
 
 namespace quillon {
 
-Listing listing(int folder) {
-    // A descriptor of its own, for reading moves its position.
-    const int number = openItself({folder, "."}, O_RDONLY | O_DIRECTORY);
-    if (number < 0) return {};
-    const std::unique_ptr<DIR, int (*)(DIR*)> stream{::fdopendir(number), ::closedir};
-    if (!stream) {
-        ::close(number);
-        return {};
+bool isStillAt(const std::filesystem::path& path, int file) {
+    struct stat opened {};
+    struct stat named {};
+    return ::fstat(file, &opened) == 0 && ::lstat(path.c_str(), &named) == 0 &&
+           opened.st_ino == named.st_ino && opened.st_dev == named.st_dev;
+}
+
+bool writeAll(int file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const auto count = uninterrupted([&] { return ::write(file, bytes.data(), bytes.size()); });
+        if (count < 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(count));
     }
-    Listing result;
-    errno = 0;
-    while (const dirent* entry = ::readdir(stream.get())) {
-        const std::string_view name{entry->d_name};
-        if (name != "." && name != "..") result.names.emplace_back(name);
-        errno = 0;
-    }
-    result.complete = errno == 0;
-    return result;
+    return true;
 }
 
 } // namespace quillon

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <cerrno>
-#include <string>
+#include <filesystem>
+#include <string_view>
 #include <utility>
-#include <vector>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -22,9 +21,12 @@ auto uninterrupted(Call call) {
 /// An open file, closed with its owner.
 class Descriptor {
 public:
-    explicit Descriptor(int number) : number_{number} {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
+    explicit Descriptor(int number = -1) : number_{number} {}
+    Descriptor(Descriptor&& other) noexcept : number_{std::exchange(other.number_, -1)} {}
+    Descriptor& operator=(Descriptor&& other) noexcept {
+        std::swap(number_, other.number_);
+        return *this;
+    }
     ~Descriptor() { close(); }
 
     [[nodiscard]] int number() const { return number_; }
@@ -40,25 +42,10 @@ private:
     int number_;
 };
 
-/// A name within an open folder. Neither is owned.
-struct Place {
-    int folder = AT_FDCWD;
-    const char* name = nullptr;
-};
+/// Whether the path still names the file or folder that is open; a link there never does.
+[[nodiscard]] bool isStillAt(const std::filesystem::path& path, int file);
 
-/// Opens what is at the place itself: never through a symbolic link, without waiting for the other
-/// end of a pipe. The number is negative when it fails.
-[[nodiscard]] inline int openItself(Place place, int flags) {
-    constexpr int always = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-    return uninterrupted([&] { return ::openat(place.folder, place.name, flags | always); });
-}
-
-/// The names in the open folder, without "." and "..", in no order.
-struct Listing {
-    std::vector<std::string> names;
-    /// Whether these are all.
-    bool complete = false;
-};
-[[nodiscard]] Listing listing(int folder);
+/// Writes all of the bytes; if false, errno tells why.
+[[nodiscard]] bool writeAll(int file, std::string_view bytes);
 
 } // namespace quillon

@@ -3,49 +3,24 @@
 #include "base/Translate.h"
 
 #include <cerrno>
-#include <thread>
-#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
 
 namespace quillon {
-
-namespace {
-
-constexpr std::chrono::milliseconds retryInterval{20};
-
-} // namespace
 
 std::string FolderLock::heldMessage() {
     return translate("FolderLock",
                      "Another Quillon is at work. Quit it, or wait until it is done.");
 }
 
-std::optional<FolderLock> FolderLock::take(const std::filesystem::path& folder,
-                                           std::chrono::milliseconds patience) {
-    FolderLock lock{open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
-    // Asked again and again, since flock itself knows no time-out.
-    const auto end = std::chrono::steady_clock::now() + patience;
-    while (flock(lock.descriptor_, LOCK_EX | LOCK_NB) != 0) {
-        if (errno == EINTR) continue;
-        if (errno != EWOULDBLOCK) break;
-        if (std::chrono::steady_clock::now() >= end) return std::nullopt;
-        std::this_thread::sleep_for(retryInterval);
+std::optional<FolderLock> FolderLock::take(const std::filesystem::path& folder) {
+    Descriptor file{::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+    while (::flock(file.number(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EWOULDBLOCK) return std::nullopt;
+        if (errno != EINTR) break;
     }
-    return lock;
-}
-
-FolderLock::FolderLock(FolderLock&& other) noexcept
-    : descriptor_{std::exchange(other.descriptor_, -1)} {}
-
-FolderLock::~FolderLock() {
-    release();
-}
-
-void FolderLock::release() {
-    if (descriptor_ >= 0) close(std::exchange(descriptor_, -1));
+    return FolderLock{std::move(file)};
 }
 
 } // namespace quillon

@@ -1,34 +1,28 @@
 #pragma once
 
-#include <chrono>
+#include "platform/linux/files/Descriptor.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace quillon {
 
-/// Keeps two processes of the program from changing the same data at once. Ends with the process,
-/// however that ends. Where the file system knows no locks, every process has its own way.
+/// Keeps two processes of the program from changing the same data at once. The lock ends with the
+/// process, however that ends. On file systems without locks, every process gets it.
 class FolderLock {
 public:
-    /// What to tell whoever was turned away.
+    /// The sentence for a user whose command found the lock taken.
     [[nodiscard]] static std::string heldMessage();
 
-    /// Waits for at most `patience`; none when another process holds the folder for longer.
-    [[nodiscard]] static std::optional<FolderLock> take(const std::filesystem::path& folder,
-                                                        std::chrono::milliseconds patience = {});
-    FolderLock(FolderLock&& other) noexcept;
-    FolderLock(const FolderLock&) = delete;
-    FolderLock& operator=(const FolderLock&) = delete;
-    FolderLock& operator=(FolderLock&&) = delete;
-    ~FolderLock();
-
-    void release();
+    /// None when another process holds the folder; never waits.
+    [[nodiscard]] static std::optional<FolderLock> take(const std::filesystem::path& folder);
 
 private:
-    explicit FolderLock(int descriptor) : descriptor_{descriptor} {}
+    explicit FolderLock(Descriptor folder) : folder_{std::move(folder)} {}
 
-    int descriptor_;
+    Descriptor folder_;
 };
 
 } // namespace quillon

@@ -1,6 +1,8 @@
 #include "platform/linux/files/PosixFileSystem.h"
 
+#include "base/Bytes.h"
 #include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/Modes.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -20,10 +22,7 @@ namespace {
 
 using std::filesystem::path;
 
-constexpr mode_t ownersFile = S_IRUSR | S_IWUSR;
-constexpr mode_t ownersFolder = S_IRWXU;
-
-/// How much is asked for beyond the size a file claims to have, in bytes.
+/// Reads beyond a file's claimed size ask for this many bytes.
 constexpr size_t probeSize = 4096;
 
 FileReading failed(FileReading::Outcome outcome, qint64 size = 0) {
@@ -33,7 +32,7 @@ FileReading failed(FileReading::Outcome outcome, qint64 size = 0) {
     return reading;
 }
 
-/// What speaks against reading a file of this kind and size.
+/// The outcome for a file that must not be read because of its kind or size; none if it may be.
 std::optional<FileReading> objection(const struct stat& status, qint64 limit) {
     using enum FileReading::Outcome;
     if (S_ISDIR(status.st_mode)) return failed(directory);
@@ -42,15 +41,16 @@ std::optional<FileReading> objection(const struct stat& status, qint64 limit) {
     return std::nullopt;
 }
 
-/// Reads to the end of the file, which need not be where its size says: files below /proc claim to
-/// be empty, others grow meanwhile.
+/// Reads to the end of the file, which may lie beyond its claimed size: files below /proc claim to
+/// be empty, and others grow meanwhile.
 FileReading readAll(int file, qint64 size, qint64 limit) {
     FileReading reading;
     reading.bytes = QByteArray{size, Qt::Uninitialized};
     qsizetype used = 0;
     std::array<char, probeSize> probe;
     for (;;) {
-        // Asking beyond the expected end must not make the buffer of a big file grow.
+        // The read beyond the expected end must not make a big file's buffer grow, so it has its
+        // own.
         const bool full = used == reading.bytes.size();
         char* target = full ? probe.data() : reading.bytes.data() + used;
         const auto room = full ? probe.size() : static_cast<size_t>(reading.bytes.size() - used);
@@ -71,19 +71,7 @@ FileReading readAll(int file, qint64 size, qint64 limit) {
     return reading;
 }
 
-bool writeAll(int file, const QByteArray& bytes) {
-    qsizetype written = 0;
-    while (written < bytes.size()) {
-        const auto left = static_cast<size_t>(bytes.size() - written);
-        const ssize_t count =
-            uninterrupted([&] { return ::write(file, bytes.constData() + written, left); });
-        if (count < 0) return false;
-        written += count;
-    }
-    return true;
-}
-
-/// Whether a file may be written at the path: a regular one is there, or nothing.
+/// Whether the path holds a regular file or nothing, so that a file may be written there.
 bool isWritable(const path& path) {
     struct stat status {};
     if (::stat(path.c_str(), &status) == 0) return S_ISREG(status.st_mode);
@@ -93,8 +81,8 @@ bool isWritable(const path& path) {
 } // namespace
 
 FileReading PosixFileSystem::read(const path& path, qint64 limit) const {
-    // Opening a device can set it going (a tape rewinds), so its kind is looked up first; then
-    // again, because the path may lead elsewhere by now.
+    // Opening a device can start it (a tape rewinds), so the kind is checked first. It is checked
+    // again once open, because the path may lead elsewhere by then.
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0) return failed(FileReading::Outcome::unreadable);
     if (auto reason = objection(status, limit)) return *reason;
@@ -109,23 +97,23 @@ FileReading PosixFileSystem::read(const path& path, qint64 limit) const {
 
 bool PosixFileSystem::write(const path& path, const QByteArray& bytes) const {
     if (!isWritable(path)) return false;
-    // Emptied only once it is known to be a file: the path may lead elsewhere by now.
+    // The path may lead elsewhere by now, so the file is emptied only once its kind is known.
     constexpr int flags = O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
     Descriptor file{uninterrupted([&] { return ::open(path.c_str(), flags, ownersFile); })};
     struct stat status {};
     if (!file.isOpen() || ::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode))
         return false;
     const bool emptied = uninterrupted([&] { return ::ftruncate(file.number(), 0); }) == 0;
-    return emptied && writeAll(file.number(), bytes) && file.close();
+    return emptied && writeAll(file.number(), asText(bytes)) && file.close();
 }
 
 bool PosixFileSystem::writeAtomically(const path& path, const QByteArray& bytes) const {
     if (!isWritable(path)) return false;
     std::string temporary = path.native() + ".XXXXXX";
-    // Readable by its owner alone, as mkostemp makes it.
+    // mkostemp makes the file readable by its owner alone.
     Descriptor file{::mkostemp(temporary.data(), O_CLOEXEC)};
     if (!file.isOpen()) return false;
-    const bool written = writeAll(file.number(), bytes);
+    const bool written = writeAll(file.number(), asText(bytes));
     if (file.close() && written && ::rename(temporary.c_str(), path.c_str()) == 0) return true;
     ::unlink(temporary.c_str());
     return false;

@@ -4,15 +4,15 @@
 
 namespace quillon {
 
-/// The files of this computer. Holds nothing.
+/// The files of this computer. Has no state.
 class PosixFileSystem final : public FileSystem {
 public:
     [[nodiscard]] FileReading read(const std::filesystem::path& path, qint64 limit) const override;
 
-    /// False for whatever is not a regular file: pipes, devices, folders.
+    /// False for everything but regular files: for pipes, devices and folders.
     bool write(const std::filesystem::path& path, const QByteArray& bytes) const override;
 
-    /// As for write(). The temporary file is removed when something goes wrong.
+    /// Has write()'s restrictions. The temporary file is removed if anything fails.
     bool writeAtomically(const std::filesystem::path& path, const QByteArray& bytes) const override;
 
     bool createFolder(const std::filesystem::path& path) const override;

@@ -1,6 +1,6 @@
 #include "platform/linux/files/PosixFileTree.h"
 
-#include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/Place.h"
 #include "platform/linux/files/TreeCopy.h"
 
 #include <QtConcurrentRun>
@@ -17,10 +17,10 @@ namespace {
 
 using std::filesystem::path;
 
-/// What keeps an item from being changed even by who may otherwise do anything.
+/// With one of these attributes, not even root can change an item.
 constexpr auto fixed = STATX_ATTR_IMMUTABLE | STATX_ATTR_APPEND;
 
-/// What is at the place itself; none when nothing can be learned.
+/// The status of the item at the place itself; none if it cannot be found out.
 std::optional<struct statx> details(Place place) {
     struct statx status {};
     const int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
@@ -33,7 +33,7 @@ bool mayChange(Place folder) {
     return ::faccessat(folder.folder, folder.name, W_OK | X_OK, AT_EACCESS) == 0;
 }
 
-/// Whether the folder's rules let this user remove an item of that owner.
+/// Whether the folder's attributes and sticky bit let this user remove the item.
 bool lets(const struct statx& folder, const struct statx& item) {
     if ((folder.stx_attributes & fixed) != 0) return false;
     if ((folder.stx_mode & S_ISVTX) == 0) return true;
@@ -41,7 +41,7 @@ bool lets(const struct statx& folder, const struct statx& item) {
     return user == 0 || user == folder.stx_uid || user == item.stx_uid;
 }
 
-/// Whether everything in the folder can be removed, given that the folder itself can.
+/// Whether everything in the folder can be removed, provided that the folder itself can.
 bool canBeEmptied(Place place, const struct statx& status);
 
 bool canBeRemoved(Place place, const struct statx& folder) {
@@ -73,7 +73,8 @@ void removeAttributeFrom(Place place, const char* name) {
     const Descriptor item{openItself(place, O_PATH)};
     struct stat status {};
     if (!item.isOpen() || ::fstat(item.number(), &status) != 0) return;
-    // This name leads to the very item that is open, a link included, wherever it may be by now.
+    // This name leads to the very item that is open, even to a link, and wherever it was moved
+    // meanwhile.
     const std::string itself = "/proc/self/fd/" + std::to_string(item.number());
     ::removexattr(itself.c_str(), name);
     if (!S_ISDIR(status.st_mode)) return;
@@ -106,7 +107,7 @@ bool PosixFileTree::isDeletable(const path& path) const {
     const Descriptor open{::open(folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)};
     const auto folderStatus = details({open.number(), "."});
     if (!status || !open.isOpen() || !folderStatus || !isWritable(folder)) return false;
-    // A folder that goes to another one is itself changed: its ".." is.
+    // Moving a folder into another changes its ".." entry, so the folder itself must be writable.
     if (S_ISDIR(status->stx_mode) && !mayChange(item)) return false;
     return canBeRemoved(item, *folderStatus);
 }

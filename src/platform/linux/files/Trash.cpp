@@ -1,6 +1,7 @@
 #include "platform/linux/files/Trash.h"
 
 #include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/Modes.h"
 #include "platform/linux/files/TreeCopy.h"
 
 #include <QByteArray>
@@ -9,6 +10,7 @@
 #include <optional>
 #include <string>
 
+#include <fcntl.h>
 #include <linux/limits.h>
 #include <sys/stat.h>
 
@@ -18,22 +20,19 @@ namespace {
 
 using std::filesystem::path;
 
-constexpr mode_t ownersFile = S_IRUSR | S_IWUSR;
-constexpr mode_t ownersFolder = S_IRWXU;
-
-/// So many items of one name are tried to be told apart.
+/// The highest number that is tried to make a name unique.
 constexpr int maximumNames = 10'000;
-/// What a numbered name with its ".trashinfo" adds to an item's own, in bytes.
+/// The bytes that the number and ".trashinfo" add to an item's name.
 constexpr std::size_t nameReserve = 24;
 
-/// What is at the path itself; none when nothing is.
+/// The status of the item at the path itself; none if nothing is there.
 std::optional<struct stat> statusOf(const path& path) {
     struct stat result {};
     if (::lstat(path.c_str(), &result) != 0) return std::nullopt;
     return result;
 }
 
-/// Whether the folder is there, made when need be, and is this user's own.
+/// Makes the folder if it is missing. Whether it is there now and is this user's own.
 bool haveOwnFolder(const path& folder) {
     if (::mkdir(folder.c_str(), ownersFolder) != 0 && errno != EEXIST) return false;
     const auto found = statusOf(folder);
@@ -51,8 +50,8 @@ path topFolder(const path& item, dev_t device) {
     return top;
 }
 
-/// The trash of a file system of its own: the administrator's ".Trash", which counts only when it
-/// is a real folder with the sticky bit, else the user's own beside it.
+/// The trash at a file system's top folder: the user's part of the administrator's ".Trash", which
+/// counts only if it is a real folder with the sticky bit, else the user's own folder beside it.
 std::optional<path> trashAtTop(const path& top) {
     const std::string user = std::to_string(::getuid());
     const path shared = top / ".Trash";
@@ -68,13 +67,13 @@ std::optional<path> homeTrash(const path& data) {
     std::error_code ignored;
     std::filesystem::create_directories(data, ignored);
     const path trash = data / "Trash";
-    // The user may have put it elsewhere by a link.
+    // This accepts a link, by which the user may have put the trash elsewhere.
     if (std::filesystem::is_directory(trash, ignored)) return trash;
     return haveOwnFolder(trash) ? std::optional{trash} : std::nullopt;
 }
 
-/// What the trash notes of an item: where it was, percent-encoded byte by byte, and since when it
-/// is gone, in local time.
+/// The text of an item's .trashinfo file: where it was, percent-encoded byte by byte, and when it
+/// was deleted, in local time.
 std::string trashInfo(const path& origin) {
     const QByteArray bytes = QByteArray::fromStdString(origin.native());
     const QString now =
@@ -83,21 +82,20 @@ std::string trashInfo(const path& origin) {
            "\nDeletionDate=" + now.toStdString() + "\n";
 }
 
-/// Writes the note under a name that is still free; the caller may then use the name. False with
-/// errno EEXIST when it is taken.
+/// Writes the note if its name is still free, which reserves the name for the item. False with
+/// errno EEXIST if the name is taken.
 bool writeNote(const path& note, const std::string& text) {
     Descriptor file{
         ::open(note.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, ownersFile)};
     if (!file.isOpen()) return false;
-    const auto written =
-        uninterrupted([&] { return ::write(file.number(), text.data(), text.size()); });
-    if (file.close() && written == static_cast<ssize_t>(text.size())) return true;
+    const bool written = writeAll(file.number(), text);
+    if (file.close() && written) return true;
     ::unlink(note.c_str());
     errno = EIO;
     return false;
 }
 
-/// "Quillon.app", then "Quillon.2.app"...; short enough to be a file's name with what comes to it.
+/// "Quillon.app", then "Quillon.2.app"...; leaves room for ".trashinfo" within a file name's limit.
 std::string numbered(const path& name, int number) {
     const std::string stem = name.stem().native().substr(0, NAME_MAX - nameReserve);
     const std::string extension =
@@ -108,8 +106,8 @@ std::string numbered(const path& name, int number) {
 
 using Carry = bool (*)(const path&, const path&);
 
-/// Puts the item into the trash. `origin` is where it was, as the trash notes it. Gives 0, else the
-/// number of the system's error.
+/// Puts the item into the trash by `carry`. `origin` is the path that the note names. Returns 0 or
+/// an errno.
 int putInto(const path& trash, const path& item, const path& origin, Carry carry) {
     const path files = trash / "files";
     const path info = trash / "info";
@@ -119,7 +117,7 @@ int putInto(const path& trash, const path& item, const path& origin, Carry carry
         const std::string name = numbered(item.filename(), number);
         const path note = info / (name + ".trashinfo");
         const path target = files / name;
-        // Files that somebody left there without a note keep their names too.
+        // Somebody may have left a file here without a note; it keeps its name.
         if (statusOf(target)) continue;
         if (!writeNote(note, text)) {
             if (errno == EEXIST) continue;
@@ -128,7 +126,7 @@ int putInto(const path& trash, const path& item, const path& origin, Carry carry
         if (carry(item, target)) return 0;
         const int error = errno;
         ::unlink(note.c_str());
-        // Somebody may have been quicker with the name.
+        // Another process may have taken the name meanwhile; then the next one is tried.
         if (!statusOf(target)) return error;
     }
     return EEXIST;
@@ -138,7 +136,7 @@ int putInto(const path& trash, const path& item, const path& origin, Carry carry
 
 bool moveToTrash(const path& item, const path& data) {
     std::error_code problem;
-    // Only the folder is resolved: of a link, the link itself goes.
+    // Only the folder is resolved, so that a link itself goes and not its target.
     const path folder = std::filesystem::canonical(item.parent_path(), problem);
     if (problem || item.filename().empty()) return false;
     const path origin = folder / item.filename();

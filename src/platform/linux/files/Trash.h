@@ -4,10 +4,10 @@
 
 namespace quillon {
 
-/// Moves the item to the user's trash as the freedesktop.org trash standard 1.0 has it: the
-/// one in `data` (XDG_DATA_HOME) for what lies on the same file system, that of the file system's
-/// top folder for everything else; where there can be none, a copy goes to the first. May take
-/// long. False when the item stays where it is.
+/// Moves the item to the user's trash, by the freedesktop.org trash standard 1.0. An item on the
+/// file system of `data` (XDG_DATA_HOME) goes to the trash there, any other to the trash in the top
+/// folder of its own file system; if there can be none, a copy goes to the trash in `data`. May
+/// take long. False if the item stays where it is.
 [[nodiscard]] bool moveToTrash(const std::filesystem::path& item,
                                const std::filesystem::path& data);
 

@@ -1,6 +1,7 @@
 #include "platform/linux/files/TreeCopy.h"
 
-#include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/Modes.h"
+#include "platform/linux/files/Place.h"
 
 #include <array>
 #include <climits>
@@ -20,14 +21,12 @@ namespace {
 
 using std::filesystem::path;
 
-constexpr mode_t ownersFile = S_IRUSR | S_IWUSR;
-constexpr mode_t ownersFolder = S_IRWXU;
 constexpr mode_t permissionBits = 07777;
 
-/// How much is handed to the system at once, in bytes.
+/// The size of one sendfile() call, in bytes.
 constexpr size_t portion = 1 << 20;
 
-/// What identifies a file whatever its name.
+/// Identifies a file independently of its names.
 using FileId = std::pair<dev_t, ino_t>;
 
 FileId identity(const struct stat& status) {
@@ -53,7 +52,8 @@ bool copyContent(int from, int to) {
     }
 }
 
-/// One attribute; true also when the target's file system has none, or this user may not set it.
+/// Copies one attribute. Also true if the target's file system has no attributes or this user may
+/// not set it.
 bool copyAttribute(int from, int to, const char* name) {
     std::string value(static_cast<size_t>(XATTR_SIZE_MAX), '\0');
     const ssize_t size = ::fgetxattr(from, name, value.data(), value.size());
@@ -73,8 +73,8 @@ bool copyAttributes(int from, int to) {
     return true;
 }
 
-/// Mode, attributes and times of a file or folder whose content is there, in the order in which
-/// none undoes another; then waits until all of it is on disk.
+/// Copies mode, attributes and times of a file or folder whose content is complete, in an order in
+/// which none undoes another. Then waits until all of it is on disk.
 bool finish(int from, int to, const struct stat& status) {
     return ::fchmod(to, copiedMode(status)) == 0 && copyAttributes(from, to) &&
            ::futimens(to, times(status).data()) == 0 && ::fsync(to) == 0;
@@ -122,7 +122,7 @@ bool TreeCopy::copy(Place from, const path& name) {
 bool TreeCopy::copyFile(Place from, const path& name) {
     const Descriptor source{openItself(from, O_RDONLY)};
     struct stat status {};
-    // It may be something else by now.
+    // The path may lead to something else by now.
     if (!source.isOpen() || ::fstat(source.number(), &status) != 0 || !S_ISREG(status.st_mode))
         return false;
     if (status.st_nlink > 1) {
@@ -140,10 +140,10 @@ bool TreeCopy::copyFolder(Place from, const path& name) {
     const Descriptor source{openItself(from, O_RDONLY | O_DIRECTORY)};
     struct stat status {};
     if (!source.isOpen() || ::fstat(source.number(), &status) != 0) return false;
-    // A copy into the copied folder itself would never end.
+    // Copying a folder into itself would never end.
     if (identity(status) == rootId_) return false;
 
-    // Open to its owner alone while it fills, whatever its mode will be.
+    // Until it is complete, the copy is accessible to its owner alone.
     if (::mkdirat(root_.folder, name.c_str(), ownersFolder) != 0) return false;
     const Descriptor target{openItself({root_.folder, name.c_str()}, O_RDONLY | O_DIRECTORY)};
     struct stat copied {};
@@ -183,28 +183,12 @@ std::string temporaryName() {
     return text.data();
 }
 
-/// Removes what a failed copy leaves, also from folders that already have their final mode.
-void discard(const path& leftover) {
-    namespace fs = std::filesystem;
-    std::error_code error;
-    if (fs::is_directory(fs::symlink_status(leftover, error))) {
-        fs::permissions(leftover, fs::perms::owner_all, error);
-        fs::recursive_directory_iterator each{leftover, error};
-        while (!error && each != fs::recursive_directory_iterator{}) {
-            if (fs::is_directory(each->symlink_status(error)))
-                fs::permissions(each->path(), fs::perms::owner_all, error);
-            each.increment(error);
-        }
-    }
-    fs::remove_all(leftover, error);
-}
-
 } // namespace
 
 bool renameToNew(const path& from, const path& to) {
     if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
         return true;
-    // Some network file systems cannot promise to replace nothing.
+    // Some network file systems do not support RENAME_NOREPLACE.
     if (errno != EINVAL) return false;
     struct stat status {};
     if (::lstat(to.c_str(), &status) == 0) {
@@ -225,7 +209,7 @@ bool copyTree(const path& from, const path& to) {
         ::fsync(folder.number());
         return true;
     }
-    discard(parent / temporary);
+    discardTree(parent / temporary);
     return false;
 }
 
@@ -235,6 +219,21 @@ bool moveTree(const path& from, const path& to) {
     std::error_code ignored;
     std::filesystem::remove_all(from, ignored);
     return true;
+}
+
+void discardTree(const path& tree) {
+    namespace fs = std::filesystem;
+    std::error_code ignored;
+    const auto openFolder = [&](const path& each, const fs::file_status& status) {
+        if (status.type() == fs::file_type::directory)
+            fs::permissions(each, fs::perms::owner_all, fs::perm_options::add, ignored);
+    };
+    openFolder(tree, fs::symlink_status(tree, ignored));
+    std::error_code error;
+    for (fs::recursive_directory_iterator each{tree, error}, end; !error && each != end;
+         each.increment(error))
+        openFolder(each->path(), each->symlink_status(ignored));
+    fs::remove_all(tree, ignored);
 }
 
 } // namespace quillon

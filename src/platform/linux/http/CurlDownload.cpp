@@ -1,7 +1,8 @@
 #include "platform/linux/http/CurlDownload.h"
 
+#include "platform/linux/files/Modes.h"
+
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -13,10 +14,6 @@ namespace {
 
 constexpr long statusOk = 200;
 
-bool isDiskFull(int error) {
-    return error == ENOSPC || error == EDQUOT || error == EFBIG;
-}
-
 } // namespace
 
 CurlDownload::CurlDownload(HttpDownload download, std::uint64_t listener,
@@ -27,19 +24,15 @@ CurlDownload::CurlDownload(HttpDownload download, std::uint64_t listener,
     promise_.start();
 }
 
-CurlDownload::~CurlDownload() {
-    closeFile();
-}
-
 bool CurlDownload::describe(const CurlTransportOptions& options) {
     constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-    file_ = ::open(download_.file.c_str(), flags, S_IRUSR | S_IWUSR);
-    if (file_ < 0) {
-        trouble_ = isDiskFull(errno) ? DownloadOutcome::diskFull : DownloadOutcome::unwritable;
+    file_ = Descriptor{::open(download_.file.c_str(), flags, ownersFile)};
+    if (!file_.isOpen()) {
+        noteFileError(errno);
         return false;
     }
     fetch(options);
-    // A body that explains a failure is not what was asked for.
+    // The body of an error reply must not end up in the file.
     curl().easy_setopt(handle(), CURLOPT_FAILONERROR, 1L);
     curl().easy_setopt(handle(), CURLOPT_MAXFILESIZE_LARGE,
                        static_cast<curl_off_t>(download_.maximumSize));
@@ -61,26 +54,14 @@ size_t CurlDownload::takeBytes(char* bytes, size_t /*one*/, size_t count, void* 
         download.trouble_ = DownloadOutcome::tooLarge;
         return 0;
     }
-    return download.write(bytes, count) ? count : 0;
+    if (writeAll(download.file_.number(), {bytes, count})) return count;
+    download.noteFileError(errno);
+    return 0;
 }
 
-bool CurlDownload::write(const char* bytes, size_t count) {
-    while (count > 0) {
-        const ssize_t written = ::write(file_, bytes, count);
-        if (written < 0 && errno == EINTR) continue;
-        if (written < 0) {
-            trouble_ = isDiskFull(errno) ? DownloadOutcome::diskFull : DownloadOutcome::unwritable;
-            return false;
-        }
-        bytes += written;
-        count -= static_cast<size_t>(written);
-    }
-    return true;
-}
-
-bool CurlDownload::closeFile() {
-    const int file = std::exchange(file_, -1);
-    return file < 0 || ::close(file) == 0 || errno == EINTR;
+void CurlDownload::noteFileError(int error) {
+    const bool isFull = error == ENOSPC || error == EDQUOT || error == EFBIG;
+    trouble_ = isFull ? DownloadOutcome::diskFull : DownloadOutcome::unwritable;
 }
 
 DownloadOutcome CurlDownload::outcome(CURLcode code) const {
@@ -92,8 +73,8 @@ DownloadOutcome CurlDownload::outcome(CURLcode code) const {
 }
 
 void CurlDownload::finish(CURLcode code) {
-    const bool made = file_ >= 0;
-    if (!closeFile() && !trouble_) trouble_ = DownloadOutcome::diskFull;
+    const bool made = file_.isOpen();
+    if (!file_.close() && !trouble_) trouble_ = DownloadOutcome::diskFull;
     const DownloadOutcome result = outcome(code);
     if (made && result != DownloadOutcome::done) ::unlink(download_.file.c_str());
     promise_.addResult(result);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/files/Descriptor.h"
 #include "platform/linux/http/CurlTransfer.h"
 
 #include <QPromise>
@@ -9,16 +10,15 @@
 
 namespace quillon {
 
-/// A file on its way from a server to the disk.
+/// A download from a server to a file.
 class CurlDownload final : public CurlTransfer {
 public:
-    /// `wake` is called, on any thread, when the download is asked to stop.
+    /// `wake` is called, on any thread, when a stop is requested.
     CurlDownload(HttpDownload download, std::uint64_t listener, std::function<void()> wake);
-    ~CurlDownload() override;
 
     [[nodiscard]] QFuture<DownloadOutcome> future() const { return promise_.future(); }
 
-    /// Bytes that have come.
+    /// Counts the received bytes.
     [[nodiscard]] Progress progress() const override;
     [[nodiscard]] bool isStopped() const override { return download_.stop.stop_requested(); }
     void finish(CURLcode code) override;
@@ -26,15 +26,12 @@ public:
 private:
     bool describe(const CurlTransportOptions& options) override;
     static size_t takeBytes(char* bytes, size_t size, size_t count, void* self);
-    bool write(const char* bytes, size_t count);
+    void noteFileError(int error);
     [[nodiscard]] DownloadOutcome outcome(CURLcode code) const;
-    /// False when the system could not write what it had taken.
-    bool closeFile();
-
     HttpDownload download_;
     qint64 received_ = 0;
-    int file_ = -1;
-    /// What went wrong on this side.
+    Descriptor file_;
+    /// A failure on this side, as opposed to the network or the server.
     std::optional<DownloadOutcome> trouble_;
     QPromise<DownloadOutcome> promise_;
     std::stop_callback<std::function<void()>> onStop_;

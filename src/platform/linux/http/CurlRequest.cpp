@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-/// How much libcurl asks of the body at once, in bytes.
+/// libcurl asks for this much of a large body at once, in bytes.
 constexpr long uploadBufferSize = 512L * 1024;
 
 } // namespace
@@ -28,10 +28,10 @@ CurlRequest::CurlRequest(Method method, HttpRequest request, std::uint64_t liste
 }
 
 bool CurlRequest::setHeaders() {
-    // A server that knows "Expect" would make each upload wait for one more round trip.
+    // Without "Expect", an upload does not wait one round trip for the server's consent.
     std::vector<std::string> lines{"Expect:"};
     for (const auto& [name, value] : request_.headers) {
-        // libcurl takes "Name:" as an order to leave the header out, its own "Accept" included.
+        // libcurl leaves out a header that is given as "Name:", even its own "Accept".
         std::string& line = lines.emplace_back(name).append(":");
         if (!value.empty()) line.append(" ").append(value);
     }
@@ -106,8 +106,8 @@ size_t CurlRequest::readBody(char* target, size_t /*one*/, size_t count, void* s
 int CurlRequest::seekBody(void* self, curl_off_t offset, int origin) {
     auto& transfer = *static_cast<CurlRequest*>(self);
     if (origin != SEEK_SET || offset < 0 || offset > transfer.total_) return CURL_SEEKFUNC_FAIL;
-    // libcurl goes back to the start to repeat a request whose kept connection broke. One that went
-    // out whole may have been carried out, and a message must not arrive twice.
+    // libcurl seeks back to repeat a request whose reused connection broke. A request that went out
+    // completely may have been carried out, and a message must not arrive twice.
     const bool wentOut = transfer.piece_ == static_cast<qsizetype>(transfer.request_.body.size());
     if (wentOut) return CURL_SEEKFUNC_FAIL;
     transfer.piece_ = 0;

@@ -14,13 +14,13 @@ class CurlRequest final : public CurlTransfer {
 public:
     enum class Method { post, get };
 
-    /// `wake` is called, on any thread, when the request is asked to stop.
+    /// `wake` is called, on any thread, when a stop is requested.
     CurlRequest(Method method, HttpRequest request, std::uint64_t listener,
                 std::function<void()> wake);
 
     [[nodiscard]] QFuture<std::optional<HttpReply>> future() const { return promise_.future(); }
 
-    /// Bytes of the body that have gone out.
+    /// Counts the sent bytes of the body.
     [[nodiscard]] Progress progress() const override;
     [[nodiscard]] bool isStopped() const override { return stop_.stop_requested(); }
     void finish(CURLcode code) override;

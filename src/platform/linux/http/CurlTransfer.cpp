@@ -1,9 +1,7 @@
 #include "platform/linux/http/CurlTransfer.h"
 
 #include "base/Environment.h"
-
-#include <arpa/inet.h>
-#include <netinet/in.h>
+#include "base/ThisMachine.h"
 
 #include <array>
 #include <utility>
@@ -26,7 +24,7 @@ void trustCertificates(CURL* handle, const std::filesystem::path& certificates) 
         curl().easy_setopt(handle, CURLOPT_CAPATH, folder->c_str());
 }
 
-/// The host as libcurl will reach it; empty when the address is none.
+/// The host that libcurl will connect to; empty if the URL is malformed.
 std::string hostOf(const std::string& url) {
     std::string host;
     CURLU* parsed = curl().url();
@@ -37,13 +35,6 @@ std::string hostOf(const std::string& url) {
     curl().free(part);
     curl().url_cleanup(parsed);
     return host;
-}
-
-/// Whether this is an address in 127.0.0.0/8; libcurl brings every way to write one into this form.
-bool isLoopback(const std::string& host) {
-    in_addr address{};
-    return ::inet_pton(AF_INET, host.c_str(), &address) == 1 &&
-           ntohl(address.s_addr) >> 24 == IN_LOOPBACKNET;
 }
 
 } // namespace
@@ -65,9 +56,9 @@ bool CurlTransfer::prepare(const CurlTransportOptions& options) {
     curl().easy_setopt(handle, CURLOPT_PATH_AS_IS, 1L);
     curl().easy_setopt(handle, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_2TLS));
     curl().easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
-    // Ends a transfer without waiting for the name server that it still waits for.
+    // Lets a transfer end while a name server has not answered yet.
     curl().easy_setopt(handle, CURLOPT_QUICK_EXIT, 1L);
-    // The time-out is by inactivity alone.
+    // deadline() alone ends transfers, so libcurl's own limit for connecting is put out of reach.
     curl().easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, 24L * 60 * 60 * 1000);
     trustCertificates(handle, options.trustedCertificates);
     curl().easy_setopt(handle, CURLOPT_PRIVATE, this);
@@ -75,21 +66,16 @@ bool CurlTransfer::prepare(const CurlTransportOptions& options) {
 }
 
 void CurlTransfer::fetch(const CurlTransportOptions& options) {
-    const bool near = isToThisMachine();
+    // libcurl resolves "localhost" itself, so no name server can send it elsewhere.
+    const bool near = isThisMachine(hostOf(url_));
     const bool allowHttp = options.allowHttp || near;
     curl().easy_setopt(handle(), CURLOPT_PROTOCOLS_STR, allowHttp ? "http,https" : "https");
-    // A proxy would be another machine.
+    // A proxy would take the request to another machine.
     if (near) curl().easy_setopt(handle(), CURLOPT_NOPROXY, "*");
     curl().easy_setopt(handle(), CURLOPT_REDIR_PROTOCOLS_STR, "https");
     curl().easy_setopt(handle(), CURLOPT_FOLLOWLOCATION, 1L);
     curl().easy_setopt(handle(), CURLOPT_MAXREDIRS, maximumRedirects);
     curl().easy_setopt(handle(), CURLOPT_HTTPGET, 1L);
-}
-
-bool CurlTransfer::isToThisMachine() const {
-    const std::string host = hostOf(url_);
-    // libcurl looks "localhost" up in no name server.
-    return host == "localhost" || host == "[::1]" || isLoopback(host);
 }
 
 long CurlTransfer::status() const {
@@ -99,8 +85,8 @@ long CurlTransfer::status() const {
 }
 
 std::uint64_t CurlTransfer::movement() const {
-    // Bytes of either direction, and the moments at which the host was found, the connection stood
-    // and its encryption was agreed: each grows when something has moved.
+    // The sum of the bytes in either direction and the times at which the host was found, the
+    // connection was made and its encryption was agreed. It grows whenever something has moved.
     constexpr std::array counters{CURLINFO_SIZE_UPLOAD_T,     CURLINFO_SIZE_DOWNLOAD_T,
                                   CURLINFO_NAMELOOKUP_TIME_T, CURLINFO_CONNECT_TIME_T,
                                   CURLINFO_APPCONNECT_TIME_T, CURLINFO_PRETRANSFER_TIME_T};

@@ -10,13 +10,13 @@
 
 namespace quillon {
 
-/// One request on its way through libcurl: what all of them have in common. Stays at its address,
-/// which libcurl knows.
+/// What all transfers through libcurl have in common. Must not be moved, because libcurl knows its
+/// address.
 class CurlTransfer {
 public:
     using Moment = std::chrono::steady_clock::time_point;
 
-    /// How many bytes have gone the way that is reported.
+    /// Bytes in the direction that is reported.
     struct Progress {
         qint64 done = 0;
         qint64 total = 0;
@@ -26,28 +26,29 @@ public:
     CurlTransfer& operator=(const CurlTransfer&) = delete;
     virtual ~CurlTransfer() = default;
 
-    /// The number of whoever is told the progress; 0 when nobody is.
+    /// The number of the listener to the progress; 0 if there is none.
     [[nodiscard]] std::uint64_t listener() const { return listener_; }
 
-    /// libcurl's handle of this transfer; null before it was prepared.
+    /// libcurl's handle of this transfer; null before prepare().
     [[nodiscard]] CURL* handle() const { return handle_.get(); }
 
-    /// Sets up the handle; false when libcurl refuses the request. The time-out starts here.
+    /// Sets up the handle; false if libcurl refuses the request. The time-out starts here.
     bool prepare(const CurlTransportOptions& options);
 
-    /// Looks at the counters; tells when the transfer has failed if nothing moves from now on.
+    /// Looks at libcurl's counters. Returns when the transfer will have timed out if nothing moves
+    /// from now on.
     Moment deadline(Moment now);
 
     [[nodiscard]] virtual Progress progress() const = 0;
 
-    /// Whether the transfer is no longer wanted.
+    /// Whether a stop was requested.
     [[nodiscard]] virtual bool isStopped() const { return false; }
 
-    /// Lets go of the request's bytes and finishes the future: with a success only when libcurl
-    /// reports one. The handle must be taken out of the multi handle afterwards.
+    /// Releases the request's bytes and finishes the future, as a success only if libcurl reports
+    /// one. The handle must be taken out of the multi handle afterwards.
     virtual void finish(CURLcode code) = 0;
 
-    /// When the progress was told last, and what was told.
+    /// When the progress was last reported, and what was reported.
     Moment toldAt;
     qint64 told = -1;
 
@@ -55,18 +56,17 @@ protected:
     CurlTransfer(std::string url, std::chrono::milliseconds inactivityTimeout,
                  std::uint64_t listener);
 
-    /// Tells libcurl the particulars; false when it refuses them.
+    /// Sets the options of this kind of transfer; false if libcurl refuses them.
     virtual bool describe(const CurlTransportOptions& options) = 0;
 
-    /// Makes it a GET that follows redirects, to https alone, and may be sent in plain http to this
-    /// machine itself.
+    /// Makes the transfer a GET that follows redirects, but only to https. Plain http to this
+    /// machine itself is allowed.
     void fetch(const CurlTransportOptions& options);
 
     /// 0 when there was no reply.
     [[nodiscard]] long status() const;
 
 private:
-    [[nodiscard]] bool isToThisMachine() const;
     [[nodiscard]] std::uint64_t movement() const;
 
     struct FreeHandle {

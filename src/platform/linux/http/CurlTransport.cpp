@@ -23,11 +23,11 @@ using Moment = CurlTransfer::Moment;
 /// The least time between two reports of one transfer's progress.
 constexpr std::chrono::milliseconds progressInterval{100};
 
-/// How long the worker sleeps at most when nothing is to be done.
+/// The worker's longest sleep when there is nothing to do.
 constexpr std::chrono::milliseconds longestSleep{std::chrono::hours{1}};
 
-/// libcurl leaves SIGPIPE to the program when it may not touch signal handlers; everything else is
-/// for the main thread.
+/// libcurl may not touch signal handlers and so leaves SIGPIPE to the program. All other signals
+/// are for the main thread.
 void blockSignals() {
     sigset_t all;
     sigfillset(&all);
@@ -36,8 +36,8 @@ void blockSignals() {
 
 } // namespace
 
-/// Who wants to know how a transfer gets on. The callbacks never leave the thread of the transport:
-/// what they hold may belong to it.
+/// The listeners to the progress of transfers. Callbacks never leave the transport's thread,
+/// because what they capture may belong to it.
 class CurlTransport::ProgressListeners : public QObject {
 public:
     std::uint64_t add(std::function<void(qint64, qint64)> listener) {
@@ -56,7 +56,7 @@ private:
     void deliver(std::uint64_t id, qint64 sent, qint64 total, bool last) {
         const auto found = listeners_.find(id);
         if (found == listeners_.end()) return;
-        // The listener may destroy the transport: nothing of it is touched afterwards.
+        // The listener may destroy the transport, so nothing of it is touched afterwards.
         const auto listener = found->second;
         if (last) listeners_.erase(found);
         listener(sent, total);
@@ -86,7 +86,8 @@ public:
     }
 
     void add(std::unique_ptr<CurlTransfer> transfer) {
-        // Not before: most processes of this program never make a request.
+        // The thread starts with the first request, which most processes of this program never
+        // make.
         if (!thread_.joinable()) thread_ = std::thread{[this] { run(); }};
         {
             const std::lock_guard lock{mutex_};
@@ -96,7 +97,7 @@ public:
         wake();
     }
 
-    /// Makes the thread look at its transfers. Thread-safe.
+    /// Makes the thread check its transfers. Thread-safe.
     void wake() {
         const std::lock_guard lock{mutex_};
         if (multi_) curl().multi_wakeup(multi_);
@@ -120,7 +121,7 @@ private:
         close();
     }
 
-    /// False when libcurl cannot be used: then every transfer fails, now and later.
+    /// False if libcurl cannot be used; then every transfer fails, now and later.
     bool open() {
         CURLM* const multi = loadCurl() ? curl().multi_init() : nullptr;
         Transfers failed;
@@ -139,11 +140,11 @@ private:
         std::unique_lock lock{mutex_};
         CURLM* const multi = std::exchange(multi_, nullptr);
         lock.unlock();
-        // Says goodbye on its connections, for which SIGPIPE has to be blocked.
+        // This writes to connections to close them, so SIGPIPE must be blocked.
         curl().multi_cleanup(multi);
     }
 
-    /// Starts what was handed over; false when the transport is going away.
+    /// Starts the transfers that were handed over; false if the transport is going away.
     bool admit() {
         Transfers waiting;
         bool stopping = false;
@@ -162,7 +163,7 @@ private:
         return !stopping;
     }
 
-    /// Finishes the transfers that libcurl is done with.
+    /// Finishes the transfers that libcurl has completed.
     void collect() {
         int left = 0;
         while (const CURLMsg* message = curl().multi_info_read(multi_, &left)) {
@@ -174,8 +175,8 @@ private:
         }
     }
 
-    /// Ends what has not moved for too long or is no longer wanted, tells progress, and gives how
-    /// long there is nothing more to do unless a connection stirs.
+    /// Ends transfers that have timed out or were stopped, and reports progress. Returns how long
+    /// the thread can sleep unless there is something on a connection.
     std::chrono::milliseconds attend() {
         const Moment now = std::chrono::steady_clock::now();
         Moment next = now + longestSleep;
@@ -190,7 +191,7 @@ private:
         return std::chrono::ceil<std::chrono::milliseconds>(std::max(next - now, {}));
     }
 
-    /// Tells what has moved, unless that was done a moment ago; gives when to come back.
+    /// Reports progress, unless that was done a moment ago. Returns when to look again.
     Moment tellProgress(CurlTransfer& transfer, Moment now) {
         if (transfer.listener() == 0) return Moment::max();
         const auto [done, total] = transfer.progress();

@@ -8,11 +8,11 @@
 
 namespace quillon {
 
-/// What a CurlTransport does beyond the ordinary.
+/// Deviations from the usual behaviour of a CurlTransport.
 struct CurlTransportOptions {
     /// Allows http beside https, for a Bot API server on a trusted network.
     bool allowHttp = false;
-    /// The certificates to trust, as one PEM file, in place of the system's.
+    /// A PEM file with the certificates to trust instead of the system's.
     std::filesystem::path trustedCertificates{};
 };
 
@@ -23,10 +23,11 @@ class CurlTransport final : public HttpTransport {
 public:
     explicit CurlTransport(CurlTransportOptions options = {});
 
-    /// Ends what still runs: its futures finish with none, its progress is no longer told.
+    /// Ends all transfers: their futures finish with none, and their progress is no longer
+    /// reported.
     ~CurlTransport() override;
 
-    /// All to be called on the thread that made the transport, which is where progress is told.
+    /// Call these on the thread that made the transport. Progress is reported there.
     [[nodiscard]] QFuture<std::optional<HttpReply>> post(HttpRequest request) override;
     [[nodiscard]] QFuture<std::optional<HttpReply>> get(HttpRequest request) override;
     [[nodiscard]] QFuture<DownloadOutcome> download(HttpDownload download) override;
@@ -35,7 +36,7 @@ private:
     class ProgressListeners;
     class Worker;
 
-    /// Takes over who is told a progress; 0 when nobody is.
+    /// Takes over the callback and returns its number; 0 if there is none.
     std::uint64_t listen(std::function<void(qint64, qint64)>& progress);
     template <typename Transfer>
     auto start(std::unique_ptr<Transfer> transfer);

@@ -7,7 +7,7 @@ namespace quillon {
 namespace {
 
 constexpr int soVersion = 4; // libcurl.so.4, since 2006
-/// 7.87, as in curl_version_info_data: older ones would ignore which protocols are allowed.
+/// 7.87, in the form of curl_version_info_data. Older versions ignore which protocols are allowed.
 constexpr unsigned oldestVersion = 0x075700;
 
 LibCurl functions{};

@@ -12,20 +12,21 @@
 
 namespace quillon {
 
-/// libcurl, found when the first request is made. It brings thirty libraries with it, TLS and
-/// directory services among them, which would be a third of the time that the program takes to
-/// start and a fifth of its memory, while on most days most of its time it has nothing to send.
+/// libcurl, loaded when the first request is made. It depends on thirty libraries, TLS and
+/// directory services among them, which would take a third of the program's start-up time and a
+/// fifth of its memory, although most of the time it has nothing to send.
 struct LibCurl {
+// A declared name takes no parentheses. NOLINTNEXTLINE(bugprone-macro-parentheses)
 #define QUILLON_DECLARE(name) decltype(&::curl_##name) name;
     QUILLON_CURL_FUNCTIONS(QUILLON_DECLARE)
 #undef QUILLON_DECLARE
 };
 
-/// Finds libcurl and makes it ready; false where it is missing or too old. Takes some 10 ms the
-/// first time. Thread-safe.
+/// Loads and initialises libcurl; false if it is missing or too old. Takes about 10 ms the first
+/// time. Thread-safe.
 [[nodiscard]] bool loadCurl();
 
-/// To be used only once loadCurl() has been true.
+/// Valid only after loadCurl() has returned true.
 [[nodiscard]] const LibCurl& curl();
 
 } // namespace quillon

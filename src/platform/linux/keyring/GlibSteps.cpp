@@ -7,11 +7,11 @@ namespace quillon {
 
 namespace {
 
-/// How long a cancelled operation may take to call back before it is left to itself: one that waits
-/// for a hanging service to close its window would never do so.
+/// A cancelled operation that has not called back by then is abandoned: one that waits for a
+/// hanging service to close its window never would.
 constexpr std::chrono::milliseconds graceAfterCancelling{300};
 
-/// Rounded up, so that the deadline has passed once the time is over.
+/// Rounds up, so that the deadline has passed when the time is over.
 guint millisecondsUntil(GlibSteps::Time deadline) {
     const auto left = deadline - std::chrono::steady_clock::now();
     const auto rounded = std::chrono::ceil<std::chrono::milliseconds>(left).count();
@@ -23,7 +23,7 @@ guint millisecondsUntil(GlibSteps::Time deadline) {
 struct GlibSteps::Answer {
     GlibPointer<GAsyncResult> result;
 
-    /// Owns its share of the answer, which may be nobody else's by now.
+    /// `share` owns a share of the answer, because the waiting function may have returned already.
     static void arrive(GObject* /*source*/, GAsyncResult* result, gpointer share) {
         const std::unique_ptr<std::shared_ptr<Answer>> answer{
             static_cast<std::shared_ptr<Answer>*>(share)};

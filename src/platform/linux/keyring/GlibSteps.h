@@ -18,12 +18,12 @@ struct GlibUnref {
 template <typename T>
 using GlibPointer = std::unique_ptr<T, GlibUnref>;
 
-/// Runs asynchronous operations of GLib one after another on the thread that made it, each up to
-/// a deadline, until another thread stops them all.
+/// Runs GLib's asynchronous operations one after another on the thread that made this object, each
+/// up to a deadline, until another thread stops them all.
 class GlibSteps {
 public:
     using Time = std::chrono::steady_clock::time_point;
-    /// Begins an operation; the three arguments are to be passed on to it.
+    /// Begins an operation, to which it passes these three arguments on.
     using Start = std::function<void(GCancellable*, GAsyncReadyCallback, gpointer)>;
 
     GlibSteps();
@@ -31,16 +31,16 @@ public:
     GlibSteps& operator=(const GlibSteps&) = delete;
     ~GlibSteps();
 
-    /// Waits until the operation has called back, and gives what its finish function wants; null
-    /// when the deadline passed or the steps were stopped; past a deadline nothing is begun. No
-    /// deadline: waits for ever.
+    /// Waits until the operation has called back, and returns the result for its finish function.
+    /// Null if the deadline has passed, after which nothing is begun, or if the steps were stopped.
+    /// Without a deadline it waits for ever.
     GlibPointer<GAsyncResult> await(std::optional<Time> deadline, const Start& start);
 
-    /// Lets objects that were released finish their cleaning up, which GLib puts off to the context
-    /// that they were made in.
+    /// Lets released objects finish their clean-up, which GLib defers to the context in which they
+    /// were made.
     void settle();
 
-    /// Cancels what is running and everything that comes. Thread-safe.
+    /// Cancels the present operation and all later ones. Thread-safe.
     void stop();
 
 private:

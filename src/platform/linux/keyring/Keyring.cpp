@@ -10,8 +10,8 @@ namespace {
 
 constexpr std::chrono::seconds visitLimit{5};
 
-/// How items are described. The schema's name is not looked at when searching, so that an item that
-/// another program made with the same attributes is the same item.
+/// Describes the attributes of items. Searches ignore the schema's name, so an item that another
+/// program made with the same attributes is the same item.
 const SecretSchema& schema() {
     static const SecretSchema schema = [] {
         SecretSchema made{};
@@ -34,8 +34,8 @@ Attributes attributesOf(const KeychainItem& item) {
 
 using Value = std::unique_ptr<SecretValue, decltype(&secret_value_unref)>;
 
-/// Whether a session bus is there already. GLib would start one otherwise, whose keyring nobody but
-/// this program could see.
+/// Whether there is a session bus already. Otherwise GLib would start one, whose keyring only this
+/// program could see.
 bool hasSessionBus() {
     if (const auto address = environment("DBUS_SESSION_BUS_ADDRESS"))
         return !address->starts_with("autolaunch:");
@@ -67,7 +67,7 @@ bool Keyring::open() {
     if (!answer) return false;
     const GlibPointer<GDBusConnection> bus{g_bus_get_finish(answer.get(), nullptr)};
     if (!bus) return false;
-    // GLib would end the program together with the session bus.
+    // By default, GLib ends the program when the session bus ends.
     g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
 
     answer = ask([](auto... end) {
@@ -175,7 +175,7 @@ bool Keyring::save(const KeychainItem& item, const std::string& value) {
         secret_service_store(service_.get(), &schema(), attributes.get(), SECRET_COLLECTION_DEFAULT,
                              item.label.c_str(), secret.get(), end...);
     };
-    // Storing makes a missing collection, for which the user is asked for a password.
+    // Storing creates a missing collection, for which the user is asked for a password.
     const bool missing = collection == DefaultCollection::missing;
     const auto answer = missing ? askUser(store) : ask(store);
     return answer && secret_service_store_finish(service_.get(), answer.get(), nullptr);

@@ -8,11 +8,11 @@
 namespace quillon {
 
 /// One visit to the Secret Service, which gives up 5 seconds after it began. Only the steps that
-/// ask the user to unlock or create a keyring wait for as long as it takes, and what follows them
-/// has 5 seconds anew.
+/// ask the user to unlock or create a keyring wait without limit, and the steps after them have 5
+/// seconds anew.
 class Keyring {
 public:
-    /// The visit begins.
+    /// Begins the visit.
     explicit Keyring(GlibSteps& steps);
 
     bool save(const KeychainItem& item, const std::string& value);
@@ -30,9 +30,9 @@ private:
     GlibPointer<GAsyncResult> ask(const GlibSteps::Start& start);
     GlibPointer<GAsyncResult> askUser(const GlibSteps::Start& start);
 
-    /// False when there is no session bus or nothing there that keeps secrets.
+    /// False if there is no session bus or no Secret Service on it.
     bool open();
-    /// Null stands for no items, none for a search that did not succeed.
+    /// Null if there are no items, none if the search failed.
     std::optional<Items> search(const KeychainItem& item, SecretSearchFlags flags);
     bool unlock(gpointer object);
     bool load(SecretItem* item);

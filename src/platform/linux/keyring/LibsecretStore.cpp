@@ -14,12 +14,12 @@ namespace quillon {
 
 namespace {
 
-/// How long start-up waits for the keyring's answer.
+/// exists() waits no longer than this.
 constexpr std::chrono::seconds existsLimit{5};
 
 } // namespace
 
-/// The thread on which the keyring is asked, one operation after another.
+/// The thread that runs keyring operations, one after another.
 class LibsecretStore::Worker {
 public:
     using Job = std::function<void(Keyring&)>;
@@ -60,7 +60,7 @@ public:
     }
 
 private:
-    /// Once the steps are stopped, the jobs that are left fail at once.
+    /// Once the steps are stopped, the remaining jobs fail at once.
     void run() {
         GlibSteps steps;
         steps_ = &steps;

@@ -7,12 +7,12 @@
 namespace quillon {
 
 /// The user's keyring over the Secret Service, through libsecret. All operations run one after
-/// another on one worker thread. Where there is no session bus, none is started.
+/// another on one worker thread. If there is no session bus, none is started.
 class LibsecretStore final : public SecretStore {
 public:
     LibsecretStore();
 
-    /// Closes the question that the user may still be asked; what has not ended yet fails.
+    /// Closes the keyring's question to the user, if one is open; unfinished operations fail.
     ~LibsecretStore() override;
 
     [[nodiscard]] QFuture<bool> save(KeychainItem item, std::string value) override;

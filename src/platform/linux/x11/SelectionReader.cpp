@@ -12,10 +12,10 @@ namespace quillon {
 
 namespace {
 
-/// More targets than any owner has; a longer list counts as none.
+/// No owner has this many targets; a longer list counts as none.
 constexpr qsizetype maximumTargets = 4096;
-/// Windows kept for late answers. Destroyed too soon, they would end owners that take every X error
-/// for fatal.
+/// This many windows are kept for late answers. Owners that treat every X error as fatal would end
+/// if a window were destroyed too soon.
 constexpr std::size_t maximumRetired = 8;
 
 std::span<const char> valueOf(const xcb_get_property_reply_t& reply) {
@@ -42,10 +42,7 @@ SelectionReader::SelectionReader(X11Connection& connection, std::function<void()
     incr_ = internAtom(connection_.get(), "INCR");
     utf8String_ = internAtom(connection_.get(), "UTF8_STRING");
     property_ = internAtom(connection_.get(), "QUILLON_CLIPBOARD");
-    constexpr auto every = XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
-                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
-                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
-    xcb_xfixes_select_selection_input(connection_.get(), connection_.root(), clipboard_, every);
+    selectOwnerEvents(connection_.get(), connection_.root(), clipboard_);
     openWindow();
     xcb_flush(connection_.get());
 }
@@ -53,7 +50,7 @@ SelectionReader::SelectionReader(X11Connection& connection, std::function<void()
 bool SelectionReader::selectEvents() {
     const auto* extension = xcb_get_extension_data(connection_.get(), &xcb_xfixes_id);
     if (extension == nullptr || extension->present == 0) return false;
-    // The server refuses every other XFixes request until the versions are agreed.
+    // The server refuses every other XFixes request until the client has asked for a version.
     const auto cookie = xcb_xfixes_query_version(connection_.get(), 1, 0);
     const XcbPointer<xcb_xfixes_query_version_reply_t> version{
         xcb_xfixes_query_version_reply(connection_.get(), cookie, nullptr)};
@@ -80,8 +77,8 @@ std::optional<QByteArray> SelectionReader::data(const std::string& format) {
     return std::move(answer->bytes);
 }
 
-/// The two string targets name an encoding, so their type must agree. A media type describes its
-/// content by itself, and owners differ in the type they give it.
+/// The two string targets name an encoding, so the answer's type must match. For media types,
+/// owners differ in the type they give, and the content describes itself.
 bool SelectionReader::isRightType(xcb_atom_t target, const Property& answer) const {
     if (target == targets_) {
         return answer.format == 32 && (answer.type == XCB_ATOM_ATOM || answer.type == targets_);
@@ -92,7 +89,7 @@ bool SelectionReader::isRightType(xcb_atom_t target, const Property& answer) con
 
 std::optional<xcb_atom_t> SelectionReader::atomOf(const std::string& name) {
     if (const auto known = atoms_.find(name); known != atoms_.end()) return known->second;
-    // A name that no program has made an atom of is offered by none.
+    // If no program has made an atom of the name, no owner offers it.
     const auto cookie =
         xcb_intern_atom(connection_.get(), 1, static_cast<std::uint16_t>(name.size()), name.data());
     const auto answer = reply<xcb_intern_atom_reply_t>(cookie.sequence);
@@ -109,11 +106,11 @@ std::vector<std::string> SelectionReader::namesOf(const std::vector<xcb_atom_t>&
     const auto deadline = std::chrono::steady_clock::now() + patience;
     for (const auto& [atom, sequence] : questions) {
         if (std::chrono::steady_clock::now() >= deadline) {
-            xcb_discard_reply(connection_.get(), sequence); // patience is for all of them together
+            xcb_discard_reply(connection_.get(), sequence); // one deadline covers all questions
             continue;
         }
         const auto answer = reply<xcb_get_atom_name_reply_t>(sequence);
-        if (!answer) continue; // no atom at all
+        if (!answer) continue; // the owner offers a number that is no atom
         names_[atom].assign(xcb_get_atom_name_name(answer.get()), answer->name_len);
     }
     std::vector<std::string> names;
@@ -141,8 +138,8 @@ std::optional<SelectionReader::Property> SelectionReader::convert(xcb_atom_t tar
                     QByteArray{value.data(), static_cast<qsizetype>(value.size())}};
 }
 
-/// A question whose answer never came to its end may still be answered. Its window is given up to
-/// that answer, so that it cannot be taken for the answer to another question.
+/// An unfinished question may still be answered. Its window is left for that answer, so that it
+/// cannot be taken for the answer to a later question.
 void SelectionReader::ask(xcb_atom_t target) {
     if (open_) retireWindow();
     open_ = true;
@@ -154,7 +151,8 @@ void SelectionReader::ask(xcb_atom_t target) {
                     .sequence;
 }
 
-/// The owner writes piece after piece, each when the last was deleted; an empty one is the end.
+/// The owner writes one piece after another, each when the previous one was deleted; an empty piece
+/// is the end.
 std::optional<SelectionReader::Property> SelectionReader::receivePieces(qsizetype announced,
                                                                         qsizetype limit) {
     if (announced > limit) return {};
@@ -164,7 +162,7 @@ std::optional<SelectionReader::Property> SelectionReader::receivePieces(qsizetyp
     while (std::chrono::steady_clock::now() < end && waitFor([this] { return newValue_; })) {
         const auto piece = takeProperty(limit);
         if (!piece) return {};
-        if (piece->type == XCB_ATOM_NONE) continue; // deleted again: not a piece
+        if (piece->type == XCB_ATOM_NONE) continue; // there is no property, so this is not a piece
         const auto value = valueOf(*piece);
         if (value.empty()) {
             open_ = false;
@@ -182,7 +180,7 @@ std::optional<SelectionReader::Property> SelectionReader::receivePieces(qsizetyp
     return {};
 }
 
-/// Reads and deletes the property, which tells the owner to go on.
+/// Reads and deletes the property. The deletion tells the owner to go on.
 XcbPointer<xcb_get_property_reply_t> SelectionReader::takeProperty(qsizetype limit) {
     newValue_ = false;
     const auto units = static_cast<std::uint32_t>(limit / 4);
@@ -217,7 +215,7 @@ void SelectionReader::handleEvents() {
 }
 
 void SelectionReader::handle(const xcb_generic_event_t& event) {
-    const int type = event.response_type & 0x7f; // without the mark of SendEvent
+    const int type = event.response_type & eventTypeMask;
     if (type == XCB_SELECTION_NOTIFY) {
         noteAnswer(reinterpret_cast<const xcb_selection_notify_event_t&>(event));
     } else if (type == XCB_PROPERTY_NOTIFY) {
@@ -234,15 +232,16 @@ void SelectionReader::noteAnswer(const xcb_selection_notify_event_t& event) {
         if (event.target == target_) answer_ = event.property;
         return;
     }
-    // A late answer has been written to its end, and with its window goes what it holds.
+    // A late answer is complete; destroying its window frees it.
     const auto late = std::find(retired_.begin(), retired_.end(), event.requestor);
     if (late == retired_.end()) return;
     xcb_destroy_window(connection_.get(), *late);
     retired_.erase(late);
 }
 
-/// An owner that is replaced or gone answers no more, or with what is no longer on the clipboard;
-/// unless the change happened before the server had the question, which then went to the new owner.
+/// An owner that was replaced or is gone answers no more, or with content that is no longer on the
+/// clipboard. If the change came before the server had the question, the question went to the new
+/// owner.
 void SelectionReader::noteOwner(std::uint32_t sequence) {
     ownerChanged_();
     const bool sinceQuestion = static_cast<std::int32_t>(sequence - question_) >= 0;

@@ -16,14 +16,14 @@
 
 namespace quillon {
 
-/// Asks the owner of X11's CLIPBOARD selection for its content, one question after another, each in
-/// its turn blocking the calling thread until it is answered, given up or stopped.
+/// Asks the owner of X11's CLIPBOARD selection for its content. Each question blocks the calling
+/// thread until it is answered, given up or stopped.
 class SelectionReader {
 public:
-    /// How long nothing may come from the owner before a question is given up. Each piece of a
-    /// large answer starts it anew.
+    /// A question is given up after nothing has come from the owner for this long. Each piece of a
+    /// large answer starts the time anew.
     static constexpr std::chrono::milliseconds patience{1000};
-    /// How long after the beginning of a large answer the last wait for a piece may begin.
+    /// After this time, no further piece of a large answer is waited for.
     static constexpr std::chrono::seconds transferLimit{30};
     /// A larger answer counts as none, in bytes.
     static constexpr qsizetype maximumSize = qsizetype{256} * 1024 * 1024;
@@ -35,8 +35,8 @@ public:
     /// False when the server lacks what reading needs (the XFixes extension).
     [[nodiscard]] bool ready() const { return firstXfixesEvent_ != 0; }
 
-    /// Ends the present question and every later one when stop is requested (and the connection
-    /// rung).
+    /// Once stop is requested and the connection rung, the present question and every later one
+    /// end.
     void stopOn(std::stop_token stop) { stop_ = std::move(stop); }
 
     /// The names of the targets that the owner offers, in its order; empty when there is no answer.
@@ -46,7 +46,7 @@ public:
     /// when the answer is of a wrong type or too large.
     [[nodiscard]] std::optional<QByteArray> data(const std::string& format);
 
-    /// Takes note of everything that has arrived; for the time between questions.
+    /// Handles everything that has arrived. Call it between questions.
     void handleEvents();
 
 private:
@@ -56,7 +56,7 @@ private:
         QByteArray bytes;
     };
 
-    bool selectEvents(); // at start
+    bool selectEvents();
     [[nodiscard]] std::optional<xcb_atom_t> atomOf(const std::string& name);
     [[nodiscard]] std::vector<std::string> namesOf(const std::vector<xcb_atom_t>& atoms);
     [[nodiscard]] bool isRightType(xcb_atom_t target, const Property& answer) const;
@@ -85,13 +85,13 @@ private:
     xcb_atom_t targets_ = XCB_ATOM_NONE;
     xcb_atom_t incr_ = XCB_ATOM_NONE;
     xcb_atom_t utf8String_ = XCB_ATOM_NONE;
-    xcb_atom_t property_ = XCB_ATOM_NONE; ///< where owners put their answers
+    xcb_atom_t property_ = XCB_ATOM_NONE; ///< owners put their answers here
     std::map<std::string, xcb_atom_t> atoms_;
     std::map<xcb_atom_t, std::string> names_;
 
     xcb_window_t window_ = XCB_WINDOW_NONE;
-    std::deque<xcb_window_t> retired_; ///< windows of questions given up, to which answers may come
-    bool open_ = false;                ///< a question was asked and is not answered to its end
+    std::deque<xcb_window_t> retired_; ///< windows of abandoned questions, for late answers
+    bool open_ = false;                ///< a question was asked and is not completely answered
     bool overtaken_ = false;           ///< the owner changed since the question
     bool newValue_ = false;            ///< the owner wrote the property since it was last taken
     unsigned question_ = 0;            ///< the question's sequence number

@@ -13,15 +13,15 @@ namespace quillon {
 
 namespace {
 
-/// More atoms than any window manager lists.
+/// No window manager lists more atoms.
 constexpr std::uint32_t mostAtoms = 1024;
 
-/// Who asks, by the Extended Window Manager Hints: a tool in which the user says what to activate,
-/// as the desktop's panel is one. What applications ask for on their own counts only with the time
-/// of a click into one of their windows, which a click on an icon in somebody else's window is not.
+/// The source of the request, by the Extended Window Manager Hints: a tool in which the user
+/// chooses what to activate, such as the desktop's panel. Requests of ordinary applications count
+/// only with the time of a click into one of their windows, and a click on the tray icon is none.
 constexpr std::uint32_t sourcePager = 2;
 
-/// Whether there is a window manager that activates windows when asked to.
+/// Whether there is a window manager that activates windows on request.
 bool isActivationSupported(xcb_connection_t* connection) {
     const xcb_atom_t activation = internAtom(connection, "_NET_ACTIVE_WINDOW");
     const auto cookie =
@@ -35,8 +35,9 @@ bool isActivationSupported(xcb_connection_t* connection) {
     return std::ranges::find(atoms, activation) != atoms.end();
 }
 
-/// The server's time in milliseconds, as a change of a property tells it; 0, which window managers
-/// take for the present, when the server is gone. Not on Qt's connection, whose events are Qt's.
+/// The server's time in milliseconds, taken from the event of a property change. If the server is
+/// gone, 0, which window managers take for the present. Uses a connection of its own, because the
+/// events of Qt's belong to Qt.
 xcb_timestamp_t serverTime() {
     const auto connection = X11Connection::open(nullptr);
     if (!connection) return XCB_CURRENT_TIME;

@@ -4,8 +4,8 @@ class QWindow;
 
 namespace quillon {
 
-/// Gives a window that shows the focus, in front of all others. For what the user has asked for in
-/// this moment: window managers that keep programs from taking the focus let this pass.
+/// Brings a visible window to the front and gives it the focus, even where the window manager keeps
+/// programs from taking it. Only for a window that the user has just asked for.
 void bringToFront(QWindow& window);
 
 } // namespace quillon

@@ -1,13 +1,18 @@
 #pragma once
 
 #include "platform/Compositor.h"
+#include "platform/linux/x11/X11ManagerSelection.h"
 
 namespace quillon {
 
-/// Asks the X server whether a compositing manager runs; on any other display there always is one.
+/// Knows whether a compositing manager runs on the X server; any other display always blends
+/// windows. To be made after the application object.
 class X11Compositor : public Compositor {
 public:
     [[nodiscard]] bool active() const override;
+
+private:
+    X11ManagerSelection manager_{"_NET_WM_CM"};
 };
 
 } // namespace quillon

@@ -5,6 +5,7 @@
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
+#include <xcb/xfixes.h>
 
 #include <algorithm>
 #include <array>
@@ -31,8 +32,8 @@ int defaultScreen() {
     return screen;
 }
 
-/// For poll(2): rounded up, so that a sleep never ends just before its deadline; -1 for no
-/// deadline.
+/// The time left in the form that poll(2) takes: -1 without a deadline. Rounds up, so that a sleep
+/// never ends just before its deadline.
 int millisecondsUntil(std::optional<X11Connection::Time> deadline) {
     if (!deadline) return -1;
     const auto left = *deadline - std::chrono::steady_clock::now();
@@ -52,10 +53,6 @@ xcb_window_t rootWindow(xcb_connection_t* connection) {
     return rootWindow(connection, defaultScreen());
 }
 
-void preferX11() {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
-}
-
 xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name) {
     const auto cookie =
         xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
@@ -66,6 +63,13 @@ xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name) {
 
 xcb_atom_t managerSelection(xcb_connection_t* connection, std::string_view prefix) {
     return internAtom(connection, std::string{prefix} + "_S" + std::to_string(defaultScreen()));
+}
+
+void selectOwnerEvents(xcb_connection_t* connection, xcb_window_t root, xcb_atom_t selection) {
+    constexpr auto every = XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
+                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
+                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
+    xcb_xfixes_select_selection_input(connection, root, selection, every);
 }
 
 std::unique_ptr<X11Connection> X11Connection::open(const char* display) {
@@ -99,7 +103,8 @@ void X11Connection::ring() const {
 
 void X11Connection::sleep(std::optional<Time> deadline) const {
     xcb_flush(connection_);
-    // The socket of a dead server is always "readable": poll ignores a negative descriptor.
+    // A dead server's socket is always readable, so it is replaced by a negative number, which poll
+    // ignores.
     const int socket = alive() ? xcb_get_file_descriptor(connection_) : -1;
     std::array<pollfd, 2> sources{{{bell_, POLLIN, 0}, {socket, POLLIN, 0}}};
     poll(sources.data(), sources.size(), millisecondsUntil(deadline));

@@ -3,6 +3,7 @@
 #include <xcb/xcb.h>
 
 #include <chrono>
+#include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <optional>
@@ -14,32 +15,35 @@ struct FreeDeleter {
     void operator()(void* pointer) const { std::free(pointer); } // NOLINT: xcb hands out malloc'd
 };
 
-/// An event or a reply, which xcb allocates with malloc.
+/// Owns an event or a reply, which xcb allocates with malloc.
 template <typename T>
 using XcbPointer = std::unique_ptr<T, FreeDeleter>;
 
-/// The connection that Qt's windows are on, whose events are Qt's to take; null on other platforms.
+/// The connection of Qt's windows; null on other platforms. Only Qt may take events from it.
 [[nodiscard]] xcb_connection_t* qtConnection();
 
-/// Has Qt work on the X server, where the banner and the shortcut are, also where the desktop
-/// offers Wayland as well; unless the user wants it otherwise. To be called before there is an
-/// application.
-void preferX11();
+/// Masks the type out of an event's response_type. The remaining bit marks events that another
+/// client has sent.
+inline constexpr std::uint8_t eventTypeMask = 0x7F;
 
 /// The root window of the default screen.
 [[nodiscard]] xcb_window_t rootWindow(xcb_connection_t* connection);
 
-/// The atom of this name, which is made where there is none yet. Waits for the server;
-/// XCB_ATOM_NONE when that is gone.
+/// The atom of this name, which is made if there is none yet. Waits for the server; XCB_ATOM_NONE
+/// if the server is gone.
 [[nodiscard]] xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name);
 
-/// The atom of the selection that the manager of something owns on the default screen: "_NET_WM_CM"
-/// gives that of _NET_WM_CM_S0.
+/// The atom of a manager selection on the default screen: "_NET_WM_CM" gives the atom of
+/// _NET_WM_CM_S0.
 [[nodiscard]] xcb_atom_t managerSelection(xcb_connection_t* connection, std::string_view prefix);
 
-/// A connection to the X server of its own, used by one thread that sleeps until the server has
-/// sent something or another thread rings. A server that dies makes it dead and never ends the
-/// program.
+/// Has the server send an XFixes event on this connection each time that the selection gets another
+/// owner or loses its owner. The server must have the XFixes extension.
+void selectOwnerEvents(xcb_connection_t* connection, xcb_window_t root, xcb_atom_t selection);
+
+/// A separate connection to the X server, for one thread that sleeps until the server has sent
+/// something or another thread rings. If the server dies, the connection is dead, but the program
+/// goes on.
 class X11Connection {
 public:
     using Time = std::chrono::steady_clock::time_point;
@@ -58,11 +62,11 @@ public:
     /// False once the server is gone; it stays so.
     [[nodiscard]] bool alive() const { return xcb_connection_has_error(connection_) == 0; }
 
-    /// Ends the present or else the next sleep. From any thread.
+    /// Ends the present sleep, or else the next one. Thread-safe.
     void ring() const;
 
-    /// Sends what is buffered and sleeps until something arrives, ring() or the deadline. Events
-    /// and replies that xcb has already queued do not end the sleep: take them first.
+    /// Sends what is buffered and sleeps until something arrives, ring() or the deadline. Take
+    /// queued events and replies first: they do not end the sleep.
     void sleep(std::optional<Time> deadline) const;
 
 private:

@@ -11,9 +11,6 @@ namespace quillon {
 
 namespace {
 
-/// An X event's type without the bit that tells whether another client has sent it.
-constexpr std::uint8_t typeMask = 0x7F;
-
 constexpr xcb_xkb_device_spec_t coreKeyboard = XCB_XKB_ID_USE_CORE_KBD;
 
 std::vector<xcb_window_t> rootWindows(xcb_connection_t* connection) {
@@ -24,7 +21,7 @@ std::vector<xcb_window_t> rootWindows(xcb_connection_t* connection) {
     return roots;
 }
 
-/// Waits for the answer.
+/// Whether the server has XKB. Waits for its answer.
 bool hasXkb(xcb_connection_t* connection) {
     const auto cookie =
         xcb_xkb_use_extension(connection, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION);
@@ -33,8 +30,8 @@ bool hasXkb(xcb_connection_t* connection) {
     return reply && reply->supported;
 }
 
-/// Has the server tell about changes of the keyboard, and repeat the press of a held key without
-/// releases in between.
+/// Asks the server for events about changes of the keyboard, and to repeat the press of a held key
+/// without releases in between.
 void prepare(xcb_connection_t* connection) {
     constexpr std::uint16_t changes =
         XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY |
@@ -86,7 +83,8 @@ void X11HotKeys::installHandler(std::function<void()> handler) {
 }
 
 std::unique_ptr<HotKeys::Registration> X11HotKeys::registerHotKey(PhysicalKey key) {
-    // The server would let this client grab the same key again, and then lose it with either.
+    // The server would let this client grab the same key twice, and the first release would end
+    // both grabs.
     if (keys_.contains(key)) return nullptr;
     followKeyboard();
     takeEventsSoon();
@@ -111,7 +109,7 @@ bool X11HotKeys::grab(PhysicalKey key) {
         refused |= error != nullptr;
     }
     if (refused) ungrab(key);
-    // A request to a dead server has no error either.
+    // Requests to a dead server give no error.
     return !refused && connection_->alive();
 }
 
@@ -145,7 +143,7 @@ void X11HotKeys::takeEvents() {
     bool keyboardChanged = false;
     while (XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(connection_->get())})
         keyboardChanged |= take(*event);
-    // The socket of a dead server has news for ever.
+    // A dead server's socket stays readable for ever.
     if (!connection_->alive()) return notifier_.setEnabled(false);
     if (!keyboardChanged) return;
     followKeyboard();
@@ -153,24 +151,25 @@ void X11HotKeys::takeEvents() {
 }
 
 void X11HotKeys::takeEventsSoon() {
-    // What has come in while an answer was waited for is in xcb's queue, and wakes nobody.
+    // Events that arrived while an answer was awaited are in xcb's queue, and the socket does not
+    // announce them.
     QMetaObject::invokeMethod(
         &notifier_, [this] { takeEvents(); }, Qt::QueuedConnection);
 }
 
 bool X11HotKeys::take(const xcb_generic_event_t& event) {
-    const int type = event.response_type & typeMask;
+    const int type = event.response_type & eventTypeMask;
     if (type == XCB_KEY_PRESS) pressed(reinterpret_cast<const xcb_key_press_event_t&>(event));
     if (type == XCB_KEY_RELEASE) released(reinterpret_cast<const xcb_key_press_event_t&>(event));
     return type == xkbEvent_ || type == XCB_MAPPING_NOTIFY;
 }
 
 void X11HotKeys::pressed(const xcb_key_press_event_t& event) {
-    // While a hot key is held, all other keys come here as well.
+    // While a hot key is held, the presses of all other keys arrive here too.
     const bool ours = std::ranges::any_of(
         keys_, [&](const auto& entry) { return keyboard_.code(entry.first) == event.detail; });
     if (!ours) return;
-    // A key that is long overdue for repeating was let go of, even if nobody has told.
+    // A key that has not repeated in time was released, even if there was no event for that.
     const bool repeats = held_ == event.detail && event.time - lastPress_ <= keyboard_.repeatPause;
     held_ = event.detail;
     lastPress_ = event.time;

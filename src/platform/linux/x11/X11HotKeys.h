@@ -12,9 +12,9 @@
 
 namespace quillon {
 
-/// Hot keys as passive grabs on the root windows of an X server, whatever layout the keyboard has
-/// and whichever of its locks are on. Lives on the main thread and outlives its registrations. Once
-/// the server is gone, nothing is pressed any more and every registration is refused.
+/// Hot keys as passive grabs on an X server's root windows. They work with any keyboard layout and
+/// any locks on. Lives on the main thread and outlives its registrations. Once the server is gone,
+/// nothing is pressed any more and every registration is refused.
 class X11HotKeys final : public HotKeys {
 public:
     /// Connects to `display` (null: what $DISPLAY names); null when there is no such display, or
@@ -26,7 +26,7 @@ public:
     ~X11HotKeys() override = default;
 
     void installHandler(std::function<void()> handler) override;
-    /// Waits for the server to answer. Refused, too, while there is a registration of that key.
+    /// Waits for the server's answer. Also refuses a key that is registered already.
     [[nodiscard]] std::unique_ptr<Registration> registerHotKey(PhysicalKey key) override;
 
 private:
@@ -37,12 +37,12 @@ private:
     [[nodiscard]] bool grab(PhysicalKey key);
     void ungrab(PhysicalKey key);
     void unregister(PhysicalKey key);
-    /// Takes up what has become of the keyboard.
+    /// Reads the keyboard again and moves the grabs to where the keys are now.
     void followKeyboard();
 
     void takeEvents();
     void takeEventsSoon();
-    /// True when the event tells that the keyboard has changed.
+    /// True if the event announces a change of the keyboard.
     [[nodiscard]] bool take(const xcb_generic_event_t& event);
     void pressed(const xcb_key_press_event_t& event);
     void released(const xcb_key_press_event_t& event);
@@ -52,11 +52,11 @@ private:
     X11Keyboard keyboard_;
     std::uint8_t xkbEvent_;
     std::function<void()> handler_;
-    /// The keys that are registered, and whether they are grabbed: another program may have been
-    /// quicker where a new layout has put them.
+    /// The registered keys, and whether they are grabbed. After a change of layout, another program
+    /// may hold a key's new combination.
     std::map<PhysicalKey, bool> keys_;
     std::optional<xcb_keycode_t> held_;
-    /// When the held key was last heard of, on the server's clock in milliseconds.
+    /// The time of the held key's last event, on the server's clock in milliseconds.
     xcb_timestamp_t lastPress_ = 0;
     QSocketNotifier notifier_;
 };

@@ -12,9 +12,9 @@ namespace quillon {
 namespace {
 
 struct KeyPlace {
-    /// The key's name in XKB's geometry: a row and a place in it.
+    /// The key's name in XKB: a row and a place in it.
     std::string_view name;
-    /// Its code where no key has that name: the kernel's, moved up by eight.
+    /// The key's code on keyboards without that name: the kernel's code plus eight.
     xcb_keycode_t usualCode;
 };
 
@@ -27,7 +27,7 @@ constexpr xcb_keysym_t altRight = 0xFFEA;
 constexpr xcb_keysym_t numLock = 0xFF7F;
 constexpr xcb_keysym_t scrollLock = 0xFF14;
 
-/// What a busy server's repetitions may come late by, in milliseconds.
+/// A busy server's repetitions may be late by this much, in milliseconds.
 constexpr std::uint32_t lateness = 500;
 
 using Names = XcbPointer<xcb_xkb_get_names_reply_t>;
@@ -35,7 +35,7 @@ using Controls = XcbPointer<xcb_xkb_get_controls_reply_t>;
 using Modifiers = XcbPointer<xcb_get_modifier_mapping_reply_t>;
 using Symbols = XcbPointer<xcb_get_keyboard_mapping_reply_t>;
 
-/// The code of the key with the name; none when no key has it.
+/// The code of the key with the name; none if no key has it.
 std::optional<xcb_keycode_t> codeNamed(std::string_view name, const Names& names) {
     xcb_xkb_get_names_value_list_t lists{};
     xcb_xkb_get_names_value_list_unpack(xcb_xkb_get_names_value_list(names.get()), names->nTypes,
@@ -44,7 +44,7 @@ std::optional<xcb_keycode_t> codeNamed(std::string_view name, const Names& names
                                         names->which, &lists);
     if (!(names->which & XCB_XKB_NAME_DETAIL_KEY_NAMES) || !lists.keyNames) return std::nullopt;
     for (int index = 0; index < names->nKeys; ++index) {
-        // The names are short of a terminator where they fill their four bytes.
+        // Names that fill their four bytes have no terminator.
         const char* bytes = lists.keyNames[index].name;
         if (std::string_view{bytes, sizeof(lists.keyNames->name)} == name)
             return static_cast<xcb_keycode_t>(names->firstKey + index);
@@ -60,7 +60,7 @@ std::uint16_t modifierWith(xcb_keysym_t symbol, const Modifiers& modifiers, cons
     const std::span all{xcb_get_keyboard_mapping_keysyms(symbols.get()), symbols->length};
     const std::size_t perCode = symbols->keysyms_per_keycode;
     for (std::size_t place = 0; place < codes.size(); ++place) {
-        if (codes[place] < firstCode) continue; // a place left free
+        if (codes[place] < firstCode) continue; // an unused place
         const std::size_t first = static_cast<std::size_t>(codes[place] - firstCode) * perCode;
         if (first + perCode > all.size()) continue;
         if (std::ranges::count(all.subspan(first, perCode), symbol) == 0) continue;
@@ -69,7 +69,7 @@ std::uint16_t modifierWith(xcb_keysym_t symbol, const Modifiers& modifiers, cons
     return 0;
 }
 
-/// The masks with which Control and Alt, and any of the locks besides, are on.
+/// The modifier masks of Control and Alt with every combination of the locks.
 std::vector<std::uint16_t> combinations(const Modifiers& modifiers, const Symbols& symbols,
                                         xcb_keycode_t firstCode) {
     const auto with = [&](xcb_keysym_t symbol) {
@@ -82,7 +82,7 @@ std::vector<std::uint16_t> combinations(const Modifiers& modifiers, const Symbol
     std::vector<std::uint16_t> masks{wanted};
     for (const std::uint16_t lock :
          {std::uint16_t{XCB_MOD_MASK_LOCK}, with(numLock), with(scrollLock)}) {
-        // Two locks on one modifier are one.
+        // A lock on a modifier that is in the masks already adds none.
         if (!lock || ((masks.back() | wanted) & lock)) continue;
         const std::vector<std::uint16_t> without = masks;
         for (const std::uint16_t mask : without)
@@ -99,7 +99,7 @@ std::optional<X11Keyboard> X11Keyboard::read(xcb_connection_t* connection) {
     const auto count = static_cast<std::uint8_t>(setup->max_keycode - firstCode + 1);
     constexpr xcb_xkb_device_spec_t device = XCB_XKB_ID_USE_CORE_KBD;
 
-    // All asked before the first answer is waited for.
+    // All questions are sent before the first answer is awaited.
     const auto namesAsked = xcb_xkb_get_names(connection, device, XCB_XKB_NAME_DETAIL_KEY_NAMES);
     const auto controlsAsked = xcb_xkb_get_controls(connection, device);
     const auto modifiersAsked = xcb_get_modifier_mapping(connection);

@@ -69,7 +69,7 @@ void X11Pasteboard::run(const std::stop_token& stop) {
             connection_->sleep({});
         }
     }
-    ++changes_; // with its server gone, the clipboard is empty
+    ++changes_; // the server is gone, so the clipboard is empty now
     while (!stop.stop_requested()) {
         while (const auto job = nextJob())
             (*job)(nullptr);

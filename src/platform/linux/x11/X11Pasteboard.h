@@ -14,15 +14,15 @@
 
 namespace quillon {
 
-/// The CLIPBOARD selection of an X server, read by a thread of its own over a connection of its
-/// own, so that an owner that hangs never holds up the window thread. Formats are X11 targets.
+/// Reads the CLIPBOARD selection of an X server on a separate thread and connection, so that an
+/// owner that hangs never blocks the main thread. Formats are X11 targets.
 class X11Pasteboard final : public Pasteboard {
 public:
-    /// The pasteboard of `display` (null: what $DISPLAY names); null when there is no such display
-    /// or its server cannot tell of owners (XFixes).
+    /// The pasteboard of `display` (null: what $DISPLAY names); null if there is no such display or
+    /// its server lacks XFixes.
     [[nodiscard]] static std::unique_ptr<X11Pasteboard> open(const char* display);
 
-    /// Finishes every outstanding future with nothing.
+    /// Finishes all outstanding futures with empty results.
     ~X11Pasteboard() override;
 
     [[nodiscard]] std::uint64_t changeCount() const override { return changes_; }
@@ -30,7 +30,7 @@ public:
     [[nodiscard]] QFuture<std::optional<QByteArray>> data(std::string format) override;
 
 private:
-    /// Called with null when nothing can be read any more.
+    /// A job is called with null if nothing can be read any more.
     using Job = std::function<void(SelectionReader*)>;
 
     explicit X11Pasteboard(std::unique_ptr<X11Connection> connection);

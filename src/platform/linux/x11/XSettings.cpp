@@ -11,12 +11,13 @@ namespace {
 
 enum Type : quint8 { integer = 0, string = 1, color = 2 };
 
-/// More than any desktop has, in units of four bytes.
+/// No desktop has more settings than fit into this many units of four bytes.
 constexpr std::uint32_t largestProperty = 16'384;
 constexpr quint8 littleEndian = 0;
 constexpr int colorBytes = 8;
 
-/// Texts are filled up to whole units of four bytes. Ends the stream where it is too short.
+/// Reads a text, which is padded to whole units of four bytes. Marks the stream as broken if it is
+/// too short.
 QByteArray readText(QDataStream& in, quint32 length) {
     if (length > largestProperty * 4) {
         in.setStatus(QDataStream::ReadCorruptData);
@@ -72,17 +73,15 @@ XSettingsValues parseXSettings(const QByteArray& property) {
 
 XSettings::XSettings(std::function<void(const XSettingsValues&)> changed)
     : changed_{std::move(changed)} {
-    connect(&manager_, &X11Manager::changed, this, &XSettings::read);
-    connect(&manager_, &X11Manager::propertyChanged, this, &XSettings::read);
+    connect(&manager_, &X11ManagerSelection::ownerChanged, this, &XSettings::read);
+    connect(&manager_, &X11ManagerSelection::propertyChanged, this, &XSettings::read);
     QMetaObject::invokeMethod(
         this, [this] { read(); }, Qt::QueuedConnection);
 }
 
 void XSettings::read() {
-    const auto reply = manager_.property(XCB_GET_PROPERTY_TYPE_ANY, largestProperty);
-    if (!reply || reply->format != 8) return;
-    const auto* const bytes = static_cast<const char*>(xcb_get_property_value(reply.get()));
-    changed_(parseXSettings(QByteArray{bytes, xcb_get_property_value_length(reply.get())}));
+    const auto property = manager_.property(largestProperty);
+    if (property.format == 8) changed_(parseXSettings(property.bytes));
 }
 
 } // namespace quillon

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/x11/X11Manager.h"
+#include "platform/linux/x11/X11ManagerSelection.h"
 
 #include <QObject>
 #include <QVariant>
@@ -11,25 +11,25 @@
 
 namespace quillon {
 
-/// Whole numbers and texts by their names.
+/// Settings that are whole numbers or texts, by name.
 using XSettingsValues = std::map<std::string, QVariant>;
 
 /// The settings in the property of an XSETTINGS manager (freedesktop.org's XSETTINGS protocol);
-/// those before the fault where it is malformed.
+/// only those before the fault if it is malformed.
 [[nodiscard]] XSettingsValues parseXSettings(const QByteArray& property);
 
-/// Follows the desktop's XSETTINGS manager on the X server that Qt has connected to, also one that
+/// Follows the desktop's XSETTINGS manager on the X server that Qt is connected to, even if it
 /// comes late. Does nothing on any other display.
 class XSettings : public QObject {
 public:
-    /// Calls `changed` from the event loop, with all settings, now and each time that they change.
+    /// Calls `changed` with all settings from the event loop, first soon and then at each change.
     explicit XSettings(std::function<void(const XSettingsValues&)> changed);
 
 private:
     void read();
 
     std::function<void(const XSettingsValues&)> changed_;
-    X11Manager manager_{"_XSETTINGS", "_XSETTINGS_SETTINGS"};
+    X11ManagerSelection manager_{"_XSETTINGS", "_XSETTINGS_SETTINGS"};
 };
 
 } // namespace quillon

@@ -1,7 +1,7 @@
 #pragma once
 
-// The XKB extension's functions. Their C header names a member by a word that C++ keeps for itself;
-// nothing else may be included while that word means something else.
+// The XKB extension's functions. Their C header has a member named "explicit", a keyword of C++,
+// which is renamed during that one include.
 #include <xcb/xcb.h>
 
 #define explicit explicit_

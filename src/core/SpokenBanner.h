@@ -7,18 +7,18 @@
 
 namespace quillon {
 
-/// Passes banners on to the one on screen, where there is a screen, and remembers the last bad news
-/// for a command.
+/// Passes each message on to the banner on screen, if there is one, and remembers the last bad
+/// news, which a command prints.
 class SpokenBanner : public Banner {
 public:
-    /// `onScreen` may be null.
+    /// `onScreen` is null where no banner is shown.
     explicit SpokenBanner(Banner* onScreen) : onScreen_{onScreen} {}
 
-    void show(std::string text, std::string symbol, bool ok, bool sticky) override;
+    void show(BannerMessage message) override;
 
-    /// Forgets the last banner.
+    /// Forgets the last message.
     void forget() { problem_.reset(); }
-    /// The text of the last banner, when that told of a problem.
+    /// The text of the last message if that was bad news.
     [[nodiscard]] const std::optional<std::string>& problem() const { return problem_; }
 
 private:

@@ -4,8 +4,8 @@
 
 namespace quillon {
 
-/// While it lives, C's functions on characters take this thread's texts for UTF-8, whatever the
-/// locale of the process: names in archives are UTF-8 also for those who work in the locale "C".
+/// While this object lives, C's character functions take this thread's texts for UTF-8, whatever
+/// the locale of the process. Names in archives are UTF-8 even if the user works in the locale "C".
 class Utf8Locale {
 public:
     Utf8Locale()

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "base/Json.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Reading the program's own files, all or nothing: a decoder takes what it needs from a JSON value
+/// with the functions below, and the first value that is not as it must be ends the decoding.
+namespace quillon {
+
+/// Thrown by the functions below, caught by `decoded`.
+struct Undecodable {};
+
+/// What the decoder, a function of a JSON value, makes of the bytes; none when they are no JSON or
+/// the decoder met something that it cannot use.
+template <typename Decoder>
+[[nodiscard]] auto decoded(std::string_view bytes, Decoder decode)
+    -> std::optional<decltype(decode(std::declval<const Json&>()))> {
+    const std::optional<Json> value = parseJson(bytes);
+    if (!value) return std::nullopt;
+    try {
+        return decode(*value);
+    } catch (const Undecodable&) {
+        return std::nullopt;
+    }
+}
+
+/// The value as std::string, bool, double (any number) or std::int64_t (a number written without
+/// fraction or exponent).
+template <typename T>
+[[nodiscard]] T decodedAs(const Json& value);
+template <>
+std::string decodedAs(const Json& value);
+template <>
+bool decodedAs(const Json& value);
+template <>
+double decodedAs(const Json& value);
+template <>
+std::int64_t decodedAs(const Json& value);
+
+/// The object's value under the key; null when it is missing or JSON null.
+[[nodiscard]] const Json* presentMember(const Json& object, std::string_view key);
+/// The object's value under the key, which must be there.
+[[nodiscard]] const Json& requiredMember(const Json& object, std::string_view key);
+
+template <typename T>
+[[nodiscard]] std::optional<T> optionalField(const Json& object, std::string_view key) {
+    const Json* value = presentMember(object, key);
+    return value ? std::optional{decodedAs<T>(*value)} : std::nullopt;
+}
+
+template <typename T>
+[[nodiscard]] T requiredField(const Json& object, std::string_view key) {
+    return decodedAs<T>(requiredMember(object, key));
+}
+
+/// The elements of a JSON array, each through the decoder.
+template <typename Decoder>
+[[nodiscard]] auto decodedList(const Json& array, Decoder decode) {
+    if (!array.is_array()) throw Undecodable{};
+    std::vector<decltype(decode(array))> list;
+    list.reserve(array.size());
+    for (const Json& element : array)
+        list.push_back(decode(element));
+    return list;
+}
+
+} // namespace quillon

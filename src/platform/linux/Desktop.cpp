@@ -1,0 +1,53 @@
+#include "platform/linux/Desktop.h"
+
+#include "platform/EmptyPasteboard.h"
+#include "platform/linux/Application.h"
+#include "platform/linux/x11/X11Compositor.h"
+#include "platform/linux/x11/X11HotKeys.h"
+#include "platform/linux/x11/X11Pasteboard.h"
+
+#include <QApplication>
+
+namespace quillon {
+
+namespace {
+
+/// Has Qt work on the X server, where the banner and the shortcut are, even if the desktop offers
+/// Wayland as well; unless the user wants it otherwise.
+void preferX11() {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+std::unique_ptr<HotKeys> openHotKeys() {
+    if (auto hotKeys = X11HotKeys::open(nullptr)) return hotKeys;
+    return std::make_unique<NoHotKeys>();
+}
+
+} // namespace
+
+std::optional<Desktop> openDesktop(DesktopNeeds needs) {
+    Desktop desktop{.application = {},
+                    .pasteboard = std::make_unique<EmptyPasteboard>(),
+                    .hotKeys = std::make_unique<NoHotKeys>(),
+                    .compositor = {}};
+    if (needs == DesktopNeeds::nothing) {
+        desktop.application = makeApplication<QCoreApplication>();
+        return desktop;
+    }
+    // Before the application, which would end the process where no X server answers.
+    desktop.pasteboard = X11Pasteboard::open(nullptr);
+    if (!desktop.pasteboard) return std::nullopt;
+    preferX11();
+    desktop.application = makeApplication<QApplication>();
+    QApplication::setQuitOnLastWindowClosed(false);
+    desktop.compositor = std::make_unique<X11Compositor>();
+    if (needs == DesktopNeeds::everything) desktop.hotKeys = openHotKeys();
+    return desktop;
+}
+
+std::string noDesktopMessage() {
+    const auto speaker = makeApplication<QCoreApplication>();
+    return translate("App", "There is no desktop to work on: no X server answers.");
+}
+
+} // namespace quillon

@@ -1,0 +1,158 @@
+#include "send/ItemSend.h"
+
+#include "base/Text.h"
+#include "base/Translate.h"
+#include "platform/Clock.h"
+#include "platform/FileSystem.h"
+#include "platform/Platform.h"
+#include "send/Clipboard.h"
+#include "send/FileKind.h"
+#include "send/Message.h"
+
+#include <QCoroFuture>
+#include <QtConcurrentRun>
+
+#include <chrono>
+
+namespace quillon {
+
+namespace {
+
+/// The Bot API's limit for photos is 10,000,000 bytes; a picture of that size or more goes as a
+/// document.
+constexpr qint64 maximumPhotoSize = 9'999'999;
+/// The Bot API's limit for files that bots upload, in bytes.
+constexpr qint64 maximumFileSize = 50'000'000;
+
+/// A text prepared off the main thread, since the work grows with its length.
+struct PreparedText {
+    std::string title;
+    std::vector<std::string> messages;
+};
+
+PreparedText prepare(const std::string& text) {
+    return {.title = textTitle(text), .messages = textMessages(text)};
+}
+
+SentItem makeItem(const Sending& sending, TopicKind kind, std::string title, std::int64_t bytes) {
+    return {.entry = {.id = QUuid::createUuid(),
+                      .symbol = std::string{traits(kind).itemSymbol},
+                      .title = std::move(title),
+                      .topic = topicFor(sending.recipient.topics, kind).name,
+                      .date = sending.platform.clock.now(),
+                      .error = std::nullopt},
+            .info = {.kind = kind, .bytes = bytes}};
+}
+
+/// Marks the item as not sent.
+SentItem failed(SentItem item, SendFailure reason, std::string error) {
+    item.entry.error = std::move(error);
+    item.info.reason = reason;
+    return item;
+}
+
+/// The parameters that every message to the kind's topic has; thread 0 stands for the general
+/// topic.
+Json addressed(const Recipient& recipient, TopicKind kind) {
+    const Topic topic = topicFor(recipient.topics, kind);
+    return {{"chat_id", recipient.chat}, {"message_thread_id", topic.threadId.value_or(0)}};
+}
+
+/// One request for an item.
+struct Request {
+    std::string method;
+    Json params;
+    std::optional<Upload> upload{};
+};
+
+/// Makes the request, and gives the item with the failure, if any.
+QCoro::Task<SentItem> delivered(SentItem item, Request request, Sending sending) {
+    try {
+        co_await sending.recipient.client.call(std::move(request.method), std::move(request.params),
+                                               std::move(request.upload), sending.progress);
+    } catch (const TelegramError& error) {
+        const bool offline = error.cause == TelegramError::Cause::unreachable;
+        item =
+            failed(std::move(item), offline ? SendFailure::noInternet : SendFailure::telegramError,
+                   error.message);
+    }
+    co_return item;
+}
+
+std::string imageFilename(const Clock& clock) {
+    const auto now = clock.now().time_since_epoch();
+    return "clipboard-" +
+           std::to_string(std::chrono::duration_cast<std::chrono::seconds>(now).count()) + ".png";
+}
+
+/// The failed item of a file that could not be read; none when the file can be sent.
+std::optional<SentItem> unsendable(const SentItem& item, FileReading::Outcome outcome) {
+    const std::string& name = item.entry.title;
+    switch (outcome) {
+    case FileReading::Outcome::read:
+        return std::nullopt;
+    case FileReading::Outcome::directory:
+        return failed(item, SendFailure::folder,
+                      filled(translate("Send", "Folders can't be sent yet: %1"), {name}));
+    case FileReading::Outcome::tooBig:
+        return failed(
+            item, SendFailure::tooBig,
+            filled(translate("Send", "%1 is over 50 MB (Telegram's limit for bots)"), {name}));
+    case FileReading::Outcome::unreadable:
+        break;
+    }
+    return failed(item, SendFailure::unreadable,
+                  filled(translate("Send", "Couldn't read %1"), {name}));
+}
+
+} // namespace
+
+QCoro::Task<SentItem> sendText(ClipText text, Sending sending) {
+    const PreparedText prepared = co_await QtConcurrent::run(prepare, text.text);
+    SentItem item = makeItem(sending, TopicKind::notes, prepared.title,
+                             static_cast<std::int64_t>(text.text.size()));
+    for (const std::string& message : prepared.messages) {
+        Request request{.method = "sendMessage",
+                        .params = addressed(sending.recipient, TopicKind::notes)};
+        request.params["parse_mode"] = "HTML";
+        request.params["text"] = message;
+        item = co_await delivered(std::move(item), std::move(request), sending);
+        if (item.entry.error) break;
+    }
+    co_return item;
+}
+
+QCoro::Task<SentItem> sendImage(ClipImage image, Sending sending) {
+    const qint64 size = image.png.size();
+    const bool asDocument = size > maximumPhotoSize;
+    const std::string title = Clipboard::summary(ClipContent{image}).line;
+    SentItem item = makeItem(sending, TopicKind::images, title, size);
+    Request request{.method = asDocument ? "sendDocument" : "sendPhoto",
+                    .params = addressed(sending.recipient, TopicKind::images),
+                    .upload = Upload{.field = asDocument ? "document" : "photo",
+                                     .filename = imageFilename(sending.platform.clock),
+                                     .data = std::move(image.png),
+                                     .mime = "image/png"}};
+    if (auto visible = caption(image.text)) request.params["caption"] = *std::move(visible);
+    co_return co_await delivered(std::move(item), std::move(request), sending);
+}
+
+QCoro::Task<SentItem> sendFile(std::filesystem::path path, Sending sending) {
+    const TopicKind kind = fileKind(path);
+    const std::string name = lastComponent(path).native();
+    const QFuture<FileReading> pending = QtConcurrent::run(
+        [&files = sending.platform.files, path] { return files.read(path, maximumFileSize); });
+    FileReading reading = co_await pending;
+    SentItem item = makeItem(sending, kind, validUtf8(name), reading.size);
+    if (auto problem = unsendable(item, reading.outcome)) co_return *std::move(problem);
+    Request request{.method = "sendDocument",
+                    .params = addressed(sending.recipient, kind),
+                    .upload = Upload{.field = "document",
+                                     .filename = name,
+                                     .data = std::move(reading.bytes),
+                                     .mime = "application/octet-stream"}};
+    request.params["disable_content_type_detection"] = "true";
+    co_return co_await delivered(std::move(item), std::move(request), sending);
+}
+
+} // namespace quillon
