@@ -61,8 +61,7 @@ QPixmap take(const Scene& scene) {
     FakeClock clock;
     const FakeCompositor compositor{scene.blended};
     HUD hud{clock, compositor};
-    hud.show(
-        {.text = shown(scene.text).toStdString(), .symbol = scene.symbol, .ok = scene.ok});
+    hud.show({.text = shown(scene.text).toStdString(), .symbol = scene.symbol, .ok = scene.ok});
     clock.advance(200ms);
     QWidget& window = onlyWindow();
     const QPixmap banner = pictureOf(window);

@@ -2,9 +2,9 @@
 
 #include "cli/RemoteProgram.h"
 #include "core/Core.h"
-#include "support/SessionBus.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
+#include "support/SessionBus.h"
 #include "support/TestComputer.h"
 
 #include <QDBusConnection>

@@ -1,6 +1,6 @@
 #include "cli/RemoteProgram.h"
-#include "support/SessionBus.h"
 #include "support/Await.h"
+#include "support/SessionBus.h"
 
 #include <QDBusConnection>
 #include <QDBusUnixFileDescriptor>
