@@ -166,7 +166,10 @@ QPixmap take(const Scene& scene) {
     waitUntil([] { return false; }, 50ms);
     window.show(); // again, if another window of the display has taken the focus
     if (scene.act) scene.act(computer, *panel);
-    return pictureOf(window);
+    const QPixmap picture = pictureOf(window);
+    computer.clock.advance(3s); // a send that still waits comes to its end
+    until([&] { return !computer.store->busy(); });
+    return picture;
 }
 
 std::vector<Shot> shots() {

@@ -224,7 +224,11 @@ QPixmap take(const Scene& scene) {
     SettingsView& view = *stage->view;
     view.resize(SettingsView::fittingWidth(), std::max(200, view.fittingHeight()));
     QWidget* sheet = view.findChild<UninstallSheet*>();
-    return pictureOf(sheet ? *sheet : static_cast<QWidget&>(view));
+    const QPixmap picture = pictureOf(sheet ? *sheet : static_cast<QWidget&>(view));
+    // An action that still waits comes to its end, and then forgetting has its turn.
+    stage->computer.clock.advance(std::chrono::seconds{3});
+    await(stage->computer.store->forgetBot());
+    return picture;
 }
 
 std::vector<Shot> shots() {

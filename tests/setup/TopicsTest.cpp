@@ -60,7 +60,6 @@ TEST(SetupActions, WorkOneAfterTheOther) {
     EXPECT_TRUE(computer.store->tokenSaved()) << "forgotten before its turn";
     await(std::move(finding));
     await(std::move(creating));
-    EXPECT_TRUE(computer.store->isReady());
     await(std::move(again));
     EXPECT_TRUE(await(std::move(forgetting)));
     EXPECT_EQ(std::ranges::count(computer.methods(), "createForumTopic"), 4);
