@@ -1,8 +1,6 @@
 #include "artwork/Symbols.h"
-#include "artwork/Mark.h"
 
 #include <QImage>
-#include <QPainter>
 
 #include <gtest/gtest.h>
 
@@ -59,28 +57,6 @@ TEST(Symbols, TheCacheTellsSizeColourScaleAndWeightApart) {
     EXPECT_LE(draw(14, faint, 1, SymbolWeight::regular).toImage().pixelColor(7, 10).alpha(), 100);
     EXPECT_GT(coverage(draw(28, Qt::white, 1, SymbolWeight::bold).toImage(), 0xffffffff),
               coverage(draw(28, Qt::white, 1, SymbolWeight::regular).toImage(), 0xffffffff) * 1.2);
-}
-
-TEST(Mark, FillsItsFrameAndNothingElse) {
-    QImage canvas{120, 80, QImage::Format_ARGB32_Premultiplied};
-    canvas.fill(Qt::transparent);
-    QPainter painter{&canvas};
-    paintMark(painter, {20, 10, 60, 60}, Qt::white, Qt::red);
-    painter.end();
-    QRect painted;
-    bool white = false;
-    bool red = false;
-    for (int y = 0; y < canvas.height(); ++y) {
-        for (int x = 0; x < canvas.width(); ++x) {
-            const QColor pixel = canvas.pixelColor(x, y);
-            if (pixel.alpha() > 20) painted |= QRect{x, y, 1, 1};
-            white = white || pixel == QColor{Qt::white};
-            red = red || pixel == QColor{Qt::red};
-        }
-    }
-    EXPECT_TRUE(white && red);
-    EXPECT_TRUE((QRect{20, 10, 60, 60}.contains(painted))) << painted.x() << ' ' << painted.y();
-    EXPECT_GE(painted.width(), 58);
 }
 
 } // namespace

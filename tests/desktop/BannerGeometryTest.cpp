@@ -23,18 +23,6 @@ TEST(BannerFrame, IsCentredInWhatPanelsLeaveOfTheScreen) {
         EXPECT_EQ(bannerFrame(visible, c.window, c.position), c.frame) << c.frame.y();
 }
 
-TEST(BannerLayout, PutsPaddingAndMarginAroundTheRow) {
-    const BannerLayout one = layOutBanner({99.2, 16});
-    EXPECT_EQ(one.mark, (QRectF{32, 26, 22, 22}));
-    EXPECT_EQ(one.text, (QRectF{64, 29, 100, 16}));
-    EXPECT_EQ(one.symbol, (QRectF{174, 29, 16, 16}));
-    EXPECT_EQ(one.capsule, (QRectF{16, 16, 190, 42}));
-    EXPECT_EQ(one.window, (QSize{222, 74}));
-    const BannerLayout two = layOutBanner({380, 32});
-    EXPECT_EQ(two.window, (QSize{502, 84}));
-    EXPECT_EQ(two.mark.center().y(), two.capsule.center().y());
-}
-
 class BannerTextTest : public testing::Test {
 protected:
     [[nodiscard]] QStringList wrap(const QString& text) const {

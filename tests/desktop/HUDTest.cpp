@@ -52,18 +52,6 @@ TEST_F(HUDTest, FadesInStaysAsLongAsItsNewsDeservesAndFadesOut) {
     }
 }
 
-TEST_F(HUDTest, ANewBannerTakesTheTimeOfTheOldOne) {
-    bad();
-    const QWidget* const window = hud.panel();
-    clock.advance(3400ms);
-    good();
-    clock.advance(1799ms);
-    EXPECT_EQ(alpha(), 1);
-    clock.advance(1ms + 350ms);
-    EXPECT_FALSE(visible());
-    EXPECT_EQ(hud.panel(), window);
-}
-
 TEST_F(HUDTest, StaysWhileStickyUntilTheNextBannerEndsIt) {
     good();
     clock.advance(1s);
@@ -118,15 +106,6 @@ TEST_F(HUDTest, IsASolidCapsuleThatComesAndGoesAtOnceWhereNothingBlends) {
     compositor.blending = true;
     good();
     EXPECT_TRUE(hud.panel()->mask().isEmpty());
-}
-
-TEST_F(HUDTest, IsNothingToMouseAndKeyboardAndIsReadAloud) {
-    good();
-    EXPECT_EQ(hud.panel()->accessibleName().toStdString(), "Sent");
-    const Qt::WindowFlags flags = hud.panel()->windowFlags();
-    EXPECT_TRUE(flags.testFlag(Qt::WindowTransparentForInput));
-    EXPECT_TRUE(flags.testFlag(Qt::WindowDoesNotAcceptFocus));
-    EXPECT_FALSE(hud.panel()->isActiveWindow());
 }
 
 } // namespace

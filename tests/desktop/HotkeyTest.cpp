@@ -60,36 +60,4 @@ TEST(StoreShortcut, HoldsTheChosenKeyAloneAndTellsWhileItIsTaken) {
     EXPECT_EQ(computer.hotKeys.handlersInstalled, 1);
 }
 
-TEST(LaunchAtLogin, IsWhatTheDesktopMakesOfIt) {
-    using enum LoginItem::Status;
-    struct Case {
-        LoginItem::Status before;
-        LoginItem::Status afterRegistering;
-        bool refuses;
-        bool set;
-        bool launches;
-    };
-    constexpr Case cases[]{
-        {notRegistered, enabled, false, true, true},
-        {notRegistered, requiresApproval, false, true, false},
-        {notFound, enabled, true, true, false},
-        {enabled, enabled, false, false, false},
-        {enabled, enabled, true, false, true},
-    };
-    for (const Case& each : cases) {
-        TestComputer computer;
-        computer.loginItem.current = each.before;
-        computer.loginItem.afterRegistering = each.afterRegistering;
-        computer.loginItem.refuses = each.refuses;
-        std::optional<bool> shown;
-        QObject::connect(computer.store.get(), &Store::objectWillChange, computer.store.get(),
-                         [&] { shown = computer.store->launchAtLogin(); });
-        computer.store->setLaunchAtLogin(each.set);
-        EXPECT_EQ(shown, each.launches) << "what a switch shows then";
-        EXPECT_THAT(computer.events(),
-                    ElementsAre(std::string{"settings_changed {\"setting\":\"launch_at_login\","} +
-                                "\"value\":" + (each.set ? "true}" : "false}")));
-    }
-}
-
 } // namespace quillon::test

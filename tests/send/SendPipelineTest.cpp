@@ -219,33 +219,6 @@ TEST_F(SendPipeline, IgnoresATriggerWhileASendRuns) {
     EXPECT_THAT(computer.store->history(), SizeIs(1));
 }
 
-TEST_F(SendPipeline, NeedsASetupAndSomethingToSend) {
-    computer.send({});
-    EXPECT_THAT(computer.banner.shown,
-                ElementsAre(BannerMessage{"The clipboard is empty", "clipboard", false, false}));
-    EXPECT_THAT(computer.newEvents(), IsEmpty());
-
-    const std::function<void()> breakages[] = {
-        [&] {
-            computer.secrets.values.clear();
-            computer.restart();
-        },
-        [&] { computer.store->changeConfig([](Config& config) { config.chatId.reset(); }); },
-    };
-    for (const auto& breakIt : breakages) {
-        computer.clear();
-        breakIt();
-        computer.send(text("a"));
-        EXPECT_THAT(computer.banner.shown,
-                    ElementsAre(BannerMessage{"Finish setting up Quillon first",
-                                              "exclamationmark.circle", false, false}));
-        EXPECT_THAT(computer.newEvents(), ElementsAre(R"(send_failed {"reason":"not_set_up"})"));
-    }
-    EXPECT_THAT(computer.sandbox.requests(), IsEmpty());
-    EXPECT_THAT(computer.sounds.played, IsEmpty());
-    EXPECT_THAT(computer.store->history(), IsEmpty());
-}
-
 TEST_F(SendPipeline, TellsApartWhatWentWrong) {
     struct Case {
         Fault fault;

@@ -66,16 +66,6 @@ TEST(Config, FailsAsAWholeWhereItMust) {
     }
 }
 
-TEST(Topic, HasASymbolByItsKey) {
-    EXPECT_EQ(Topic::defaults().at(3).symbol(), "film.fill");
-    const Topic without{.key = "other", .name = "n", .color = 0, .threadId = std::nullopt};
-    EXPECT_EQ(without.symbol(), "number");
-    Topic with = without;
-    with.threadId = 0;
-    EXPECT_NE(with, without);
-    EXPECT_NE(std::hash<Topic>{}(with), std::hash<Topic>{}(without));
-}
-
 TEST(Sent, KeepsItsMomentAndItsError) {
     const QUuid id = QUuid::fromString(QStringLiteral("{a1b2c3d4-0000-4000-8000-00000000000f}"));
     const Date date{std::chrono::duration<double>{978'307'200.0 + 700'000'000.25}};

@@ -56,29 +56,18 @@ TEST(AlertWindowsTest, ShowsItsTextAsItIsToEverybody) {
     await(answer);
 }
 
-TEST(AlertWindowsTest, StaysASmallWindowThatFollowsTheSizeOfTheDesktopsTexts) {
-    const QFont usual = QApplication::font();
-    QFont larger = usual;
-    larger.setPointSizeF(usual.pointSizeF() * 1.5);
+TEST(AlertWindowsTest, StaysASmallWindowHoweverLongItsText) {
     std::string sentences;
     while (sentences.size() < 2'000)
         sentences += "The folder could not be written. ";
-    for (const std::string& text :
-         {std::string{"It needs to."}, sentences, std::string(400, 'x')}) {
+    for (const std::string& text : {sentences, std::string(400, 'x')}) {
         Alert alert = question;
         alert.informativeText = text;
         auto answer = AlertWindows{workspace}.show(alert);
         QWidget& window = *shownWindow();
-        const QSize before = window.size();
         EXPECT_LE(window.width(), 700);
         EXPECT_LE(window.height(), 500);
         EXPECT_TRUE(Controls{window}.shows(text));
-        QApplication::setFont(larger);
-        EXPECT_TRUE(waitUntil([&] {
-            return window.width() > before.width() * 1.25 && window.height() > before.height();
-        }));
-        QApplication::setFont(usual);
-        EXPECT_TRUE(waitUntil([&] { return window.size() == before; }));
         window.close();
         await(answer);
     }

@@ -1,10 +1,7 @@
 #include "Accessible.h"
 
 #include "artwork/Colors.h"
-#include "ui/controls/Card.h"
 #include "ui/text/IconLabel.h"
-#include "ui/text/Keycap.h"
-#include "ui/text/SymbolView.h"
 
 #include <gmock/gmock.h>
 
@@ -15,26 +12,6 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-TEST(IconLabel, SaysItsTextWithoutTheStarsOfBoldParts) {
-    struct {
-        const char* text;
-        const char* plain;
-    } const cases[] = {
-        {"Tap **Save** twice", "Tap Save twice"},
-        {"**New Group** → **Promote**", "New Group → Promote"},
-        {"send **/newbot** and", "send /newbot and"},
-        {"2 ** 3", "2 ** 3"},
-        {"**a** ** b", "a ** b"},
-        {"*.png", "*.png"},
-    };
-    for (const auto& each : cases) {
-        IconLabel label{markedUp(QString::fromUtf8(each.text))};
-        EXPECT_EQ(accessibleName(label), each.plain);
-        EXPECT_EQ(label.shownText().toStdString(), each.plain);
-        EXPECT_EQ(accessible(label).role(), QAccessible::StaticText);
-    }
-}
-
 TEST(IconLabel, ShowsAPlainTextAsItIs) {
     for (const char* const text : {"**", "a **b** c", "*****", "no stars"}) {
         IconLabel label{QString::fromUtf8(text)};
@@ -42,13 +19,6 @@ TEST(IconLabel, ShowsAPlainTextAsItIs) {
         EXPECT_EQ(label.shownText().toStdString(), text);
         EXPECT_EQ(label.text().runs(), (std::vector{StyledText::Run{QString::fromUtf8(text)}}));
     }
-}
-
-TEST(IconLabel, GivesBoldPartsTheirRoom) {
-    const QString word = QStringLiteral("wwwwww");
-    const QString stars = QStringLiteral("**");
-    EXPECT_GT(IconLabel{markedUp(stars + word + stars)}.sizeHint().width(),
-              IconLabel{word}.sizeHint().width());
 }
 
 TEST(IconLabel, ALongNameLosesItsMiddleOnTheScreenButIsReadWhole) {
@@ -74,24 +44,6 @@ TEST(IconLabel, GrowsDownwardsAsItBecomesNarrower) {
     EXPECT_EQ(label.heightForWidth(10'000), line);
     EXPECT_GE(label.heightForWidth(200), 3 * line);
     EXPECT_GT(label.heightForWidth(100), label.heightForWidth(200));
-}
-
-TEST(Views, TellAssistiveTechnologyWhatTheyShow) {
-    Card card{QStringLiteral("Shortcut"), "command"};
-    EXPECT_EQ(accessible(card).role(), QAccessible::Grouping);
-    EXPECT_EQ(accessibleName(card), "Shortcut");
-    SymbolView decoration{"power"};
-    EXPECT_TRUE(accessible(decoration).state().invisible);
-    decoration.setAccessibleName(QStringLiteral("Sent"));
-    decoration.show();
-    EXPECT_FALSE(accessible(decoration).state().invisible);
-    Keycap cap{QStringLiteral("⌃")};
-    EXPECT_EQ(accessibleName(cap), "Control");
-    EXPECT_EQ(spokenKeys({QStringLiteral("⌃"), QStringLiteral("⌥"), QStringLiteral("V")}),
-              QStringLiteral("Control Alt V"));
-    IconLabel label{QStringLiteral("one")};
-    label.setText(markedUp(QStringLiteral("Press **⌃⌥V**.")));
-    EXPECT_EQ(accessibleName(label), "Press Control Alt V.");
 }
 
 TEST(Theme, TextKeepsItsContrastOnEveryGround) {

@@ -1,5 +1,4 @@
 #include "shots/LayoutCheck.h"
-#include "shots/Pseudo.h"
 #include "ui/controls/Buttons.h"
 #include "ui/text/IconLabel.h"
 
@@ -8,25 +7,6 @@
 namespace quillon::test {
 
 namespace {
-
-TEST(Pseudo, KeepsWhatACatalogueHasToKeep) {
-    struct Case {
-        const char* text;
-        const char* result;
-    };
-    const Case cases[]{
-        {"%1 of %n", "%1 óóƒ %n"},
-        {"&Play", "&Þļááýý"},
-        {"open **@Bot**", "óóþééñ **@Ɓóóţ**"},
-        {"<a href=\"x\">list</a> ⌃⌥", "<a href=\"x\">ļííšţé</a> ⌃⌥"},
-        {"…", "…"},
-    };
-    for (const Case& each : cases) {
-        const QString made = pseudo(QString::fromUtf8(each.text));
-        EXPECT_EQ(made.toStdString(), QString::fromUtf8(each.result).toStdString());
-        EXPECT_FALSE(isUntranslated(made)) << each.text;
-    }
-}
 
 /// What is found in a window with a label and a button, `width` pixels each, the button `apart`
 /// pixels further down.

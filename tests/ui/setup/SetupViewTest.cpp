@@ -6,10 +6,8 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Spinner.h"
 #include "ui/text/IconLabel.h"
-#include "ui/text/Keycap.h"
 #include "ui/theme/Motion.h"
 
-#include <QDesktopServices>
 #include <QLineEdit>
 
 #include <gmock/gmock.h>
@@ -51,15 +49,6 @@ struct Guide : testing::Test {
     Computer computer;
     SetupView view{*computer.store};
     Controls controls{view};
-};
-
-/// What links open in.
-class Browser : public QObject {
-    Q_OBJECT
-
-public:
-    std::vector<QUrl> opened;
-    Q_INVOKABLE void open(const QUrl& url) { opened.push_back(url); }
 };
 
 using NewUser = Guide<BotComputer>;
@@ -154,31 +143,6 @@ TEST_F(NewUser, ReadsInBoldWhatToLookFor) {
                                      "Topics", "hold", "Promote to admin", "Manage Topics"));
 }
 
-TEST_F(NewUser, OpensTheChatWithBotFather) {
-    Browser browser;
-    QDesktopServices::setUrlHandler(QStringLiteral("https"), &browser, "open");
-    controls.click("Open BotFather");
-    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
-    EXPECT_THAT(browser.opened, ElementsAre(QUrl{QStringLiteral("https://t.me/BotFather")}));
-}
-
-TEST_F(KnownUser, SeesEachStepsResultAndCanOpenItAgain) {
-    EXPECT_TRUE(shows("Made with @BotFather"));
-    EXPECT_TRUE(shows("4 topics ready"));
-    EXPECT_TRUE(shows("You're all set."));
-    EXPECT_FALSE(shows("Topics ready"));
-    controls.click<ContentButton>("Step 4: Create the topics");
-    EXPECT_FALSE(shows("4 topics ready"));
-    EXPECT_FALSE(controls.enabled("Topics ready"));
-    for (const Topic& topic : computer.store->config().topics)
-        EXPECT_TRUE(shows(topic.name.c_str())) << topic.name;
-    controls.click<ContentButton>("Step 4: Create the topics");
-    EXPECT_TRUE(shows("4 topics ready"));
-
-    change([](Config& config) { config.shortcut = ShortcutChoice::ctrlOptP; });
-    EXPECT_EQ(view.findChildren<KeyLabel*>().last()->label(), QStringLiteral("P"));
-}
-
 TEST_F(KnownUser, IsAskedForTheTopicThatIsMissing) {
     change([](Config& config) {
         config.topics[2].threadId.reset();
@@ -236,5 +200,3 @@ TEST_F(KnownUser, ComesToTheSameAnimated) {
 }
 
 } // namespace quillon::test
-
-#include "SetupViewTest.moc"
