@@ -45,8 +45,9 @@ QCoro::Task<int> carryOut(Invocation invocation, Platform& platform, const Compo
     lock.reset();
     if (detach == nullptr) co_return code;
     if (showsBanner(core) || core.store.config().playSound) detach->release(code);
-    while (showsBanner(core))
+    while (showsBanner(core)) {
         co_await sleep(platform.clock, 50ms);
+    }
     co_return code;
 }
 
