@@ -41,16 +41,6 @@ TEST(Analytics, StartsEmptyFromAnUnusableFile) {
     }
 }
 
-TEST(Analytics, SortsSizesIntoBuckets) {
-    const std::pair<std::int64_t, std::optional<std::string_view>> cases[] = {
-        {-1, "lt100k"},        {99'999, "lt100k"},    {100'000, "lt1m"},
-        {999'999, "lt1m"},     {1'000'000, "lt10m"},  {9'999'999, "lt10m"},
-        {10'000'000, "lt50m"}, {49'999'999, "lt50m"}, {50'000'000, std::nullopt}};
-    for (const auto& [bytes, bucket] : cases) {
-        EXPECT_EQ(Analytics::sizeBucket(bytes), bucket) << bytes;
-    }
-}
-
 TEST(Analytics, ReportsChangedSettingsInTheirOrder) {
     TestComputer computer;
     computer.store->changeConfig([](Config& config) {

@@ -7,8 +7,6 @@ namespace quillon::test {
 /// An update framework that the test plays, and that remembers what it was told.
 class FakeFramework : public UpdateFramework {
 public:
-    /// What it fails with when it is started.
-    std::optional<UpdateError> failure;
     UpdaterDelegate* delegate = nullptr;
     bool automatic = true;
     int checks = 0;
@@ -16,7 +14,7 @@ public:
 
     [[nodiscard]] std::optional<UpdateError> start(UpdaterDelegate& told) override {
         delegate = &told;
-        return failure;
+        return std::nullopt;
     }
     void observeCanCheck(std::function<void(bool)> observer) override {
         canCheck = std::move(observer);

@@ -32,16 +32,19 @@ public:
         std::vector<std::string> names;
         for (const auto& [name, bytes] : content_)
             names.push_back(name);
-        return finished(std::move(names));
+        return QtFuture::makeReadyFuture(std::move(names));
     }
 
     [[nodiscard]] QFuture<std::optional<QByteArray>> data(std::string format) override {
         ++reads[format];
         if (beforeData) beforeData(format);
-        if (hesitates) return held_.emplace_back(started<std::optional<QByteArray>>()).future();
+        if (hesitates) {
+            held_.emplace_back().start();
+            return held_.back().future();
+        }
         const auto found = std::find_if(content_.begin(), content_.end(),
                                         [&](const auto& entry) { return entry.first == format; });
-        return finished(found == content_.end() ? std::optional<QByteArray>{} : found->second);
+        return QtFuture::makeReadyFuture(found == content_.end() ? std::nullopt : found->second);
     }
 
     /// Answers the reads that were left open, as an owner does that gave up: with nothing.
@@ -59,21 +62,6 @@ public:
     std::function<void(const std::string&)> beforeData;
 
 private:
-    template <typename T>
-    static QPromise<T> started() {
-        QPromise<T> promise;
-        promise.start();
-        return promise;
-    }
-
-    template <typename T>
-    static QFuture<T> finished(T value) {
-        QPromise<T> promise = started<T>();
-        promise.addResult(std::move(value));
-        promise.finish();
-        return promise.future();
-    }
-
     Content content_;
     std::vector<QPromise<std::optional<QByteArray>>> held_;
     std::uint64_t changes_ = 0;

@@ -11,7 +11,6 @@ namespace quillon::test {
 class FakeSecrets : public SecretStore {
 public:
     bool available = true;
-    int reads = 0;
     std::map<std::pair<std::string, std::string>, std::string> values;
 
     [[nodiscard]] QFuture<bool> save(KeychainItem item, std::string value) override {
@@ -19,7 +18,6 @@ public:
         return QtFuture::makeReadyFuture(available);
     }
     [[nodiscard]] QFuture<std::optional<std::string>> read(KeychainItem item) override {
-        ++reads;
         const auto found = values.find({item.service, item.account});
         const bool readable = available && found != values.end();
         return QtFuture::makeReadyFuture(readable ? std::optional{found->second} : std::nullopt);

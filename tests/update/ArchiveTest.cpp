@@ -1,6 +1,6 @@
 #include "update/Archive.h"
 #include "platform/linux/files/TreeCopy.h"
-#include "support/Unprivileged.h"
+#include "support/Files.h"
 #include "update/Errors.h"
 #include "update/Makers.h"
 #include "update/PrivateFolder.h"
@@ -20,7 +20,7 @@ class ArchiveTest : public testing::Test {
 protected:
     ArchiveTest() {
         fs::create_directories(folder);
-        writeFile(root / "victim", "untouched");
+        write(root / "victim", "untouched");
     }
 
     std::optional<UpdateError> unpacked(const std::string& bytes, UnpackLimits limits = {}) {
@@ -43,6 +43,7 @@ protected:
 
 TEST_F(ArchiveTest, KeepsModesTimesAndLinks) {
     ::umask(077);
+    empty();
     const std::vector<Entry> entries{
         {.path = "./", .mode = 0777, .type = AE_IFDIR},
         {.path = "./a.app/", .mode = 0555, .type = AE_IFDIR},
@@ -52,23 +53,19 @@ TEST_F(ArchiveTest, KeepsModesTimesAndLinks) {
         link("a.app/chain", "über/up"),
         hardLink("a.app/second", "./a.app/über/program"),
     };
-    for (const char* filter : {static_cast<const char*>(nullptr), "gzip", "xz", "zstd"}) {
-        SCOPED_TRACE(filter ? filter : "none");
-        empty();
-        ASSERT_EQ(unpacked(archiveOf(entries, filter)), std::nullopt);
-        const fs::path app = folder / "a.app";
-        EXPECT_EQ(mode(folder), 0700U);
-        EXPECT_EQ(mode(app), 0555U);
-        EXPECT_EQ(mode(app / "über/program"), 0755U);
-        EXPECT_EQ(mode(app / "empty"), 0604U);
-        EXPECT_EQ(fs::read_symlink(app / "chain"), "über/up");
-        EXPECT_TRUE(fs::equivalent(app / "second", app / "über/program"));
-        EXPECT_EQ(fs::file_size(app / "second"), 7U);
-        struct stat status {};
-        ::stat(app.c_str(), &status);
-        EXPECT_EQ(status.st_mtime, 1'600'000'000);
-        EXPECT_EQ(status.st_uid, ::geteuid());
-    }
+    ASSERT_EQ(unpacked(archiveOf(entries)), std::nullopt);
+    const fs::path app = folder / "a.app";
+    EXPECT_EQ(mode(folder), 0700U);
+    EXPECT_EQ(mode(app), 0555U);
+    EXPECT_EQ(mode(app / "über/program"), 0755U);
+    EXPECT_EQ(mode(app / "empty"), 0604U);
+    EXPECT_EQ(fs::read_symlink(app / "chain"), "über/up");
+    EXPECT_TRUE(fs::equivalent(app / "second", app / "über/program"));
+    EXPECT_EQ(fs::file_size(app / "second"), 7U);
+    struct stat status {};
+    ::stat(app.c_str(), &status);
+    EXPECT_EQ(status.st_mtime, 1'600'000'000);
+    EXPECT_EQ(status.st_uid, ::geteuid());
     ::umask(022);
 }
 
@@ -101,14 +98,12 @@ TEST_F(ArchiveTest, RefusesWhatDoesNotBelong) {
         {"hard link to a link", {link("a", "."), hardLink("b", "a")}, updateArchiveLink},
         {"pipe", {file("a", 0644, AE_IFIFO)}, updateArchiveSpecialFile},
         {"device", {file("a", 0644, AE_IFCHR)}, updateArchiveSpecialFile},
-        {"disk", {file("a", 0644, AE_IFBLK)}, updateArchiveSpecialFile},
         {"set-uid", {file("a", 04755)}, updateArchivePrivileges},
         {"set-gid folder", {file("a", 02755, AE_IFDIR)}, updateArchivePrivileges},
         {"set-uid through a hard link",
          {file("b"), {.path = "a", .mode = 04755, .type = 0, .link = "b"}},
          updateArchivePrivileges},
         {"the same file twice", {file("a"), file("./a")}, updateArchiveDamaged},
-        {"hard link to nothing", {hardLink("a", "b")}, updateCopyFailed},
     };
     for (const Case& each : cases) {
         SCOPED_TRACE(each.what);
@@ -141,33 +136,6 @@ TEST_F(ArchiveTest, StopsAtItsLimits) {
     EXPECT_EQ(unpacked(archiveOf(three), {.entries = 2}), updateError(updateArchiveTooLarge));
     empty();
     EXPECT_EQ(unpacked(archiveOf(three), {.entries = 3}), std::nullopt);
-}
-
-TEST_F(ArchiveTest, RefusesDamage) {
-    const std::string whole =
-        archiveOf({{.path = "a", .content = std::string(100'000, 'x')}}, "xz");
-    std::string flipped = whole;
-    flipped[whole.size() / 2] = static_cast<char>(~flipped[whole.size() / 2]);
-    for (const std::string& bytes :
-         {std::string{"no archive"}, flipped, whole.substr(0, whole.size() / 2)}) {
-        empty();
-        EXPECT_EQ(unpacked(bytes), updateError(updateArchiveDamaged)) << bytes.size();
-    }
-}
-
-TEST_F(ArchiveTest, TellsThatTheDiskIsFull) {
-    const Mount disk = Mount::memory(folder, "size=1m");
-    if (!disk) GTEST_SKIP() << "only root mounts";
-    const std::vector<Entry> halves{{.path = "a", .size = 600'000}, {.path = "b", .size = 600'000}};
-    EXPECT_EQ(unpacked(archiveOf(halves)), fileError(ENOSPC));
-}
-
-TEST_F(ArchiveTest, StopsWhenAskedTo) {
-    std::stop_source source;
-    source.request_stop();
-    EXPECT_EQ(unpack(archiveOf({{.path = "a"}}), folder, {}, source.get_token()),
-              updateError(updateCancelled));
-    EXPECT_TRUE(fs::is_empty(folder));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "update/Makers.h"
 
+#include "support/Files.h"
 #include "update/Archive.h"
 #include "update/ProgramOutput.h"
 #include "update/Utf8Locale.h"
@@ -10,7 +11,6 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <fstream>
 
 namespace quillon::test {
 
@@ -44,12 +44,12 @@ void writeHeader(archive* writer, const Entry& each) {
 
 } // namespace
 
-std::string archiveOf(const std::vector<Entry>& entries, const char* filter) {
+std::string archiveOf(const std::vector<Entry>& entries) {
     std::string bytes;
     archive* writer = archive_write_new();
     const Utf8Locale names;
     archive_write_set_format_pax_restricted(writer);
-    if (filter) archive_write_add_filter_by_name(writer, filter);
+    archive_write_add_filter_zstd(writer);
     archive_write_set_bytes_per_block(writer, 0); // compressed archives are not filled up
     EXPECT_EQ(archive_write_open(writer, &bytes, nullptr, append, nullptr), ARCHIVE_OK);
     for (const Entry& each : entries) {
@@ -60,13 +60,11 @@ std::string archiveOf(const std::vector<Entry>& entries, const char* filter) {
     return bytes;
 }
 
-std::vector<Entry> application(const std::string& version, const std::string& identifier,
-                               const std::string& publicKey) {
+std::vector<Entry> application(const std::string& version, const std::string& identifier) {
     const std::pair<const char*, std::string> values[] = {
         {"CFBundleIdentifier", identifier},
         {"CFBundleVersion", version},
         {"CFBundleShortVersionString", version},
-        {"SUPublicEDKey", publicKey},
     };
     std::string list = "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>";
     for (const auto& [key, value] : values)
@@ -115,10 +113,6 @@ Signature Maker::sign(const std::string& bytes) const {
     return signature;
 }
 
-void writeFile(const fs::path& file, const std::string& content) {
-    std::ofstream{file, std::ios::binary} << content;
-}
-
 void place(const std::vector<Entry>& entries, const fs::path& folder) {
     fs::create_directories(folder);
     EXPECT_EQ(unpack(archiveOf(entries), folder), std::nullopt);
@@ -132,9 +126,7 @@ std::map<std::string, std::string> snapshot(const fs::path& folder) {
         std::string& entry = found[each.path().lexically_relative(folder)];
         entry = std::to_string(status.st_mode) + ' ' + std::to_string(status.st_mtime) + ' ';
         if (each.is_symlink()) entry += fs::read_symlink(each.path());
-        if (!each.is_regular_file() || each.is_symlink()) continue;
-        std::ifstream file{each.path(), std::ios::binary};
-        entry.append(std::istreambuf_iterator<char>{file}, {});
+        if (each.is_regular_file() && !each.is_symlink()) entry += content(each.path());
     }
     return found;
 }

@@ -41,13 +41,12 @@ inline Entry hardLink(const std::string& path, const std::string& target) {
     return {.path = path, .type = 0, .link = target};
 }
 
-/// A tar archive with the filter's compression ("gzip", "xz" or "zstd"), or none.
-std::string archiveOf(const std::vector<Entry>& entries, const char* filter = "zstd");
+/// A compressed tar archive.
+std::string archiveOf(const std::vector<Entry>& entries);
 
 /// An application folder whose program tells its version.
 std::vector<Entry> application(const std::string& version,
-                               const std::string& identifier = "dev.vostrel.quillon",
-                               const std::string& publicKey = {});
+                               const std::string& identifier = "dev.vostrel.quillon");
 
 /// A feed of these items, and one of them.
 std::string feedXml(const std::string& items);
@@ -67,8 +66,6 @@ private:
     PublicKey public_{};
     std::array<unsigned char, 64> secret_{};
 };
-
-void writeFile(const std::filesystem::path& file, const std::string& content);
 
 /// Writes the entries as they are below `folder`.
 void place(const std::vector<Entry>& entries, const std::filesystem::path& folder);

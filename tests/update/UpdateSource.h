@@ -19,9 +19,9 @@ public:
     static void give(RawServer::Connection& connection, const std::string& body) {
         connection.reply(200, body);
     }
-    static Answer reply(int status, const std::string& body = {}) {
+    static Answer reply(int status) {
         return [=](RawServer::Connection& connection, const std::string&) {
-            connection.reply(status, body);
+            connection.reply(status, {});
         };
     }
     /// Comes to a halt after the first byte.

@@ -1,5 +1,6 @@
 #include "platform/linux/desktop/LinuxBundle.h"
 #include "support/Await.h"
+#include "support/Files.h"
 #include "support/TestComputer.h"
 #include "support/Unprivileged.h"
 #include "update/Archive.h"
@@ -34,19 +35,15 @@ protected:
     UpdateTest() {
         placeOld();
         computer.platform.bundle = bundleAt(bundle);
+        computer.platform.bundle.info["SUPublicEDKey"] = source.maker.publicKey();
     }
 
-    void placeOld() const {
-        place(application("1.0", "dev.vostrel.quillon", source.maker.publicKey()), applications);
-    }
+    void placeOld() const { place(application("1.0"), applications); }
     void offer(const std::string& bytes) {
         source.publish("1.1", bytes);
         item = source.item();
     }
-    Prepared prepare(const std::function<void(UpdateProgress)>& progress = {},
-                     const std::stop_token& stop = {}) {
-        return await(prepareUpdate(computer.platform, item, progress, stop));
-    }
+    Prepared prepare() { return await(prepareUpdate(computer.platform, item, {}, {})); }
     UpdateError refusal() {
         const auto prepared = prepare();
         const auto* error = std::get_if<UpdateError>(&prepared);
@@ -71,15 +68,11 @@ protected:
 
 TEST_F(UpdateTest, PutsTheNewVersionInThePlaceOfTheOld) {
     offer(archiveOf(application("1.1")));
-    std::vector<UpdateProgress> told;
     const auto before = snapshot(bundle);
-    auto prepared = prepare([&](UpdateProgress progress) { told.push_back(progress); });
+    auto prepared = prepare();
     ASSERT_TRUE(std::holds_alternative<PreparedUpdate>(prepared))
         << std::get<UpdateError>(prepared).description;
     EXPECT_EQ(snapshot(bundle), before);
-    ASSERT_THAT(told, Not(IsEmpty()));
-    const qint64 length = item.length;
-    EXPECT_EQ(told.back(), (UpdateProgress{UpdateProgress::Stage::unpacking, length, length}));
 
     // A folder that another process still has its hands on is not for this one to remove.
     tidy();
@@ -101,14 +94,10 @@ TEST_F(UpdateTest, RefusesEveryAttackAndChangesNothing) {
         entries.push_back(more);
         return archiveOf(entries);
     };
-    const auto program = [](const std::string& script, mode_t mode = 0755) {
+    const auto program = [](const std::string& script) {
         auto entries = application("1.1");
         entries[programEntry].content = script;
-        entries[programEntry].mode = mode;
         return archiveOf(entries);
-    };
-    const auto cut = [](RawServer::Connection& connection, const std::string& body) {
-        connection.send("HTTP/1.1 200 OK\r\n\r\n" + body.substr(0, body.size() - 1));
     };
     struct Case {
         const char* what;
@@ -122,8 +111,6 @@ TEST_F(UpdateTest, RefusesEveryAttackAndChangesNothing) {
         {"one byte more, and a length to match", good + '\0', updateSignatureWrong,
          [&] { item.signature = source.maker.sign(good); }},
         {"longer than announced", good, updateLengthWrong, [&] { --item.length; }},
-        {"cut, by a server that told no length", good, updateLengthWrong,
-         [&] { source.answerArchives(cut); }},
         {"an error page", good, updateDownloadFailed,
          [&] { source.answerArchives(UpdateSource::reply(404)); }},
         {"plain http from elsewhere", good, updateNotAllowed,
@@ -141,21 +128,15 @@ TEST_F(UpdateTest, RefusesEveryAttackAndChangesNothing) {
          updateDoesNotRun},
         {"a program that fails", program("#!/bin/sh\necho quillon 1.1; exit 1\n"),
          updateDoesNotRun},
-        {"a program that may not run", program("#!/bin/sh\necho quillon 1.1\n", 0644),
-         updateDoesNotRun},
         {"a path with ..", with({.path = "Quillon.app/../../x"}), updateArchiveParentPath},
     };
     const auto before = snapshot(bundle);
-    std::map<std::string, int> sentences;
     for (const Case& each : cases) {
         SCOPED_TRACE(each.what);
         source.answerArchives(UpdateSource::give);
         offer(each.archive);
         each.change();
-        const UpdateError error = refusal();
-        EXPECT_EQ(error, updateError(each.code));
-        EXPECT_FALSE(error.description.empty());
-        EXPECT_EQ(sentences.try_emplace(error.description, error.code).first->second, error.code);
+        EXPECT_EQ(refusal(), updateError(each.code));
         EXPECT_TRUE(snapshot(bundle) == before);
         EXPECT_THAT(leftovers(), IsEmpty());
     }
@@ -164,43 +145,14 @@ TEST_F(UpdateTest, RefusesEveryAttackAndChangesNothing) {
     EXPECT_EQ(refusal(), updateError(updateKeyMissing));
 }
 
-TEST_F(UpdateTest, StopsInTheMiddleOfADownload) {
-    offer(std::string(3'000'000, 'x'));
-    source.answerArchives(UpdateSource::stall);
-    std::stop_source stop;
-    const auto prepared = prepare([&](UpdateProgress) { stop.request_stop(); }, stop.get_token());
-    EXPECT_EQ(std::get<UpdateError>(prepared), updateError(updateCancelled));
-    EXPECT_THAT(leftovers(), IsEmpty());
-}
-
-TEST_F(UpdateTest, FetchesFeeds) {
-    const auto fetched = [&](const std::string& url) {
-        const auto result = await(fetchFeed(computer.platform, url));
-        const auto* error = std::get_if<UpdateError>(&result);
-        return error ? error->code : 0;
-    };
-    source.answerFeeds(UpdateSource::reply(200, "<rss/>"));
-    EXPECT_EQ(fetched(source.feedUrl()), 0);
-    source.answerFeeds(UpdateSource::reply(200, "<rss>"));
-    EXPECT_EQ(fetched(source.feedUrl()), updateFeedBroken);
-    source.answerFeeds(UpdateSource::reply(500, "<rss/>"));
-    EXPECT_EQ(fetched(source.feedUrl()), updateFeedUnreachable);
-    EXPECT_EQ(fetched("http://192.0.2.1/"), updateFeedNotAllowed);
-}
-
 TEST_F(UpdateTest, ObjectsToThePlace) {
     EXPECT_EQ(objectionToUpdating(bundle), std::nullopt);
     EXPECT_EQ(objectionToUpdating("/private/AppTranslocation/X/d/Quillon.app").value().code, 1005);
-    EXPECT_EQ(objectionToUpdating("/proc/sys/Quillon.app").has_value(), true);
     ::chmod(computer.home().c_str(), 0755);
     ::chmod(applications.c_str(), 0555);
     EXPECT_TRUE(asNobody([this] { return makeStaging(bundle).error.value().code == 4012; }))
         << "a folder of others";
     ::chmod(applications.c_str(), 0755);
-    const Mount disk = Mount::readOnly(applications);
-    if (!disk) GTEST_SKIP() << "only root mounts";
-    offer(archiveOf(application("1.1")));
-    EXPECT_EQ(refusal().code, 1003);
 }
 
 TEST_F(UpdateTest, SurvivesAFullDisk) {
@@ -209,7 +161,7 @@ TEST_F(UpdateTest, SurvivesAFullDisk) {
     const Mount disk = Mount::memory(applications, "size=1m");
     if (!disk) GTEST_SKIP() << "only root mounts";
     placeOld();
-    writeFile(applications / "filling", std::string(size - 110'000, 'x'));
+    write(applications / "filling", std::string(size - 110'000, 'x'));
     const auto before = snapshot(bundle);
     EXPECT_EQ(refusal(), fileError(ENOSPC));
     EXPECT_EQ(snapshot(bundle), before);
@@ -218,7 +170,7 @@ TEST_F(UpdateTest, SurvivesAFullDisk) {
     fs::remove(applications / "filling");
     const fs::path cache = computer.home() / "cache";
     const Mount small = Mount::memory(cache, "size=1m");
-    writeFile(cache / "filling", std::string(size, 'x'));
+    write(cache / "filling", std::string(size, 'x'));
     EXPECT_EQ(refusal(), fileError(ENOSPC));
     EXPECT_THAT(leftovers(), IsEmpty());
 }
@@ -251,13 +203,13 @@ TEST_F(UpdateTest, DoesNotWaitForAProgramThatHangs) {
 
 TEST_F(UpdateTest, RemovesNothingButItsOwnLeftovers) {
     const fs::path outside = computer.home() / "outside";
-    writeFile(outside, "outside");
+    write(outside, "outside");
     const fs::path left = applications / ".Quillon-update-abcdef";
     place({{.path = "deep/closed/", .mode = 0, .type = AE_IFDIR}, {.path = "deep/x"}}, left);
     fs::create_symlink(outside, left / "out");
     fs::create_directory_symlink(computer.home(), applications / ".Quillon-update-link00");
     fs::create_directory(applications / ".Quillon-update-longer00");
-    writeFile(applications / ".Quillon-update-afile0", "a file");
+    write(applications / ".Quillon-update-afile0", "a file");
     fs::create_directories(computer.home() / "cache/dev.vostrel.quillon/update-123456/x");
     tidy();
     EXPECT_THAT(leftovers(),

@@ -43,10 +43,8 @@ TEST(UpdateWindows, GivesTheAnswerOfEachWayOutOfAWindow) {
     UpdateWindows windows;
     const std::pair<Way, UpdateChoice> offers[] = {
         {[] { press("Install"); }, UpdateChoice::install},
-        {pressReturn, UpdateChoice::install},
         {[] { press("Later"); }, UpdateChoice::later},
         {pressEscape, UpdateChoice::later},
-        {closeWindow, UpdateChoice::later},
         {[&] { windows.dismiss(); }, UpdateChoice::later},
         {[] { press("Skip this version"); }, UpdateChoice::skip},
     };
@@ -67,8 +65,7 @@ TEST(UpdateWindows, GivesTheAnswerOfEachWayOutOfAWindow) {
         leave();
         EXPECT_EQ(await(answer), time);
     }
-    const std::pair<Way, bool> permissions[] = {
-        {pressReturn, true}, {[] { press("Don't Check"); }, false}, {closeWindow, false}};
+    const std::pair<Way, bool> permissions[] = {{pressReturn, true}, {closeWindow, false}};
     for (const auto& [leave, granted] : permissions) {
         const auto answer = windows.askPermission();
         leave();
