@@ -110,12 +110,16 @@ TEST(CommandService, AnswersWhoOnlyReadsWhileAnotherCommandIsAtWork) {
     ASSERT_TRUE(finding.isFinished());
     EXPECT_THAT(finding.argumentAt<2>().toStdString(), StartsWith("No group found yet."));
 
-    const std::string refused = "org.freedesktop.DBus.Error.InvalidArgs";
     // As the command lines of older versions call.
-    EXPECT_EQ(
-        Caller::output(caller.call("Run", {QStringLiteral("uninstall"), QStringLiteral("--yes"),
-                                           QVariant::fromValue(noInput())})),
-        refused);
+    const auto run = [&](const char* command, const char* argument) {
+        return Caller::output(
+            caller.call("Run", {QString::fromLatin1(command), QString::fromLatin1(argument),
+                                QVariant::fromValue(noInput())}));
+    };
+    EXPECT_EQ(run("launch-at-login", "status"), "on\n");
+    EXPECT_THAT(run("status", ""), StartsWith("Bot:"));
+    const std::string refused = "org.freedesktop.DBus.Error.InvalidArgs";
+    EXPECT_EQ(run("uninstall", "--yes"), refused);
     EXPECT_EQ(Caller::output(caller.run({QStringLiteral("panel")})), refused);
     EXPECT_EQ(Caller::output(caller.run({})), refused);
 }

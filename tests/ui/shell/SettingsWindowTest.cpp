@@ -15,17 +15,22 @@ namespace {
 
 class Content : public QWidget {
 public:
-    [[nodiscard]] QSize sizeHint() const override { return {540, 300}; }
+    explicit Content(int height) : height_{height} {}
+    [[nodiscard]] QSize sizeHint() const override { return {540, height_}; }
+
+private:
+    int height_;
 };
 
 struct SettingsWindowTest : testing::Test {
     FakeWorkspace workspace;
     int made = 0;
+    int firstHeight = 300;
     SettingsWindow::Fit fit;
     SettingsWindow settings{workspace, [this](SettingsWindow::Fit given) {
                                 ++made;
                                 fit = std::move(given);
-                                return std::make_unique<Content>();
+                                return std::make_unique<Content>(firstHeight);
                             }};
 
     [[nodiscard]] static QWidget& window() {
@@ -59,6 +64,12 @@ TEST_F(SettingsWindowTest, ComesBackAsItWasWhereItWas) {
     EXPECT_FALSE(first->isMinimized());
 }
 
+TEST_F(SettingsWindowTest, IsNeverLowerThanAtFirst) {
+    firstHeight = 80;
+    settings.show();
+    EXPECT_EQ(window().size(), QSize(540, 200));
+}
+
 TEST_F(SettingsWindowTest, FollowsItsContentsHeightFromItsTopEdge) {
     settings.show();
     window().move(30, 40);
@@ -68,7 +79,10 @@ TEST_F(SettingsWindowTest, FollowsItsContentsHeightFromItsTopEdge) {
     };
     const std::vector<Case> cases{{std::numeric_limits<double>::quiet_NaN(), 300},
                                   {50, 300},
+                                  {-400, 300},
                                   {300.5, 300},
+                                  {299.5, 300},
+                                  {301, 301},
                                   {50.6, 51},
                                   {420, 420}};
     for (const Case& each : cases) {
