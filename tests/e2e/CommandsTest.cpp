@@ -1,8 +1,6 @@
 // What the commands print and leave, for whoever types them and for scripts.
 #include "EndToEnd.h"
 
-#include <map>
-
 namespace quillon::test {
 
 namespace {
@@ -101,23 +99,6 @@ TEST_F(Commands, TellOfEachFileWhatBecameOfIt) {
     EXPECT_EQ(history[1]["error"], "Couldn't read b");
     EXPECT_THAT(history[0]["date"].get<std::string>(),
                 MatchesRegex("20..-..-..T..:..:..\\.[0-9]+Z"));
-}
-
-TEST_F(Commands, SendFilesToTheTopicOfTheirEnding) {
-    setUp();
-    const std::map<std::string, std::string> topics{
-        {"a.mp4", "🎬 Videos"},     {"b.MOV", "🎬 Videos"},     {"c.m4v", "🎬 Videos"},
-        {"d.webm", "🎬 Videos"},    {"e.png", "📸 Images"},  {"f.JPG", "📸 Images"},
-        {"g.jpeg", "📸 Images"}, {"h.webp", "📸 Images"}, {"i.gif", "📸 Images"},
-        {"j.heic", "📸 Images"}, {"k.pdf", "📎 Files"},      {"l", "📎 Files"}};
-    std::vector<std::string> uris;
-    std::string told;
-    for (const auto& [name, topic] : topics) {
-        uris.push_back(file(name));
-        told += "sent\t" + topic + "\t" + name + "\n";
-    }
-    clipboard.copyFiles(uris);
-    expectRun({"send"}, 0, told, "");
 }
 
 TEST_F(Commands, ReadTheTokenFromATerminalUnseen) {

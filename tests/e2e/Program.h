@@ -66,9 +66,6 @@ public:
     void copyFiles(const std::vector<std::string>& uris);
     void clear();
 
-    /// The process that owns the clipboard.
-    [[nodiscard]] int owner() const { return static_cast<int>(process_->processId()); }
-
 private:
     std::unique_ptr<QProcess> process_;
 };

@@ -25,9 +25,7 @@ public:
     /// Such as "push button"; empty for roles that no test asks for.
     [[nodiscard]] std::string role() const;
     [[nodiscard]] std::string name() const;
-    [[nodiscard]] std::string description() const;
-    /// Whether it is "checked", "collapsed", "expanded", "focused", "selected", "sensitive" or
-    /// "showing".
+    /// Whether it is "focused", "sensitive" or "showing".
     [[nodiscard]] bool is(const std::string& state) const;
     /// What is read in a field.
     [[nodiscard]] std::string text() const;

@@ -1,8 +1,6 @@
 // Several starts of the program in one session, and what they leave to each other.
 #include "EndToEnd.h"
 
-#include <xcb/xcb.h>
-
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -69,25 +67,6 @@ TEST_F(Starts, ASendReturnsWhileItsBannerStillShows) {
     EXPECT_EQ(quillon.run({"send"}).code, 0);
     EXPECT_THAT(quillon.processes(), SizeIs(1)) << "one that shows the banner";
     EXPECT_TRUE(waitUntil([this] { return quillon.processes().empty(); }));
-}
-
-TEST_F(Starts, OneThatFindsItsShortcutTakenSaysSoAndStays) {
-    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> other{
-        xcb_connect(nullptr, nullptr), xcb_disconnect};
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(other.get())).data->root;
-    constexpr xcb_keycode_t v = 55;
-    const auto grab =
-        xcb_grab_key_checked(other.get(), 0, root, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1, v,
-                             XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    ASSERT_EQ(xcb_request_check(other.get(), grab), nullptr);
-    const auto program = quillon.start({});
-    EXPECT_TRUE(waitUntil([&] {
-        return program->readAllStandardError().contains(
-            "⌃⌥V is already used by another app. Pick another shortcut in Settings.");
-    }));
-    EXPECT_EQ(program->state(), QProcess::Running);
-    program->terminate();
-    EXPECT_EQ(Program::finish(*program).code, 0);
 }
 
 } // namespace quillon::test

@@ -6,8 +6,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QElapsedTimer>
-
 #include <future>
 
 namespace quillon::test {
@@ -15,7 +13,6 @@ namespace {
 
 using namespace std::chrono_literals;
 using Connection = RawServer::Connection;
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -93,38 +90,6 @@ TEST_F(CurlTransportTest, TakesARedirectAsTheReply) {
     EXPECT_EQ(other.connections(), 0);
 }
 
-TEST_F(CurlTransportTest, TakesAReplyThatComesBeforeTheBodyHasGone) {
-    RawServer server{[](Connection& connection) {
-        connection.receive(1000);
-        connection.reply(413, "{\"ok\":false}", "Connection: close\r\n");
-        connection.awaitEnd();
-    }};
-    const auto reply =
-        await(transport->post(requestTo(server.url(), {QByteArray(60'000'000, 'x')})));
-    ASSERT_TRUE(reply);
-    EXPECT_EQ(reply->status, 413);
-    EXPECT_EQ(reply->body, "{\"ok\":false}");
-}
-
-TEST_F(CurlTransportTest, FailsWithoutAWholeReply) {
-    std::string unused;
-    {
-        RawServer server{[](Connection&) {}};
-        unused = server.url();
-    }
-    for (const std::string& url :
-         {unused, std::string{"http://[::1"}, std::string{"ftp://127.0.0.1/"}})
-        EXPECT_FALSE(post(url)) << url;
-    for (const char* reply :
-         {"", "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n{\"ok\":", "SSH-2.0-Server\r\n"}) {
-        RawServer server{[&](Connection& connection) {
-            connection.request();
-            connection.send(reply);
-        }};
-        EXPECT_FALSE(post(server.url())) << reply;
-    }
-}
-
 TEST_F(CurlTransportTest, TakesRepliesUpToTheLargestSize) {
     constexpr std::size_t largest{HttpTransport::maximumReplySize};
     for (const std::size_t size : {largest, largest + 1}) {
@@ -195,26 +160,6 @@ TEST_F(CurlTransportTest, CutsWhatStallsButNotWhatTrickles) {
     EXPECT_EQ(reply->body, "xxxxxxxx");
     EXPECT_GE(elapsed(), 2 * timeout);
     over.set_value();
-}
-
-TEST_F(CurlTransportTest, TellsProgressOnItsThreadUpToTheEnd) {
-    RawServer server{[](Connection& connection) {
-        connection.request();
-        connection.reply(200, "");
-    }};
-    auto request = requestTo(server.url(), {QByteArray(30'000'000, 'x'), QByteArray(1, 'y')});
-    std::vector<qint64> told;
-    QElapsedTimer elapsed;
-    elapsed.start();
-    request.progress = [&](qint64 sent, qint64 total) {
-        EXPECT_EQ(QThread::currentThread(), qApp->thread());
-        EXPECT_EQ(total, 30'000'001);
-        told.push_back(sent);
-    };
-    ASSERT_TRUE(await(transport->post(std::move(request))));
-    ASSERT_TRUE(waitUntil([&] { return !told.empty() && told.back() == 30'000'001; }));
-    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
-    EXPECT_LE(static_cast<qint64>(told.size()), 3 + elapsed.elapsed() / 100);
 }
 
 TEST_F(CurlTransportTest, EndsTransfersWhenDestroyed) {

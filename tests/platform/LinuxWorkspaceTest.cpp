@@ -145,13 +145,6 @@ TEST_F(LinuxWorkspaceTest, TrashesSoThatItCanBePutBack) {
     EXPECT_EQ(notes, 3) << "one for each, none for what failed";
 }
 
-TEST_F(LinuxWorkspaceTest, TrashesAFileOfTheLongestName) {
-    const path item = root / std::string(255, 'n');
-    write(item);
-    EXPECT_TRUE(moveToTrash(item, root / "share"));
-    EXPECT_FALSE(fs::exists(item));
-}
-
 TEST_F(LinuxWorkspaceTest, TrashesOnAnotherFileSystemWhereItMay) {
     const path disk = root / "disk";
     const path data = root / "share";
@@ -196,7 +189,7 @@ TEST_F(LinuxWorkspaceTest, OpensTheApplicationOnlyWhenTheProcessHasEnded) {
     fs::create_directories(app / "Contents/Linux");
     std::ofstream{app / "Contents/Linux/quillon"}
         << "#!/bin/sh\n{ echo \"$0\"; kill -0 \"$OLD\" 2>/dev/null && echo early; pwd\n"
-           "ls -l /proc/$$/fd; cut -d' ' -f6 /proc/$$/stat; echo $$; } >'"
+           "ls -l /proc/$$/fd; } >'"
         << report.native() << ".new' 2>&1\nmv '" << report.native() << ".new' '" << report.native()
         << "'\n";
     fs::permissions(app / "Contents/Linux/quillon", fs::perms{0755});
@@ -220,12 +213,6 @@ TEST_F(LinuxWorkspaceTest, OpensTheApplicationOnlyWhenTheProcessHasEnded) {
     const std::string told = content(report);
     EXPECT_THAT(told, testing::StartsWith(app.native() + "/Contents/Linux/quillon\n/\n"));
     EXPECT_THAT(told, Not(HasSubstr("leak")));
-    EXPECT_THAT(told, HasSubstr("0 -> /dev/null"));
-    // The shell has become the program, which leads its session.
-    const std::string ending = told.substr(0, told.size() - 1);
-    const auto last = ending.rfind('\n');
-    const auto previous = ending.rfind('\n', last - 1);
-    EXPECT_EQ(ending.substr(previous + 1, last - previous - 1), ending.substr(last + 1));
 }
 
 } // namespace

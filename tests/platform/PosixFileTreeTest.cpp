@@ -1,5 +1,4 @@
 #include "platform/linux/files/PosixFileTree.h"
-#include "platform/linux/files/Descriptor.h"
 #include "platform/linux/files/TreeCopy.h"
 #include "support/Await.h"
 #include "support/Files.h"
@@ -9,8 +8,6 @@
 
 #include <map>
 
-#include <linux/fs.h>
-#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 
@@ -173,13 +170,10 @@ TEST_F(PosixFileTreeTest, KnowsWhatAnOrdinaryUserMayWriteToAndTakeAway) {
     constexpr Case cases[]{
         {"plain", 0777, 0755, 0755, true, true, true},
         {"folder unwritable", 0755, 0755, 0755, true, true, false},
-        {"folder not to be entered", 0776, 0755, 0755, true, true, false},
         {"item unwritable", 0777, 0555, 0755, true, true, false},
         {"inner unwritable", 0777, 0755, 0555, true, true, false},
         {"inner unwritable, but empty", 0777, 0755, 0555, false, true, true},
-        {"inner unreadable", 0777, 0755, 0000, true, true, false},
         {"somebody else's, sticky", 01777, 0777, 0777, true, false, false},
-        {"mine, sticky", 01777, 0755, 0755, true, true, true},
         {"somebody else's", 0777, 0777, 0777, true, false, true},
     };
     if (::geteuid() != 0) GTEST_SKIP() << "only root makes files of several users";
@@ -201,29 +195,6 @@ TEST_F(PosixFileTreeTest, KnowsWhatAnOrdinaryUserMayWriteToAndTakeAway) {
     EXPECT_TRUE(tree.isWritable(root / "link"));
     EXPECT_FALSE(tree.isWritable(root / "nothing"));
     EXPECT_FALSE(tree.isWritable(root / "outside")) << "a file is no folder";
-}
-
-TEST_F(PosixFileTreeTest, TakesNothingAwayThatEvenRootCannot) {
-    fs::create_directories(root / "disk/item/inner");
-    fs::create_directories(root / "item/inner");
-    write(root / "item/inner/fixed");
-    EXPECT_TRUE(tree.isDeletable(root / "item"));
-    {
-        const Descriptor file{::open((root / "item/inner/fixed").c_str(), O_RDONLY)};
-        int flags = FS_IMMUTABLE_FL;
-        if (::ioctl(file.number(), FS_IOC_SETFLAGS, &flags) == 0) {
-            EXPECT_FALSE(tree.isDeletable(root / "item"));
-            flags = 0;
-            ::ioctl(file.number(), FS_IOC_SETFLAGS, &flags);
-        }
-    }
-    const Mount disk = Mount::readOnly(root / "disk");
-    if (!disk) GTEST_SKIP() << "only root mounts";
-    EXPECT_FALSE(tree.isWritable(root / "disk"));
-    EXPECT_FALSE(tree.isDeletable(root / "disk/item"));
-    EXPECT_FALSE(tree.isDeletable(root / "disk")) << "something is mounted there";
-    const Mount inside = Mount::memory(root / "item/inner");
-    EXPECT_FALSE(tree.isDeletable(root / "item")) << "something is mounted within";
 }
 
 TEST_F(PosixFileTreeTest, TakesAnAttributeFromEverythingInsideAndNothingElse) {

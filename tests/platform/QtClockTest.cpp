@@ -6,19 +6,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-TEST(QtClockTest, CallsInOrderAndNeverAtOnce) {
-    QtClock clock;
-    std::string called;
-    const auto second = clock.after(30ms, [&] { called += "2"; });
-    const auto first = clock.after(0ms, [&] { called += "1"; });
-    const auto late = clock.after(std::chrono::hours{24 * 365}, [&] { called += "late"; });
-    EXPECT_EQ(called, "");
-    const auto begin = clock.now();
-    EXPECT_TRUE(waitUntil([&] { return called == "12"; }));
-    EXPECT_GE(clock.now() - begin, 25ms);
-}
-
-TEST(QtClockTest, ForgetsWhatIsDestroyedEvenFromItsOwnAction) {
+TEST(QtClockTest, ForgetsWhatIsDestroyedAndIsNeverEarly) {
     QtClock clock;
     int calls = 0;
     bool over = false;
@@ -28,6 +16,7 @@ TEST(QtClockTest, ForgetsWhatIsDestroyedEvenFromItsOwnAction) {
         own.reset();
         calls += *held;
     });
+    const auto late = clock.after(std::chrono::hours{24 * 365}, [&] { calls += 1000; });
     static_cast<void>(clock.after(1ms, [&] { calls += 100; }));
     const auto end = clock.after(20ms, [&] { over = true; });
     EXPECT_TRUE(waitUntil([&] { return over; }));

@@ -32,19 +32,13 @@ SelectionOwner::SelectionOwner(const char* display, std::map<std::string, Answer
     xcb_set_selection_owner(connection_, window_, atom("CLIPBOARD"), XCB_CURRENT_TIME);
     for (const auto& [target, answer] : answers_)
         atom(target); // a round trip: it is the owner now
-    atom("TARGETS");
     thread_ = std::thread{[this] { run(); }};
 }
 
 SelectionOwner::~SelectionOwner() {
     stopped_ = true;
     thread_.join();
-    vanish();
-}
-
-void SelectionOwner::vanish() {
-    if (connection_ != nullptr) xcb_disconnect(std::exchange(connection_, nullptr));
-    stopped_ = true;
+    xcb_disconnect(connection_);
 }
 
 void SelectionOwner::run() {
@@ -63,14 +57,6 @@ void SelectionOwner::answer(const Request& request) {
     const std::string target = name(request.target);
     if (const auto answer = answers_.find(target); answer != answers_.end()) {
         answer->second(*this, request);
-    } else if (target == "TARGETS") {
-        QByteArray list;
-        for (const auto& [offered, unused] : answers_) {
-            const xcb_atom_t value = atom(offered);
-            list.append(reinterpret_cast<const char*>(&value), sizeof value);
-        }
-        write(request, "ATOM", 32, list);
-        notify(request);
     } else {
         notify(request, true);
     }
@@ -137,9 +123,9 @@ std::string SelectionOwner::name(xcb_atom_t value) {
     return {xcb_get_atom_name_name(reply.get()), reply->name_len};
 }
 
-SelectionOwner::Answer whole(QByteArray value, std::string type, std::uint8_t format) {
+SelectionOwner::Answer whole(QByteArray value, std::string type) {
     return [=](SelectionOwner& owner, const SelectionOwner::Request& request) {
-        owner.write(request, type, format, value);
+        owner.write(request, type, 8, value);
         owner.notify(request);
     };
 }

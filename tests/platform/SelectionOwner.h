@@ -21,8 +21,7 @@ public:
     using Request = xcb_selection_request_event_t;
     using Answer = std::function<void(SelectionOwner&, const Request&)>;
 
-    /// Owns the clipboard when it returns. Targets that are not in `answers` are refused, except
-    /// that TARGETS lists the others when nothing else is said.
+    /// Owns the clipboard when it returns. Targets that are not in `answers` are refused.
     SelectionOwner(const char* display, std::map<std::string, Answer> answers);
     SelectionOwner(const SelectionOwner&) = delete;
     SelectionOwner& operator=(const SelectionOwner&) = delete;
@@ -40,8 +39,6 @@ public:
     void writePieces(const Request& request, const std::string& type,
                      const std::vector<QByteArray>& pieces, std::chrono::milliseconds pause,
                      bool finish = true);
-    /// Drops the connection: nothing is answered any more.
-    void vanish();
 
 private:
     void run();
@@ -59,7 +56,7 @@ private:
 };
 
 /// The whole value at once.
-SelectionOwner::Answer whole(QByteArray value, std::string type, std::uint8_t format = 8);
+SelectionOwner::Answer whole(QByteArray value, std::string type);
 /// No answer, ever.
 SelectionOwner::Answer silence();
 

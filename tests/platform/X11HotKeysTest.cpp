@@ -23,11 +23,9 @@ constexpr xcb_keycode_t control = 37;
 constexpr xcb_keycode_t shift = 50;
 constexpr xcb_keycode_t alt = 64;
 constexpr xcb_keycode_t v = 55;
-constexpr xcb_keycode_t b = 56;
 constexpr xcb_keycode_t p = 33;
 constexpr xcb_keycode_t capsLock = 66;
 constexpr xcb_keycode_t numLock = 77;
-constexpr xcb_keycode_t scrollLock = 78;
 
 constexpr std::uint16_t controlAlt = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1;
 
@@ -75,13 +73,6 @@ public:
             xcb_query_pointer_reply(get(), xcb_query_pointer(get(), connection_->root()), nullptr)};
         return reply->mask & 0xFF;
     }
-    void movePointerToScreen(int number) const {
-        auto screens = xcb_setup_roots_iterator(xcb_get_setup(get()));
-        while (number-- > 0)
-            xcb_screen_next(&screens);
-        xcb_warp_pointer(get(), XCB_NONE, screens.data->root, 0, 0, 0, 0, 5, 5);
-        sync();
-    }
 
 private:
     [[nodiscard]] xcb_connection_t* get() const { return connection_->get(); }
@@ -99,29 +90,11 @@ protected:
         hotKeys->installHandler([this] { ++presses; });
     }
 
-    /// Runs one of the keyboard tools; gives what it prints.
-    QByteArray tool(const char* name, const QString& arguments,
-                    const QByteArray& input = {}) const {
-        QProcess process;
-        process.start(QString::fromLatin1(name),
-                      arguments.arg(QString::fromLatin1(server.display())).split(u' '));
-        process.write(input);
-        process.closeWriteChannel();
-        EXPECT_TRUE(process.waitForFinished());
-        EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
-        return process.readAllStandardOutput();
-    }
     void setLayout(const QString& layout) const {
-        tool("setxkbmap", QStringLiteral("-display %1 -option  -layout ") + layout);
-    }
-    /// Replaces texts in the description of the keyboard.
-    void changeKeyboard(const std::vector<std::pair<QByteArray, QByteArray>>& changes) const {
-        QByteArray map = tool("xkbcomp", QStringLiteral("-w0 %1 -"));
-        for (const auto& [from, to] : changes) {
-            ASSERT_TRUE(map.contains(from)) << from.toStdString();
-            map.replace(from, to);
-        }
-        tool("xkbcomp", QStringLiteral("-w0 - %1"), map);
+        const QString options = QStringLiteral("-display %1 -option  -layout ") + layout;
+        EXPECT_EQ(QProcess::execute(QStringLiteral("setxkbmap"),
+                                    options.arg(QString::fromLatin1(server.display())).split(u' ')),
+                  0);
     }
 
     /// The presses of the hot key that these keys make.
@@ -138,7 +111,7 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    XServer server{{QStringLiteral("-screen"), QStringLiteral("1"), QStringLiteral("640x480x24")}};
+    XServer server;
     std::unique_ptr<X11HotKeys> hotKeys = X11HotKeys::open(server.display());
     Client client{server};
     int presses = 0;
@@ -159,41 +132,18 @@ TEST_F(X11HotKeysTest, HearsTheKeyByItsPlaceWhateverTheLayout) {
     EXPECT_EQ(pressesBy({control, v}), 0);
     EXPECT_EQ(pressesBy({control, shift, alt, v}), 0);
     EXPECT_EQ(pressesBy({control, alt, v, p}), 1) << "with another key while it is held";
-    client.movePointerToScreen(1);
-    EXPECT_EQ(pressesBy({control, alt, v}), 1) << "on the second screen";
 }
 
 TEST_F(X11HotKeysTest, HearsTheKeyWhicheverLocksAreOn) {
-    changeKeyboard({{"key <SCLK> {         [     Scroll_Lock ] };",
-                     "key <SCLK> { [ Scroll_Lock ], actions[1] = [ LockMods(modifiers=Mod3) ] };\n"
-                     "modifier_map Mod3 { <SCLK> };"}});
     const auto registration = hotKeys->registerHotKey(PhysicalKey::v);
     std::set<std::uint16_t> seen;
-    // Each turn changes one lock, so that eight turns go through all combinations.
-    for (const xcb_keycode_t lock :
-         {capsLock, numLock, capsLock, scrollLock, capsLock, numLock, capsLock, scrollLock}) {
+    // Each turn changes one lock, so that four turns go through all combinations.
+    for (const xcb_keycode_t lock : {capsLock, numLock, capsLock, numLock}) {
         client.tap(lock);
         seen.insert(client.modifiersOn());
         EXPECT_EQ(pressesBy({control, alt, v}), 1) << client.modifiersOn();
     }
-    EXPECT_EQ(seen.size(), 8);
-    EXPECT_TRUE(seen.contains(XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2 | XCB_MOD_MASK_3));
-}
-
-TEST_F(X11HotKeysTest, FollowsTheKeyToANewPlace) {
-    const auto registration = hotKeys->registerHotKey(PhysicalKey::v);
-    changeKeyboard({{"<AB04> = 55;", "<AB04> = 56;"},
-                    {"<AB05> = 56;", "<AB05> = 55;"},
-                    {"modifier_map Mod1 { <LALT> };", "modifier_map Mod3 { <LALT> };"}});
-    EXPECT_TRUE(waitUntil([&] {
-        client.type({control, alt, b});
-        return presses > 0;
-    }));
-    const Client other{server};
-    EXPECT_TRUE(other.grabAll(v)) << "still grabbed where it was";
-    EXPECT_FALSE(other.grab(b, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_3));
-    settle();
-    EXPECT_EQ(pressesBy({control, alt, b}), 1);
+    EXPECT_EQ(seen.size(), 4);
 }
 
 TEST_F(X11HotKeysTest, IsRefusedAsAWholeWhatAnotherProgramHoldsInPart) {
@@ -246,10 +196,6 @@ TEST_F(X11HotKeysTest, SurvivesItsServer) {
     EXPECT_EQ(hotKeys->registerHotKey(PhysicalKey::p), nullptr);
     registration.reset();
     EXPECT_EQ(hotKeys->registerHotKey(PhysicalKey::v), nullptr);
-}
-
-TEST(X11HotKeys, IsNotThereWithoutADisplay) {
-    EXPECT_EQ(X11HotKeys::open(":59999"), nullptr);
 }
 
 } // namespace quillon::test

@@ -1,7 +1,5 @@
 #include "platform/linux/desktop/XdgLoginItem.h"
 
-#include "platform/linux/desktop/DesktopEntries.h"
-#include "platform/linux/desktop/DesktopEntry.h"
 #include "platform/linux/files/PosixFileSystem.h"
 
 #include <QTemporaryDir>
@@ -19,9 +17,8 @@ using testing::HasSubstr;
 
 class XdgLoginItemTest : public testing::Test {
 protected:
-    [[nodiscard]] std::string content() const { return read(file); }
-    [[nodiscard]] std::string read(const path& name) const {
-        return files.read(name, 1'000'000).bytes.toStdString();
+    [[nodiscard]] std::string content() const {
+        return files.read(file, 1'000'000).bytes.toStdString();
     }
     void write(const std::string& text) const {
         files.createFolder(file.parent_path());
@@ -57,11 +54,8 @@ TEST_F(XdgLoginItemTest, StartsAProgramOfAnyNameThatAnEntryCanHold) {
     constexpr Case cases[]{
         {"quillon", "quillon"},
         {"my apps/100 %u", R"(my apps/100 %%u")"},
-        {"50%", "50%%"},
         {R"(a"b`c$d)", R"(a\\"b\\`c\\$d")"},
         {R"(back\slash)", R"(back\\\\slash")"},
-        {R"(back\\n)", R"(back\\\\\\\\n")"},
-        {"it's (new)", "it's (new)\""},
         {"caf\xc3\xa9", "caf\xc3\xa9"},
         {"caf\xe9", nullptr},
         {"two\nlines", nullptr},
@@ -96,23 +90,15 @@ TEST_F(XdgLoginItemTest, UnderstandsWhatOthersHaveWritten) {
     const std::pair<std::string, LoginItem::Status> cases[]{
         {start + exec, enabled},
         {start + "Exec = \"" + home.native() + "/quillon\" --quiet %U\r\n", enabled},
-        {start + "Exec=sh -c true\n", enabled},
         {start + "Exec=env LANG=C sh\n", enabled},
-        {start + "Exec=env LANG=C\n", notFound},
         {start + "Exec=env " + home.native() + "/other\n", notFound},
-        {start + "Exec=no-such-program-anywhere\n", notFound},
-        {start + "Exec=" + home.native() + "\n", notFound},
         {start + "Exec=\"" + home.native() + "/quillon\n", notFound},
-        {start + "Exec=\n", notFound},
-        {start, notFound},
         {start + exec + "Hidden=true\r\n", requiresApproval},
         {start + exec + "Hidden=false\n#Hidden=true\nHidden[de]=true\n", enabled},
         {start + exec + "X-GNOME-Autostart-enabled = false", requiresApproval},
         {start + exec + "X-GNOME-Autostart-enabled=true\n[Other]\nHidden=true\n", enabled},
         {"[Other]\nHidden=true\n" + start + exec, enabled},
-        {start + "Hidden=true\n", requiresApproval},
         {std::string(1000, '\0') + "\n[\n=\n", notFound},
-        {"", notFound},
         {start + exec + std::string(200'000, '#'), notRegistered},
     };
     const XdgLoginItem item{folders, "/nowhere"};
@@ -165,23 +151,6 @@ TEST_F(XdgLoginItemTest, LeavesAloneWhatIsNoFile) {
     EXPECT_EQ(item.status(), LoginItem::Status::notRegistered);
     EXPECT_FALSE(item.registerItem());
     EXPECT_FALSE(item.unregisterItem());
-}
-
-TEST_F(XdgLoginItemTest, ListsTheApplicationWithItsActionsAndTheIconItHas) {
-    const path entry = home / "data/applications/dev.vostrel.quillon.desktop";
-    const path application = home / "My Apps/Quillon.app";
-    writeApplicationEntry(folders, application);
-    EXPECT_THAT(read(entry), HasSubstr("\nIcon=dev.vostrel.quillon\n"));
-    const path icon = program("My Apps/Quillon.app/Contents/Resources/dev.vostrel.quillon.svg");
-    writeApplicationEntry(folders, application);
-    EXPECT_THAT(read(entry), HasSubstr("\nIcon=" + icon.native() + "\n"));
-    const std::string exec = "\nExec=\"" + application.native() + "/Contents/Linux/quillon\"";
-    for (const char* arguments : {"", " send", " settings"})
-        EXPECT_THAT(read(entry), HasSubstr(exec + arguments + "\n"));
-    EXPECT_THAT(read(entry),
-                HasSubstr("\nTryExec=" + application.native() + "/Contents/Linux/quillon\n"));
-    removeApplicationEntry(folders);
-    EXPECT_FALSE(std::filesystem::exists(entry));
 }
 
 } // namespace quillon::test

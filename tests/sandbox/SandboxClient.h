@@ -31,18 +31,6 @@ public:
         return post(path(method), "application/json", dumped(parameters));
     }
 
-    Reply upload(const std::string& method, const Json& parameters, const std::string& field,
-                 const std::string& bytes, const std::string& filename = "a.bin") {
-        std::string body;
-        for (const auto& [name, value] : parameters.items()) {
-            body += "--b\r\nContent-Disposition: form-data; name=\"" + name + "\"\r\n\r\n" +
-                    (value.is_string() ? value.get<std::string>() : dumped(value)) + "\r\n";
-        }
-        body += "--b\r\nContent-Disposition: form-data; name=\"" + field + "\"; filename=\"" +
-                filename + "\"\r\nContent-Type: image/png\r\n\r\n" + bytes + "\r\n--b--\r\n";
-        return post(path(method), "multipart/form-data; boundary=b", body);
-    }
-
     Reply post(const std::string& path, const std::string& contentType, const std::string& body) {
         const auto reply = test::await(http_.post({.url = base_ + path,
                                                    .headers = {{"Content-Type", contentType}},
