@@ -68,6 +68,8 @@ TEST(Text, CutsBetweenUserPerceivedCharacters) {
     EXPECT_EQ(firstCharacters("\r\nx", 1), "\r\n");
     EXPECT_EQ(firstCharacters("🇩🇪🇫🇷🇮🇹", 2), "🇩🇪🇫🇷");
     EXPECT_EQ(firstCharacters("한국", 1), "한") << "jamo join to one syllable";
+    EXPECT_EQ(firstCharacters("किx", 1), "कि") << "a vowel sign takes room and joins all the same";
+    EXPECT_EQ(firstCharacters("\u06001x", 1), "\u06001") << "a sign that joins what follows it";
     EXPECT_EQ(prefix(family + family, {.characters = 9, .codePoints = 13}), family)
         << "two families have 14 code points";
     const std::string zalgo = "a" + repeated("\u0301", 10);
