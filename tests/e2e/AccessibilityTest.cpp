@@ -64,6 +64,10 @@ protected:
         EXPECT_THAT(faults, IsEmpty()) << what;
     }
 
+    [[nodiscard]] bool becomes(const Control& control, const std::string& state, bool on = true) {
+        return waitUntil([&] { return control.is(state) == on; });
+    }
+
     Desk desk;
     ScreenReader reader;
     std::unique_ptr<QProcess> program;
@@ -73,22 +77,49 @@ protected:
 
 TEST_F(Accessibility, EveryWindowCanBeReadAndWorked) {
     Desk::click(Desk::icon().center());
-    reader.wait("push button", "Send clipboard to phone");
+    EXPECT_EQ(reader.wait("push button", "Send clipboard to phone").description(), "“a”");
     EXPECT_FALSE(reader.shows("page tab", "Setup")) << "once set up, it starts without a window";
     expectReadable("the panel");
     reader.wait("push button", "Settings…").press();
-    reader.wait("push button", "Step 3: Make your group");
+
+    const Control header = reader.wait("push button", "Step 3: Make your group");
     expectReadable("the guide");
+    EXPECT_TRUE(header.is("collapsed"));
+    EXPECT_EQ(header.description(), "Done. Found Family");
+    header.press();
+    EXPECT_TRUE(becomes(header, "expanded"));
+
+    const Control general = reader.wait("page tab", "General");
+    general.press();
+    EXPECT_TRUE(becomes(general, "selected"));
+    EXPECT_FALSE(reader.wait("page tab", "Setup").is("selected"));
+    const Control banner = reader.wait("check box", "Show a banner");
+    const Control middle = reader.wait("radio button", "Banner in the middle");
+    banner.press();
+    EXPECT_TRUE(becomes(banner, "checked", false));
+    EXPECT_TRUE(becomes(middle, "sensitive", false));
+    banner.press();
+    EXPECT_TRUE(becomes(middle, "sensitive"));
+    expectReadable("the general settings, with a banner");
     reader.wait("page tab", "Topics").press();
-    reader.wait("text", "Pictures");
+    reader.wait("text", "Pictures").enter("Photos");
+    reader.wait("push button", "Save names to Telegram").press();
+    EXPECT_TRUE(reader.hears("Saved to Telegram."));
     expectReadable("the topics");
-    reader.wait("page tab", "General").press();
-    reader.wait("check box", "Show a banner");
-    expectReadable("the general settings");
+
+    general.press();
     reader.wait("push button", "Uninstall Quillon…").press();
     reader.wait("dialog", "Uninstall Quillon?");
     expectReadable("the question whether to uninstall");
     reader.wait("push button", "Cancel").press();
+    EXPECT_TRUE(waitUntil([&] { return !reader.shows("dialog", "Uninstall Quillon?"); }));
+
+    EXPECT_TRUE(waitUntil([&] {
+        Desk::press("alt+F4"); // goes nowhere until the window has the focus back
+        return !reader.shows("page tab", "General");
+    }));
+    EXPECT_EQ(quillon.run({}).code, 0);
+    EXPECT_TRUE(becomes(reader.wait("page tab", "General"), "selected")) << "where it was";
 }
 
 TEST_F(Accessibility, TheKeyboardReachesEverythingInOrder) {
@@ -114,6 +145,23 @@ TEST_F(Accessibility, TheKeyboardReachesEverythingInOrder) {
         Desk::press("ctrl+Next"); // Page Down
     }
     reader.waitForFocus("Setup");
+    Desk::press("ctrl+shift+Tab");
+    reader.waitForFocus("General");
+    Desk::press("Left");
+    reader.waitForFocus("Topics");
+    Desk::press("alt+g");
+    Desk::press("Tab Right");
+    reader.waitForFocus("Control Alt P");
+    EXPECT_TRUE(becomes(reader.wait("radio button", "Control Alt P"), "checked"));
+    Desk::press("Tab space");
+    EXPECT_TRUE(becomes(reader.wait("check box", "Play a sound"), "checked", false));
+    Desk::press("Return");
+    EXPECT_TRUE(becomes(reader.wait("check box", "Play a sound"), "checked"));
+
+    Desk::press("alt+u");
+    reader.waitForFocus("Uninstall"); // the default of the sheet
+    Desk::press("Escape");
+    reader.waitForFocus("Play a sound"); // where it was
 }
 
 } // namespace quillon::test

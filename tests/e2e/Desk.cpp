@@ -79,9 +79,13 @@ QRect Desk::icon() {
     return {number(3), number(4), number(1), number(2)};
 }
 
-void Desk::click(QPoint there) {
+void Desk::point(QPoint there) {
     const std::string place = std::to_string(there.x()) + " " + std::to_string(there.y());
     EXPECT_EQ(QProcess::execute(pointerTool, words("mousemove " + place)), 0);
+}
+
+void Desk::click(QPoint there) {
+    point(there);
     EXPECT_EQ(QProcess::execute(pointerTool, words("click 1")), 0);
 }
 

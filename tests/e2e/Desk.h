@@ -22,6 +22,8 @@ public:
     /// Where the panel shows the program's icon; empty while it does not.
     [[nodiscard]] static QRect icon();
 
+    /// Moves the pointer.
+    static void point(QPoint there);
     static void click(QPoint there);
     /// In the middle of a control that has come to rest.
     static void click(const Control& control);

@@ -121,8 +121,11 @@ TEST_F(FirstPicture, WithTheKeyboardAlone) {
 
     sendPicture();
     expectPictureOnPhone();
+    Desk::point({1270, 10});
     EXPECT_EQ(quillon.run({"panel"}).code, 0) << "as a shortcut of the desktop does";
     expectHistory();
+    const QPoint panel = reader.wait("push button", "Send clipboard to phone").place().center();
+    EXPECT_LT((panel - Desk::icon().center()).manhattanLength(), 500) << "far from its icon";
     reader.waitForFocus("Send clipboard to phone");
     Desk::press("Escape");
     EXPECT_TRUE(waitUntil([&] { return !reader.find(named("Image · 40×30")); }));

@@ -25,7 +25,8 @@ const std::map<uint, std::string> roles{
 
 /// Bits of what GetState answers.
 const std::map<std::string, unsigned> stateBits{
-    {"focused", 12}, {"sensitive", 24}, {"showing", 25}};
+    {"checked", 4},   {"collapsed", 5},  {"expanded", 10}, {"focused", 12},
+    {"selected", 23}, {"sensitive", 24}, {"showing", 25}};
 
 QDBusMessage ask(const QDBusConnection& bus, const QString& service, const QString& path,
                  const QString& interface, const QString& method, const QVariantList& arguments) {
@@ -80,6 +81,10 @@ std::string Control::role() const {
 
 std::string Control::name() const {
     return property("Accessible", "Name").toString().toStdString();
+}
+
+std::string Control::description() const {
+    return property("Accessible", "Description").toString().toStdString();
 }
 
 bool Control::is(const std::string& state) const {

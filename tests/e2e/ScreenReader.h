@@ -25,7 +25,9 @@ public:
     /// Such as "push button"; empty for roles that no test asks for.
     [[nodiscard]] std::string role() const;
     [[nodiscard]] std::string name() const;
-    /// Whether it is "focused", "sensitive" or "showing".
+    [[nodiscard]] std::string description() const;
+    /// Whether it is "checked", "collapsed", "expanded", "focused", "selected", "sensitive" or
+    /// "showing".
     [[nodiscard]] bool is(const std::string& state) const;
     /// What is read in a field.
     [[nodiscard]] std::string text() const;
