@@ -25,6 +25,9 @@ namespace quillon {
 
 namespace {
 
+/// A bus that is well answers within a few turns of a millisecond.
+constexpr int mostTurns = 50;
+
 /// Tells the desktop the program's name, icon and desktop entry.
 void introduce() {
     // The display name stays empty: Qt would append it to the title of every window.
@@ -45,8 +48,11 @@ QCoro::Task<> launch(Platform& platform, Compositor& compositor, Alerts& alerts,
         co_await Resident::claim(platform, compositor, alerts, mover);
     resident = std::move(claimed);
     if (resident) {
-        // The event loop turns once, so that the icon is in its place before the rest begins.
-        co_await sleep(platform.clock, std::chrono::milliseconds{0});
+        // The icon takes its place before the rest begins, as soon as the bus has told which places
+        // there are; a bus that hangs does not hold up the start.
+        for (int turn = 0; turn < mostTurns && !resident->knowsIconsPlace(); ++turn) {
+            co_await sleep(platform.clock, std::chrono::milliseconds{1});
+        }
         resident->start(wanted);
         co_return;
     }

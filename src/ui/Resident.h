@@ -25,6 +25,9 @@ public:
     [[nodiscard]] static QCoro::Task<std::unique_ptr<Resident>>
     claim(Platform& platform, Compositor& compositor, Alerts& alerts, AppMover& mover);
 
+    /// Whether it is known by now which places for an icon the desktop has.
+    [[nodiscard]] bool knowsIconsPlace() const { return trayIcon_.knowsPlaces(); }
+
     /// Begins the work, in the order that its parts need each other, and shows the "panel" or the
     /// "settings" when these are `wanted`.
     void start(std::string_view wanted);

@@ -36,6 +36,9 @@ public:
              QDBusConnection bus = QDBusConnection::sessionBus());
     ~TrayIcon() override;
 
+    /// Whether the desktop has answered which places for icons there are. From then on the icon is
+    /// in its place, if there is one.
+    [[nodiscard]] bool knowsPlaces() const { return watch_.known(); }
     /// Whether there has been no place for the icon for longer than a panel takes to restart.
     [[nodiscard]] bool missing() const { return missing_; }
     /// The icon's place on the screen. It is empty if there is no icon or its place is unknown.
