@@ -77,13 +77,12 @@ private:
 class FakeLoginItem : public LoginItem {
 public:
     Status current = Status::notRegistered;
-    Status afterRegistering = Status::enabled;
     bool refuses = false;
     std::filesystem::path followed;
 
     [[nodiscard]] Status status() const override { return current; }
     bool registerItem() override {
-        if (!refuses) current = afterRegistering;
+        if (!refuses) current = Status::enabled;
         return !refuses;
     }
     bool unregisterItem() override {

@@ -14,14 +14,13 @@ namespace quillon::test {
 /// An X server without a screen, on a free display, for as long as the object lives.
 class XServer {
 public:
-    explicit XServer(const QStringList& options = {}) {
+    XServer() {
         // A test program that crashes leaves no server behind.
         process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
         process_.setStandardErrorFile(QProcess::nullDevice());
-        const QStringList usual{QStringLiteral("-displayfd"), QStringLiteral("1"),
-                                QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-                                QStringLiteral("-noreset")};
-        process_.start(QStringLiteral("Xvfb"), usual + options);
+        process_.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1"),
+                                                QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+                                                QStringLiteral("-noreset")});
         while (!process_.canReadLine() && process_.waitForReadyRead(20'000)) {
         }
         display_ = ":" + process_.readLine().trimmed();
