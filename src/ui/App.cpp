@@ -3,7 +3,6 @@
 #include "cli/CommandLine.h"
 #include "cli/RemoteProgram.h"
 #include "maintenance/AppMover.h"
-#include "platform/Sleep.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 #include "platform/linux/Desktop.h"
@@ -25,8 +24,8 @@ namespace quillon {
 
 namespace {
 
-/// A bus that is well answers within a few turns of a millisecond.
-constexpr int mostTurns = 50;
+/// A bus that is well tells within a few milliseconds which places for an icon there are.
+constexpr std::chrono::milliseconds busPatience{50};
 
 /// Tells the desktop the program's name, icon and desktop entry.
 void introduce() {
@@ -48,11 +47,9 @@ QCoro::Task<> launch(Platform& platform, Compositor& compositor, Alerts& alerts,
         co_await Resident::claim(platform, compositor, alerts, mover);
     resident = std::move(claimed);
     if (resident) {
-        // The icon takes its place before the rest begins, as soon as the bus has told which places
-        // there are; a bus that hangs does not hold up the start.
-        for (int turn = 0; turn < mostTurns && !resident->knowsIconsPlace(); ++turn) {
-            co_await sleep(platform.clock, std::chrono::milliseconds{1});
-        }
+        // The icon takes its place before windows are made, which takes longer. A bus that hangs
+        // does not hold up the start.
+        co_await resident->iconSettled(busPatience);
         resident->start(wanted);
         co_return;
     }

@@ -10,6 +10,7 @@
 #include "ui/tray/TrayIcon.h"
 #include "ui/updates/UpdateWindows.h"
 
+#include <chrono>
 #include <memory>
 
 namespace quillon {
@@ -25,8 +26,10 @@ public:
     [[nodiscard]] static QCoro::Task<std::unique_ptr<Resident>>
     claim(Platform& platform, Compositor& compositor, Alerts& alerts, AppMover& mover);
 
-    /// Whether it is known by now which places for an icon the desktop has.
-    [[nodiscard]] bool knowsIconsPlace() const { return trayIcon_.knowsPlaces(); }
+    /// Waits until the icon has its place, or it is known to have none; at most for `patience`.
+    [[nodiscard]] QCoro::Task<> iconSettled(std::chrono::milliseconds patience) {
+        return trayIcon_.settled(patience);
+    }
 
     /// Begins the work, in the order that its parts need each other, and shows the "panel" or the
     /// "settings" when these are `wanted`.

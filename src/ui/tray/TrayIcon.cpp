@@ -3,6 +3,7 @@
 #include "state/Store.h"
 #include "ui/controls/MenuBarIcon.h"
 
+#include <QCoroSignal>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QIcon>
@@ -68,6 +69,10 @@ TrayIcon::TrayIcon(Store& store, Clock& clock, TrayActions actions, QDBusConnect
 }
 
 TrayIcon::~TrayIcon() = default;
+
+QCoro::Task<> TrayIcon::settled(std::chrono::milliseconds patience) {
+    if (!watch_.known()) co_await qCoro(&watch_, &TrayWatch::answered, patience);
+}
 
 void TrayIcon::buildMenu() {
     send_ = menu_.addAction(tr("Send clipboard"));

@@ -4,11 +4,13 @@
 #include "ui/controls/Refresher.h"
 #include "ui/tray/TrayWatch.h"
 
+#include <QCoroTask>
 #include <QMenu>
 #include <QObject>
 #include <QRect>
 #include <QSystemTrayIcon>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -36,9 +38,9 @@ public:
              QDBusConnection bus = QDBusConnection::sessionBus());
     ~TrayIcon() override;
 
-    /// Whether the desktop has answered which places for icons there are. From then on the icon is
-    /// in its place, if there is one.
-    [[nodiscard]] bool knowsPlaces() const { return watch_.known(); }
+    /// Waits until the desktop has answered which places for icons there are, at most for
+    /// `patience`. From then on the icon is in its place, if there is one.
+    [[nodiscard]] QCoro::Task<> settled(std::chrono::milliseconds patience);
     /// Whether there has been no place for the icon for longer than a panel takes to restart.
     [[nodiscard]] bool missing() const { return missing_; }
     /// The icon's place on the screen. It is empty if there is no icon or its place is unknown.

@@ -51,8 +51,10 @@ void TrayWatch::askWatcher() {
 
 void TrayWatch::setHosted(bool hosted) {
     if (hosted == hosted_) return;
+    const bool first = !known();
     hosted_ = hosted;
     Q_EMIT changed();
+    if (first) Q_EMIT answered();
 }
 
 } // namespace quillon

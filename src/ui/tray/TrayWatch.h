@@ -36,6 +36,8 @@ public:
 Q_SIGNALS:
     /// A new place for icons has come, which needs a new icon, or one has gone.
     void changed();
+    /// known() has become true; changed() comes before.
+    void answered();
     /// foreground() has changed.
     void recoloured();
 
