@@ -2,7 +2,6 @@
 
 #include "platform/linux/desktop/LinuxBundle.h"
 #include "platform/linux/files/Descriptor.h"
-#include "platform/linux/files/Modes.h"
 #include "update/Errors.h"
 #include "update/ProgramOutput.h"
 #include "update/Version.h"

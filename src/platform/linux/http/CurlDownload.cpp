@@ -1,6 +1,5 @@
 #include "platform/linux/http/CurlDownload.h"
 
-#include "platform/linux/files/Modes.h"
 
 #include <fcntl.h>
 #include <unistd.h>
