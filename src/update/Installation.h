@@ -46,10 +46,10 @@ struct PreparedUpdate {
 [[nodiscard]] std::variant<std::shared_ptr<PrivateFolder>, UpdateError>
 makeStaging(const std::filesystem::path& bundle);
 
-/// The application that was unpacked into `folder`, or the error why it must not replace `running`:
-/// it is exactly one application folder, with the same identifier, the item's version and short
-/// version, newer than the running one, and its program starts and prints "quillon SHORTVERSION".
-/// Starts that program: not for the main thread.
+/// The application that was unpacked into `folder`, or the reason why it must not replace
+/// `running`. It must be exactly one application folder, with the same identifier, the item's
+/// version and short version, newer than the running one, and its program must start and print
+/// "quillon SHORTVERSION". Starts that program: not for the main thread.
 [[nodiscard]] std::variant<std::filesystem::path, UpdateError>
 checkStaged(const std::filesystem::path& folder, const Bundle& running, const FeedItem& item,
             std::chrono::milliseconds timeout = versionTimeout);
