@@ -1,6 +1,6 @@
 // What recording one usage event costs when the queue is full; the window thread waits for it.
 #include "analytics/Analytics.h"
-#include "platform/EmptyPasteboard.h"
+#include "platform/Pasteboard.h"
 #include "platform/linux/LinuxPlatform.h"
 
 #include <benchmark/benchmark.h>

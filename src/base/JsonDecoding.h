@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 /// Reading the program's own files, all or nothing: a decoder takes what it needs from a JSON value
@@ -32,20 +33,28 @@ template <typename Decoder>
 /// The value as std::string, bool, double (any number) or std::int64_t (a number written without
 /// fraction or exponent).
 template <typename T>
-[[nodiscard]] T decodedAs(const Json& value);
-template <>
-std::string decodedAs(const Json& value);
-template <>
-bool decodedAs(const Json& value);
-template <>
-double decodedAs(const Json& value);
-template <>
-std::int64_t decodedAs(const Json& value);
+[[nodiscard]] T decodedAs(const Json& value) {
+    if constexpr (std::is_same_v<T, std::int64_t>) {
+        if (const auto integer = asInteger(value)) return *integer;
+    } else if constexpr (std::is_same_v<T, double>) {
+        if (value.is_number()) return value.get<double>();
+    } else if (const auto* stored = value.get_ptr<const T*>()) {
+        return *stored;
+    }
+    throw Undecodable{};
+}
 
 /// The object's value under the key; null when it is missing or JSON null.
-[[nodiscard]] const Json* presentMember(const Json& object, std::string_view key);
+[[nodiscard]] inline const Json* presentMember(const Json& object, std::string_view key) {
+    const Json* value = member(object, key);
+    return value && !value->is_null() ? value : nullptr;
+}
 /// The object's value under the key, which must be there.
-[[nodiscard]] const Json& requiredMember(const Json& object, std::string_view key);
+[[nodiscard]] inline const Json& requiredMember(const Json& object, std::string_view key) {
+    const Json* value = presentMember(object, key);
+    if (!value) throw Undecodable{};
+    return *value;
+}
 
 template <typename T>
 [[nodiscard]] std::optional<T> optionalField(const Json& object, std::string_view key) {

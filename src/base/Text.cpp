@@ -3,9 +3,8 @@
 #include "base/Graphemes.h"
 #include "base/Utf8.h"
 
+#include <QByteArray>
 #include <unicode/uchar.h>
-
-#include <algorithm>
 
 namespace quillon {
 
@@ -100,8 +99,8 @@ std::string validUtf8(std::string_view text) {
     valid.reserve(text.size());
     for (std::size_t offset = 0; offset < text.size();) {
         const std::size_t at = offset;
-        valid += nextCodePointOrError(text, offset) < 0 ? std::string_view{"\uFFFD"}
-                                                        : text.substr(at, offset - at);
+        valid += nextCodePoint(text, offset) == replacementCharacter ? std::string_view{"\uFFFD"}
+                                                                     : text.substr(at, offset - at);
     }
     return valid;
 }
@@ -123,35 +122,25 @@ std::vector<std::string_view> chunks(std::string_view text, TextLimit limit) {
 }
 
 std::string escapedHtml(std::string_view text) {
-    const auto isSpecial = [](char c) { return c == '&' || c == '<' || c == '>'; };
     std::string escaped;
     escaped.reserve(text.size() + text.size() / 8);
-    for (auto from = text.begin(); from != text.end();) {
-        const auto special = std::find_if(from, text.end(), isSpecial);
-        escaped.append(from, special);
-        if (special == text.end()) break;
-        switch (*special) {
-        case '&':
+    for (const char letter : text) {
+        if (letter == '&') {
             escaped += "&amp;";
-            break;
-        case '<':
+        } else if (letter == '<') {
             escaped += "&lt;";
-            break;
-        default:
+        } else if (letter == '>') {
             escaped += "&gt;";
-            break;
+        } else {
+            escaped += letter;
         }
-        from = special + 1;
     }
     return escaped;
 }
 
 std::string lowercasedAscii(std::string_view text) {
-    std::string lower{text};
-    for (char& letter : lower) {
-        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-    }
-    return lower;
+    const QByteArray bytes{text.data(), static_cast<qsizetype>(text.size())};
+    return bytes.toLower().toStdString();
 }
 
 } // namespace quillon

@@ -15,10 +15,10 @@ inline constexpr UChar32 replacementCharacter = 0xFFFD;
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wconversion"
 
-/// The code point at byte `offset`, which moves past it; negative for an invalid sequence.
-inline UChar32 nextCodePointOrError(std::string_view text, std::size_t& offset) {
+/// The code point at byte `offset`, which moves past it; U+FFFD for an invalid sequence.
+inline UChar32 nextCodePoint(std::string_view text, std::size_t& offset) {
     UChar32 codePoint = 0;
-    U8_NEXT(text.data(), offset, text.size(), codePoint);
+    U8_NEXT_OR_FFFD(text.data(), offset, text.size(), codePoint);
     return codePoint;
 }
 
@@ -32,11 +32,5 @@ inline UChar32 previousCodePoint(std::string_view text, std::size_t& offset) {
 }
 
 #pragma GCC diagnostic pop
-
-/// The code point at byte `offset`, which moves past it; U+FFFD for an invalid sequence.
-inline UChar32 nextCodePoint(std::string_view text, std::size_t& offset) {
-    const UChar32 codePoint = nextCodePointOrError(text, offset);
-    return codePoint < 0 ? replacementCharacter : codePoint;
-}
 
 } // namespace quillon

@@ -1,22 +1,16 @@
 #include "platform/Bundle.h"
 
-#include <algorithm>
+#include <QRegularExpression>
 
 namespace quillon {
 
 namespace {
 
-/// An identifier is a reverse domain name in ASCII.
-bool belongsInIdentifier(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '.' ||
-           c == '-';
-}
-
+/// Whether the text is a reverse domain name in ASCII.
 bool isUnmistakable(const std::string& identifier) {
-    return std::ranges::all_of(identifier, belongsInIdentifier) &&
-           identifier.find('.') != std::string::npos &&
-           identifier.find("..") == std::string::npos && !identifier.starts_with('.') &&
-           !identifier.ends_with('.');
+    static const QRegularExpression domain{
+        QRegularExpression::anchoredPattern(QStringLiteral("[A-Za-z0-9-]+(\\.[A-Za-z0-9-]+)+"))};
+    return domain.match(QString::fromStdString(identifier)).hasMatch();
 }
 
 } // namespace

@@ -14,9 +14,6 @@ public:
     /// A callback that is still to come; destroying this cancels it.
     class Timer {
     public:
-        Timer() = default;
-        Timer(const Timer&) = delete;
-        Timer& operator=(const Timer&) = delete;
         virtual ~Timer() = default;
     };
 

@@ -16,7 +16,7 @@ struct FileReading {
     };
     Outcome outcome = Outcome::unreadable;
     qint64 size = 0;
-    QByteArray bytes;
+    QByteArray bytes{};
 };
 
 /// Reads and writes files by path, whatever kind of item lies there. Thread-safe; errors are

@@ -15,9 +15,6 @@ public:
     /// A hot key that works until this is destroyed.
     class Registration {
     public:
-        Registration() = default;
-        Registration(const Registration&) = delete;
-        Registration& operator=(const Registration&) = delete;
         virtual ~Registration() = default;
     };
 

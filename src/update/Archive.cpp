@@ -12,7 +12,6 @@
 #include <cerrno>
 #include <memory>
 #include <set>
-#include <string>
 #include <utility>
 
 namespace quillon {
@@ -59,13 +58,6 @@ bool staysInside(const path& at, const path& target) {
     return true;
 }
 
-struct FreeReader {
-    void operator()(archive* reader) const { archive_read_free(reader); }
-};
-struct FreeWriter {
-    void operator()(archive* writer) const { archive_write_free(writer); }
-};
-
 /// Unpacks one archive into one folder.
 class Unpacking {
 public:
@@ -88,6 +80,9 @@ public:
     }
 
 private:
+    /// A reader or writer of the library, with the function that frees it.
+    using Owned = std::unique_ptr<archive, int (*)(archive*)>;
+
     bool open(std::string_view bytes) {
         constexpr int flags = ARCHIVE_EXTRACT_PERM | ARCHIVE_EXTRACT_TIME |
                               ARCHIVE_EXTRACT_NO_OVERWRITE | ARCHIVE_EXTRACT_SECURE_SYMLINKS |
@@ -204,8 +199,8 @@ private:
     path folder_;
     UnpackLimits limits_;
     const std::stop_token& stop_;
-    std::unique_ptr<archive, FreeReader> reader_{archive_read_new()};
-    std::unique_ptr<archive, FreeWriter> writer_{archive_write_disk_new()};
+    Owned reader_{archive_read_new(), archive_read_free};
+    Owned writer_{archive_write_disk_new(), archive_write_free};
     /// Paths of what was made so far, relative to the folder: everything but folders, and symbolic
     /// links only.
     std::set<path> files_;

@@ -2,18 +2,14 @@
 
 #include "platform/linux/desktop/LinuxBundle.h"
 #include "platform/linux/files/Descriptor.h"
-#include "platform/linux/files/Modes.h"
 #include "update/Errors.h"
 #include "update/ProgramOutput.h"
 #include "update/Version.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/stat.h>
 #include <sys/statvfs.h>
-#include <unistd.h>
 
-#include <cerrno>
 #include <cstdio>
 #include <system_error>
 #include <utility>
@@ -51,27 +47,18 @@ bool flush(const fs::path& path, int flags) {
     return file.isOpen() && ::fsync(file.number()) == 0;
 }
 
-/// Locks the application folder that is there now, so that only one process replaces it.
-class InstallationLock {
-public:
-    explicit InstallationLock(const fs::path& bundle)
-        : file_{::open(bundle.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)} {
-        if (!file_.isOpen()) {
-            error_ = fileError(errno);
-        } else if (::flock(file_.number(), LOCK_EX | LOCK_NB) != 0) {
-            error_ = errno == EWOULDBLOCK ? updateError(updateInstalling) : fileError(errno);
-        } else if (!isStillAt(bundle, file_.number())) {
-            // Another process has replaced it meanwhile.
-            error_ = updateError(updateInstalling);
-        }
-    }
-
-    [[nodiscard]] const std::optional<UpdateError>& error() const { return error_; }
-
-private:
-    Descriptor file_;
-    std::optional<UpdateError> error_;
-};
+/// Locks the application folder that is there now, so that only one process replaces it. The lock
+/// lasts as long as the result.
+std::variant<Descriptor, UpdateError> lockInstallation(const fs::path& bundle) {
+    constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    Descriptor file{::open(bundle.c_str(), flags)};
+    if (!file.isOpen()) return fileError(errno);
+    if (::flock(file.number(), LOCK_EX | LOCK_NB) != 0)
+        return errno == EWOULDBLOCK ? updateError(updateInstalling) : fileError(errno);
+    // Another process has replaced it meanwhile.
+    if (!isStillAt(bundle, file.number())) return updateError(updateInstalling);
+    return file;
+}
 
 /// The application folder in `folder`; empty if there is none, or if anything lies beside it.
 fs::path onlyApplication(const fs::path& folder) {
@@ -127,29 +114,21 @@ std::optional<UpdateError> objectionToUpdating(const fs::path& bundle) {
     return std::nullopt;
 }
 
-Staging makeStaging(const fs::path& bundle) {
-    Staging staging;
-    staging.error = objectionToUpdating(bundle);
-    if (staging.error) return staging;
+std::variant<std::shared_ptr<PrivateFolder>, UpdateError> makeStaging(const fs::path& bundle) {
+    if (auto error = objectionToUpdating(bundle)) return *std::move(error);
     auto folder = std::make_shared<PrivateFolder>(bundle.parent_path(), stagingPrefix);
-    if (!folder->isOpen()) {
-        staging.error = fileError(folder->error());
-    } else if (const int error = tryExchange(folder->path()); error != 0) {
-        staging.error = fileError(error);
-    } else {
-        staging.folder = std::move(folder);
-    }
-    return staging;
+    if (!folder->isOpen()) return fileError(folder->error());
+    if (const int error = tryExchange(folder->path()); error != 0) return fileError(error);
+    return folder;
 }
 
-StagedBundle checkStaged(const fs::path& folder, const Bundle& running, const FeedItem& item,
-                         std::chrono::milliseconds timeout) {
-    StagedBundle staged;
-    staged.path = onlyApplication(folder);
-    const int code = staged.path.empty()
-                         ? updateNoApplication
-                         : objectionTo(bundleAt(staged.path), running, item, timeout);
-    if (code != 0) staged.error = updateError(code);
+std::variant<fs::path, UpdateError> checkStaged(const fs::path& folder, const Bundle& running,
+                                                const FeedItem& item,
+                                                std::chrono::milliseconds timeout) {
+    fs::path staged = onlyApplication(folder);
+    if (staged.empty()) return updateError(updateNoApplication);
+    const int code = objectionTo(bundleAt(staged), running, item, timeout);
+    if (code != 0) return updateError(code);
     return staged;
 }
 
@@ -166,8 +145,8 @@ bool flushTree(const fs::path& folder) {
 }
 
 std::optional<UpdateError> install(const PreparedUpdate& update) {
-    const InstallationLock lock{update.bundle};
-    if (lock.error()) return lock.error();
+    const auto lock = lockInstallation(update.bundle);
+    if (const auto* error = std::get_if<UpdateError>(&lock)) return *error;
     const Bundle installed = bundleAt(update.bundle);
     if (std::is_lteq(compareVersions(update.item.version, comparedVersion(installed))))
         return updateError(updateInstalling);

@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <variant>
 
 namespace quillon {
 
@@ -39,31 +40,19 @@ struct PreparedUpdate {
 /// "AppTranslocation", 1003 on a read-only file system, 4012 if this user may not write. Quick.
 [[nodiscard]] std::optional<UpdateError> objectionToUpdating(const std::filesystem::path& bundle);
 
-/// A new folder beside the application, for its next version.
-struct Staging {
-    std::shared_ptr<PrivateFolder> folder;
-    /// The reason why there is no folder, or why the application could not be exchanged from there.
-    std::optional<UpdateError> error;
-};
+/// A new folder beside the application, for its next version. The error is objectionToUpdating's,
+/// or tells why there is no folder. A test exchanges two empty folders there: error 4000 if the
+/// file system cannot do that in one step. Quick.
+[[nodiscard]] std::variant<std::shared_ptr<PrivateFolder>, UpdateError>
+makeStaging(const std::filesystem::path& bundle);
 
-/// Makes the folder unless objectionToUpdating has a reason, and tests the exchange of two empty
-/// folders there: error 4000 if the file system cannot do that in one step. Quick.
-[[nodiscard]] Staging makeStaging(const std::filesystem::path& bundle);
-
-/// The application in a folder that an archive was unpacked into.
-struct StagedBundle {
-    std::filesystem::path path;
-    /// The reason why it must not be installed.
-    std::optional<UpdateError> error;
-};
-
-/// Checks that what was unpacked into `folder` can replace `running`: it is exactly one application
-/// folder, with the same identifier, the item's version and short version, newer than the running
-/// one, and its program starts and prints "quillon SHORTVERSION". Starts that program: not for the
-/// main thread.
-[[nodiscard]] StagedBundle checkStaged(const std::filesystem::path& folder, const Bundle& running,
-                                       const FeedItem& item,
-                                       std::chrono::milliseconds timeout = versionTimeout);
+/// The application that was unpacked into `folder`, or the reason why it must not replace
+/// `running`. It must be exactly one application folder, with the same identifier, the item's
+/// version and short version, newer than the running one, and its program must start and print
+/// "quillon SHORTVERSION". Starts that program: not for the main thread.
+[[nodiscard]] std::variant<std::filesystem::path, UpdateError>
+checkStaged(const std::filesystem::path& folder, const Bundle& running, const FeedItem& item,
+            std::chrono::milliseconds timeout = versionTimeout);
 
 /// The version for comparing: the bundle's "CFBundleVersion", else its short version.
 [[nodiscard]] std::string comparedVersion(const Bundle& bundle);

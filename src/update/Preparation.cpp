@@ -12,7 +12,6 @@
 #include <QCoro/QCoroFuture>
 #include <QtConcurrentRun>
 
-#include <array>
 #include <chrono>
 #include <memory>
 #include <utility>
@@ -30,24 +29,14 @@ constexpr int statusOk = 200;
 /// A server that sends a few bytes at a time must not keep the user waiting or delay later checks.
 constexpr std::chrono::seconds feedTimeout{60};
 
-/// The errors of downloads; the outcome "done" has none.
-struct Failure {
-    DownloadOutcome outcome;
-    int code;
-};
-constexpr std::array failures{
-    Failure{DownloadOutcome::failed, updateDownloadFailed},
-    Failure{DownloadOutcome::tooLarge, updateLengthWrong},
-    Failure{DownloadOutcome::unwritable, updateDownloadNotStored},
-    Failure{DownloadOutcome::stopped, updateCancelled},
-};
-
 std::optional<UpdateError> downloadError(DownloadOutcome outcome) {
-    if (outcome == DownloadOutcome::diskFull) return fileError(ENOSPC);
-    for (const Failure& failure : failures) {
-        if (failure.outcome == outcome) return updateError(failure.code);
-    }
-    return std::nullopt;
+    using enum DownloadOutcome;
+    if (outcome == done) return std::nullopt;
+    if (outcome == tooLarge) return updateError(updateLengthWrong);
+    if (outcome == unwritable) return updateError(updateDownloadNotStored);
+    if (outcome == diskFull) return fileError(ENOSPC);
+    if (outcome == stopped) return updateError(updateCancelled);
+    return updateError(updateDownloadFailed);
 }
 
 /// Everything that another thread needs to download and check an archive.
@@ -62,20 +51,14 @@ struct Delivery {
 
 using Prepared = std::variant<PreparedUpdate, UpdateError>;
 
-/// The error if the archive must not be unpacked.
-std::optional<UpdateError> objectionToArchive(const FileReading& archive,
-                                              const Delivery& delivery) {
-    if (archive.outcome != FileReading::Outcome::read || archive.size != delivery.item.length)
-        return updateError(updateLengthWrong);
-    if (!isSigned(asText(archive.bytes), delivery.item.signature, delivery.key))
-        return updateError(updateSignatureWrong);
-    return std::nullopt;
-}
-
-/// Unpacks the very bytes that were checked, because the file may have been replaced meanwhile.
+/// Unpacks the very bytes that it checks, because the file may be replaced meanwhile.
 std::optional<UpdateError> unpackChecked(const Delivery& delivery) {
-    const FileReading archive = PosixFileSystem{}.read(delivery.archive, delivery.item.length);
-    if (auto error = objectionToArchive(archive, delivery)) return error;
+    const FeedItem& item = delivery.item;
+    const FileReading archive = PosixFileSystem{}.read(delivery.archive, item.length);
+    if (archive.outcome != FileReading::Outcome::read || archive.size != item.length)
+        return updateError(updateLengthWrong);
+    if (!isSigned(asText(archive.bytes), item.signature, delivery.key))
+        return updateError(updateSignatureWrong);
     return unpack(asText(archive.bytes), delivery.staging, {}, delivery.stop);
 }
 
@@ -83,12 +66,12 @@ std::optional<UpdateError> unpackChecked(const Delivery& delivery) {
 Prepared stage(const Delivery& delivery) {
     const path& folder = delivery.staging;
     if (auto error = unpackChecked(delivery)) return std::move(*error);
-    StagedBundle staged = checkStaged(folder, delivery.running, delivery.item);
-    if (staged.error) return std::move(*staged.error);
+    auto staged = checkStaged(folder, delivery.running, delivery.item);
+    if (auto* error = std::get_if<UpdateError>(&staged)) return std::move(*error);
     if (!flushTree(folder)) return updateError(updateCopyFailed);
     if (delivery.stop.stop_requested()) return updateError(updateCancelled);
     return PreparedUpdate{.bundle = delivery.running.url,
-                          .staged = std::move(staged.path),
+                          .staged = std::get<path>(std::move(staged)),
                           .folder = {},
                           .item = delivery.item};
 }
@@ -102,56 +85,28 @@ int objectionTo(const FeedItem& item, const Bundle& running) {
     return 0;
 }
 
-/// Passes progress on for as long as its owner lives. What the transport reports after the end of
-/// the download is dropped.
-class ProgressReport {
-public:
-    ProgressReport(std::function<void(UpdateProgress)> listener, qint64 length)
-        : state_{std::make_shared<State>()} {
-        state_->listener = std::move(listener);
-        state_->progress.total = length;
-    }
-
-    [[nodiscard]] std::function<void(qint64, qint64)> ofDownload() const {
-        return [weak = std::weak_ptr{state_}](qint64 received, qint64 /*total*/) {
-            const auto state = weak.lock();
-            if (!state || state->progress.stage != UpdateProgress::Stage::downloading) return;
-            state->progress.received = received;
-            tell(*state);
-        };
-    }
-    void unpacking() const {
-        state_->progress.stage = UpdateProgress::Stage::unpacking;
-        state_->progress.received = state_->progress.total;
-        tell(*state_);
-    }
-
-private:
-    struct State {
-        std::function<void(UpdateProgress)> listener;
-        UpdateProgress progress;
-    };
-
-    static void tell(const State& state) {
-        if (state.listener) state.listener(state.progress);
-    }
-
-    std::shared_ptr<State> state_;
-};
-
 /// Downloads and checks what `delivery` describes.
-QCoro::Task<Prepared> deliver(Platform& platform, Delivery delivery, ProgressReport report) {
+QCoro::Task<Prepared> deliver(Platform& platform, Delivery delivery,
+                              std::function<void(UpdateProgress)> progress) {
+    const qint64 total = delivery.item.length;
+    // What the transport reports after the end of the download, or of this task, is dropped.
+    auto listener = std::make_shared<std::function<void(UpdateProgress)>>(progress);
     HttpDownload download;
     download.url = delivery.item.url;
     download.file = delivery.archive;
-    download.maximumSize = delivery.item.length;
-    download.progress = report.ofDownload();
+    download.maximumSize = total;
+    download.progress = [heard = std::weak_ptr{listener}, total](qint64 received, qint64) {
+        const auto tell = heard.lock();
+        if (tell && *tell) (*tell)({.received = received, .total = total});
+    };
     download.stop = delivery.stop;
     const QFuture<DownloadOutcome> downloading = platform.http.download(std::move(download));
     const DownloadOutcome outcome = co_await downloading;
+    listener.reset();
     if (const auto error = downloadError(outcome)) co_return *error;
 
-    report.unpacking();
+    if (progress)
+        progress({.stage = UpdateProgress::Stage::unpacking, .received = total, .total = total});
     const QFuture<Prepared> preparing = QtConcurrent::run(stage, std::move(delivery));
     co_return co_await preparing;
 }
@@ -182,30 +137,30 @@ QCoro::Task<Prepared> prepareUpdate(Platform& platform, FeedItem item,
     if (const int code = objectionTo(item, running); code != 0) co_return updateError(code);
 
     // This comes before the download, so that nothing is fetched in vain.
-    const Staging staging = makeStaging(running.url);
-    if (staging.error) co_return *staging.error;
+    const auto staging = makeStaging(running.url);
+    if (const auto* error = std::get_if<UpdateError>(&staging)) co_return *error;
+    const auto& folder = std::get<std::shared_ptr<PrivateFolder>>(staging);
     const path cache = platform.folders.cache / running.folderName();
     if (!platform.files.createFolder(cache)) co_return updateError(updateDownloadNotStored);
     const PrivateFolder downloads{cache, downloadPrefix};
     if (!downloads.isOpen()) co_return updateError(updateDownloadNotStored);
 
-    const ProgressReport report{std::move(progress), item.length};
     Delivery delivery{.running = running,
                       .item = std::move(item),
                       .key = parsePublicKey(running.text(publicKeyName).value_or("")).value(),
                       .archive = downloads.path() / "archive",
-                      .staging = staging.folder->path(),
+                      .staging = folder->path(),
                       .stop = std::move(stop)};
-    QCoro::Task<Prepared> delivering = deliver(platform, std::move(delivery), report);
+    QCoro::Task<Prepared> delivering = deliver(platform, std::move(delivery), std::move(progress));
     Prepared prepared = co_await delivering;
 
     // The owners of the folders would remove them too, but on this thread.
     const QFuture<void> removing = QtConcurrent::run(discardTree, downloads.path());
     co_await removing;
     if (auto* update = std::get_if<PreparedUpdate>(&prepared)) {
-        update->folder = staging.folder;
+        update->folder = folder;
     } else {
-        const QFuture<void> undoing = QtConcurrent::run(discardTree, staging.folder->path());
+        const QFuture<void> undoing = QtConcurrent::run(discardTree, folder->path());
         co_await undoing;
     }
     co_return std::move(prepared);

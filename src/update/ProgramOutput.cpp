@@ -13,7 +13,6 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <utility>
 
 namespace quillon {
 

@@ -1,6 +1,6 @@
 #include "platform/linux/LinuxPlatform.h"
 
-#include "platform/EmptyPasteboard.h"
+#include "platform/Pasteboard.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
 

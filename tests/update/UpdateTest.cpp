@@ -150,8 +150,9 @@ TEST_F(UpdateTest, ObjectsToThePlace) {
     EXPECT_EQ(objectionToUpdating("/private/AppTranslocation/X/d/Quillon.app").value().code, 1005);
     ::chmod(computer.home().c_str(), 0755);
     ::chmod(applications.c_str(), 0555);
-    EXPECT_TRUE(asNobody([this] { return makeStaging(bundle).error.value().code == 4012; }))
-        << "a folder of others";
+    EXPECT_TRUE(asNobody([this] {
+        return std::get<UpdateError>(makeStaging(bundle)).code == 4012;
+    })) << "a folder of others";
     ::chmod(applications.c_str(), 0755);
 }
 
@@ -197,7 +198,7 @@ TEST_F(UpdateTest, DoesNotWaitForAProgramThatHangs) {
     offer("x");
     const auto begin = std::chrono::steady_clock::now();
     const auto staged = checkStaged(folder, computer.platform.bundle, item, 200ms);
-    EXPECT_EQ(staged.error, updateError(updateDoesNotRun));
+    EXPECT_EQ(std::get<UpdateError>(staged), updateError(updateDoesNotRun));
     EXPECT_LT(std::chrono::steady_clock::now() - begin, 5s);
 }
 
@@ -228,10 +229,10 @@ TEST_F(UpdateTest, LeavesOneWorkingVersionWhenKilled) {
         PreparedUpdate update;
         update.bundle = bundle;
         update.item = item;
-        update.folder = makeStaging(bundle).folder;
+        update.folder = std::get<std::shared_ptr<PrivateFolder>>(makeStaging(bundle));
         const fs::path& folder = update.folder->path();
         std::ignore = unpack(archive, folder);
-        update.staged = checkStaged(folder, computer.platform.bundle, item).path;
+        update.staged = std::get<fs::path>(checkStaged(folder, computer.platform.bundle, item));
         if (flushTree(update.staged)) std::ignore = install(update);
     };
     std::chrono::milliseconds limit = 0ms;

@@ -1,6 +1,5 @@
 #include "platform/linux/Desktop.h"
 
-#include "platform/EmptyPasteboard.h"
 #include "platform/linux/Application.h"
 #include "platform/linux/x11/X11Compositor.h"
 #include "platform/linux/x11/X11HotKeys.h"
@@ -9,21 +8,6 @@
 #include <QApplication>
 
 namespace quillon {
-
-namespace {
-
-/// Has Qt work on the X server, where the banner and the shortcut are, even if the desktop offers
-/// Wayland as well; unless the user wants it otherwise.
-void preferX11() {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
-}
-
-std::unique_ptr<HotKeys> openHotKeys() {
-    if (auto hotKeys = X11HotKeys::open(nullptr)) return hotKeys;
-    return std::make_unique<NoHotKeys>();
-}
-
-} // namespace
 
 std::optional<Desktop> openDesktop(DesktopNeeds needs) {
     Desktop desktop{.application = {},
@@ -37,11 +21,14 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
     // Before the application, which would end the process where no X server answers.
     desktop.pasteboard = X11Pasteboard::open(nullptr);
     if (!desktop.pasteboard) return std::nullopt;
-    preferX11();
+    // Qt is to work on the X server, where the banner and the shortcut are, even if the desktop
+    // offers Wayland as well; unless the user wants it otherwise.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
     desktop.application = makeApplication<QApplication>();
     QApplication::setQuitOnLastWindowClosed(false);
     desktop.compositor = std::make_unique<X11Compositor>();
-    if (needs == DesktopNeeds::everything) desktop.hotKeys = openHotKeys();
+    if (needs == DesktopNeeds::clipboardAndBanner) return desktop;
+    if (auto hotKeys = X11HotKeys::open(nullptr)) desktop.hotKeys = std::move(hotKeys);
     return desktop;
 }
 

@@ -3,9 +3,9 @@
 #include "platform/linux/files/PosixFileSystem.h"
 
 #include <QLocale>
+#include <QVersionNumber>
 
 #include <array>
-#include <cstdio>
 
 #include <sys/utsname.h>
 
@@ -20,14 +20,12 @@ constexpr qint64 maximumNameSize = 4096;
 constexpr std::array productNameFiles{"/sys/class/dmi/id/product_name",
                                       "/sys/firmware/devicetree/base/model"};
 
-/// "6.1.0-18-amd64" gives "6.1.0".
+/// "6.1.0-18-amd64" gives "6.1.0". Missing numbers are 0.
 std::string threeNumbers(const char* release) {
-    unsigned major = 0;
-    unsigned minor = 0;
-    unsigned patch = 0;
-    // Missing numbers stay 0. NOLINTNEXTLINE(cert-err34-c)
-    std::sscanf(release, "%u.%u.%u", &major, &minor, &patch);
-    return std::to_string(major) + '.' + std::to_string(minor) + '.' + std::to_string(patch);
+    const auto number = QVersionNumber::fromString(QLatin1String{release});
+    return QVersionNumber{number.majorVersion(), number.minorVersion(), number.microVersion()}
+        .toString()
+        .toStdString();
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "platform/Appearance.h"
 
-#include <QString>
 #include <QVariant>
 
 #include <map>

@@ -109,14 +109,6 @@ std::optional<std::string> DesktopEntry::value(std::string_view key) const {
     return std::string{withoutBlanks(text.substr(text.find('=') + 1))};
 }
 
-bool DesktopEntry::isTrue(std::string_view key) const {
-    return value(key) == "true";
-}
-
-bool DesktopEntry::isFalse(std::string_view key) const {
-    return value(key) == "false";
-}
-
 void DesktopEntry::set(std::string_view key, std::string_view value) {
     const auto last =
         std::find_if(lines_.rbegin(), lines_.rend(), [](const Line& line) { return line.inGroup; });

@@ -19,10 +19,6 @@ public:
     /// The raw value, as it is written; none if the key is missing. If a key comes twice, the last
     /// one counts.
     [[nodiscard]] std::optional<std::string> value(std::string_view key) const;
-    /// Whether the key's value is true.
-    [[nodiscard]] bool isTrue(std::string_view key) const;
-    /// Whether the key's value is false. A missing key is not.
-    [[nodiscard]] bool isFalse(std::string_view key) const;
 
     /// Gives the key this raw value; a new key goes to the end of the group. Nothing happens in a
     /// file without the group.

@@ -4,7 +4,6 @@
 
 #include <QXmlStreamReader>
 
-#include <algorithm>
 #include <system_error>
 
 namespace quillon {

@@ -62,7 +62,8 @@ XdgLoginItem::XdgLoginItem(const Folders& folders, path executable)
 LoginItem::Status XdgLoginItem::status() const {
     const auto entry = readEntry(file_);
     if (!entry) return Status::notRegistered;
-    if (entry->isTrue("Hidden") || entry->isFalse(gnomeSwitch)) return Status::requiresApproval;
+    if (entry->value("Hidden") == "true" || entry->value(gnomeSwitch) == "false")
+        return Status::requiresApproval;
     return findsProgram(*entry) ? Status::enabled : Status::notFound;
 }
 

@@ -1,7 +1,5 @@
 #include "platform/linux/files/Descriptor.h"
 
-#include <sys/stat.h>
-
 namespace quillon {
 
 bool isStillAt(const std::filesystem::path& path, int file) {

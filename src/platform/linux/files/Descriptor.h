@@ -5,9 +5,14 @@
 #include <string_view>
 #include <utility>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace quillon {
+
+// Files and folders that the program makes are accessible to their owner alone.
+inline constexpr mode_t ownersFile = S_IRUSR | S_IWUSR; // 0600
+inline constexpr mode_t ownersFolder = S_IRWXU;         // 0700
 
 /// Repeats a system call for as long as a signal interrupts it.
 template <typename Call>

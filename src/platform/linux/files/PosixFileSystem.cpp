@@ -2,15 +2,11 @@
 
 #include "base/Bytes.h"
 #include "platform/linux/files/Descriptor.h"
-#include "platform/linux/files/Modes.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -26,10 +22,7 @@ using std::filesystem::path;
 constexpr size_t probeSize = 4096;
 
 FileReading failed(FileReading::Outcome outcome, qint64 size = 0) {
-    FileReading reading;
-    reading.outcome = outcome;
-    reading.size = size;
-    return reading;
+    return {.outcome = outcome, .size = size};
 }
 
 /// The outcome for a file that must not be read because of its kind or size; none if it may be.
@@ -44,31 +37,28 @@ std::optional<FileReading> objection(const struct stat& status, qint64 limit) {
 /// Reads to the end of the file, which may lie beyond its claimed size: files below /proc claim to
 /// be empty, and others grow meanwhile.
 FileReading readAll(int file, qint64 size, qint64 limit) {
-    FileReading reading;
-    reading.bytes = QByteArray{size, Qt::Uninitialized};
+    QByteArray bytes{size, Qt::Uninitialized};
     qsizetype used = 0;
     std::array<char, probeSize> probe;
     for (;;) {
         // The read beyond the expected end must not make a big file's buffer grow, so it has its
         // own.
-        const bool full = used == reading.bytes.size();
-        char* target = full ? probe.data() : reading.bytes.data() + used;
-        const auto room = full ? probe.size() : static_cast<size_t>(reading.bytes.size() - used);
+        const bool full = used == bytes.size();
+        char* target = full ? probe.data() : bytes.data() + used;
+        const auto room = full ? probe.size() : static_cast<size_t>(bytes.size() - used);
         const ssize_t count = uninterrupted([&] { return ::read(file, target, room); });
         if (count < 0) return failed(FileReading::Outcome::unreadable);
         if (count == 0) break;
         used += count;
-        if (full) reading.bytes.append(probe.data(), count);
+        if (full) bytes.append(probe.data(), count);
         if (used > limit) {
             struct stat status {};
             ::fstat(file, &status);
             return failed(FileReading::Outcome::tooBig, std::max<qint64>(used, status.st_size));
         }
     }
-    reading.bytes.truncate(used);
-    reading.size = used;
-    reading.outcome = FileReading::Outcome::read;
-    return reading;
+    bytes.truncate(used);
+    return {.outcome = FileReading::Outcome::read, .size = used, .bytes = bytes};
 }
 
 /// Whether the path holds a regular file or nothing, so that a file may be written there.

@@ -1,7 +1,6 @@
 #include "platform/linux/files/Trash.h"
 
 #include "platform/linux/files/Descriptor.h"
-#include "platform/linux/files/Modes.h"
 #include "platform/linux/files/TreeCopy.h"
 
 #include <QByteArray>
@@ -12,7 +11,6 @@
 
 #include <fcntl.h>
 #include <linux/limits.h>
-#include <sys/stat.h>
 
 namespace quillon {
 

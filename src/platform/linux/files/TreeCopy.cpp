@@ -1,6 +1,5 @@
 #include "platform/linux/files/TreeCopy.h"
 
-#include "platform/linux/files/Modes.h"
 #include "platform/linux/files/Place.h"
 
 #include <array>
@@ -12,7 +11,6 @@
 
 #include <linux/limits.h>
 #include <sys/sendfile.h>
-#include <sys/stat.h>
 #include <sys/xattr.h>
 
 namespace quillon {

@@ -1,7 +1,5 @@
 #include "platform/linux/http/CurlDownload.h"
 
-#include "platform/linux/files/Modes.h"
-
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -18,9 +16,9 @@ constexpr long statusOk = 200;
 
 CurlDownload::CurlDownload(HttpDownload download, std::uint64_t listener,
                            std::function<void()> wake)
-    : CurlTransfer{download.url, download.inactivityTimeout, listener},
-      download_{std::move(download)},
-      onStop_{download_.stop, std::move(wake)} {
+    : CurlTransfer{download.url, download.inactivityTimeout, listener, download.stop,
+                   std::move(wake)},
+      download_{std::move(download)} {
     promise_.start();
 }
 

@@ -5,7 +5,6 @@
 
 #include <QPromise>
 
-#include <functional>
 #include <optional>
 
 namespace quillon {
@@ -13,14 +12,12 @@ namespace quillon {
 /// A download from a server to a file.
 class CurlDownload final : public CurlTransfer {
 public:
-    /// `wake` is called, on any thread, when a stop is requested.
     CurlDownload(HttpDownload download, std::uint64_t listener, std::function<void()> wake);
 
     [[nodiscard]] QFuture<DownloadOutcome> future() const { return promise_.future(); }
 
     /// Counts the received bytes.
     [[nodiscard]] Progress progress() const override;
-    [[nodiscard]] bool isStopped() const override { return download_.stop.stop_requested(); }
     void finish(CURLcode code) override;
 
 private:
@@ -34,7 +31,6 @@ private:
     /// A failure on this side, as opposed to the network or the server.
     std::optional<DownloadOutcome> trouble_;
     QPromise<DownloadOutcome> promise_;
-    std::stop_callback<std::function<void()>> onStop_;
 };
 
 } // namespace quillon

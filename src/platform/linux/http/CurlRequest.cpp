@@ -1,8 +1,9 @@
 #include "platform/linux/http/CurlRequest.h"
 
+#include <QByteArrayView>
+
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <utility>
 
 namespace quillon {
@@ -16,11 +17,9 @@ constexpr long uploadBufferSize = 512L * 1024;
 
 CurlRequest::CurlRequest(Method method, HttpRequest request, std::uint64_t listener,
                          std::function<void()> wake)
-    : CurlTransfer{request.url, request.inactivityTimeout, listener},
+    : CurlTransfer{request.url, request.inactivityTimeout, listener, request.stop, std::move(wake)},
       method_{method},
-      request_{std::move(request)},
-      stop_{request_.stop},
-      onStop_{stop_, std::move(wake)} {
+      request_{std::move(request)} {
     if (method_ == Method::get) request_.body.clear();
     for (const QByteArray& piece : request_.body)
         total_ += piece.size();
@@ -74,7 +73,6 @@ CurlTransfer::Progress CurlRequest::progress() const {
 
 void CurlRequest::finish(CURLcode code) {
     request_ = {};
-    piece_ = offset_ = 0;
     std::optional<HttpReply> reply;
     if (code == CURLE_OK) {
         reply_.status = static_cast<int>(status());
@@ -86,20 +84,17 @@ void CurlRequest::finish(CURLcode code) {
 
 size_t CurlRequest::readBody(char* target, size_t /*one*/, size_t count, void* self) {
     auto& transfer = *static_cast<CurlRequest*>(self);
-    const std::vector<QByteArray>& body = transfer.request_.body;
-    const auto room = static_cast<qsizetype>(count);
-    qsizetype filled = 0;
-    while (filled < room && transfer.piece_ < static_cast<qsizetype>(body.size())) {
-        const QByteArray& piece = body[static_cast<size_t>(transfer.piece_)];
-        const qsizetype step = std::min(room - filled, piece.size() - transfer.offset_);
-        std::memcpy(target + filled, piece.constData() + transfer.offset_,
-                    static_cast<size_t>(step));
-        filled += step;
-        transfer.offset_ += step;
-        if (transfer.offset_ < piece.size()) continue;
-        ++transfer.piece_;
-        transfer.offset_ = 0;
+    const auto room = static_cast<qint64>(count);
+    qint64 filled = 0;
+    qint64 skip = transfer.taken_;
+    for (const QByteArray& piece : transfer.request_.body) {
+        const QByteArrayView rest = QByteArrayView{piece}.sliced(std::min(skip, piece.size()));
+        const auto part = rest.first(std::min(rest.size(), room - filled));
+        std::ranges::copy(part, target + filled);
+        filled += part.size();
+        skip -= piece.size() - rest.size();
     }
+    transfer.taken_ += filled;
     return static_cast<size_t>(filled);
 }
 
@@ -108,15 +103,8 @@ int CurlRequest::seekBody(void* self, curl_off_t offset, int origin) {
     if (origin != SEEK_SET || offset < 0 || offset > transfer.total_) return CURL_SEEKFUNC_FAIL;
     // libcurl seeks back to repeat a request whose reused connection broke. A request that went out
     // completely may have been carried out, and a message must not arrive twice.
-    const bool wentOut = transfer.piece_ == static_cast<qsizetype>(transfer.request_.body.size());
-    if (wentOut) return CURL_SEEKFUNC_FAIL;
-    transfer.piece_ = 0;
-    transfer.offset_ = static_cast<qsizetype>(offset);
-    for (const QByteArray& piece : transfer.request_.body) {
-        if (transfer.offset_ < piece.size()) break;
-        transfer.offset_ -= piece.size();
-        ++transfer.piece_;
-    }
+    if (transfer.taken_ == transfer.total_) return CURL_SEEKFUNC_FAIL;
+    transfer.taken_ = offset;
     return CURL_SEEKFUNC_OK;
 }
 

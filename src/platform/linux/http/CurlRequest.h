@@ -4,9 +4,6 @@
 
 #include <QPromise>
 
-#include <functional>
-#include <stop_token>
-
 namespace quillon {
 
 /// A request whose reply is kept in memory, with the buffers libcurl reads from and writes to.
@@ -14,7 +11,6 @@ class CurlRequest final : public CurlTransfer {
 public:
     enum class Method { post, get };
 
-    /// `wake` is called, on any thread, when a stop is requested.
     CurlRequest(Method method, HttpRequest request, std::uint64_t listener,
                 std::function<void()> wake);
 
@@ -22,7 +18,6 @@ public:
 
     /// Counts the sent bytes of the body.
     [[nodiscard]] Progress progress() const override;
-    [[nodiscard]] bool isStopped() const override { return stop_.stop_requested(); }
     void finish(CURLcode code) override;
 
 private:
@@ -40,13 +35,10 @@ private:
     Method method_;
     HttpRequest request_;
     qint64 total_ = 0;
-    qsizetype piece_ = 0;
-    qsizetype offset_ = 0;
+    qint64 taken_ = 0; ///< bytes of the body that libcurl has taken
     HttpReply reply_;
     QPromise<std::optional<HttpReply>> promise_;
     std::unique_ptr<curl_slist, FreeList> headers_;
-    std::stop_token stop_;
-    std::stop_callback<std::function<void()>> onStop_;
 };
 
 } // namespace quillon

@@ -40,10 +40,12 @@ std::string hostOf(const std::string& url) {
 } // namespace
 
 CurlTransfer::CurlTransfer(std::string url, std::chrono::milliseconds inactivityTimeout,
-                           std::uint64_t listener)
+                           std::uint64_t listener, std::stop_token stop, std::function<void()> wake)
     : url_{std::move(url)},
       inactivityTimeout_{inactivityTimeout},
-      listener_{listener} {}
+      listener_{listener},
+      stop_{std::move(stop)},
+      onStop_{stop_, std::move(wake)} {}
 
 bool CurlTransfer::prepare(const CurlTransportOptions& options) {
     movedAt_ = std::chrono::steady_clock::now();

@@ -5,7 +5,9 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <stop_token>
 #include <string>
 
 namespace quillon {
@@ -42,7 +44,7 @@ public:
     [[nodiscard]] virtual Progress progress() const = 0;
 
     /// Whether a stop was requested.
-    [[nodiscard]] virtual bool isStopped() const { return false; }
+    [[nodiscard]] bool isStopped() const { return stop_.stop_requested(); }
 
     /// Releases the request's bytes and finishes the future, as a success only if libcurl reports
     /// one. The handle must be taken out of the multi handle afterwards.
@@ -53,8 +55,9 @@ public:
     qint64 told = -1;
 
 protected:
+    /// `wake` is called, on any thread, when a stop is requested.
     CurlTransfer(std::string url, std::chrono::milliseconds inactivityTimeout,
-                 std::uint64_t listener);
+                 std::uint64_t listener, std::stop_token stop, std::function<void()> wake);
 
     /// Sets the options of this kind of transfer; false if libcurl refuses them.
     virtual bool describe(const CurlTransportOptions& options) = 0;
@@ -76,9 +79,11 @@ private:
     std::string url_;
     std::chrono::milliseconds inactivityTimeout_;
     std::uint64_t listener_;
+    std::stop_token stop_;
     std::unique_ptr<CURL, FreeHandle> handle_;
     std::uint64_t movement_ = 0;
     Moment movedAt_;
+    std::stop_callback<std::function<void()>> onStop_;
 };
 
 } // namespace quillon

@@ -80,8 +80,8 @@ public:
         {
             const std::lock_guard lock{mutex_};
             stopping_ = true;
-            if (multi_) curl().multi_wakeup(multi_);
         }
+        wake();
         thread_.join();
     }
 
@@ -231,36 +231,27 @@ CurlTransport::CurlTransport(CurlTransportOptions options)
 
 CurlTransport::~CurlTransport() = default;
 
-std::uint64_t CurlTransport::listen(std::function<void(qint64, qint64)>& progress) {
-    auto listener = std::exchange(progress, nullptr);
-    return listener ? listeners_->add(std::move(listener)) : 0;
-}
-
-template <typename Transfer>
-auto CurlTransport::start(std::unique_ptr<Transfer> transfer) {
+template <typename Transfer, typename Request>
+auto CurlTransport::start(Request request, auto... kind) {
+    auto progress = std::exchange(request.progress, nullptr);
+    const std::uint64_t listener = progress ? listeners_->add(std::move(progress)) : 0;
+    auto transfer = std::make_unique<Transfer>(kind..., std::move(request), listener,
+                                               [worker = worker_.get()] { worker->wake(); });
     auto future = transfer->future();
     worker_->add(std::move(transfer));
     return future;
 }
 
 QFuture<std::optional<HttpReply>> CurlTransport::post(HttpRequest request) {
-    const std::uint64_t listener = listen(request.progress);
-    return start(std::make_unique<CurlRequest>(CurlRequest::Method::post, std::move(request),
-                                               listener,
-                                               [worker = worker_.get()] { worker->wake(); }));
+    return start<CurlRequest>(std::move(request), CurlRequest::Method::post);
 }
 
 QFuture<std::optional<HttpReply>> CurlTransport::get(HttpRequest request) {
-    const std::uint64_t listener = listen(request.progress);
-    return start(std::make_unique<CurlRequest>(CurlRequest::Method::get, std::move(request),
-                                               listener,
-                                               [worker = worker_.get()] { worker->wake(); }));
+    return start<CurlRequest>(std::move(request), CurlRequest::Method::get);
 }
 
 QFuture<DownloadOutcome> CurlTransport::download(HttpDownload download) {
-    const std::uint64_t listener = listen(download.progress);
-    return start(std::make_unique<CurlDownload>(std::move(download), listener,
-                                                [worker = worker_.get()] { worker->wake(); }));
+    return start<CurlDownload>(std::move(download));
 }
 
 } // namespace quillon

@@ -2,7 +2,6 @@
 
 #include "platform/HttpTransport.h"
 
-#include <cstdint>
 #include <filesystem>
 #include <memory>
 
@@ -36,10 +35,8 @@ private:
     class ProgressListeners;
     class Worker;
 
-    /// Takes over the callback and returns its number; 0 if there is none.
-    std::uint64_t listen(std::function<void(qint64, qint64)>& progress);
-    template <typename Transfer>
-    auto start(std::unique_ptr<Transfer> transfer);
+    template <typename Transfer, typename Request>
+    auto start(Request request, auto... kind);
 
     std::unique_ptr<ProgressListeners> listeners_;
     std::unique_ptr<Worker> worker_;

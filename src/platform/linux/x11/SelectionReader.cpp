@@ -207,11 +207,8 @@ void SelectionReader::retireWindow() {
 }
 
 void SelectionReader::handleEvents() {
-    for (;;) {
-        const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())};
-        if (!event) return;
+    while (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())})
         handle(*event);
-    }
 }
 
 void SelectionReader::handle(const xcb_generic_event_t& event) {

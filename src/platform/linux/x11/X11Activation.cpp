@@ -2,7 +2,6 @@
 
 #include "platform/linux/x11/X11Connection.h"
 
-#include <QGuiApplication>
 #include <QWindow>
 
 #include <algorithm>

@@ -9,7 +9,9 @@ namespace quillon {
 /// windows. To be made after the application object.
 class X11Compositor : public Compositor {
 public:
-    [[nodiscard]] bool active() const override;
+    [[nodiscard]] bool active() const override {
+        return !manager_.isFollowed() || manager_.isOwned();
+    }
 
 private:
     X11ManagerSelection manager_{"_NET_WM_CM"};

@@ -52,7 +52,10 @@ public:
     Grab(X11HotKeys& owner, PhysicalKey key) : owner_{owner}, key_{key} {}
     Grab(const Grab&) = delete;
     Grab& operator=(const Grab&) = delete;
-    ~Grab() override { owner_.unregister(key_); }
+    ~Grab() override {
+        owner_.ungrab(key_);
+        owner_.keys_.erase(key_);
+    }
 
 private:
     X11HotKeys& owner_;
@@ -121,11 +124,6 @@ void X11HotKeys::ungrab(PhysicalKey key) {
     xcb_flush(connection_->get());
 }
 
-void X11HotKeys::unregister(PhysicalKey key) {
-    ungrab(key);
-    keys_.erase(key);
-}
-
 void X11HotKeys::followKeyboard() {
     auto now = X11Keyboard::read(connection_->get());
     if (!now) return;
@@ -159,8 +157,9 @@ void X11HotKeys::takeEventsSoon() {
 
 bool X11HotKeys::take(const xcb_generic_event_t& event) {
     const int type = event.response_type & eventTypeMask;
-    if (type == XCB_KEY_PRESS) pressed(reinterpret_cast<const xcb_key_press_event_t&>(event));
-    if (type == XCB_KEY_RELEASE) released(reinterpret_cast<const xcb_key_press_event_t&>(event));
+    const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(event);
+    if (type == XCB_KEY_PRESS) pressed(key);
+    if (type == XCB_KEY_RELEASE && held_ == key.detail) held_.reset();
     return type == xkbEvent_ || type == XCB_MAPPING_NOTIFY;
 }
 
@@ -174,10 +173,6 @@ void X11HotKeys::pressed(const xcb_key_press_event_t& event) {
     held_ = event.detail;
     lastPress_ = event.time;
     if (!repeats && handler_) handler_();
-}
-
-void X11HotKeys::released(const xcb_key_press_event_t& event) {
-    if (held_ == event.detail) held_.reset();
 }
 
 } // namespace quillon

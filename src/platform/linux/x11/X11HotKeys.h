@@ -21,10 +21,6 @@ public:
     /// its server has no XKB.
     [[nodiscard]] static std::unique_ptr<X11HotKeys> open(const char* display);
 
-    X11HotKeys(const X11HotKeys&) = delete;
-    X11HotKeys& operator=(const X11HotKeys&) = delete;
-    ~X11HotKeys() override = default;
-
     void installHandler(std::function<void()> handler) override;
     /// Waits for the server's answer. Also refuses a key that is registered already.
     [[nodiscard]] std::unique_ptr<Registration> registerHotKey(PhysicalKey key) override;
@@ -36,7 +32,6 @@ private:
 
     [[nodiscard]] bool grab(PhysicalKey key);
     void ungrab(PhysicalKey key);
-    void unregister(PhysicalKey key);
     /// Reads the keyboard again and moves the grabs to where the keys are now.
     void followKeyboard();
 
@@ -45,7 +40,6 @@ private:
     /// True if the event announces a change of the keyboard.
     [[nodiscard]] bool take(const xcb_generic_event_t& event);
     void pressed(const xcb_key_press_event_t& event);
-    void released(const xcb_key_press_event_t& event);
 
     std::unique_ptr<X11Connection> connection_;
     std::vector<xcb_window_t> roots_;

@@ -42,8 +42,8 @@ QFuture<T> X11Pasteboard::request(Read read) {
     promise->start();
     {
         const std::lock_guard lock{mutex_};
-        jobs_.push([promise, read = std::move(read)](SelectionReader* reader) {
-            promise->addResult(reader != nullptr ? read(*reader) : T{});
+        jobs_.push([this, promise, read = std::move(read)] {
+            promise->addResult(read(reader_));
             promise->finish();
         });
     }
@@ -61,22 +61,21 @@ std::optional<X11Pasteboard::Job> X11Pasteboard::nextJob() {
 
 void X11Pasteboard::run(const std::stop_token& stop) {
     reader_.stopOn(stop);
-    while (!stop.stop_requested() && connection_->alive()) {
+    for (bool alive = true;;) {
         reader_.handleEvents();
+        if (alive && !connection_->alive()) {
+            alive = false;
+            ++changes_; // the server is gone, so the clipboard is empty now
+        }
+        // Without a server, or once stopped, the reader has an empty answer at once.
         if (const auto job = nextJob()) {
-            (*job)(&reader_);
+            (*job)();
+        } else if (stop.stop_requested()) {
+            return;
         } else {
             connection_->sleep({});
         }
     }
-    ++changes_; // the server is gone, so the clipboard is empty now
-    while (!stop.stop_requested()) {
-        while (const auto job = nextJob())
-            (*job)(nullptr);
-        connection_->sleep({});
-    }
-    while (const auto job = nextJob())
-        (*job)(nullptr);
 }
 
 } // namespace quillon

@@ -30,8 +30,7 @@ public:
     [[nodiscard]] QFuture<std::optional<QByteArray>> data(std::string format) override;
 
 private:
-    /// A job is called with null if nothing can be read any more.
-    using Job = std::function<void(SelectionReader*)>;
+    using Job = std::function<void()>;
 
     explicit X11Pasteboard(std::unique_ptr<X11Connection> connection);
     template <typename T, typename Read>

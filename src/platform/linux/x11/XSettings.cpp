@@ -2,7 +2,6 @@
 
 #include <QDataStream>
 
-#include <optional>
 #include <utility>
 
 namespace quillon {
