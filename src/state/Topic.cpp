@@ -29,3 +29,12 @@ Topic topicFor(const std::vector<Topic>& topics, TopicKind kind) {
 }
 
 } // namespace quillon
+
+std::size_t std::hash<quillon::Topic>::operator()(const quillon::Topic& topic) const noexcept {
+    std::size_t seed = std::hash<std::string>{}(topic.key);
+    const auto mix = [&seed](std::size_t value) { seed = seed * 31 + value; };
+    mix(std::hash<std::string>{}(topic.name));
+    mix(std::hash<std::int64_t>{}(topic.color));
+    mix(std::hash<std::optional<std::int64_t>>{}(topic.threadId));
+    return seed;
+}

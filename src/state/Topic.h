@@ -3,6 +3,7 @@
 #include "state/TopicKind.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,3 +39,8 @@ struct Topic {
 [[nodiscard]] Topic topicFor(const std::vector<Topic>& topics, TopicKind kind);
 
 } // namespace quillon
+
+template <>
+struct std::hash<quillon::Topic> {
+    std::size_t operator()(const quillon::Topic& topic) const noexcept;
+};
