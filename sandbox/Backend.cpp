@@ -35,19 +35,9 @@ bool isToken(std::string_view token) {
     if (colon == std::string_view::npos || colon == 0 || colon + 1 == token.size() ||
         token.size() > longestToken || token.front() == '0')
         return false;
-    const auto digit = [](char c) { return c >= '0' && c <= '9'; };
-    const auto secret = [&](char c) {
-        return digit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '-' || c == '_';
-    };
-    const auto middle = token.begin() + static_cast<std::ptrdiff_t>(colon);
-    return std::all_of(token.begin(), middle, digit) &&
-           std::all_of(middle + 1, token.end(), secret);
-}
-
-HttpReply errorReply(const ApiError& error) {
-    Json body{{"ok", false}, {"error_code", error.code}, {"description", error.what()}};
-    if (!error.parameters.is_null()) body["parameters"] = error.parameters;
-    return {error.code, "application/json", dumped(body)};
+    const auto secret = [](char c) { return isDigit(c) || isLetter(c) || c == '-' || c == '_'; };
+    return std::ranges::all_of(token.substr(0, colon), isDigit) &&
+           std::ranges::all_of(token.substr(colon + 1), secret);
 }
 
 RequestRecord begunRecord(const HttpRequest& request, const std::string& faultName) {
@@ -69,9 +59,7 @@ std::optional<std::string> Backend::methodOf(std::string_view path) {
     const auto bot = botPath(path);
     if (!bot) return std::nullopt;
     // Anything else there may be a token, by a client's mistake, and must not be logged.
-    const auto letter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
-    const bool name = std::all_of(bot->method.begin(), bot->method.end(), letter);
-    return name ? bot->method : "(no method)";
+    return std::ranges::all_of(bot->method, isLetter) ? bot->method : "(no method)";
 }
 
 HttpReply Backend::serve(HttpRequest& request, const std::string& faultName) {
@@ -84,14 +72,12 @@ HttpReply Backend::serve(HttpRequest& request, const std::string& faultName) {
     return reply;
 }
 
-HttpReply Backend::serveBot(HttpRequest& request, RequestRecord& record) {
-    try {
-        const Json result = call(request, record);
-        return {200, "application/json", dumped(Json{{"ok", true}, {"result", result}})};
-    } catch (const ApiError& error) {
-        record.error = error.what();
-        return errorReply(error);
-    }
+HttpReply Backend::serveBot(HttpRequest& request, RequestRecord& record) try {
+    const Json result = call(request, record);
+    return {200, "application/json", dumped(Json{{"ok", true}, {"result", result}})};
+} catch (const ApiError& error) {
+    record.error = error.what();
+    return errorReply(error);
 }
 
 Json Backend::call(HttpRequest& request, RequestRecord& record) {

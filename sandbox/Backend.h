@@ -8,7 +8,6 @@
 #include "sandbox/World.h"
 
 #include <condition_variable>
-#include <functional>
 #include <mutex>
 #include <optional>
 #include <string>

@@ -10,7 +10,6 @@
 #include <array>
 #include <memory>
 #include <stdexcept>
-#include <utility>
 
 namespace quillon::sandbox {
 
@@ -30,12 +29,6 @@ using Extension = std::unique_ptr<X509_EXTENSION, Freer<X509_EXTENSION_free>>;
 
 void require(bool success) {
     if (!success) throw std::runtime_error{"cannot make a certificate"};
-}
-
-Key makeKey() {
-    Key key{EVP_EC_gen("P-256")};
-    require(key != nullptr);
-    return key;
 }
 
 void extend(X509* certificate, int kind, const char* value) {
@@ -79,7 +72,8 @@ std::filesystem::path writePem(X509* certificate) {
 } // namespace
 
 Certificate::Certificate() : context_{boost::asio::ssl::context::tls_server} {
-    const Key key = makeKey();
+    const Key key{EVP_EC_gen("P-256")};
+    require(key != nullptr);
     const Certified certificate = certify(key.get());
     SSL_CTX* const raw = context_.native_handle();
     require(SSL_CTX_use_certificate(raw, certificate.get()) == 1 &&

@@ -1,15 +1,16 @@
 #include "sandbox/Connection.h"
 
+#include "sandbox/ApiError.h"
+
 #include <boost/beast/http/status.hpp>
 
 #include <poll.h>
 
-#include <algorithm>
-#include <utility>
-
 namespace quillon::sandbox {
 
 namespace {
+
+constexpr std::chrono::hours longestHang{1};
 
 std::string reason(int status) {
     const auto known = boost::beast::http::int_to_status(static_cast<unsigned>(status));
@@ -27,13 +28,10 @@ void Connection::run() {
 }
 
 bool Connection::exchange() {
-    using Outcome = RequestReader::Outcome;
     HttpRequest request;
     request.connection = number_;
-    const Outcome header = reader_.readHeader(request);
-    if (header == Outcome::malformed) return refuse(400, "Bad Request");
-    if (header == Outcome::tooLarge) return refuse(413, "Request Entity Too Large");
-    if (header == Outcome::closed) return false;
+    const auto header = reader_.readHeader(request);
+    if (header != RequestReader::Outcome::ready) return refuse(header);
     closing_ = !reader_.keepAlive();
     const auto method = Backend::methodOf(request.path);
     const auto fault = method ? backend_.faults.takeForCall(*method) : std::nullopt;
@@ -43,10 +41,8 @@ bool Connection::exchange() {
         broken_ = true;
         return false;
     }
-    const Outcome body = reader_.readBody(request);
-    if (body == Outcome::malformed) return refuse(400, "Bad Request");
-    if (body == Outcome::tooLarge) return refuse(413, "Request Entity Too Large");
-    if (body == Outcome::closed) return false;
+    const auto body = reader_.readBody(request);
+    if (body != RequestReader::Outcome::ready) return refuse(body);
     const bool open = fault ? answerWithFault(request, *fault) : send(backend_.serve(request));
     reader_.recycle(request);
     return open;
@@ -58,7 +54,7 @@ bool Connection::answerWithFault(HttpRequest& request, const Fault& fault) {
         backend_.record(request, fault.name(), true, standIn ? standIn->status : 0);
         request.finish();
         if (standIn) return send(*standIn);
-        if (fault.kind == FaultKind::hang) hang();
+        if (fault.kind == FaultKind::hang) pause(longestHang);
         return false;
     }
     const HttpReply reply = backend_.serve(request, fault.name());
@@ -71,10 +67,13 @@ bool Connection::answerWithFault(HttpRequest& request, const Fault& fault) {
 
 // The rest of the request is not parsed, so the connection cannot be used again. Closing it with
 // unread bytes would reset it and lose the reply, so bytes that still arrive are read and dropped.
-bool Connection::refuse(int status, std::string_view description) {
+bool Connection::refuse(RequestReader::Outcome outcome) {
+    if (outcome == RequestReader::Outcome::closed) return false;
+    const bool tooLarge = outcome == RequestReader::Outcome::tooLarge;
     closing_ = true;
-    const Json body{{"ok", false}, {"error_code", status}, {"description", description}};
-    if (!send({status, "application/json", dumped(body)})) return false;
+    if (!send(errorReply(tooLarge ? ApiError{413, "Request Entity Too Large"}
+                                  : ApiError{400, "Bad Request"})))
+        return false;
     channel_.close();
     std::string dropped(64UL * 1024, '\0');
     while (channel_.read(dropped.data(), dropped.size()) > 0) {
@@ -88,10 +87,6 @@ std::string Connection::onTheWire(const HttpReply& reply) const {
                         "\r\nContent-Length: " + std::to_string(reply.body.size()) +
                         "\r\nConnection: " + (closing_ ? "close" : "keep-alive") + "\r\n\r\n";
     return bytes + reply.body;
-}
-
-bool Connection::send(const HttpReply& reply) {
-    return channel_.write(onTheWire(reply));
 }
 
 // Sends the header and half of the body.
@@ -115,11 +110,6 @@ bool Connection::trickle(const HttpReply& reply, std::chrono::milliseconds betwe
 bool Connection::pause(std::chrono::milliseconds duration) {
     pollfd descriptor{channel_.descriptor(), POLLRDHUP, 0};
     return poll(&descriptor, 1, static_cast<int>(duration.count())) == 0;
-}
-
-void Connection::hang() {
-    constexpr std::chrono::hours longest{1};
-    pause(longest);
 }
 
 } // namespace quillon::sandbox

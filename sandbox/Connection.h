@@ -5,7 +5,6 @@
 #include "sandbox/Channel.h"
 #include "sandbox/RequestReader.h"
 
-#include <optional>
 #include <string>
 
 namespace quillon::sandbox {
@@ -24,13 +23,12 @@ public:
 private:
     bool exchange();
     bool answerWithFault(HttpRequest& request, const Fault& fault);
-    bool refuse(int status, std::string_view description);
-    bool send(const HttpReply& reply);
+    bool refuse(RequestReader::Outcome outcome);
+    bool send(const HttpReply& reply) { return channel_.write(onTheWire(reply)); }
     void sendPart(const HttpReply& reply);
     bool trickle(const HttpReply& reply, std::chrono::milliseconds pause);
     std::string onTheWire(const HttpReply& reply) const;
     bool pause(std::chrono::milliseconds duration);
-    void hang();
 
     Channel& channel_;
     Backend& backend_;

@@ -11,14 +11,6 @@ namespace quillon::sandbox {
 
 namespace {
 
-HttpReply json(const Json& body) {
-    return {200, "application/json", dumped(body, 2) + '\n'};
-}
-
-HttpReply done() {
-    return json({{"ok", true}});
-}
-
 BotRole roleNamed(const std::string& name) {
     static const std::map<std::string, BotRole> roles{
         {"absent", BotRole::absent},         {"kicked", BotRole::kicked},
@@ -36,143 +28,133 @@ Chat& groupOf(World& world, const Json& in) {
     return world.knownChat(world.chats().back().id);
 }
 
-using Page = HttpReply (*)(Backend& backend, const Json& in);
-
-HttpReply viewPage(Backend& backend, const Json&) {
-    return {200, "text/plain; charset=utf-8", backend.withWorld(viewText)};
-}
-
-HttpReply viewJsonPage(Backend& backend, const Json&) {
-    return json(backend.withWorld(viewJson));
-}
-
-HttpReply requestsPage(Backend& backend, const Json&) {
-    Json list = Json::array();
-    for (const RequestRecord& record : backend.log.records())
-        list.push_back(toJson(record));
-    return json(list);
-}
-
-HttpReply clearRequestsPage(Backend& backend, const Json&) {
-    backend.log.clear();
-    return done();
-}
-
-// What Fault::fromJson takes.
-HttpReply failPage(Backend& backend, const Json& in) {
-    backend.faults.add(Fault::fromJson(in));
-    return done();
-}
-
-HttpReply clearFaultsPage(Backend& backend, const Json&) {
-    backend.faults.clear();
-    return done();
-}
+const Json done{{"ok", true}};
 
 // {"text":"hi","group":…,"topic":…}; with "token" instead of "group" in the bot's private chat.
-HttpReply saysPage(Backend& backend, const Json& in) {
-    return json(backend.withWorld([&](World& world) -> Json {
-        const auto text = in.value("text", std::string{"hi"});
-        if (!in.contains("token")) {
-            return {{"message_id",
-                     world.userSays(groupOf(world, in), text, in.value("topic", std::int64_t{0}))}};
-        }
-        Bot* const bot = world.bot(in["token"].get<std::string>());
-        if (bot == nullptr) throw std::out_of_range{"no such bot"};
-        return {{"message_id", world.userSaysTo(*bot, text)}};
-    }));
+Json says(World& world, const Json& in) {
+    const auto text = in.value("text", std::string{"hi"});
+    if (!in.contains("token")) {
+        const auto topic = in.value("topic", std::int64_t{0});
+        return {{"message_id", world.userSays(groupOf(world, in), text, topic)}};
+    }
+    Bot* const bot = world.bot(in["token"].get<std::string>());
+    if (bot == nullptr) throw std::out_of_range{"no such bot"};
+    return {{"message_id", world.userSaysTo(*bot, text)}};
 }
 
 // {"title":"Family","id":…,"type":"supergroup" or "group","forum":true,"role":"topic-admin"}
-HttpReply groupPage(Backend& backend, const Json& in) {
+Json addGroup(World& world, const Json& in) {
     GroupOptions options;
     options.title = in.value("title", options.title);
     options.id = in.value("id", options.id);
     options.forum = in.value("forum", options.forum);
     if (in.value("type", std::string{}) == "group") options.kind = ChatKind::group;
     options.bot = roleNamed(in.value("role", std::string{"topic-admin"}));
-    return json(backend.withWorld([&](World& world) {
-        return Json{{"id", world.addGroup(options).id}};
-    }));
+    return {{"id", world.addGroup(options).id}};
 }
 
 // {"group":…,"title":…,"forum":…,"role":…}: changes what is given.
-HttpReply changeGroupPage(Backend& backend, const Json& in) {
-    backend.withWorld([&](World& world) {
-        Chat& chat = groupOf(world, in);
-        chat.title = in.value("title", chat.title);
-        chat.forum = in.value("forum", chat.forum);
-        if (in.contains("role")) world.setRoleOfAll(chat, roleNamed(in["role"]));
-    });
-    return done();
+Json changeGroup(World& world, const Json& in) {
+    Chat& chat = groupOf(world, in);
+    chat.title = in.value("title", chat.title);
+    chat.forum = in.value("forum", chat.forum);
+    if (in.contains("role")) world.setRoleOfAll(chat, roleNamed(in["role"]));
+    return done;
 }
 
 // {"group":…,"forum":true}
-HttpReply migratePage(Backend& backend, const Json& in) {
-    return json(backend.withWorld([&](World& world) {
-        return Json{{"id", world.migrate(groupOf(world, in), in.value("forum", true)).id}};
-    }));
+Json migrate(World& world, const Json& in) {
+    return {{"id", world.migrate(groupOf(world, in), in.value("forum", true)).id}};
 }
 
 // {"group":…,"topic":…}
-HttpReply deleteTopicPage(Backend& backend, const Json& in) {
-    backend.withWorld([&](World& world) {
-        world.deleteTopic(groupOf(world, in), in.at("topic").get<std::int64_t>());
-    });
-    return done();
+Json deleteTopic(World& world, const Json& in) {
+    world.deleteTopic(groupOf(world, in), in.at("topic").get<std::int64_t>());
+    return done;
 }
 
 // {"token":…,"username":…}
-HttpReply botPage(Backend& backend, const Json& in) {
-    backend.withWorld([&](World& world) {
-        world.addBot(in.at("token").get<std::string>(), in.value("username", std::string{}));
-    });
-    return done();
+Json addBot(World& world, const Json& in) {
+    world.addBot(in.at("token").get<std::string>(), in.value("username", std::string{}));
+    return done;
 }
 
-HttpReply eventsPage(Backend& backend, const Json&) {
+Json requests(Backend& backend, const Json&) {
+    Json list = Json::array();
+    for (const RequestRecord& record : backend.log.records())
+        list.push_back(toJson(record));
+    return list;
+}
+
+Json clearRequests(Backend& backend, const Json&) {
+    backend.log.clear();
+    return done;
+}
+
+// What Fault::fromJson takes.
+Json fail(Backend& backend, const Json& in) {
+    backend.faults.add(Fault::fromJson(in));
+    return done;
+}
+
+Json clearFaults(Backend& backend, const Json&) {
+    backend.faults.clear();
+    return done;
+}
+
+Json events(Backend& backend, const Json&) {
     Json list = Json::array();
     for (const EventsRecord& record : backend.events())
         list.push_back({{"headers", record.headers}, {"body", record.body}});
-    return json(list);
+    return list;
 }
 
 // {"status":503}; to let deliveries hang, POST /sandbox/fail with the method "events".
-HttpReply eventsStatusPage(Backend& backend, const Json& in) {
+Json setEventsStatus(Backend& backend, const Json& in) {
     backend.setEventsStatus(in.at("status").get<int>());
-    return done();
+    return done;
+}
+
+// A page over the world is called under its lock.
+template <Json (*Page)(World&, const Json&)>
+Json locked(Backend& backend, const Json& in) {
+    return backend.withWorld([&](World& world) { return Page(world, in); });
 }
 
 struct Route {
     std::string_view verb;
     std::string_view path;
-    Page page;
+    Json (*page)(Backend& backend, const Json& in);
 };
 
 constexpr std::array routes{
-    Route{"GET", "/sandbox/view", viewPage},
-    Route{"GET", "/sandbox/view.json", viewJsonPage},
-    Route{"GET", "/sandbox/requests", requestsPage},
-    Route{"POST", "/sandbox/requests/clear", clearRequestsPage},
-    Route{"POST", "/sandbox/fail", failPage},
-    Route{"POST", "/sandbox/fail/clear", clearFaultsPage},
-    Route{"POST", "/sandbox/says", saysPage},
-    Route{"POST", "/sandbox/group", groupPage},
-    Route{"POST", "/sandbox/group/change", changeGroupPage},
-    Route{"POST", "/sandbox/group/migrate", migratePage},
-    Route{"POST", "/sandbox/topics/delete", deleteTopicPage},
-    Route{"POST", "/sandbox/bot", botPage},
-    Route{"GET", "/sandbox/events", eventsPage},
-    Route{"POST", "/sandbox/events/status", eventsStatusPage},
+    Route{"GET", "/sandbox/view.json",
+          [](Backend& backend, const Json&) { return backend.withWorld(viewJson); }},
+    Route{"GET", "/sandbox/requests", requests},
+    Route{"POST", "/sandbox/requests/clear", clearRequests},
+    Route{"POST", "/sandbox/fail", fail},
+    Route{"POST", "/sandbox/fail/clear", clearFaults},
+    Route{"POST", "/sandbox/says", locked<says>},
+    Route{"POST", "/sandbox/group", locked<addGroup>},
+    Route{"POST", "/sandbox/group/change", locked<changeGroup>},
+    Route{"POST", "/sandbox/group/migrate", locked<migrate>},
+    Route{"POST", "/sandbox/topics/delete", locked<deleteTopic>},
+    Route{"POST", "/sandbox/bot", locked<addBot>},
+    Route{"GET", "/sandbox/events", events},
+    Route{"POST", "/sandbox/events/status", setEventsStatus},
 };
 
 } // namespace
 
 HttpReply serveControl(Backend& backend, const HttpRequest& request) try {
     const std::string_view body = request.body.view();
+    if (request.verb == "GET" && request.path == "/sandbox/view")
+        return {200, "text/plain; charset=utf-8", backend.withWorld(viewText)};
     for (const Route& route : routes) {
-        if (route.path == request.path && route.verb == request.verb)
-            return route.page(backend, body.empty() ? Json::object() : Json::parse(body));
+        if (route.path == request.path && route.verb == request.verb) {
+            const Json in = body.empty() ? Json::object() : Json::parse(body);
+            return {200, "application/json", dumped(route.page(backend, in), 2) + '\n'};
+        }
     }
     return {404, "application/json", "{\"error\":\"no such page\"}\n"};
 } catch (const std::exception& error) {

@@ -1,10 +1,10 @@
 #include "sandbox/Fault.h"
 
+#include "sandbox/ApiError.h"
 #include "sandbox/Text.h"
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <stdexcept>
 #include <utility>
 
@@ -12,31 +12,18 @@ namespace quillon::sandbox {
 
 namespace {
 
-using Setter = void (*)(Fault& fault, const Json& value);
-
 struct Field {
     std::string_view name;
     std::string_view meaning;
-    Setter set;
 };
 
 constexpr std::array fields{
-    Field{"count", "how many calls it meets (default: 1)",
-          [](Fault& fault, const Json& value) { fault.count = value.get<int>(); }},
-    Field{"method", R"(only calls of this method; "events" for usage events)",
-          [](Fault& fault, const Json& value) { fault.method = value.get<std::string>(); }},
-    Field{"delay_ms", "milliseconds (default: 500)",
-          [](Fault& fault, const Json& value) {
-              fault.delay = std::chrono::milliseconds{value.get<std::int64_t>()};
-          }},
-    Field{"status", "the HTTP status (default: 200)",
-          [](Fault& fault, const Json& value) { fault.status = value.get<int>(); }},
-    Field{"retry_after", "seconds (default: 1)",
-          [](Fault& fault, const Json& value) { fault.retryAfter = value.get<int>(); }},
-    Field{"body", "the reply's text, or JSON to be sent as it is",
-          [](Fault& fault, const Json& value) {
-              fault.body = value.is_string() ? value.get<std::string>() : dumped(value);
-          }},
+    Field{"count", "how many calls it meets (default: 1)"},
+    Field{"method", R"(only calls of this method; "events" for usage events)"},
+    Field{"delay_ms", "milliseconds (default: 500)"},
+    Field{"status", "the HTTP status (default: 200)"},
+    Field{"retry_after", "seconds (default: 1)"},
+    Field{"body", "the reply's text, or JSON to be sent as it is"},
 };
 
 struct Kind {
@@ -46,7 +33,7 @@ struct Kind {
     std::array<std::string_view, 4> fields{"count", "method"};
 
     [[nodiscard]] bool takes(std::string_view field) const {
-        return std::find(fields.begin(), fields.end(), field) != fields.end();
+        return !field.empty() && std::ranges::find(fields, field) != fields.end();
     }
 };
 
@@ -75,20 +62,9 @@ constexpr std::array kinds{
 };
 
 const Kind& kindNamed(const std::string& name) {
-    const auto* const found = std::find_if(kinds.begin(), kinds.end(),
-                                           [&](const Kind& kind) { return kind.name == name; });
+    const auto* const found = std::ranges::find(kinds, name, &Kind::name);
     if (found == kinds.end()) throw std::invalid_argument{"unknown fault kind \"" + name + '"'};
     return *found;
-}
-
-void setField(Fault& fault, const Kind& kind, const std::string& name, const Json& value) {
-    const auto* const found = std::find_if(fields.begin(), fields.end(),
-                                           [&](const Field& field) { return field.name == name; });
-    if (found == fields.end() || !kind.takes(name)) {
-        throw std::invalid_argument{"the fault kind \"" + std::string{kind.name} +
-                                    "\" has no field \"" + name + '"'};
-    }
-    found->set(fault, value);
 }
 
 std::string helpLine(std::string_view name, std::string_view meaning) {
@@ -112,22 +88,29 @@ HttpReply hugeReply() {
 }
 
 HttpReply floodReply(int seconds) {
-    const Json body{{"ok", false},
-                    {"error_code", 429},
-                    {"description", "Too Many Requests: retry after " + std::to_string(seconds)},
-                    {"parameters", {{"retry_after", seconds}}}};
-    return {429, "application/json", dumped(body)};
+    return errorReply({429,
+                       "Too Many Requests: retry after " + std::to_string(seconds),
+                       {{"retry_after", seconds}}});
 }
 
 } // namespace
 
 Fault Fault::fromJson(const Json& json) {
     const Kind& kind = kindNamed(json.value("kind", std::string{}));
+    for (const auto& [name, value] : json.items()) {
+        if (name == "kind" || kind.takes(name)) continue;
+        throw std::invalid_argument{"the fault kind \"" + std::string{kind.name} +
+                                    "\" has no field \"" + name + '"'};
+    }
     Fault fault;
     fault.kind = kind.kind;
-    for (const auto& [name, value] : json.items()) {
-        if (name != "kind") setField(fault, kind, name, value);
-    }
+    fault.count = json.value("count", fault.count);
+    fault.method = json.value("method", fault.method);
+    fault.delay = std::chrono::milliseconds{json.value("delay_ms", fault.delay.count())};
+    fault.status = json.value("status", fault.status);
+    fault.retryAfter = json.value("retry_after", fault.retryAfter);
+    const Json body = json.value("body", Json(""));
+    fault.body = body.is_string() ? body.get<std::string>() : dumped(body);
     return fault;
 }
 
@@ -148,9 +131,7 @@ std::string Fault::help() {
 }
 
 std::string Fault::name() const {
-    const auto* const found = std::find_if(
-        kinds.begin(), kinds.end(), [this](const Kind& entry) { return entry.kind == kind; });
-    return std::string{found->name};
+    return std::string{std::ranges::find(kinds, kind, &Kind::kind)->name};
 }
 
 std::optional<HttpReply> Fault::reply() const {
@@ -187,7 +168,7 @@ void FaultBox::clear() {
 template <typename Applies>
 std::optional<Fault> FaultBox::take(const Applies& applies) {
     const std::lock_guard lock{mutex_};
-    const auto found = std::find_if(faults_.begin(), faults_.end(), applies);
+    const auto found = std::ranges::find_if(faults_, applies);
     if (found == faults_.end()) return std::nullopt;
     Fault fault = *found;
     if (--found->count <= 0) faults_.erase(found);

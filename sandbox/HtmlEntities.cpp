@@ -25,12 +25,6 @@ const std::map<std::string, std::string, std::less<>> entityOfTag{
 bool isSpace(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-bool isLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
 
 struct OpenTag {
     std::string name;
@@ -45,10 +39,8 @@ public:
 
     FormattedText read() {
         while (position_ < html_.size()) {
-            if (html_[position_] == '&') {
-                text_ += characterReference();
-            } else if (html_[position_] != '<') {
-                text_ += html_[position_++];
+            if (html_[position_] != '<') {
+                text_ += readCharacter();
             } else if (at(position_ + 1) == '/') {
                 readEndTag();
             } else {
@@ -71,8 +63,23 @@ private:
             ++position_;
     }
 
+    // Reads up to white space or one of `ends`.
+    std::string_view readWord(std::string_view ends) {
+        const std::size_t begin = position_;
+        while (position_ < html_.size() && !isSpace(html_[position_]) &&
+               ends.find(html_[position_]) == std::string_view::npos)
+            ++position_;
+        return html_.substr(begin, position_ - begin);
+    }
+
     [[noreturn]] static void fail(const std::string& what, std::size_t offset) {
         throw EntityError{what + " at byte offset " + std::to_string(offset)};
+    }
+
+    // Reads one byte of text or a reference.
+    std::string readCharacter() {
+        if (html_[position_] == '&') return characterReference();
+        return {html_[position_++]};
     }
 
     // Reads one of the four named references or a numeric one; the semicolon may be missing. An
@@ -115,11 +122,8 @@ private:
 
     void readStartTag() {
         const std::size_t begin = position_++;
-        while (position_ < html_.size() && !isSpace(html_[position_]) && html_[position_] != '>')
-            ++position_;
+        OpenTag tag{lowered(readWord(">")), text_.size(), {}, false};
         if (position_ >= html_.size()) fail("Unclosed start tag", begin);
-        OpenTag tag{
-            lowered(html_.substr(begin + 1, position_ - begin - 1)), text_.size(), {}, false};
         if (!entityOfTag.contains(tag.name))
             fail("Unsupported start tag \"" + tag.name + '"', begin);
         readAttributes(tag, begin);
@@ -133,7 +137,6 @@ private:
         for (skipSpace(); at(position_) != '>'; skipSpace()) {
             if (position_ >= html_.size()) fail("Unclosed start tag", begin);
             const auto [name, value] = readAttribute(tag, begin);
-            if (position_ >= html_.size()) fail("Unclosed start tag", begin);
             if (tag.name == "a" && name == "href") tag.argument = value;
             if (tag.name == "code" && name == "class" && value.starts_with("language-"))
                 tag.argument = value.substr(std::string_view{"language-"}.size());
@@ -145,11 +148,7 @@ private:
     }
 
     std::pair<std::string, std::string> readAttribute(const OpenTag& tag, std::size_t begin) {
-        const std::size_t nameBegin = position_;
-        while (position_ < html_.size() && !isSpace(html_[position_]) && html_[position_] != '=' &&
-               html_[position_] != '>')
-            ++position_;
-        std::string name{html_.substr(nameBegin, position_ - nameBegin)};
+        std::string name{readWord("=>")};
         if (name.empty()) fail("Empty attribute name in the tag \"" + tag.name + '"', begin);
         skipSpace();
         if (at(position_) != '=') {
@@ -177,13 +176,8 @@ private:
             return lowered(value);
         }
         ++position_;
-        while (position_ < html_.size() && html_[position_] != quote) {
-            if (html_[position_] == '&') {
-                value += characterReference();
-            } else {
-                value += html_[position_++];
-            }
-        }
+        while (position_ < html_.size() && html_[position_] != quote)
+            value += readCharacter();
         if (position_ < html_.size()) ++position_;
         return value;
     }
@@ -192,9 +186,7 @@ private:
         const std::size_t begin = position_;
         if (open_.empty()) fail("Unexpected end tag", begin);
         position_ += 2;
-        while (position_ < html_.size() && !isSpace(html_[position_]) && html_[position_] != '>')
-            ++position_;
-        const std::string name = lowered(html_.substr(begin + 2, position_ - begin - 2));
+        const std::string name = lowered(readWord(">"));
         skipSpace();
         if (at(position_) != '>') fail("Unclosed end tag", begin);
         ++position_;
@@ -226,7 +218,7 @@ private:
 
     // Nothing may be nested in a pre block, but a code tag that fills it sets its language.
     void absorbInner(Entity& pre) {
-        const bool filled = std::any_of(entities_.begin(), entities_.end(), [&](const Entity& e) {
+        const bool filled = std::ranges::any_of(entities_, [&](const Entity& e) {
             return e.type == "code" && e.begin == pre.begin && e.end == pre.end;
         });
         if (filled) pre.argument = std::exchange(language_, {});
@@ -238,8 +230,8 @@ private:
     }
 
     std::vector<Entity> inOrder() {
-        std::reverse(entities_.begin(), entities_.end());
-        std::stable_sort(entities_.begin(), entities_.end(), [](const Entity& a, const Entity& b) {
+        std::ranges::reverse(entities_);
+        std::ranges::stable_sort(entities_, [](const Entity& a, const Entity& b) {
             return a.begin != b.begin ? a.begin < b.begin : a.end > b.end;
         });
         return std::move(entities_);

@@ -25,8 +25,7 @@ struct FormattedText {
 };
 
 /// The message continues "Bad Request: can't parse entities: ".
-class EntityError : public std::runtime_error {
-public:
+struct EntityError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 

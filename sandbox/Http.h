@@ -17,6 +17,7 @@ namespace quillon::sandbox {
 struct Body {
     std::unique_ptr<char[]> bytes;
     std::size_t size = 0;
+    std::size_t capacity = 0; ///< of the memory
 
     std::string_view view() const { return {bytes.get(), size}; }
 };

@@ -24,7 +24,9 @@ void HttpServer::stop() {
     acceptThread_.join();
     acceptor_.reset();
     dropConnections();
-    reap(true);
+    std::list<Client> ending; // their threads are joined without the lock, which they need
+    const std::lock_guard lock{mutex_};
+    ending.swap(clients_);
 }
 
 void HttpServer::dropConnections() {
@@ -47,11 +49,11 @@ void HttpServer::acceptAll() {
             channel->reset();
             continue;
         }
-        reap(false);
         const std::lock_guard lock{mutex_};
+        clients_.remove_if([](const Client& old) { return old.ended; });
         Client& client = clients_.emplace_back();
         client.channel = std::move(channel);
-        client.thread = std::thread{[this, &client, number] { serve(client, number); }};
+        client.thread = std::jthread{[this, &client, number] { serve(client, number); }};
     }
 }
 
@@ -60,20 +62,6 @@ void HttpServer::serve(Client& client, int number) {
     const std::lock_guard lock{mutex_};
     client.channel.reset();
     client.ended = true;
-}
-
-void HttpServer::reap(bool all) {
-    std::list<Client> ended;
-    {
-        const std::lock_guard lock{mutex_};
-        for (auto client = clients_.begin(); client != clients_.end();) {
-            const auto next = std::next(client);
-            if (all || client->ended) ended.splice(ended.end(), clients_, client);
-            client = next;
-        }
-    }
-    for (Client& client : ended)
-        client.thread.join();
 }
 
 } // namespace quillon::sandbox

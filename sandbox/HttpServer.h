@@ -40,13 +40,12 @@ public:
 private:
     struct Client {
         std::unique_ptr<Channel> channel;
-        std::thread thread;
         bool ended = false;
+        std::jthread thread; ///< the last member, so that it is joined before the others go
     };
 
     void acceptAll();
     void serve(Client& client, int number);
-    void reap(bool all);
 
     Backend& backend_;
     Certificate* certificate_;

@@ -39,13 +39,12 @@ Json photoJson(const Chat& chat, const Message& message) {
             return std::max(1, static_cast<int>(value * scale));
         };
         const std::string id = fileId(chat, message, std::string_view{&letter, 1});
+        const double bytes = static_cast<double>(message.size) * scale * scale;
         sizes.push_back({{"file_id", id},
                          {"file_unique_id", id},
-                         {"file_size", static_cast<double>(message.size) * scale * scale},
+                         {"file_size", static_cast<std::int64_t>(bytes)},
                          {"width", scaled(message.width)},
                          {"height", scaled(message.height)}});
-        sizes.back()["file_size"] =
-            static_cast<std::int64_t>(sizes.back()["file_size"].get<double>());
         if (longest <= side) break;
     }
     return sizes;
@@ -102,9 +101,7 @@ Json World::messageJson(const Chat& chat, const Message& message, bool withReply
     if (message.topic != 0) {
         json["message_thread_id"] = message.topic;
         // A message in a topic is a reply to the message that made the topic.
-        const auto first =
-            std::find_if(chat.messages.begin(), chat.messages.end(),
-                         [&](const Message& candidate) { return candidate.id == message.topic; });
+        const auto first = std::ranges::find(chat.messages, message.topic, &Message::id);
         if (withReply && first != chat.messages.end() && first->id != message.id)
             json["reply_to_message"] = messageJson(chat, *first, false);
     }

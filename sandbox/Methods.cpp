@@ -42,7 +42,7 @@ Json getUpdates(MethodCall& call) {
 }
 
 Json getChat(MethodCall& call) {
-    const Chat& chat = chatOf(call);
+    const Chat& chat = chatOf(call, false);
     Json json = chatJson(chat);
     json.erase("all_members_are_administrators");
     if (chat.kind != ChatKind::privateChat) {
@@ -56,7 +56,9 @@ Json getChat(MethodCall& call) {
     return json;
 }
 
-Chat& accessibleChat(MethodCall& call, bool toWrite) {
+} // namespace
+
+Chat& chatOf(MethodCall& call, bool toWrite) {
     const std::string id = call.parameters.text("chat_id");
     if (id.empty()) throw badRequest("chat_id is empty");
     const auto number = call.parameters.integer("chat_id");
@@ -74,16 +76,6 @@ Chat& accessibleChat(MethodCall& call, bool toWrite) {
     if (role == BotRole::absent)
         throw ApiError{403, "Forbidden: bot is not a member of the " + kind};
     return *chat;
-}
-
-} // namespace
-
-Chat& chatOf(MethodCall& call) {
-    return accessibleChat(call, false);
-}
-
-Chat& writableChatOf(MethodCall& call) {
-    return accessibleChat(call, true);
 }
 
 Method findMethod(std::string_view name) {

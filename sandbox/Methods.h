@@ -34,9 +34,8 @@ Json createForumTopic(MethodCall& call);
 Json editForumTopic(MethodCall& call);
 Json deleteForumTopic(MethodCall& call);
 
-/// The chat that "chat_id" names, of which the bot must be a member. Throws ApiError.
-Chat& chatOf(MethodCall& call);
-/// The same for calls that change something, which a group that became a supergroup refuses.
-Chat& writableChatOf(MethodCall& call);
+/// The chat that "chat_id" names, of which the bot must be a member. Throws ApiError; a group that
+/// became a supergroup refuses calls that change something, `toWrite`.
+Chat& chatOf(MethodCall& call, bool toWrite = true);
 
 } // namespace quillon::sandbox

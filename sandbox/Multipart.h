@@ -17,8 +17,7 @@ struct MultipartPart {
     std::string_view bytes;              ///< within the body that was read
 };
 
-class MultipartError : public std::runtime_error {
-public:
+struct MultipartError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 

@@ -4,11 +4,13 @@
 #include "sandbox/Multipart.h"
 #include "sandbox/Text.h"
 
+#include <boost/algorithm/hex.hpp>
 #include <openssl/evp.h>
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <iterator>
 
 namespace quillon::sandbox {
 
@@ -19,28 +21,20 @@ std::string sha256(std::string_view bytes) {
     unsigned length = 0;
     EVP_Digest(bytes.data(), bytes.size(), digest.data(), &length, EVP_sha256(), nullptr);
     std::string result;
-    for (unsigned i = 0; i < length; ++i) {
-        constexpr std::string_view digits = "0123456789abcdef";
-        result += digits[digest.at(i) >> 4u];
-        result += digits[digest.at(i) & 0xFu];
-    }
+    boost::algorithm::hex_lower(digest.begin(), digest.begin() + length,
+                                std::back_inserter(result));
     return result;
-}
-
-int hexDigit(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    return -1;
 }
 
 std::string urlDecoded(std::string_view text) {
     std::string result;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool escape = text[i] == '%' && i + 2 < text.size() && hexDigit(text[i + 1]) >= 0 &&
-                            hexDigit(text[i + 2]) >= 0;
-        if (escape) {
-            result += static_cast<char>(hexDigit(text[i + 1]) * 16 + hexDigit(text[i + 2]));
+        const std::string_view digits = text.substr(i + 1, 2);
+        unsigned char byte = 0;
+        const char* const end = digits.data() + digits.size();
+        if (text[i] == '%' && digits.size() == 2 &&
+            std::from_chars(digits.data(), end, byte, 16).ptr == end) {
+            result += static_cast<char>(byte);
             i += 2;
         } else {
             result += text[i] == '+' ? ' ' : text[i];
@@ -93,9 +87,7 @@ void readMultipart(HttpRequest& request, const std::string& contentType, bool ha
 } // namespace
 
 std::string Parameters::text(std::string_view name) const {
-    const auto found = std::find_if(values.begin(), values.end(), [&](const Parameter& parameter) {
-        return parameter.name == name;
-    });
+    const auto found = std::ranges::find(values, name, &Parameter::name);
     if (found == values.end()) return {};
     return found->value.is_string() ? found->value.get<std::string>() : dumped(found->value);
 }
@@ -115,8 +107,7 @@ bool Parameters::flag(std::string_view name) const {
 }
 
 const UploadedFile* Parameters::file(std::string_view field) const {
-    const auto found = std::find_if(files.begin(), files.end(),
-                                    [&](const UploadedFile& file) { return file.field == field; });
+    const auto found = std::ranges::find(files, field, &UploadedFile::field);
     return found == files.end() ? nullptr : &*found;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 namespace quillon::sandbox {
 
@@ -15,16 +16,14 @@ std::uint32_t byteAt(std::string_view bytes, std::size_t offset) {
 
 int big(std::string_view bytes, std::size_t offset, std::size_t count) {
     std::uint32_t value = 0;
-    for (std::size_t i = 0; i < count; ++i)
-        value = (value << 8u) | byteAt(bytes, offset + i);
+    for (const char c : bytes.substr(offset, count))
+        value = (value << 8u) | static_cast<unsigned char>(c);
     return static_cast<int>(value);
 }
 
 int little(std::string_view bytes, std::size_t offset, std::size_t count) {
-    std::uint32_t value = 0;
-    for (std::size_t i = count; i-- > 0;)
-        value = (value << 8u) | byteAt(bytes, offset + i);
-    return static_cast<int>(value);
+    const std::string_view number = bytes.substr(offset, count);
+    return big(std::string{number.rbegin(), number.rend()}, 0, count);
 }
 
 std::optional<PictureSize> checked(int width, int height) {

@@ -1,5 +1,6 @@
 #include "sandbox/RequestLog.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <ctime>
@@ -9,18 +10,10 @@ namespace quillon::sandbox {
 namespace {
 
 std::string typeName(const Parameter& parameter) {
-    switch (parameter.source) {
-    case ParameterSource::query:
-        return "query text";
-    case ParameterSource::form:
-        return "form text";
-    case ParameterSource::multipart:
-        return "multipart text";
-    default:
-        break;
-    }
-    if (parameter.value.is_number_integer()) return "integer";
-    return parameter.value.type_name();
+    if (parameter.source == ParameterSource::query) return "query text";
+    if (parameter.source == ParameterSource::form) return "form text";
+    if (parameter.source == ParameterSource::multipart) return "multipart text";
+    return parameter.value.is_number_integer() ? "integer" : parameter.value.type_name();
 }
 
 std::string clockText(std::chrono::system_clock::time_point time) {
@@ -45,10 +38,8 @@ std::string line(const RequestRecord& record) {
 } // namespace
 
 Json RequestRecord::parameter(std::string_view name) const {
-    for (const Parameter& candidate : parameters.values) {
-        if (candidate.name == name) return candidate.value;
-    }
-    return nullptr;
+    const auto found = std::ranges::find(parameters.values, name, &Parameter::name);
+    return found == parameters.values.end() ? Json{} : found->value;
 }
 
 Json toJson(const RequestRecord& record) {

@@ -66,19 +66,15 @@ RequestReader::Outcome RequestReader::readBody(HttpRequest& request) {
 }
 
 RequestReader::Outcome RequestReader::readSizedBody(HttpRequest& request, std::size_t size) {
-    if (size > spareSize_) {
-        spare_ = std::make_unique_for_overwrite<char[]>(size);
-        spareSize_ = size;
-    }
-    request.body = {std::move(spare_), size};
-    bodySize_ = std::exchange(spareSize_, 0);
+    if (size > spare_.capacity) spare_ = {std::make_unique_for_overwrite<char[]>(size), 0, size};
+    request.body = std::exchange(spare_, {});
+    request.body.size = size;
     return readBytes(request.body.bytes.get(), size) ? Outcome::ready : Outcome::closed;
 }
 
 void RequestReader::recycle(HttpRequest& request) {
     request.finish();
-    spare_ = std::move(request.body.bytes);
-    spareSize_ = std::exchange(bodySize_, 0);
+    spare_ = std::exchange(request.body, {});
 }
 
 // Takes the bytes that were read ahead, then reads from the channel directly.
@@ -134,9 +130,8 @@ RequestReader::Outcome RequestReader::readChunkedBody(HttpRequest& request) {
         if (!line || !line->empty()) return Outcome::malformed;
         if (*size == 0) break;
     }
-    request.body = {std::make_unique_for_overwrite<char[]>(body.size()), body.size()};
-    bodySize_ = body.size();
-    std::copy(body.begin(), body.end(), request.body.bytes.get());
+    request.body = {std::make_unique_for_overwrite<char[]>(body.size()), body.size(), body.size()};
+    std::ranges::copy(body, request.body.bytes.get());
     return Outcome::ready;
 }
 

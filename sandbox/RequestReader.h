@@ -9,7 +9,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -50,9 +49,7 @@ private:
     bool chunked_ = false;
     bool expectsContinue_ = false;
     std::uint64_t length_ = 0;
-    std::unique_ptr<char[]> spare_;
-    std::size_t spareSize_ = 0;
-    std::size_t bodySize_ = 0; ///< capacity of the request's body
+    Body spare_;
 };
 
 } // namespace quillon::sandbox

@@ -4,7 +4,6 @@
 #include "sandbox/HttpServer.h"
 #include "sandbox/View.h"
 
-#include <optional>
 #include <stdexcept>
 
 namespace quillon::sandbox {
@@ -22,33 +21,26 @@ Topic& topicOf(Chat& chat, std::int64_t topic) {
 
 struct Sandbox::Parts {
     explicit Parts(const Options& options)
-        : tls{options.tls},
-          backend{options.verbose, options.hashFiles} {
-        if (tls) certificate.emplace();
-        server.emplace(backend, certificate ? &*certificate : nullptr);
-    }
+        : backend{options.verbose, options.hashFiles},
+          certificate{options.tls ? std::make_unique<Certificate>() : nullptr},
+          server{backend, certificate.get()},
+          port{server.start(options.port)} {}
 
-    bool tls;
-    std::uint16_t port = 0;
     Backend backend;
-    std::optional<Certificate> certificate;
-    std::optional<HttpServer> server;
+    std::unique_ptr<Certificate> certificate;
+    HttpServer server;
+    std::uint16_t port;
 };
 
-Sandbox::Sandbox(const Options& options) : parts_{std::make_unique<Parts>(options)} {
-    parts_->port = parts_->server->start(options.port);
-}
+Sandbox::Sandbox(const Options& options) : parts_{std::make_unique<Parts>(options)} {}
 
 Sandbox::~Sandbox() {
     stop();
 }
 
 std::string Sandbox::baseUrl() const {
-    return (parts_->tls ? "https://127.0.0.1:" : "http://127.0.0.1:") + std::to_string(port());
-}
-
-std::uint16_t Sandbox::port() const {
-    return parts_->port;
+    return (parts_->certificate ? "https://127.0.0.1:" : "http://127.0.0.1:") +
+           std::to_string(parts_->port);
 }
 
 std::filesystem::path Sandbox::caFile() const {
@@ -57,12 +49,12 @@ std::filesystem::path Sandbox::caFile() const {
 
 void Sandbox::stop() {
     parts_->backend.setStopping(true);
-    parts_->server->stop();
+    parts_->server.stop();
 }
 
 void Sandbox::start() {
     parts_->backend.setStopping(false);
-    parts_->server->start(parts_->port);
+    parts_->server.start(parts_->port);
 }
 
 void Sandbox::addBot(const std::string& token, const std::string& username) {
@@ -78,10 +70,6 @@ void Sandbox::addBotToGroup(std::int64_t group, BotRole role) {
         [&](World& world) { world.setRoleOfAll(world.knownChat(group), role); });
 }
 
-void Sandbox::setForum(std::int64_t group, bool forum) {
-    parts_->backend.withWorld([&](World& world) { world.knownChat(group).forum = forum; });
-}
-
 std::int64_t Sandbox::migrateGroup(std::int64_t group, bool forum) {
     return parts_->backend.withWorld(
         [&](World& world) { return world.migrate(world.knownChat(group), forum).id; });
@@ -90,14 +78,6 @@ std::int64_t Sandbox::migrateGroup(std::int64_t group, bool forum) {
 std::int64_t Sandbox::userSays(std::int64_t group, const std::string& text, std::int64_t topic) {
     return parts_->backend.withWorld(
         [&](World& world) { return world.userSays(world.knownChat(group), text, topic); });
-}
-
-std::int64_t Sandbox::userSaysPrivately(const std::string& token, const std::string& text) {
-    return parts_->backend.withWorld([&](World& world) {
-        Bot* const bot = world.bot(token);
-        if (bot == nullptr) throw std::out_of_range{"no such bot"};
-        return world.userSaysTo(*bot, text);
-    });
 }
 
 std::int64_t Sandbox::userCreatesTopic(std::int64_t group, const std::string& name) {
@@ -121,7 +101,7 @@ void Sandbox::deleteTopic(std::int64_t group, std::int64_t topic) {
 void Sandbox::failNext(const Fault& fault) {
     parts_->backend.faults.add(fault);
     // A client with an open connection would not meet the fault before it needs a new one.
-    if (fault.kind == FaultKind::closeAtAccept) parts_->server->dropConnections();
+    if (fault.kind == FaultKind::closeAtAccept) parts_->server.dropConnections();
 }
 
 void Sandbox::clearFaults() {
@@ -140,16 +120,8 @@ std::vector<EventsRecord> Sandbox::events() const {
     return parts_->backend.events();
 }
 
-void Sandbox::setEventsStatus(int status) {
-    parts_->backend.setEventsStatus(status);
-}
-
 Json Sandbox::view() const {
     return parts_->backend.withWorld(viewJson);
-}
-
-std::string Sandbox::viewText() const {
-    return parts_->backend.withWorld(sandbox::viewText);
 }
 
 } // namespace quillon::sandbox

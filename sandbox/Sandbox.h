@@ -36,7 +36,6 @@ public:
 
     /// Such as "http://127.0.0.1:40123"; the same after stop() and start().
     std::string baseUrl() const;
-    std::uint16_t port() const;
     /// The certificate that a client must trust to use TLS; empty without TLS.
     std::filesystem::path caFile() const;
 
@@ -52,13 +51,11 @@ public:
     std::int64_t addGroup(const GroupOptions& options = {});
     /// Changes the role of every bot in the group, and sends the bots updates about that.
     void addBotToGroup(std::int64_t group, BotRole role = BotRole::topicAdmin);
-    void setForum(std::int64_t group, bool forum);
     /// Turns the basic group into a supergroup and returns its id.
     std::int64_t migrateGroup(std::int64_t group, bool forum = true);
 
     /// Returns the message's id.
     std::int64_t userSays(std::int64_t group, const std::string& text, std::int64_t topic = 0);
-    std::int64_t userSaysPrivately(const std::string& token, const std::string& text);
     std::int64_t userCreatesTopic(std::int64_t group, const std::string& name);
     void userRenamesTopic(std::int64_t group, std::int64_t topic, const std::string& name);
     void deleteTopic(std::int64_t group, std::int64_t topic);
@@ -70,11 +67,9 @@ public:
     std::vector<RequestRecord> requests() const;
     void clearRequests();
     std::vector<EventsRecord> events() const;
-    void setEventsStatus(int status);
 
     /// The groups as the phone shows them; View.h describes the form.
     Json view() const;
-    std::string viewText() const;
 
 private:
     struct Parts;

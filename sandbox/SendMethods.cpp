@@ -50,7 +50,7 @@ FormattedText caption(const MethodCall& call) {
 
 // `right` continues "not enough rights to send … to the chat".
 Json deliver(MethodCall& call, Message message, const std::string& right) {
-    Chat& chat = writableChatOf(call);
+    Chat& chat = chatOf(call);
     // 0 stands for the General topic; 1, its number on the phone, is refused.
     const auto thread =
         std::max<std::int64_t>(0, call.parameters.integer("message_thread_id").value_or(0));
@@ -120,7 +120,7 @@ Json sendPhoto(MethodCall& call) {
                          std::to_string(biggestPhoto) + " bytes");
     }
     Message message = fileMessage("photo", file, caption(call));
-    writableChatOf(call);
+    chatOf(call);
     const auto size = pictureSize(file.bytes);
     if (!size) throw badRequest("IMAGE_PROCESS_FAILED");
     const auto [shorter, longer] = std::minmax({size->width, size->height});

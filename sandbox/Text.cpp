@@ -1,11 +1,17 @@
 #include "sandbox/Text.h"
 
+#include <boost/locale/utf.hpp>
+
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <span>
 
 namespace quillon::sandbox {
 
 namespace {
+
+using Utf8 = boost::locale::utf::utf_traits<char>;
 
 struct Range {
     char32_t first;
@@ -24,9 +30,8 @@ constexpr std::array droppedRanges{
     Range{0x0333, 0x0333}, Range{0x033F, 0x033F},
 };
 
-template <std::size_t N>
-bool within(const std::array<Range, N>& ranges, char32_t codePoint) {
-    return std::any_of(ranges.begin(), ranges.end(), [codePoint](Range range) {
+bool within(std::span<const Range> ranges, char32_t codePoint) {
+    return std::ranges::any_of(ranges, [codePoint](Range range) {
         return codePoint >= range.first && codePoint <= range.last;
     });
 }
@@ -34,25 +39,12 @@ bool within(const std::array<Range, N>& ranges, char32_t codePoint) {
 } // namespace
 
 std::optional<char32_t> nextCodePoint(std::string_view text, std::size_t& position) {
-    if (position >= text.size()) return std::nullopt;
-    const auto lead = static_cast<unsigned char>(text[position]);
-    if (lead < 0x80) {
-        ++position;
-        return lead;
-    }
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4 || position + length > text.size()) return std::nullopt;
-    char32_t value = lead & (0x7Fu >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        const auto next = static_cast<unsigned char>(text[position + i]);
-        if ((next & 0xC0u) != 0x80u) return std::nullopt;
-        value = (value << 6u) | (next & 0x3Fu);
-    }
-    constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
-    if (value < smallest.at(length) || value > 0x10FFFF || (value >= 0xD800 && value <= 0xDFFF))
-        return std::nullopt;
-    position += length;
-    return value;
+    text.remove_prefix(position);
+    const auto* next = text.begin();
+    const auto codePoint = Utf8::decode(next, text.end());
+    if (!boost::locale::utf::is_valid_codepoint(codePoint)) return std::nullopt;
+    position += static_cast<std::size_t>(next - text.begin());
+    return codePoint;
 }
 
 bool isUtf8(std::string_view text) {
@@ -63,23 +55,18 @@ bool isUtf8(std::string_view text) {
 }
 
 std::string encoded(char32_t codePoint) {
-    const auto byte = [](char32_t value) { return static_cast<char>(value); };
-    const auto tail = [&](unsigned shift) { return byte(0x80u | ((codePoint >> shift) & 0x3Fu)); };
-    if (codePoint < 0x80) return {byte(codePoint)};
-    if (codePoint < 0x800) return {byte(0xC0u | (codePoint >> 6u)), tail(0)};
-    if (codePoint < 0x10000) return {byte(0xE0u | (codePoint >> 12u)), tail(6), tail(0)};
-    return {byte(0xF0u | (codePoint >> 18u)), tail(12), tail(6), tail(0)};
+    std::string bytes;
+    Utf8::encode(codePoint, std::back_inserter(bytes));
+    return bytes;
 }
 
 std::size_t codePoints(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0u) != 0x80u;
-    }));
+    return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, Utf8::is_trail));
 }
 
 std::size_t utf16Units(std::string_view text) {
-    const auto astral = std::count_if(
-        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) >= 0xF0u; });
+    const auto astral =
+        std::ranges::count_if(text, [](char c) { return static_cast<unsigned char>(c) >= 0xF0u; });
     return codePoints(text) + static_cast<std::size_t>(astral);
 }
 
@@ -116,7 +103,7 @@ bool isBlank(std::string_view text) {
 
 std::string cleanedName(std::string_view text, std::size_t limit) {
     std::string name = cleaned(text);
-    std::replace(name.begin(), name.end(), '\n', ' ');
+    std::ranges::replace(name, '\n', ' ');
     name = trimmedAscii(name);
     if (isBlank(name)) return {};
     return trimmedAscii(firstCodePoints(name, limit));
@@ -124,9 +111,9 @@ std::string cleanedName(std::string_view text, std::size_t limit) {
 
 std::string lowered(std::string_view ascii) {
     std::string result{ascii};
-    std::transform(result.begin(), result.end(), result.begin(), [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    });
+    for (char& c : result) {
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    }
     return result;
 }
 

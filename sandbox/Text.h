@@ -35,6 +35,13 @@ bool isBlank(std::string_view text);
 /// A topic's name as it is stored: cleaned, on one line, trimmed, at most `limit` code points.
 std::string cleanedName(std::string_view text, std::size_t limit);
 
+/// ASCII alone.
+constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+constexpr bool isLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
 std::string lowered(std::string_view ascii);
 std::string trimmedAscii(std::string_view text);
 

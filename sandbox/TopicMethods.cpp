@@ -18,7 +18,7 @@ constexpr std::array<std::int64_t, 6> iconColors{7322096, 16766590, 13338331,
                                                  9367192, 16749490, 16478047};
 
 Chat& forumOf(MethodCall& call) {
-    Chat& chat = writableChatOf(call);
+    Chat& chat = chatOf(call);
     if (!chat.forum) throw badRequest("the chat is not a forum");
     return chat;
 }
@@ -50,7 +50,7 @@ Json createForumTopic(MethodCall& call) {
     std::int64_t color = iconColors.front();
     if (!call.parameters.text("icon_color").empty())
         color = call.parameters.integer("icon_color").value_or(-1);
-    if (std::find(iconColors.begin(), iconColors.end(), color) == iconColors.end())
+    if (std::ranges::find(iconColors, color) == iconColors.end())
         throw badRequest("invalid icon color specified");
     const Topic& topic = call.world.createTopic(chat, name, static_cast<int>(color), call.bot.id);
     call.changed.notify_all();

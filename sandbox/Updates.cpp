@@ -5,7 +5,7 @@
 namespace quillon::sandbox {
 
 void UpdateQueue::push(const std::string& kind, Json content) {
-    if (allowed_ && !allowed_->contains(kind)) return;
+    if (!allowed_.empty() && !allowed_.contains(kind)) return;
     Json update{{"update_id", ++lastId_}};
     update[kind] = std::move(content);
     updates_.emplace_back(lastId_, std::move(update));
@@ -19,11 +19,7 @@ void UpdateQueue::allow(const std::string& allowedUpdates) {
         if (!kind.is_string()) return;
         kinds.insert(kind.get<std::string>());
     }
-    if (kinds.empty()) {
-        allowed_.reset();
-    } else {
-        allowed_ = std::move(kinds);
-    }
+    allowed_ = std::move(kinds);
 }
 
 Json UpdateQueue::take(std::int64_t offset, std::size_t limit) {

@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <deque>
-#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -34,7 +33,7 @@ public:
 private:
     std::deque<std::pair<std::int64_t, Json>> updates_;
     std::int64_t lastId_ = 731'205'500;
-    std::optional<std::set<std::string>> allowed_;
+    std::set<std::string> allowed_; ///< empty for all kinds
 };
 
 } // namespace quillon::sandbox

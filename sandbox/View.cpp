@@ -65,45 +65,43 @@ Json groupView(const Chat& chat) {
             {"topics", std::move(topics)}};
 }
 
-void printIndented(std::ostream& out, const std::string& text, std::string_view indent) {
-    std::istringstream lines{text};
+const std::string& text(const Json& object, const char* key) {
+    return object[key].get_ref<const std::string&>();
+}
+
+void printIndented(std::ostream& out, const std::string& paragraph, std::string_view indent) {
+    std::istringstream lines{paragraph};
     for (std::string line; std::getline(lines, line);)
         out << indent << line << '\n';
 }
 
 void printText(std::ostream& out, const Json& message) {
-    const auto text = message["text"].get<std::string>();
-    const bool allPre = message["pre"].size() == 1 && message["pre"].front() == text;
-    printIndented(out, text, allPre ? "      ┃ " : "      ");
+    const bool allPre = message["pre"].size() == 1 && message["pre"].front() == message["text"];
+    printIndented(out, text(message, "text"), allPre ? "      ┃ " : "      ");
 }
 
 void printFile(std::ostream& out, const Json& message) {
-    out << "      [" << message["kind"].get<std::string>();
-    if (message.contains("width"))
-        out << ' ' << message["width"].get<int>() << "×" << message["height"].get<int>();
-    out << "] " << message["filename"].get<std::string>() << ", "
-        << message["size"].get<std::size_t>() << " bytes, " << message["mime"].get<std::string>();
-    const auto sum = message["sha256"].get<std::string>();
+    out << "      [" << text(message, "kind");
+    if (message.contains("width")) out << ' ' << message["width"] << "×" << message["height"];
+    out << "] " << text(message, "filename") << ", " << message["size"] << " bytes, "
+        << text(message, "mime");
+    const std::string& sum = text(message, "sha256");
     if (!sum.empty()) out << ", sha256 " << sum.substr(0, 12) << "…";
     out << '\n';
-    if (message.contains("caption"))
-        printIndented(out, message["caption"].get<std::string>(), "      ");
+    if (message.contains("caption")) printIndented(out, text(message, "caption"), "      ");
 }
 
 void printMessage(std::ostream& out, const Json& message) {
-    const auto kind = message["kind"].get<std::string>();
-    out << "    " << message["from"].get<std::string>() << " #"
-        << message["id"].get<std::int64_t>();
-    if (kind == "service") {
+    out << "    " << text(message, "from") << " #" << message["id"];
+    if (message["kind"] == "service") {
         const auto first = message["service"].begin();
         out << " — " << first.key();
-        if (first->is_object() && first->contains("name"))
-            out << ": " << (*first)["name"].get<std::string>();
+        if (first->is_object() && first->contains("name")) out << ": " << text(*first, "name");
         out << '\n';
         return;
     }
     out << '\n';
-    if (kind == "text") {
+    if (message["kind"] == "text") {
         printText(out, message);
     } else {
         printFile(out, message);
@@ -123,11 +121,11 @@ std::string viewText(const World& world) {
     std::ostringstream out;
     const Json view = viewJson(world);
     for (const Json& group : view["groups"]) {
-        out << group["title"].get<std::string>() << " (" << group["type"].get<std::string>() << ' '
-            << group["id"].get<std::int64_t>() << (group["is_forum"] ? ", topics on" : "") << ")\n";
+        out << text(group, "title") << " (" << text(group, "type") << ' ' << group["id"]
+            << (group["is_forum"] ? ", topics on" : "") << ")\n";
         for (const Json& topic : group["topics"]) {
             if (topic["id"] == 0 && topic["messages"].empty()) continue;
-            out << "  " << topic["name"].get<std::string>();
+            out << "  " << text(topic, "name");
             if (topic.contains("icon_color")) {
                 out << "  #" << std::hex << std::uppercase << std::setw(6) << std::setfill('0')
                     << topic["icon_color"].get<int>() << std::dec;

@@ -1,8 +1,7 @@
 #include "sandbox/World.h"
 
-#include "sandbox/Text.h"
-
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <stdexcept>
 
@@ -21,40 +20,32 @@ std::int64_t now() {
     return std::chrono::duration_cast<std::chrono::seconds>(time).count();
 }
 
-std::string_view statusName(BotRole role) {
-    switch (role) {
-    case BotRole::absent:
-        return "left";
-    case BotRole::kicked:
-        return "kicked";
-    case BotRole::restricted:
-        return "restricted";
-    case BotRole::member:
-        return "member";
-    default:
-        return "administrator";
-    }
-}
+// In the order of BotRole.
+constexpr std::array<std::string_view, 6> statusNames{"left",   "kicked",        "restricted",
+                                                      "member", "administrator", "administrator"};
 
 bool isIn(BotRole role) {
     return role != BotRole::absent && role != BotRole::kicked;
 }
 
+Message serviceMessage(std::int64_t sender, Json service, std::int64_t topic = 0) {
+    Message message;
+    message.topic = topic;
+    message.sender = sender;
+    message.kind = "service";
+    message.service = std::move(service);
+    return message;
+}
+
 } // namespace
 
 std::string_view kindName(ChatKind kind) {
-    switch (kind) {
-    case ChatKind::privateChat:
-        return "private";
-    case ChatKind::group:
-        return "group";
-    default:
-        return "supergroup";
-    }
+    constexpr std::array<std::string_view, 3> names{"private", "group", "supergroup"};
+    return names.at(static_cast<std::size_t>(kind));
 }
 
 Topic* Chat::topic(std::int64_t topicId) {
-    const auto found = std::find_if(topics.begin(), topics.end(), [&](const Topic& candidate) {
+    const auto found = std::ranges::find_if(topics, [&](const Topic& candidate) {
         return candidate.id == topicId && !candidate.deleted;
     });
     return found == topics.end() ? nullptr : &*found;
@@ -74,8 +65,7 @@ Bot& World::addBot(const std::string& token, const std::string& username) {
 }
 
 Bot* World::bot(std::string_view token) {
-    const auto found = std::find_if(bots_.begin(), bots_.end(),
-                                    [&](const Bot& candidate) { return candidate.token == token; });
+    const auto found = std::ranges::find(bots_, token, &Bot::token);
     return found == bots_.end() ? nullptr : &*found;
 }
 
@@ -92,8 +82,7 @@ Chat& World::addGroup(const GroupOptions& options) {
 }
 
 Chat* World::chat(std::int64_t id) {
-    const auto found = std::find_if(chats_.begin(), chats_.end(),
-                                    [&](const Chat& candidate) { return candidate.id == id; });
+    const auto found = std::ranges::find(chats_, id, &Chat::id);
     return found == chats_.end() ? nullptr : &*found;
 }
 
@@ -112,13 +101,9 @@ void World::setRole(Chat& chat, Bot& bot, BotRole role) {
                                         {"old_chat_member", memberJson(bot, old)},
                                         {"new_chat_member", memberJson(bot, role)}});
     if (isIn(old) || !isIn(role)) return;
-    Message joined;
-    joined.sender = userId;
-    joined.kind = "service";
-    joined.service = {{"new_chat_participant", userJson(bot.id)},
-                      {"new_chat_member", userJson(bot.id)},
-                      {"new_chat_members", Json::array({userJson(bot.id)})}};
-    post(chat, std::move(joined));
+    post(chat, serviceMessage(userId, {{"new_chat_participant", userJson(bot.id)},
+                                       {"new_chat_member", userJson(bot.id)},
+                                       {"new_chat_members", Json::array({userJson(bot.id)})}}));
 }
 
 void World::setRoleOfAll(Chat& chat, BotRole role) {
@@ -152,37 +137,23 @@ Chat& World::migrate(Chat& chat, bool forum) {
     Chat& fresh = addGroup(options);
     fresh.roles = chat.roles;
     chat.migratedTo = fresh.id;
-    Message leaving;
-    leaving.sender = userId;
-    leaving.kind = "service";
-    leaving.service = {{"migrate_to_chat_id", fresh.id}};
-    Message arriving = leaving;
-    arriving.service = {{"migrate_from_chat_id", chat.id}};
-    post(chat, std::move(leaving));
-    post(fresh, std::move(arriving));
+    post(chat, serviceMessage(userId, {{"migrate_to_chat_id", fresh.id}}));
+    post(fresh, serviceMessage(userId, {{"migrate_from_chat_id", chat.id}}));
     return fresh;
 }
 
 Topic& World::createTopic(Chat& chat, const std::string& name, int iconColor, std::int64_t by) {
-    Message created;
-    created.sender = by;
-    created.kind = "service";
-    created.topic = chat.lastMessage + 1;
-    created.service = {{"forum_topic_created", {{"name", name}, {"icon_color", iconColor}}}};
-    Topic topic{created.topic, name, iconColor, by, false};
-    chat.topics.push_back(std::move(topic));
-    post(chat, std::move(created));
+    const std::int64_t id = chat.lastMessage + 1;
+    chat.topics.push_back({id, name, iconColor, by, false});
+    const Json what{{"name", name}, {"icon_color", iconColor}};
+    post(chat, serviceMessage(by, {{"forum_topic_created", what}}, id));
     return chat.topics.back();
 }
 
 void World::renameTopic(Chat& chat, Topic& topic, const std::string& name, std::int64_t by) {
     topic.name = name;
-    Message edited;
-    edited.sender = by;
-    edited.kind = "service";
-    edited.topic = topic.id;
-    edited.service = {{"forum_topic_edited", {{"name", name}}}};
-    post(chat, std::move(edited));
+    const Json what{{"name", name}};
+    post(chat, serviceMessage(by, {{"forum_topic_edited", what}}, topic.id));
 }
 
 void World::deleteTopic(Chat& chat, std::int64_t topicId) {
@@ -215,8 +186,7 @@ void World::announce(const Chat& chat, const Message& message) {
 }
 
 Json World::userJson(std::int64_t id) const {
-    const auto found =
-        std::find_if(bots_.begin(), bots_.end(), [&](const Bot& bot) { return bot.id == id; });
+    const auto found = std::ranges::find(bots_, id, &Bot::id);
     if (found == bots_.end())
         return {{"id", id}, {"is_bot", false}, {"first_name", "Robin"}, {"language_code", "en"}};
     Json json{{"id", id}, {"is_bot", true}, {"first_name", found->firstName}};
@@ -225,7 +195,8 @@ Json World::userJson(std::int64_t id) const {
 }
 
 Json World::memberJson(const Bot& bot, BotRole role) const {
-    Json json{{"user", userJson(bot.id)}, {"status", statusName(role)}};
+    Json json{{"user", userJson(bot.id)},
+              {"status", statusNames.at(static_cast<std::size_t>(role))}};
     if (role >= BotRole::admin) {
         json["can_be_edited"] = false;
         json["can_manage_chat"] = true;

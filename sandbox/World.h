@@ -10,7 +10,6 @@
 #include <deque>
 #include <future>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>

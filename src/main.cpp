@@ -47,5 +47,5 @@ int main(int argc, char** argv) {
     case Where::hereAfterQuit:
         break;
     }
-    return Session::run(*invocation);
+    return runInSession(*invocation);
 }

@@ -4,9 +4,10 @@
 #include "base/Translate.h"
 #include "cli/Console.h"
 #include "cli/Reports.h"
-#include "cli/TerminalAlerts.h"
+#include "cli/Terminal.h"
 #include "cli/UpdateCheckCommand.h"
 #include "core/Core.h"
+#include "maintenance/Alerts.h"
 #include "maintenance/Uninstaller.h"
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
@@ -41,9 +42,8 @@ QCoro::Task<int> send(CommandContext context, Arguments /*arguments*/) {
     const auto added = static_cast<std::ptrdiff_t>(history.size() - before);
     // Nothing was sent at all. The banner told why, unless another send was under way.
     if (added == 0) {
-        const std::optional<std::string> problem = context.core.banner.problem();
-        throw TelegramError{problem ? *problem
-                                    : translate("Command", "Another send is still running.")};
+        throw TelegramError{context.core.banner.problem().value_or(
+            translate("Command", "Another send is still running."))};
     }
 
     int code = exitDone;
@@ -73,9 +73,9 @@ QCoro::Task<int> connect(CommandContext context, Arguments /*arguments*/) {
 
 QCoro::Task<int> findGroup(CommandContext context, Arguments /*arguments*/) {
     co_await context.core.store.findGroup();
-    const std::optional<std::string> title = context.core.store.config().chatTitle;
-    context.console->print(filled(translate("Command", "Found “%1”"),
-                                  {title ? *title : translate("Command", "your group")}));
+    const std::string title =
+        context.core.store.config().chatTitle.value_or(translate("Command", "your group"));
+    context.console->print(filled(translate("Command", "Found “%1”"), {title}));
     co_return exitDone;
 }
 
@@ -139,6 +139,17 @@ QCoro::Task<int> launchAtLogin(CommandContext context, Arguments arguments) {
 QCoro::Task<int> checkForUpdates(CommandContext context, Arguments arguments) {
     return runUpdateCheck(context, contains(arguments, "--install"));
 }
+
+/// Prints alerts as lines of error output. A command asks nothing, so the answer is always the last
+/// button.
+class TerminalAlerts final : public Alerts {
+public:
+    [[nodiscard]] QFuture<std::size_t> show(Alert alert) override {
+        Terminal::printError(alert.message);
+        Terminal::printError(alert.informativeText);
+        return QtFuture::makeReadyFuture(alert.buttons.empty() ? 0 : alert.buttons.size() - 1);
+    }
+};
 
 QCoro::Task<int> uninstall(CommandContext context, Arguments /*arguments*/) {
     TerminalAlerts alerts;

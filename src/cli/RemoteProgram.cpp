@@ -31,10 +31,10 @@ constexpr int noTimeout = std::numeric_limits<int>::max();
 /// In milliseconds. A program that does not hang answers at once.
 constexpr int activationTimeout = 4000;
 
-QDBusMessage message(const char* method) {
+QDBusMessage message(const char* method, const char* interface = interfaceName) {
     QDBusMessage call =
         QDBusMessage::createMethodCall(QLatin1String{busName}, QLatin1String{objectPath},
-                                       QLatin1String{interfaceName}, QLatin1String{method});
+                                       QLatin1String{interface}, QLatin1String{method});
     call.setAutoStartService(false);
     return call;
 }
@@ -124,11 +124,6 @@ int show(const Command& wanted) {
     return exitFailed;
 }
 
-/// Asks the running program to end. It still holds the data for a moment.
-void quit() {
-    QDBusConnection::sessionBus().call(message("Quit"));
-}
-
 } // namespace
 
 QVariantMap activationData() {
@@ -142,10 +137,7 @@ QVariantMap activationData() {
 }
 
 bool activate(std::string_view wanted, const QVariantMap& activationData) {
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        QLatin1String{busName}, QLatin1String{objectPath},
-        QStringLiteral("org.freedesktop.Application"), QStringLiteral("ActivateAction"));
-    call.setAutoStartService(false);
+    QDBusMessage call = message("ActivateAction", "org.freedesktop.Application");
     call << QString::fromStdString(std::string{wanted}) << QVariantList{} << activationData;
     return QDBusConnection::sessionBus().call(call, QDBus::Block, activationTimeout).type() ==
            QDBusMessage::ReplyMessage;
@@ -162,7 +154,8 @@ std::optional<int> run(const Invocation& invocation) {
     case Where::residentOnly:
         return show(*invocation.command);
     case Where::hereAfterQuit:
-        quit();
+        // The running program still holds the data for a moment.
+        bus.call(message("Quit"));
         return std::nullopt;
     case Where::here:
         return std::nullopt;

@@ -77,7 +77,7 @@ int runInThisProcess(const Invocation& invocation, Detach* detach) {
 
 } // namespace
 
-int Session::run(const Invocation& invocation) {
+int runInSession(const Invocation& invocation) {
     if (invocation.command->needs == DesktopNeeds::nothing)
         return runInThisProcess(invocation, nullptr);
     return Detach::run([&](Detach& detach) { return runInThisProcess(invocation, &detach); });

@@ -5,12 +5,9 @@
 namespace quillon {
 
 /// Carries out one command and gives its exit code. The program that already runs does it if there
-/// is one; else this process builds the program's objects. A process has one session at the most.
-class Session {
-public:
-    /// A command that shows a banner is carried out in a child process, so that this returns once
-    /// the command is done, while the banner still shows. Call it while the process has one thread.
-    static int run(const Invocation& invocation);
-};
+/// is one; else this process builds the program's objects. A command that shows a banner is carried
+/// out in a child process, so that this returns once the command is done, while the banner still
+/// shows. Call it once at the most, and while the process has one thread.
+[[nodiscard]] int runInSession(const Invocation& invocation);
 
 } // namespace quillon

@@ -49,12 +49,6 @@ std::array<path, 6> Uninstaller::folders() const {
             folders.state / (id + ".savedState")};
 }
 
-QCoro::Task<bool> Uninstaller::trashApplication() {
-    // An executable without an application folder belongs to a package, or to who built it.
-    if (!platform_.bundle.isApplication()) co_return false;
-    co_return co_await platform_.workspace.trash(platform_.bundle.url);
-}
-
 QCoro::Task<> Uninstaller::run(std::function<void()> onTrashed) {
     store_.stopPersisting();
     analytics_.stopPersisting();
@@ -66,7 +60,10 @@ QCoro::Task<> Uninstaller::run(std::function<void()> onTrashed) {
     }
     platform_.defaults.removeAll();
     platform_.workspace.unlistApplication();
-    const bool trashed = co_await trashApplication();
+    bool trashed = false;
+    // An executable without an application folder belongs to a package, or to who built it.
+    if (platform_.bundle.isApplication())
+        trashed = co_await platform_.workspace.trash(platform_.bundle.url);
     if (trashed) {
         if (onTrashed) onTrashed();
     } else {

@@ -32,8 +32,6 @@ public:
     [[nodiscard]] QCoro::Task<> run(std::function<void()> onTrashed = {});
 
 private:
-    [[nodiscard]] QCoro::Task<bool> trashApplication();
-
     Platform& platform_;
     Store& store_;
     Analytics& analytics_;

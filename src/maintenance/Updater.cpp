@@ -108,14 +108,6 @@ void Updater::offerMoveAgain() {
     hooks_.askToMove();
 }
 
-bool Updater::willInstallUpdateOnQuit() {
-    return false;
-}
-
-bool Updater::supportsGentleScheduledUpdateReminders() {
-    return true;
-}
-
 void Updater::willHandleShowingUpdate() {
     QMetaObject::invokeMethod(
         this, [this] { platform_.workspace.activate(); }, Qt::QueuedConnection);

@@ -64,8 +64,8 @@ private:
 
     bool mayPerformUpdateCheck(UpdateCheck check) override;
     void didAbortWithError(const UpdateError& error) override;
-    bool willInstallUpdateOnQuit() override;
-    bool supportsGentleScheduledUpdateReminders() override;
+    bool willInstallUpdateOnQuit() override { return false; }
+    bool supportsGentleScheduledUpdateReminders() override { return true; }
     void willHandleShowingUpdate() override;
     void offerMoveAgain();
 

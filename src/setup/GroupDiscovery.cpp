@@ -13,10 +13,9 @@ std::string noGroup() {
 }
 
 std::string topicsAreOff(const Json& chat) {
-    const auto title = textMember(chat, "title");
     return filled(translate("Setup", "Found “%1”, but Topics are off. Turn on Topics in the group "
                                      "settings."),
-                  {title ? *title : translate("Setup", "your group")});
+                  {textMember(chat, "title").value_or(translate("Setup", "your group"))});
 }
 
 } // namespace

@@ -29,13 +29,12 @@ using TopicThreads = std::map<std::string, std::int64_t>;
 /// The group's topics, as far as Telegram's recent updates tell; empty when the call fails.
 QCoro::Task<TopicThreads> knownTopics(Telegram tg, std::int64_t chat) {
     Json params{{"allowed_updates", Json::array({"message"})}};
-    Json updates;
     try {
-        updates = co_await tg.call("getUpdates", std::move(params));
+        const Json updates = co_await tg.call("getUpdates", std::move(params));
+        co_return topicThreads(updates, chat);
     } catch (const TelegramError&) {
         co_return {};
     }
-    co_return topicThreads(updates, chat);
 }
 
 /// The known thread of the name, if it still is a topic of the group.
@@ -54,15 +53,14 @@ QCoro::Task<std::optional<std::int64_t>> existingThread(Telegram tg, std::int64_
 /// Creates the topic and gives its thread id, absent when the reply has none.
 QCoro::Task<std::optional<std::int64_t>> createTopic(Telegram tg, std::int64_t chat, Topic topic) {
     Json params{{"chat_id", chat}, {"name", topic.name}, {"icon_color", topic.color}};
-    Json created;
     try {
-        created = co_await tg.call("createForumTopic", std::move(params));
+        const Json created = co_await tg.call("createForumTopic", std::move(params));
+        co_return integerMember(created, "message_thread_id");
     } catch (const TelegramError&) {
         throw TelegramError{translate(
             "Setup",
             "Couldn't create topics. Make the bot an admin with “Manage Topics” and try again.")};
     }
-    co_return integerMember(created, "message_thread_id");
 }
 
 std::string welcome(ShortcutChoice shortcut) {
@@ -81,9 +79,6 @@ QCoro::Task<> Store::createTopics() {
     const std::int64_t chat = *config_.chatId;
     const TopicThreads known = co_await knownTopics(*tg, chat);
 
-    const auto storeThread = [this](std::size_t index, std::optional<std::int64_t> thread) {
-        changeConfig([&](Config& config) { config.topics.at(index).threadId = thread; });
-    };
     bool created = false;
     for (std::size_t index = 0; index < config_.topics.size(); ++index) {
         const Topic topic = config_.topics[index];
@@ -93,7 +88,7 @@ QCoro::Task<> Store::createTopics() {
             thread = co_await createTopic(*tg, chat, topic);
             created = true;
         }
-        storeThread(index, thread);
+        changeConfig([&](Config& config) { config.topics.at(index).threadId = thread; });
     }
     Q_EMIT setupStepDone(created ? SetupStep::topicsCreated : SetupStep::topicsReused);
     if (!created) co_return;
@@ -110,7 +105,7 @@ QCoro::Task<> Store::renameTopics() {
     const std::optional<Telegram> tg = co_await telegram();
     if (!tg || !config_.chatId) co_return;
     const std::int64_t chat = *config_.chatId;
-    const std::vector<Topic> topics = config_.topics;
+    const std::vector<Topic> topics = config_.topics; // they may change meanwhile
     for (const Topic& topic : topics) {
         if (!topic.threadId) continue;
         co_await editTopic(*tg, chat, *topic.threadId, topic.name);
