@@ -1,8 +1,16 @@
 #include "ui/controls/Refresher.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 #include <utility>
 
 namespace quillon {
+namespace {
+
+constexpr auto due = QEvent::User;
+
+} // namespace
 
 Refresher::Refresher(QObject* view, std::function<void()> refresh)
     : QObject{view},
@@ -10,15 +18,20 @@ Refresher::Refresher(QObject* view, std::function<void()> refresh)
 
 void Refresher::schedule() {
     if (std::exchange(scheduled_, true)) return;
-    const auto refreshUnlessDone = [this] {
-        if (scheduled_) refreshNow();
-    };
-    QMetaObject::invokeMethod(this, refreshUnlessDone, Qt::QueuedConnection);
+    QCoreApplication::postEvent(this, new QEvent{due});
 }
 
 void Refresher::refreshNow() {
+    scheduled_ = false;
+    QCoreApplication::removePostedEvents(this, due);
+    refresh_();
+}
+
+bool Refresher::event(QEvent* event) {
+    if (event->type() != due) return QObject::event(event);
     scheduled_ = false; // first: a change that the refresh itself makes needs another refresh
     refresh_();
+    return true;
 }
 
 } // namespace quillon

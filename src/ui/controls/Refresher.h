@@ -28,6 +28,8 @@ public:
     void refreshNow();
 
 private:
+    bool event(QEvent* event) override;
+
     std::function<void()> refresh_;
     bool scheduled_ = false;
 };
