@@ -5,8 +5,8 @@
 #include "support/FakeCompositor.h"
 #include "support/FakeFramework.h"
 #include "support/Faults.h"
+#include "ui/controls/Buttons.h"
 #include "ui/panel/Age.h"
-#include "ui/panel/PanelFooter.h"
 #include "ui/panel/PanelView.h"
 #include "ui/panel/PanelWindow.h"
 #include "ui/panel/SendButton.h"
@@ -119,7 +119,7 @@ const std::vector<Scene> scenes{
      .act =
          [](BotComputer&, PanelView& panel) {
              hover(sendButton(panel));
-             hover(*panel.findChild<PanelFooter*>()->findChild<QAbstractButton*>());
+             hover(*panel.findChildren<TextButton*>().value(1)); // after that of the setup
          }},
     {.name = "pressed",
      .clipboard = shortText,

@@ -69,9 +69,9 @@ ContentButton* sendButton() {
     auto* button = new CoralButton;
     button->setCornerRadius(Space::cardRadius);
     button->setAccessibleName("Send clipboard to phone"_q);
-    auto* symbol =
-        new SymbolView{"photo", {.size = 18, .weight = SymbolWeight::semibold, .ink = Brand::navy}};
-    symbol->setFrameWidth(24);
+    auto* symbol = new SymbolView{
+        "photo",
+        {.size = 18, .weight = SymbolWeight::semibold, .ink = Brand::navy, .frameWidth = 24}};
     auto* texts = new QVBoxLayout;
     texts->setSpacing(Space::hair);
     texts->addWidget(

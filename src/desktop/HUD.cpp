@@ -17,11 +17,6 @@ constexpr auto badNewsStays = 3500ms;
 constexpr auto fadeInTime = 180ms;
 constexpr auto fadeOutTime = 350ms;
 
-const QScreen* mainScreen() {
-    if (const QScreen* const primary = QGuiApplication::primaryScreen()) return primary;
-    return QGuiApplication::screens().value(0);
-}
-
 } // namespace
 
 HUD::HUD(Clock& clock, const Compositor& compositor)
@@ -42,7 +37,7 @@ void HUD::show(BannerMessage message) {
 
 void HUD::place(const BannerMessage& message) {
     const HUDView view{message.text, message.symbol, message.ok};
-    const QScreen* const screen = mainScreen();
+    const QScreen* const screen = QGuiApplication::primaryScreen();
     blended_ = compositor_.active();
     panel_->setContent(view, QString::fromStdString(message.text),
                        screen ? screen->devicePixelRatio() : 1, blended_);

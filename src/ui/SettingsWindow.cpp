@@ -31,7 +31,7 @@ constexpr Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::Win
 /// The content has a fixed width. It scrolls when it is higher than the screen.
 QSize contentSize(double height) {
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-    return {static_cast<int>(std::ceil(Theme::length(contentWidth))),
+    return {Theme::wholeLength(contentWidth),
             std::min(static_cast<int>(std::lround(height)), room.height() - titleBarHeight)};
 }
 

@@ -45,8 +45,9 @@ public:
 
 protected:
     [[nodiscard]] QList<QAccessibleInterface*> parts() const override {
-        return view_->accessibleWhole() ? QList<QAccessibleInterface*>{}
-                                        : ContainerDescription::parts();
+        const QAccessible::Role role = view_->accessibleRole();
+        const bool whole = role == QAccessible::StaticText || role == QAccessible::ListItem;
+        return whole ? QList<QAccessibleInterface*>{} : ContainerDescription::parts();
     }
 
 private:

@@ -18,14 +18,15 @@ class View : public Themed<QWidget> {
 public:
     explicit View(QWidget* parent = nullptr);
 
-    /// What the view is for assistive technology.
-    [[nodiscard]] virtual QAccessible::Role accessibleRole() const { return QAccessible::Graphic; }
+    /// What the view is for assistive technology. An alert or a notification is read out as soon as
+    /// it shows. What a static text or a list item shows already says all that the views inside
+    /// would say, so that these are left out.
+    void setAccessibleRole(QAccessible::Role role) { role_ = role; }
+    [[nodiscard]] QAccessible::Role accessibleRole() const { return role_; }
     /// What it shows, in words. An accessible name, if it has one, takes precedence.
     [[nodiscard]] virtual QString accessibleText() const { return {}; }
     /// Whether it is working on something.
     [[nodiscard]] virtual bool accessibleBusy() const { return false; }
-    /// Whether accessibleText() already says all that the views inside would say.
-    [[nodiscard]] virtual bool accessibleWhole() const { return false; }
 
     /// The label beside it, which says what this is the value or the choice of.
     void setAccessibleLabel(QWidget* label) { label_ = label; }
@@ -36,6 +37,7 @@ protected:
     void announceText();
 
 private:
+    QAccessible::Role role_ = QAccessible::Graphic;
     QPointer<QWidget> label_;
 };
 

@@ -55,10 +55,9 @@ void AppIconView::paintEvent(QPaintEvent* /*event*/) {
     paintAppIcon(painter, rect());
 }
 
-Wordmark::Wordmark(double points, Tint ink, QWidget* parent)
-    : View{parent},
-      points_{points},
-      ink_{ink} {
+Wordmark::Wordmark(double points, Tint ink) : points_{points}, ink_{ink} {
+    setAccessibleRole(QAccessible::StaticText);
+    setAccessibleName(productName());
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -72,14 +71,6 @@ QSize Wordmark::sizeHint() const {
     const QFontMetricsF metrics{font()};
     return {static_cast<int>(std::ceil(metrics.horizontalAdvance(productName()))) + 1,
             static_cast<int>(std::ceil(metrics.height()))};
-}
-
-QAccessible::Role Wordmark::accessibleRole() const {
-    return QAccessible::StaticText;
-}
-
-QString Wordmark::accessibleText() const {
-    return productName();
 }
 
 void Wordmark::paintEvent(QPaintEvent* /*event*/) {

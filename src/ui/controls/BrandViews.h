@@ -20,12 +20,10 @@ class Wordmark : public View {
     Q_OBJECT
 
 public:
-    explicit Wordmark(double points, Tint ink = Ink::primary, QWidget* parent = nullptr);
+    explicit Wordmark(double points, Tint ink = Ink::primary);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
-    [[nodiscard]] QAccessible::Role accessibleRole() const override;
-    [[nodiscard]] QString accessibleText() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -39,7 +39,6 @@ public:
     [[nodiscard]] int inset() const;
 
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -63,7 +62,7 @@ class ContentButton : public PressedByReturn<QPushButton> {
     Q_OBJECT
 
 public:
-    explicit ContentButton(QWidget* parent = nullptr);
+    ContentButton();
 
     /// Makes it one of several choices, and says whether it is the one that is taken. Assistive
     /// technology is told of it as "selected".
@@ -79,10 +78,8 @@ public:
     void setCornerRadius(double radius);
 
     /// The sizes are those of its layout.
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
-    [[nodiscard]] bool hasHeightForWidth() const override;
-    [[nodiscard]] int heightForWidth(int width) const override;
+    [[nodiscard]] QSize sizeHint() const override { return QWidget::sizeHint(); }
+    [[nodiscard]] QSize minimumSizeHint() const override { return QWidget::minimumSizeHint(); }
 
 protected:
     /// Paints what is under the views. Unless overridden, only the pointer leaves a trace.

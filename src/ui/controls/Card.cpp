@@ -13,30 +13,19 @@ void CardGround::paintEvent(QPaintEvent* /*event*/) {
     paintBox(painter, rect(), Space::cardRadius, theme.cardFill(), theme.separator());
 }
 
-Card::Card(const QString& title, const std::string& symbol, QWidget* parent)
-    : CardGround{parent},
-      title_{new IconLabel{
-          title,
-          symbol,
-          {.style = Text::callout.semibold(), .ink = Ink::secondary, .symbolInk = Ink::accent}}},
-      body_{new QVBoxLayout} {
-    auto* column = new QVBoxLayout{this};
-    column->setContentsMargins(Space::medium, Space::medium, Space::medium, Space::medium);
-    column->setSpacing(10);
-    column->addWidget(title_);
+Card::Card(const QString& title, const std::string& symbol) : body_{new QVBoxLayout} {
+    setAccessibleRole(QAccessible::Grouping);
+    setAccessibleName(title);
+    auto* column = columnIn(this, 10, Space::medium);
+    column->addWidget(new IconLabel{
+        title,
+        symbol,
+        {.style = Text::callout.semibold(), .ink = Ink::secondary, .symbolInk = Ink::accent}});
     column->addLayout(body_);
     body_->setSpacing(Space::small);
 }
 
-QAccessible::Role Card::accessibleRole() const {
-    return QAccessible::Grouping;
-}
-
-QString Card::accessibleText() const {
-    return title_->text().plain();
-}
-
-Divider::Divider(QWidget* parent) : View{parent} {
+Divider::Divider() {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

@@ -8,8 +8,6 @@ class QVBoxLayout;
 
 namespace quillon {
 
-class IconLabel;
-
 /// The box with round corners that cards, rows and long texts stand on.
 class CardGround : public View {
     Q_OBJECT
@@ -26,16 +24,12 @@ class Card : public CardGround {
     Q_OBJECT
 
 public:
-    Card(const QString& title, const std::string& symbol, QWidget* parent = nullptr);
+    Card(const QString& title, const std::string& symbol);
 
     /// The layout that takes the content, from top to bottom.
     [[nodiscard]] QVBoxLayout* body() const { return body_; }
 
-    [[nodiscard]] QAccessible::Role accessibleRole() const override;
-    [[nodiscard]] QString accessibleText() const override;
-
 private:
-    IconLabel* title_;
     QVBoxLayout* body_;
 };
 
@@ -44,7 +38,7 @@ class Divider : public View {
     Q_OBJECT
 
 public:
-    explicit Divider(QWidget* parent = nullptr);
+    Divider();
     [[nodiscard]] QSize sizeHint() const override { return {1, 1}; }
 
 protected:

@@ -3,17 +3,16 @@
 #include "ui/accessibility/Accessibility.h"
 
 #include <QChildEvent>
-#include <QLayout>
 #include <QPainter>
 
 namespace quillon {
 
 namespace {
 
-class ButtonDescription : public QAccessibleWidget {
+class ButtonDescription : public ContainerDescription {
 public:
     explicit ButtonDescription(ContentButton* button)
-        : QAccessibleWidget{button},
+        : ContainerDescription{button},
           button_{button} {}
 
     [[nodiscard]] QAccessible::Role role() const override {
@@ -32,13 +31,6 @@ public:
         return state;
     }
 
-    // The name and the description say all that the views on the button's face say.
-    [[nodiscard]] int childCount() const override { return 0; }
-    [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
-    [[nodiscard]] int indexOfChild(const QAccessibleInterface* /*child*/) const override {
-        return -1;
-    }
-
     [[nodiscard]] QStringList actionNames() const override {
         QStringList names = QAccessibleWidget::actionNames();
         if (button_->isEnabled()) names.prepend(pressAction());
@@ -53,13 +45,17 @@ public:
         }
     }
 
+protected:
+    // The name and the description say all that the views on the button's face say.
+    [[nodiscard]] QList<QAccessibleInterface*> parts() const override { return {}; }
+
 private:
     ContentButton* button_;
 };
 
 } // namespace
 
-ContentButton::ContentButton(QWidget* parent) : PressedByReturn{parent} {
+ContentButton::ContentButton() {
     describeAs<ContentButton, ButtonDescription>();
     QSizePolicy policy{QSizePolicy::Preferred, QSizePolicy::Preferred};
     policy.setHeightForWidth(true);
@@ -103,22 +99,6 @@ void ContentButton::setBusy(bool busy) {
 void ContentButton::setCornerRadius(double radius) {
     radius_ = radius;
     update();
-}
-
-QSize ContentButton::sizeHint() const {
-    return layout() ? layout()->totalSizeHint() : QSize{};
-}
-
-QSize ContentButton::minimumSizeHint() const {
-    return layout() ? layout()->totalMinimumSize() : QSize{};
-}
-
-bool ContentButton::hasHeightForWidth() const {
-    return layout() && layout()->hasHeightForWidth();
-}
-
-int ContentButton::heightForWidth(int width) const {
-    return hasHeightForWidth() ? layout()->totalHeightForWidth(width) : -1;
 }
 
 void ContentButton::paintGround(QPainter& painter, const Theme& theme) {

@@ -79,9 +79,7 @@ MessageWindow::MessageWindow(const QString& title, const QString& text, bool war
     body->addLayout(column_, 1);
     buttons_->setSpacing(Space::small);
     buttons_->addStretch(1);
-    auto* whole = new QVBoxLayout{this};
-    whole->setContentsMargins(Space::large, Space::large, Space::large, Space::large);
-    whole->setSpacing(Space::large);
+    auto* whole = columnIn(this, Space::large, Space::large);
     whole->addLayout(body, 1);
     whole->addLayout(buttons_);
     whole->setSizeConstraint(QLayout::SetFixedSize);

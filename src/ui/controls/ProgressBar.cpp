@@ -24,7 +24,7 @@ constexpr double standing = 0.5;
 
 } // namespace
 
-ProgressBar::ProgressBar(const QString& name, QWidget* parent) : Themed{parent} {
+ProgressBar::ProgressBar(const QString& name) {
     setTextVisible(false);
     setRange(0, 0);
     setAccessibleName(name);

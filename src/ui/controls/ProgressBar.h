@@ -14,7 +14,7 @@ class ProgressBar : public Themed<QProgressBar> {
 
 public:
     /// `name` is its accessible name.
-    explicit ProgressBar(const QString& name, QWidget* parent = nullptr);
+    explicit ProgressBar(const QString& name);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }

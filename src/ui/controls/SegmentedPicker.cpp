@@ -94,11 +94,10 @@ private:
     }
 };
 
-SegmentedPicker::SegmentedPicker(const QStringList& items, QWidget* parent) : View{parent} {
+SegmentedPicker::SegmentedPicker(const QStringList& items) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    auto* row = new QHBoxLayout{this};
-    row->setContentsMargins(troughMargin, troughMargin, troughMargin, troughMargin);
-    row->setSpacing(troughMargin);
+    setAccessibleRole(QAccessible::Grouping);
+    auto* row = rowIn(this, troughMargin, troughMargin);
     for (const QString& item : items) {
         auto* segment = new Segment{item};
         const int index = static_cast<int>(segments_.size());
@@ -138,10 +137,6 @@ void SegmentedPicker::setCurrentIndex(int index) {
 
 void SegmentedPicker::setItemAccessibleName(int index, const QString& name) {
     segments_.at(static_cast<std::size_t>(index))->setAccessibleName(name);
-}
-
-QAccessible::Role SegmentedPicker::accessibleRole() const {
-    return QAccessible::Grouping;
 }
 
 void SegmentedPicker::paintEvent(QPaintEvent* /*event*/) {

@@ -17,7 +17,7 @@ class SegmentedPicker : public View {
     Q_OBJECT
 
 public:
-    explicit SegmentedPicker(const QStringList& items, QWidget* parent = nullptr);
+    explicit SegmentedPicker(const QStringList& items);
 
     /// The picked choice, or -1.
     [[nodiscard]] int currentIndex() const;
@@ -25,8 +25,6 @@ public:
     void setCurrentIndex(int index);
     /// Names a choice for assistive technology, if its text does not do so.
     void setItemAccessibleName(int index, const QString& name);
-
-    [[nodiscard]] QAccessible::Role accessibleRole() const override;
 
 Q_SIGNALS:
     /// The user picked another one.

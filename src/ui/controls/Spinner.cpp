@@ -21,14 +21,9 @@ constexpr double spokeWidth = 0.20;
 
 } // namespace
 
-Spinner::Spinner(double size, QWidget* parent) : SquareView{size, parent} {}
-
-QAccessible::Role Spinner::accessibleRole() const {
-    return QAccessible::ProgressBar;
-}
-
-QString Spinner::accessibleText() const {
-    return tr("Working");
+Spinner::Spinner(double size) : SquareView{size} {
+    setAccessibleRole(QAccessible::ProgressBar);
+    setAccessibleName(tr("Working"));
 }
 
 void Spinner::showEvent(QShowEvent* event) {

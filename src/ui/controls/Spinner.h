@@ -13,13 +13,11 @@ class Spinner : public SquareView {
 
 public:
     /// `size` in points of the design.
-    explicit Spinner(double size = 16, QWidget* parent = nullptr);
+    explicit Spinner(double size = 16);
 
     /// Whether it is turning now.
     [[nodiscard]] bool turning() const { return timer_.isActive(); }
 
-    [[nodiscard]] QAccessible::Role accessibleRole() const override;
-    [[nodiscard]] QString accessibleText() const override;
     [[nodiscard]] bool accessibleBusy() const override { return isVisible(); }
 
 protected:

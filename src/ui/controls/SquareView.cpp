@@ -4,7 +4,7 @@
 
 namespace quillon {
 
-SquareView::SquareView(double size, QWidget* parent) : View{parent}, size_{size} {
+SquareView::SquareView(double size) : size_{size} {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

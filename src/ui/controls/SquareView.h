@@ -10,7 +10,7 @@ class SquareView : public View {
 
 public:
     /// `size` in points of the design.
-    explicit SquareView(double size, QWidget* parent = nullptr);
+    explicit SquareView(double size);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }

@@ -34,8 +34,8 @@ QColor mixed(QColor from, QColor to, double share) {
 
 } // namespace
 
-Switch::Switch(const QString& title, std::string symbol, QColor color, QWidget* parent)
-    : PressedByReturn{title, parent},
+Switch::Switch(const QString& title, std::string symbol, QColor color)
+    : PressedByReturn{title},
       symbol_{std::move(symbol)},
       color_{color},
       position_{0, [this](double) { update(); }} {
@@ -65,8 +65,7 @@ TextBlock Switch::titleBlock() const {
 }
 
 double Switch::besideTitle() const {
-    const double tile = symbol_.empty() ? 0 : Tile::side() + gap;
-    return tile + gap + trackSize().width();
+    return Tile::side() + 2 * gap + trackSize().width();
 }
 
 QSize Switch::sizeHint() const {
@@ -84,11 +83,10 @@ QSize Switch::hintFor(double mostTitle) const {
 }
 
 int Switch::heightForWidth(int width) const {
-    double height = trackSize().height();
-    if (!symbol_.empty()) height = std::max<double>(height, Tile::side());
     TextBlock title = titleBlock();
-    height = std::max(height, title.wrap(std::max(1.0, width - besideTitle())).height());
-    return static_cast<int>(std::ceil(height));
+    const double text = title.wrap(std::max(1.0, width - besideTitle())).height();
+    return static_cast<int>(
+        std::ceil(std::max<double>({trackSize().height(), double(Tile::side()), text})));
 }
 
 bool Switch::hitButton(const QPoint& position) const {
@@ -105,14 +103,11 @@ void Switch::paintEvent(QPaintEvent* /*event*/) {
 void Switch::paintTitle(QPainter& painter) const {
     const Theme theme = this->theme();
     const bool rightToLeft = layoutDirection() == Qt::RightToLeft;
-    double before = 0;
-    if (!symbol_.empty()) {
-        const double side = Tile::side();
-        const double x = rightToLeft ? width() - side : 0;
-        Tile::paint(painter, {x, std::floor((height() - side) / 2), side, side}, symbol_, color_,
-                    theme);
-        before = side + gap;
-    }
+    const double side = Tile::side();
+    const double x = rightToLeft ? width() - side : 0;
+    Tile::paint(painter, {x, std::floor((height() - side) / 2), side, side}, symbol_, color_,
+                theme);
+    const double before = side + gap;
     TextBlock title = titleBlock();
     const double room = std::max(1.0, width() - besideTitle());
     const QSizeF size = title.wrap(room);

@@ -17,7 +17,7 @@ class Switch : public PressedByReturn<QCheckBox> {
     Q_OBJECT
 
 public:
-    Switch(const QString& title, std::string symbol, QColor color, QWidget* parent = nullptr);
+    Switch(const QString& title, std::string symbol, QColor color);
 
     /// Shows whether it is on, without emitting switched().
     void showOn(bool on);

@@ -17,7 +17,7 @@ constexpr double leastWidth = 80;
 
 } // namespace
 
-TextField::TextField(QWidget* parent) : Themed{parent} {
+TextField::TextField() {
     // The style draws nothing but the text. (With a style sheet, Qt would keep the first colours.)
     setFrame(false);
     QPalette bare;

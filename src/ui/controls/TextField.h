@@ -11,7 +11,7 @@ class TextField : public Themed<QLineEdit> {
     Q_OBJECT
 
 public:
-    explicit TextField(QWidget* parent = nullptr);
+    TextField();
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

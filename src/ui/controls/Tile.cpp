@@ -18,10 +18,7 @@ constexpr double cornerShare = 0.27;
 
 } // namespace
 
-Tile::Tile(std::string symbol, QColor color, QWidget* parent)
-    : View{parent},
-      symbol_{std::move(symbol)},
-      color_{color} {
+Tile::Tile(std::string symbol, QColor color) : symbol_{std::move(symbol)}, color_{color} {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -54,26 +51,12 @@ void Tile::paintEvent(QPaintEvent* /*event*/) {
 }
 
 TileLabel::TileLabel(const QString& title, const std::string& symbol, QColor color,
-                     const TextStyle& style, QWidget* parent)
-    : View{parent},
-      title_{new IconLabel{title, {}, {.style = style}}} {
-    auto* row = new QHBoxLayout{this};
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(10);
+                     const TextStyle& style) {
+    setAccessibleRole(QAccessible::StaticText);
+    setAccessibleName(title);
+    auto* row = rowIn(this, 10);
     row->addWidget(new Tile{symbol, color});
-    row->addWidget(title_, 1);
-}
-
-void TileLabel::setTitle(const QString& title) {
-    title_->setText(title);
-}
-
-QAccessible::Role TileLabel::accessibleRole() const {
-    return QAccessible::StaticText;
-}
-
-QString TileLabel::accessibleText() const {
-    return title_->text().plain();
+    row->addWidget(new IconLabel{title, {}, {.style = style}}, 1);
 }
 
 } // namespace quillon

@@ -11,7 +11,7 @@ class Tile : public View {
     Q_OBJECT
 
 public:
-    Tile(std::string symbol, QColor color, QWidget* parent = nullptr);
+    Tile(std::string symbol, QColor color);
     void setSymbol(const std::string& symbol, QColor color);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -37,15 +37,7 @@ class TileLabel : public View {
 
 public:
     TileLabel(const QString& title, const std::string& symbol, QColor color,
-              const TextStyle& style = Text::body, QWidget* parent = nullptr);
-
-    void setTitle(const QString& title);
-    [[nodiscard]] QAccessible::Role accessibleRole() const override;
-    [[nodiscard]] QString accessibleText() const override;
-    [[nodiscard]] bool accessibleWhole() const override { return true; }
-
-private:
-    IconLabel* title_;
+              const TextStyle& style = Text::body);
 };
 
 } // namespace quillon

@@ -22,22 +22,20 @@ LabelLook detailLook(bool failed) {
 
 } // namespace
 
-HistoryRow::HistoryRow(QWidget* parent)
-    : View{parent},
-      symbol_{new SymbolView{{}, {.size = symbolSize, .ink = Ink::secondary}}},
+HistoryRow::HistoryRow()
+    : symbol_{new SymbolView{
+          {}, {.size = symbolSize, .ink = Ink::secondary, .frameWidth = symbolFrame}}},
       title_{new IconLabel{{}, {}, {.style = Text::callout, .overflow = Overflow::elideMiddle}}},
       detail_{new IconLabel{{}, {}, detailLook(false)}},
       mark_{new SymbolView{{}}} {
-    symbol_->setFrameWidth(symbolFrame);
+    setAccessibleRole(QAccessible::ListItem);
 
     auto* const column = new QVBoxLayout;
     column->setSpacing(lineSpacing);
     column->addWidget(title_);
     column->addWidget(detail_);
 
-    auto* const row = new QHBoxLayout{this};
-    row->setContentsMargins({});
-    row->setSpacing(0);
+    auto* const row = rowIn(this, 0);
     row->addWidget(symbol_, 0, Qt::AlignVCenter);
     row->addSpacing(Space::small);
     row->addLayout(column, 1);

@@ -16,15 +16,11 @@ class HistoryRow : public View {
     Q_OBJECT
 
 public:
-    explicit HistoryRow(QWidget* parent = nullptr);
+    HistoryRow();
 
     void setEntry(const Sent& entry, Date now, const std::string& locale);
 
-    [[nodiscard]] QAccessible::Role accessibleRole() const override {
-        return QAccessible::ListItem;
-    }
     [[nodiscard]] QString accessibleText() const override;
-    [[nodiscard]] bool accessibleWhole() const override { return true; }
 
 private:
     void setFailed(bool failed);

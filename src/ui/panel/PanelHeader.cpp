@@ -17,15 +17,15 @@ constexpr double warningSize = 10;
 
 } // namespace
 
-PanelHeader::PanelHeader(QWidget* parent)
-    : View{parent},
-      connected_{new TelegramIcon{telegramSize}},
+PanelHeader::PanelHeader()
+    : connected_{new TelegramIcon{telegramSize}},
       notSetUp_{new SymbolView{"exclamationmark.circle.fill",
                                {.size = warningSize, .ink = Ink::warning}}},
       status_{new IconLabel{
           {},
           {},
           {.style = Text::caption, .ink = Ink::secondary, .overflow = Overflow::elideEnd}}} {
+    setAccessibleRole(QAccessible::Grouping);
     auto* const line = new QHBoxLayout;
     line->setSpacing(Space::tight);
     line->addWidget(connected_);
@@ -37,9 +37,7 @@ PanelHeader::PanelHeader(QWidget* parent)
     column->addWidget(new Wordmark{wordmarkSize}, 0, Qt::AlignLeading);
     column->addLayout(line);
 
-    auto* const row = new QHBoxLayout{this};
-    row->setContentsMargins({});
-    row->setSpacing(Space::small + Space::hair);
+    auto* const row = rowIn(this, Space::small + Space::hair);
     row->addWidget(new AppIconView{iconSize}, 0, Qt::AlignTop);
     row->addLayout(column, 1);
 }

@@ -16,14 +16,10 @@ class PanelHeader : public View {
     Q_OBJECT
 
 public:
-    explicit PanelHeader(QWidget* parent = nullptr);
+    PanelHeader();
 
     /// `group` is the title of the group, if it is known.
     void setStatus(bool ready, const std::optional<std::string>& group);
-
-    [[nodiscard]] QAccessible::Role accessibleRole() const override {
-        return QAccessible::Grouping;
-    }
 
 private:
     TelegramIcon* connected_;

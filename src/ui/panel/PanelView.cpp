@@ -6,7 +6,6 @@
 #include "state/Store.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Card.h"
-#include "ui/panel/PanelFooter.h"
 #include "ui/panel/PanelHeader.h"
 #include "ui/panel/RecentSends.h"
 #include "ui/panel/SendButton.h"
@@ -34,12 +33,14 @@ constexpr int spacing = 14;
 constexpr int footerRoom = 3;
 constexpr std::chrono::seconds tickInterval{1};
 
+TextButton* footerButton(const QString& text, const char* symbol) {
+    return new TextButton{text, symbol, {.kind = ButtonKind::borderless, .style = Text::callout}};
+}
+
 } // namespace
 
-PanelView::PanelView(Platform& platform, Store& store, const Updater& updater, PanelActions actions,
-                     QWidget* parent)
-    : QWidget{parent},
-      platform_{platform},
+PanelView::PanelView(Platform& platform, Store& store, const Updater& updater, PanelActions actions)
+    : platform_{platform},
       store_{store},
       updater_{updater},
       actions_{std::move(actions)},
@@ -50,10 +51,8 @@ PanelView::PanelView(Platform& platform, Store& store, const Updater& updater, P
       warning_{new IconLabel{
           {}, "exclamationmark.triangle.fill", {.style = Text::caption, .ink = Ink::warning}}},
       recent_{new RecentSends},
-      footer_{new PanelFooter},
       refresher_{this, [this] { refresh(); }} {
     build();
-    connectActions();
     warning_->setAccessibleRole(QAccessible::AlertMessage);
     refresher_.watch(store_, &Store::objectWillChange)
         .watch(updater_, &Updater::objectWillChange)
@@ -68,22 +67,33 @@ void PanelView::build() {
         parts->addWidget(part);
 
     // The texts of the footer's buttons line up with everything else, not the buttons' edges.
-    const int inset = footer_->inset();
+    auto* const settings = footerButton(tr("Settings…"), "gearshape.fill");
+    const int inset = settings->inset();
     parts->setContentsMargins(inset, 0, inset, 0);
     auto* const column = new QVBoxLayout{this};
     column->setContentsMargins(padding - inset, padding, padding - inset, padding - footerRoom);
     column->setSpacing(spacing - footerRoom);
     column->addLayout(parts);
-    column->addWidget(footer_);
-}
-
-void PanelView::connectActions() {
+    column->addLayout(buildFooter(settings));
     connect(send_, &SendButton::clicked, this,
             [this] { std::ignore = store_.sendClipboard(Trigger::button); });
     connect(setup_, &SetupCard::startSetup, this, [this] { actions_.showSettings(); });
-    connect(footer_, &PanelFooter::settings, this, [this] { actions_.showSettings(); });
-    connect(footer_, &PanelFooter::checkForUpdates, this, [this] { updater_.checkForUpdates(); });
-    connect(footer_, &PanelFooter::quit, this, [this] { actions_.quit(); });
+}
+
+QHBoxLayout* PanelView::buildFooter(TextButton* settings) {
+    updates_ = footerButton(tr("Check for Updates…"), "arrow.down.circle");
+    auto* const quit = footerButton(tr("Quit"), "power");
+    connect(settings, &TextButton::clicked, this, [this] { actions_.showSettings(); });
+    connect(updates_, &TextButton::clicked, this, [this] { updater_.checkForUpdates(); });
+    connect(quit, &TextButton::clicked, this, [this] { actions_.quit(); });
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(0);
+    row->addWidget(settings);
+    row->addStretch();
+    row->addWidget(updates_);
+    row->addStretch();
+    row->addWidget(quit);
+    return row;
 }
 
 void PanelView::refresh() {
@@ -100,7 +110,8 @@ void PanelView::refresh() {
     warning_->setText(takenText(config.shortcut));
     warning_->setVisible(store_.shortcutTaken());
     recent_->setHistory(store_.history(), platform_.clock.now(), platform_.system.locale);
-    footer_->setUpdates(updater_.available(), updater_.canCheck());
+    updates_->setVisible(updater_.available());
+    updates_->setEnabled(updater_.canCheck());
     updateGeometry();
 }
 

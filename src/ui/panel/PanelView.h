@@ -4,26 +4,34 @@
 #include "send/Clipboard.h"
 #include "state/ShortcutChoice.h"
 #include "ui/controls/Refresher.h"
-#include "ui/panel/PanelActions.h"
 
 #include <QCoroTask>
 #include <QWidget>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
+
+class QHBoxLayout;
 
 namespace quillon {
 
 class IconLabel;
-class PanelFooter;
 class PanelHeader;
 class RecentSends;
 class SendButton;
 class SetupCard;
 class Store;
+class TextButton;
 class Updater;
 struct Platform;
+
+/// The actions of the panel's buttons that lie outside the panel.
+struct PanelActions {
+    std::function<void()> showSettings;
+    std::function<void()> quit;
+};
 
 /// The panel that the icon opens: the state of the program, the button that sends the clipboard,
 /// the last sends, and the way to everything else. It looks at the clipboard every second while it
@@ -32,8 +40,7 @@ class PanelView : public QWidget {
     Q_OBJECT
 
 public:
-    PanelView(Platform& platform, Store& store, const Updater& updater, PanelActions actions,
-              QWidget* parent = nullptr);
+    PanelView(Platform& platform, Store& store, const Updater& updater, PanelActions actions);
 
     /// Gives the keyboard focus to the main button.
     void focusMainAction();
@@ -51,7 +58,8 @@ protected:
 
 private:
     void build();
-    void connectActions();
+    /// The row of small buttons at the bottom, of which this is the first.
+    [[nodiscard]] QHBoxLayout* buildFooter(TextButton* settings);
     /// Shows the state of the store, the updater and the clipboard.
     void refresh();
     /// Looks at everything that changes without a signal, and schedules the next look.
@@ -75,7 +83,7 @@ private:
     SendButton* send_;
     IconLabel* warning_;
     RecentSends* recent_;
-    PanelFooter* footer_;
+    TextButton* updates_ = nullptr;
     Refresher refresher_;
 };
 

@@ -7,16 +7,14 @@
 
 namespace quillon {
 
-RecentSends::RecentSends(QWidget* parent)
-    : View{parent},
-      none_{new IconLabel{
+RecentSends::RecentSends()
+    : none_{new IconLabel{
           tr("Nothing sent yet."), "tray", {.style = Text::callout, .ink = Ink::tertiary}}} {
+    setAccessibleRole(QAccessible::List);
     setAccessibleName(tr("Recent"));
     none_->setContentsMargins(0, Space::tight, 0, Space::tight);
 
-    auto* const column = new QVBoxLayout{this};
-    column->setContentsMargins({});
-    column->setSpacing(Space::small);
+    auto* const column = columnIn(this, Space::small);
     column->addWidget(new IconLabel{tr("Recent"),
                                     "clock.arrow.circlepath",
                                     {.style = Text::caption.semibold(), .ink = Ink::secondary}});

@@ -20,12 +20,10 @@ public:
     /// The number of sends that are listed.
     static constexpr std::size_t limit = 5;
 
-    explicit RecentSends(QWidget* parent = nullptr);
+    RecentSends();
 
     /// `history` has the newest send first. The ages are written in the language of `locale`.
     void setHistory(const std::vector<Sent>& history, Date now, const std::string& locale);
-
-    [[nodiscard]] QAccessible::Role accessibleRole() const override { return QAccessible::List; }
 
 private:
     IconLabel* none_;

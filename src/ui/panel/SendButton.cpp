@@ -27,10 +27,12 @@ constexpr int hoverLighter = 103;
 
 } // namespace
 
-SendButton::SendButton(QWidget* parent)
-    : ContentButton{parent},
-      symbol_{new SymbolView{
-          {}, {.size = symbolSize, .weight = SymbolWeight::semibold, .ink = Brand::navy}}},
+SendButton::SendButton()
+    : symbol_{new SymbolView{{},
+                             {.size = symbolSize,
+                              .weight = SymbolWeight::semibold,
+                              .ink = Brand::navy,
+                              .frameWidth = symbolFrame}}},
       title_{new IconLabel{{}, {}, {.style = titleStyle, .ink = Brand::navy}}},
       line_{new IconLabel{{},
                           {},
@@ -40,16 +42,13 @@ SendButton::SendButton(QWidget* parent)
       keys_{new KeyRow{KeyKind::darkCap}} {
     setCornerRadius(Space::cardRadius);
     setAccessibleName(tr("Send clipboard to phone"));
-    symbol_->setFrameWidth(symbolFrame);
 
     auto* const column = new QVBoxLayout;
     column->setSpacing(Space::hair);
     column->addWidget(title_);
     column->addWidget(line_);
 
-    auto* const row = new QHBoxLayout{this};
-    row->setContentsMargins(padding, padding, padding, padding);
-    row->setSpacing(0);
+    auto* const row = rowIn(this, 0, padding);
     row->addWidget(symbol_, 0, Qt::AlignVCenter);
     row->addSpacing(Space::small);
     row->addLayout(column, 1);

@@ -15,7 +15,7 @@ class SendButton : public ContentButton {
     Q_OBJECT
 
 public:
-    explicit SendButton(QWidget* parent = nullptr);
+    SendButton();
 
     void setClip(const Clipboard::Summary& clip, bool busy);
     void setShortcut(ShortcutChoice shortcut);

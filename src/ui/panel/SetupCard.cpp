@@ -15,17 +15,15 @@ constexpr TextStyle titleStyle{14, QFont::Bold};
 
 } // namespace
 
-SetupCard::SetupCard(QWidget* parent)
-    : View{parent},
-      invitation_{new IconLabel{{}, {}, {.style = Text::caption, .ink = Ink::secondary}}} {
+SetupCard::SetupCard()
+    : invitation_{new IconLabel{{}, {}, {.style = Text::caption, .ink = Ink::secondary}}} {
+    setAccessibleRole(QAccessible::Grouping);
     setAccessibleName(tr("Connect your phone"));
     auto* const start = new TextButton{
         tr("Start setup"), "arrow.right.circle.fill", {.kind = ButtonKind::prominent}};
     connect(start, &TextButton::clicked, this, &SetupCard::startSetup);
 
-    auto* const column = new QVBoxLayout{this};
-    column->setContentsMargins(padding, padding, padding, padding);
-    column->setSpacing(Space::small);
+    auto* const column = columnIn(this, Space::small, padding);
     column->addWidget(new IconLabel{
         tr("Connect your phone"), "iphone.gen3.radiowaves.left.and.right", {.style = titleStyle}});
     column->addWidget(invitation_);

@@ -11,14 +11,10 @@ class SetupCard : public View {
     Q_OBJECT
 
 public:
-    explicit SetupCard(QWidget* parent = nullptr);
+    SetupCard();
 
     /// `keys` are the symbols of the shortcut's keys.
     void setShortcut(const QString& keys);
-
-    [[nodiscard]] QAccessible::Role accessibleRole() const override {
-        return QAccessible::Grouping;
-    }
 
 Q_SIGNALS:
     /// The user wants to set the program up.

@@ -32,14 +32,11 @@ IconLabel* makeValue() {
 
 } // namespace
 
-GeneralView::GeneralView(Store& store, Updater& updater, SettingsActions actions, QWidget* parent)
-    : View{parent},
-      store_{store},
+GeneralView::GeneralView(Store& store, Updater& updater, SettingsActions actions)
+    : store_{store},
       actions_{std::move(actions)},
       refresher_{this, [this] { refresh(); }} {
-    auto* column = new QVBoxLayout{this};
-    column->setContentsMargins(Space::large, Space::large, Space::large, Space::large);
-    column->setSpacing(Space::medium);
+    auto* column = columnIn(this, Space::medium, Space::large);
     column->addWidget(buildShortcut());
     column->addWidget(buildSending());
     column->addWidget(buildStartup());
@@ -91,9 +88,7 @@ Card* GeneralView::buildSending() {
 QWidget* GeneralView::buildPositions() {
     positions_ = new View;
     positions_->setAccessibleName(tr("Banner position"));
-    auto* row = new QHBoxLayout{positions_};
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Space::small);
+    auto* row = rowIn(positions_, Space::small);
     for (const BannerPosition position : allBannerPositions) {
         auto* card = new PositionCard{position};
         positionCards_[position] = card;

@@ -26,7 +26,7 @@ class GeneralView : public View {
     Q_OBJECT
 
 public:
-    GeneralView(Store& store, Updater& updater, SettingsActions actions, QWidget* parent = nullptr);
+    GeneralView(Store& store, Updater& updater, SettingsActions actions);
 
 protected:
     void showEvent(QShowEvent* event) override;

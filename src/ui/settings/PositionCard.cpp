@@ -28,9 +28,8 @@ constexpr std::array spokenNames{
 
 } // namespace
 
-PositionCard::PositionCard(BannerPosition position, QWidget* parent)
-    : ContentButton{parent},
-      symbol_{new SymbolView{std::string{symbol(position)}, {.size = symbolPoints}}},
+PositionCard::PositionCard(BannerPosition position)
+    : symbol_{new SymbolView{std::string{symbol(position)}, {.size = symbolPoints}}},
       label_{new IconLabel{QString::fromStdString(label(position))}} {
     setCornerRadius(cardCorner);
     setAccessibleName(tr(spokenNames.at(static_cast<std::size_t>(position))));

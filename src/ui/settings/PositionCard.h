@@ -13,7 +13,7 @@ class PositionCard : public ContentButton {
     Q_OBJECT
 
 public:
-    explicit PositionCard(BannerPosition position, QWidget* parent = nullptr);
+    explicit PositionCard(BannerPosition position);
 
     /// Shows whether this is the banner's position now.
     void showSelected(bool selected);

@@ -1,11 +1,12 @@
 #include "ui/settings/SettingsView.h"
 
+#include "ui/controls/Buttons.h"
 #include "ui/controls/Card.h"
 #include "ui/settings/GeneralView.h"
-#include "ui/settings/PanelOffer.h"
 #include "ui/settings/TabStrip.h"
 #include "ui/settings/TopicsView.h"
 #include "ui/setup/SetupView.h"
+#include "ui/text/IconLabel.h"
 
 #include <QScrollArea>
 #include <QShortcut>
@@ -48,15 +49,13 @@ public:
 } // namespace
 
 SettingsView::SettingsView(Store& store, Updater& updater, SettingsActions actions,
-                           const QString& tab, QWidget* parent)
-    : View{parent},
-      setup_{new SetupView{store}},
+                           const QString& tab)
+    : setup_{new SetupView{store}},
       tabs_{new TabStrip},
       pages_{new Pages},
-      offer_{new PanelOffer},
+      offer_{buildOffer(actions.openPanel)},
       measuring_{this, [this] { measure(); }} {
     build();
-    connect(offer_, &PanelOffer::openPanel, this, actions.openPanel);
     addPage(setup_);
     addPage(new TopicsView{store});
     addPage(new GeneralView{store, updater, std::move(actions)});
@@ -92,6 +91,24 @@ void SettingsView::build() {
     column->addWidget(scroll_, 1);
     column->addWidget(offer_);
     offer_->hide();
+}
+
+QWidget* SettingsView::buildOffer(std::function<void()> openPanel) {
+    auto* offer = new QWidget;
+    auto* open = new TextButton{tr("Open pane&l"), {}, {.style = Text::callout}};
+    connect(open, &TextButton::clicked, this, std::move(openPanel));
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(Space::large, Space::small, Space::large, Space::small);
+    row->setSpacing(Space::small);
+    row->addWidget(new IconLabel{tr("This desktop shows no icon for Quillon."),
+                                 "info.circle",
+                                 {.style = Text::callout, .ink = Ink::secondary}},
+                   1, Qt::AlignVCenter);
+    row->addWidget(open);
+    auto* column = columnIn(offer, 0);
+    column->addWidget(new Divider);
+    column->addLayout(row);
+    return offer;
 }
 
 void SettingsView::setPanelOffered(bool offered) {

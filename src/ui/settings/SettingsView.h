@@ -10,7 +10,6 @@ class QScrollArea;
 
 namespace quillon {
 
-class PanelOffer;
 class SetupView;
 class Store;
 class TabStrip;
@@ -23,8 +22,7 @@ class SettingsView : public View {
 
 public:
     /// `tab` is the tag of the first tab to show: "setup", "topics" or "general".
-    SettingsView(Store& store, Updater& updater, SettingsActions actions, const QString& tab,
-                 QWidget* parent = nullptr);
+    SettingsView(Store& store, Updater& updater, SettingsActions actions, const QString& tab);
 
     [[nodiscard]] QString tab() const;
     /// Ignores a tag that no tab has.
@@ -53,6 +51,9 @@ protected:
 
 private:
     void build();
+    /// The strip at the bottom with a button that opens the panel, for desktops without a place for
+    /// the icon that usually opens it.
+    [[nodiscard]] QWidget* buildOffer(std::function<void()> openPanel);
     void addPage(QWidget* page);
     /// Goes `by` tabs further, from the last to the first and back.
     void stepTab(int by);
@@ -64,7 +65,7 @@ private:
     QWidget* pages_;
     std::vector<QWidget*> pageList_;
     QScrollArea* scroll_ = nullptr;
-    PanelOffer* offer_;
+    QWidget* offer_;
     int reported_ = 0;
     Refresher measuring_;
 };

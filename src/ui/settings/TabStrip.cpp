@@ -1,6 +1,5 @@
 #include "ui/settings/TabStrip.h"
 
-#include "ui/settings/TabStripAccessibility.h"
 #include "ui/text/SymbolView.h"
 
 #include <QFontMetricsF>
@@ -27,8 +26,8 @@ QFontMetricsF titleMetrics() {
 
 } // namespace
 
-TabStrip::TabStrip(QWidget* parent) : Themed{parent} {
-    describeTabStrips();
+TabStrip::TabStrip() {
+    describe();
     setDrawBase(false);
     setExpanding(false);
     setUsesScrollButtons(false);

@@ -14,7 +14,7 @@ class TabStrip : public Themed<QTabBar> {
     Q_OBJECT
 
 public:
-    explicit TabStrip(QWidget* parent = nullptr);
+    TabStrip();
 
     void add(const QString& title, const std::string& symbol);
 
@@ -25,6 +25,9 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    /// Makes Qt tell assistive technology which tab is selected and which has the focus, which its
+    /// own description of tabs does not.
+    static void describe();
     void paintTab(QPainter& painter, int index) const;
 
     std::vector<std::string> symbols_;

@@ -1,7 +1,6 @@
-#include "ui/settings/TabStripAccessibility.h"
+#include "ui/settings/TabStrip.h"
 
 #include "ui/accessibility/Accessibility.h"
-#include "ui/settings/TabStrip.h"
 
 #include <QAccessibleWidget>
 #include <QPointer>
@@ -133,7 +132,7 @@ private:
 
 } // namespace
 
-void describeTabStrips() {
+void TabStrip::describe() {
     describeAs<TabStrip, StripDescription>();
 }
 

@@ -29,14 +29,11 @@ QString rule(const Topic& topic) {
 
 } // namespace
 
-TopicRow::TopicRow(QWidget* parent)
-    : View{parent},
-      tile_{new Tile{{}, {}}},
+TopicRow::TopicRow()
+    : tile_{new Tile{{}, {}}},
       name_{new TextField},
       rule_{new IconLabel{{}, {}, {.style = Text::caption, .ink = Ink::secondary}}} {
-    auto* row = new QHBoxLayout{this};
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(betweenParts);
+    auto* row = rowIn(this, betweenParts);
     row->addWidget(tile_);
     row->addWidget(name_, 1);
     row->addWidget(rule_);

@@ -14,7 +14,7 @@ class TopicRow : public View {
     Q_OBJECT
 
 public:
-    explicit TopicRow(QWidget* parent = nullptr);
+    TopicRow();
 
     void setTopic(const Topic& topic);
 

@@ -11,10 +11,7 @@
 
 namespace quillon {
 
-TopicsView::TopicsView(Store& store, QWidget* parent)
-    : View{parent},
-      store_{store},
-      refresher_{this, [this] { refresh(); }} {
+TopicsView::TopicsView(Store& store) : store_{store}, refresher_{this, [this] { refresh(); }} {
     auto* column = new QVBoxLayout{this};
     column->setContentsMargins(Space::large, Space::large, Space::large, Space::large);
     column->addWidget(buildNames());

@@ -25,7 +25,7 @@ class TopicsView : public View {
     Q_OBJECT
 
 public:
-    explicit TopicsView(Store& store, QWidget* parent = nullptr);
+    explicit TopicsView(Store& store);
 
 private:
     [[nodiscard]] Card* buildNames();

@@ -70,9 +70,7 @@ UninstallSheet::UninstallSheet(std::function<QCoro::Task<>()> uninstall, QWidget
       uninstall_{std::move(uninstall)} {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Uninstall Quillon?"));
-    auto* column = new QVBoxLayout{this};
-    column->setContentsMargins(Space::large, Space::large, Space::large, Space::large);
-    column->setSpacing(Space::medium);
+    auto* column = columnIn(this, Space::medium, Space::large);
     column->addLayout(buildHeader());
     column->addWidget(new IconLabel{
         tr("This removes from this Mac:"), {}, {.style = Text::callout, .ink = Ink::secondary}});

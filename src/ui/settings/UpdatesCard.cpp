@@ -8,16 +8,17 @@
 
 namespace quillon {
 
-UpdatesCard::UpdatesCard(Updater& updater, QWidget* parent)
-    : Card{tr("Updates"), "arrow.down.circle.fill", parent},
+UpdatesCard::UpdatesCard(Updater& updater)
+    : Card{tr("Updates"), "arrow.down.circle.fill"},
       updater_{updater},
       automatic_{new Switch{tr("Check for updates &automatically"), "arrow.triangle.2.circlepath",
                             Palette::purple}},
-      version_{new TileLabel{{}, "info.circle.fill", Palette::gray}},
       check_{new TextButton{tr("Check &now"), "arrow.down.circle"}},
       refresher_{this, [this] { refresh(); }} {
     body()->addWidget(automatic_);
-    body()->addLayout(settingRow(version_, check_));
+    auto* version = new TileLabel{tr("Version %1").arg(QString::fromStdString(updater.version())),
+                                  "info.circle.fill", Palette::gray};
+    body()->addLayout(settingRow(version, check_));
     connect(automatic_, &Switch::switched, this, &UpdatesCard::setAutomatic);
     connect(check_, &TextButton::clicked, this, [this] { updater_.checkForUpdates(); });
     refresher_.watch(updater, &Updater::objectWillChange);
@@ -27,7 +28,6 @@ UpdatesCard::UpdatesCard(Updater& updater, QWidget* parent)
 void UpdatesCard::refresh() {
     const UpdateFramework* controller = updater_.controller();
     automatic_->showOn(controller && controller->automaticallyChecksForUpdates());
-    version_->setTitle(tr("Version %1").arg(QString::fromStdString(updater_.version())));
     check_->setEnabled(updater_.canCheck());
 }
 

@@ -7,7 +7,6 @@ namespace quillon {
 
 class Switch;
 class TextButton;
-class TileLabel;
 class Updater;
 
 /// The settings card about updates: whether the program looks for them by itself, its version, and
@@ -16,7 +15,7 @@ class UpdatesCard : public Card {
     Q_OBJECT
 
 public:
-    explicit UpdatesCard(Updater& updater, QWidget* parent = nullptr);
+    explicit UpdatesCard(Updater& updater);
 
 private:
     void refresh();
@@ -24,7 +23,6 @@ private:
 
     Updater& updater_;
     Switch* automatic_;
-    TileLabel* version_;
     TextButton* check_;
     Refresher refresher_;
 };

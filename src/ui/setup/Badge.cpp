@@ -19,7 +19,7 @@ constexpr double tintOpacity = 0.16;
 
 } // namespace
 
-Badge::Badge(QWidget* parent) : View{parent} {
+Badge::Badge() {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -44,16 +44,13 @@ void Badge::set(int number, const std::string& symbol, bool done) {
     number_ = number;
     symbol_ = symbol;
     done_ = done;
+    setAccessibleRole(accessibleText().isEmpty() ? QAccessible::Graphic : QAccessible::StaticText);
     announceText();
     update();
 }
 
 QSize Badge::sizeHint() const {
     return {side(), side()};
-}
-
-QAccessible::Role Badge::accessibleRole() const {
-    return accessibleText().isEmpty() ? QAccessible::Graphic : QAccessible::StaticText;
 }
 
 QString Badge::accessibleText() const {

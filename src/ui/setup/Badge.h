@@ -11,7 +11,7 @@ class Badge : public View {
     Q_OBJECT
 
 public:
-    explicit Badge(QWidget* parent = nullptr);
+    Badge();
 
     void setNumber(int number);
     void setSymbol(const std::string& symbol);
@@ -20,7 +20,6 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
-    [[nodiscard]] QAccessible::Role accessibleRole() const override;
     [[nodiscard]] QString accessibleText() const override;
 
     /// Its diameter in device-independent pixels.

@@ -4,9 +4,8 @@
 
 namespace quillon {
 
-Collapsible::Collapsible(QWidget* content, QWidget* parent)
-    : View{parent},
-      content_{content},
+Collapsible::Collapsible(QWidget* content)
+    : content_{content},
       openness_{0, [this](double openness) {
                     setVisible(openness > 0 || openness_.target() > 0);
                     updateGeometry();

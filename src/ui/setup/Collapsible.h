@@ -12,7 +12,7 @@ class Collapsible : public View {
 
 public:
     /// Is closed at first. Becomes the parent of the content.
-    explicit Collapsible(QWidget* content, QWidget* parent = nullptr);
+    explicit Collapsible(QWidget* content);
 
     void setOpen(bool open, bool animated);
     [[nodiscard]] bool moving() const { return openness_.running(); }

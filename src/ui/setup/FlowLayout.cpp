@@ -7,12 +7,10 @@
 
 namespace quillon {
 
-FlowLayout::FlowLayout(int spacing, QWidget* parent) : QLayout{parent} {
+FlowLayout::FlowLayout(int spacing) {
     setContentsMargins(0, 0, 0, 0);
     setSpacing(spacing);
 }
-
-FlowLayout::~FlowLayout() = default;
 
 void FlowLayout::addItem(QLayoutItem* item) {
     items_.emplace_back(item);

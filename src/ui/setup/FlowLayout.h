@@ -14,8 +14,7 @@ class FlowLayout : public QLayout {
 
 public:
     /// `spacing` is the distance between items and between lines, in device-independent pixels.
-    explicit FlowLayout(int spacing, QWidget* parent = nullptr);
-    ~FlowLayout() override;
+    explicit FlowLayout(int spacing);
 
     void addItem(QLayoutItem* item) override;
     [[nodiscard]] int count() const override { return static_cast<int>(items_.size()); }

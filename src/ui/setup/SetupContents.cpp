@@ -3,7 +3,7 @@
 #include "state/Store.h"
 #include "ui/controls/BrandViews.h"
 #include "ui/controls/Buttons.h"
-#include "ui/setup/GroupStep.h"
+#include "ui/setup/Badge.h"
 #include "ui/setup/SetupView.h"
 #include "ui/setup/StepRow.h"
 #include "ui/setup/TokenStep.h"
@@ -54,21 +54,27 @@ constexpr std::array<Titled, 4> groupSteps{{
     {QT_TRANSLATE_NOOP("quillon::SetupView", "Send “hi” in the group."), "hand.wave"},
 }};
 
-/// The layout of a step's content, from top to bottom.
-QVBoxLayout* columnIn(QWidget* content) {
-    auto* column = new QVBoxLayout{content};
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Space::small + Space::hair);
-    return column;
+constexpr int betweenParts = Space::small + Space::hair;
+
+/// One line of the instructions for the group: a symbol in a badge, and a text.
+QWidget* groupStep(const char* symbol, const QString& text) {
+    auto* step = new View;
+    step->setAccessibleRole(QAccessible::ListItem);
+    auto* row = rowIn(step, betweenParts);
+    auto* badge = new Badge;
+    badge->setSymbol(symbol);
+    auto* label = new IconLabel{markedUp(text)};
+    step->setAccessibleName(label->accessibleText());
+    row->addWidget(badge, 0, Qt::AlignTop);
+    row->addWidget(label, 1, Qt::AlignVCenter);
+    return step;
 }
 
 } // namespace
 
 QWidget* SetupView::buildHeader() {
     auto* header = new QWidget;
-    auto* row = new QHBoxLayout{header};
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Space::medium);
+    auto* row = rowIn(header, Space::medium);
     row->addWidget(new AppIconView{iconPoints});
     auto* words = new QVBoxLayout;
     words->setSpacing(Space::hair);
@@ -98,7 +104,7 @@ QVBoxLayout* SetupView::buildRows() {
 
 QWidget* SetupView::buildBotStep() {
     auto* content = new QWidget;
-    auto* column = columnIn(content);
+    auto* column = columnIn(content, betweenParts);
     column->addWidget(new IconLabel{markedUp(
         tr("In Telegram, open **@BotFather**, send **/newbot** and follow the steps. It gives you "
            "a token. The bot is yours alone."))});
@@ -119,10 +125,10 @@ QWidget* SetupView::buildTokenStep() {
 
 QWidget* SetupView::buildGroupStep() {
     auto* content = new QWidget;
-    auto* column = columnIn(content);
+    auto* column = columnIn(content, betweenParts);
     column->addWidget(new IconLabel{tr("In Telegram:")});
     for (const Titled& line : groupSteps)
-        column->addWidget(new GroupStep{line.symbol, markedUp(tr(line.text))});
+        column->addWidget(groupStep(line.symbol, tr(line.text)));
     findGroup_ = new TextButton{{}, "magnifyingglass", {.kind = ButtonKind::prominent}};
     column->addWidget(findGroup_, 0, Qt::AlignLeading);
     connect(findGroup_, &QPushButton::clicked, this,
@@ -132,7 +138,7 @@ QWidget* SetupView::buildGroupStep() {
 
 QWidget* SetupView::buildTopicsStep() {
     auto* content = new QWidget;
-    auto* column = columnIn(content);
+    auto* column = columnIn(content, betweenParts);
     chips_ = new TopicChips;
     column->addWidget(chips_);
     createTopics_ = new TextButton{{}, {}, {.kind = ButtonKind::prominent}};

@@ -20,13 +20,8 @@
 
 namespace quillon {
 
-SetupView::SetupView(Store& store, QWidget* parent)
-    : View{parent},
-      store_{store},
-      refresher_{this, [this] { refresh(); }} {
-    auto* column = new QVBoxLayout{this};
-    column->setContentsMargins(Space::large, Space::large, Space::large, Space::large);
-    column->setSpacing(Space::medium);
+SetupView::SetupView(Store& store) : store_{store}, refresher_{this, [this] { refresh(); }} {
+    auto* column = columnIn(this, Space::medium, Space::large);
     column->addWidget(buildHeader());
     column->addLayout(buildRows());
     closing_ = new Collapsible{buildClosing()};

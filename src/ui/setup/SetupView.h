@@ -34,7 +34,7 @@ class SetupView : public View {
     Q_OBJECT
 
 public:
-    explicit SetupView(Store& store, QWidget* parent = nullptr);
+    explicit SetupView(Store& store);
 
     /// Whether a row is opening or closing, and the number of pixels that the view will have grown
     /// by after that.

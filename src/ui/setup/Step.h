@@ -8,8 +8,6 @@ struct SetupProgress {
     bool groupFound = false;
     /// Whether the group is known and every topic has its thread.
     bool connected = false;
-
-    bool operator==(const SetupProgress&) const = default;
 };
 
 /// The number of steps. When all are done, step() is one more.

@@ -20,10 +20,8 @@ constexpr double chevronPoints = 11;
 
 } // namespace
 
-StepRow::StepRow(int n, const QString& title, const std::string& symbol, QWidget* content,
-                 QWidget* parent)
-    : CardGround{parent},
-      n_{n},
+StepRow::StepRow(int n, const QString& title, const std::string& symbol, QWidget* content)
+    : n_{n},
       badge_{new Badge},
       summary_{new IconLabel{
           {},
@@ -37,9 +35,7 @@ StepRow::StepRow(int n, const QString& title, const std::string& symbol, QWidget
     auto* inside = new QVBoxLayout{inset_};
     inside->addWidget(content);
     indentContent();
-    auto* column = new QVBoxLayout{this};
-    column->setContentsMargins(edge, edge, edge, edge);
-    column->setSpacing(0);
+    auto* column = columnIn(this, 0, edge);
     column->addWidget(header_);
     column->addWidget(body_);
 }

@@ -26,12 +26,9 @@ public:
         bool open = false;
         /// The result of the step, shown while it is done and closed.
         QString summary;
-
-        bool operator==(const State&) const = default;
     };
 
-    StepRow(int n, const QString& title, const std::string& symbol, QWidget* content,
-            QWidget* parent = nullptr);
+    StepRow(int n, const QString& title, const std::string& symbol, QWidget* content);
 
     void setState(const State& state, bool animated);
 

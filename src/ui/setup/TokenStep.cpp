@@ -8,7 +8,7 @@
 
 namespace quillon {
 
-TokenStep::TokenStep(QWidget* parent) : View{parent}, entry_{buildEntry()}, kept_{buildKept()} {
+TokenStep::TokenStep() : entry_{buildEntry()}, kept_{buildKept()} {
     auto* column = new QVBoxLayout{this};
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(entry_);
@@ -23,9 +23,7 @@ QWidget* TokenStep::buildEntry() {
     token_->setPlaceholderText(tr("123456789:AA…"));
     token_->setAccessibleName(tr("Bot token"));
     connect_ = new TextButton{tr("&Connect"), "link", {.kind = ButtonKind::prominent}};
-    auto* row = new QHBoxLayout{entry};
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Space::small);
+    auto* row = rowIn(entry, Space::small);
     row->addWidget(token_, 1);
     row->addWidget(connect_);
     connect(token_, &QLineEdit::textChanged, this, &TokenStep::enableConnect);
@@ -37,9 +35,7 @@ QWidget* TokenStep::buildEntry() {
 QWidget* TokenStep::buildKept() {
     auto* kept = new QWidget;
     auto* another = new TextButton{tr("&Use another bot"), "arrow.triangle.2.circlepath"};
-    auto* column = new QVBoxLayout{kept};
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Space::small);
+    auto* column = columnIn(kept, Space::small);
     column->addWidget(new IconLabel{
         tr("The token is kept in your Mac's Keychain."), "lock.fill", {.ink = Ink::secondary}});
     column->addWidget(another, 0, Qt::AlignLeading);

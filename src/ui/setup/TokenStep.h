@@ -13,7 +13,7 @@ class TokenStep : public View {
     Q_OBJECT
 
 public:
-    explicit TokenStep(QWidget* parent = nullptr);
+    TokenStep();
 
     void setState(bool tokenSaved, bool working);
     void clearToken();

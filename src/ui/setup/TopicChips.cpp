@@ -5,7 +5,7 @@
 
 namespace quillon {
 
-TopicChips::TopicChips(QWidget* parent) : View{parent} {
+TopicChips::TopicChips() {
     setLayout(new FlowLayout{Space::small});
 }
 

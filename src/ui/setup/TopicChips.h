@@ -14,7 +14,7 @@ class TopicChips : public View {
     Q_OBJECT
 
 public:
-    explicit TopicChips(QWidget* parent = nullptr);
+    TopicChips();
 
     void setTopics(const std::vector<Topic>& topics);
 

@@ -21,10 +21,8 @@ constexpr TextStyle chipText{12, QFont::Medium};
 
 } // namespace
 
-Chip::Chip(QString text, QColor color, QWidget* parent)
-    : View{parent},
-      text_{std::move(text)},
-      color_{color} {
+Chip::Chip(QString text, QColor color) : text_{std::move(text)}, color_{color} {
+    setAccessibleRole(QAccessible::StaticText);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
@@ -46,10 +44,6 @@ QSize Chip::minimumSizeHint() const {
     const QSize full = sizeHint();
     const int least = static_cast<int>(std::ceil(Theme::length(leastText) + 2 * besideText));
     return {std::min(full.width(), least), full.height()};
-}
-
-QAccessible::Role Chip::accessibleRole() const {
-    return QAccessible::StaticText;
 }
 
 void Chip::paintEvent(QPaintEvent* /*event*/) {

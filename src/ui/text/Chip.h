@@ -10,12 +10,11 @@ class Chip : public View {
     Q_OBJECT
 
 public:
-    Chip(QString text, QColor color, QWidget* parent = nullptr);
+    Chip(QString text, QColor color);
     void setChip(const QString& text, QColor color);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
-    [[nodiscard]] QAccessible::Role accessibleRole() const override;
     [[nodiscard]] QString accessibleText() const override { return text_; }
 
 protected:

@@ -26,6 +26,7 @@ IconLabel::IconLabel(StyledText text, std::string symbol, LabelLook look, QWidge
       text_{std::move(text)},
       symbol_{std::move(symbol)},
       look_{look} {
+    setAccessibleRole(QAccessible::StaticText);
     QSizePolicy policy{QSizePolicy::Preferred, QSizePolicy::Preferred};
     policy.setHeightForWidth(look_.overflow == Overflow::wrap);
     setSizePolicy(policy);
@@ -36,7 +37,7 @@ void IconLabel::setText(const StyledText& text) {
     text_ = text;
     themeChanged();
     announceText();
-    if (role_ != QAccessible::StaticText) readOut(*this);
+    if (accessibleRole() != QAccessible::StaticText) readOut(*this);
 }
 
 void IconLabel::setSymbol(const std::string& symbol) {
@@ -102,10 +103,6 @@ bool IconLabel::hasHeightForWidth() const {
 int IconLabel::heightForWidth(int width) const {
     TextBlock text = block();
     return static_cast<int>(layOut(text, std::max(1.0, width - indent())).height());
-}
-
-QAccessible::Role IconLabel::accessibleRole() const {
-    return role_;
 }
 
 QString IconLabel::accessibleText() const {

@@ -32,9 +32,6 @@ public:
 
     void setText(const StyledText& text);
     [[nodiscard]] const StyledText& text() const { return text_; }
-    /// What the label is for assistive technology. An alert or a notification is read out as soon
-    /// as it shows.
-    void setAccessibleRole(QAccessible::Role role) { role_ = role; }
     /// An empty name takes the symbol away.
     void setSymbol(const std::string& symbol);
     void setLook(const LabelLook& look);
@@ -45,7 +42,6 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] bool hasHeightForWidth() const override;
     [[nodiscard]] int heightForWidth(int width) const override;
-    [[nodiscard]] QAccessible::Role accessibleRole() const override;
     [[nodiscard]] QString accessibleText() const override;
 
 protected:
@@ -61,7 +57,6 @@ private:
     StyledText text_;
     std::string symbol_;
     LabelLook look_;
-    QAccessible::Role role_ = QAccessible::StaticText;
 };
 
 } // namespace quillon

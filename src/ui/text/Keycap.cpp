@@ -48,15 +48,10 @@ QString spokenKey(const QString& label) {
 
 } // namespace
 
-KeyView::KeyView(QString label, QWidget* parent) : View{parent}, label_{std::move(label)} {
+KeyView::KeyView(KeyKind kind, QString label) : kind_{kind}, label_{std::move(label)} {
+    setAccessibleRole(QAccessible::StaticText);
+    setAccessibleName(spokenKey(label_));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-void KeyView::setLabel(const QString& label) {
-    if (label == label_) return;
-    label_ = label;
-    themeChanged();
-    announceText();
 }
 
 QSize KeyView::sizeHint() const {
@@ -67,63 +62,43 @@ QSize KeyView::sizeHint() const {
     return wholeSize(width, height + shadowRoom);
 }
 
-QAccessible::Role KeyView::accessibleRole() const {
-    return QAccessible::StaticText;
-}
-
-QString KeyView::accessibleText() const {
-    return spokenKey(label_);
-}
-
-QRectF KeyView::keyBox() const {
-    return QRectF{rect()}.adjusted(0, 0, 0, -shadowRoom);
-}
-
-void KeyView::paintLabel(QPainter& painter, QColor color) const {
-    painter.setFont(Theme::font(capText));
-    painter.setPen(color);
-    painter.drawText(keyBox(), Qt::AlignCenter, label_);
-}
-
-Keycap::Keycap(const QString& label, bool dark, QWidget* parent)
-    : KeyView{label, parent},
-      dark_{dark} {}
-
-void Keycap::paintEvent(QPaintEvent* /*event*/) {
+void KeyView::paintEvent(QPaintEvent* /*event*/) {
     const Theme theme = this->theme();
     QPainter painter{this};
+    const QRectF box = QRectF{rect()}.adjusted(0, 0, 0, -shadowRoom);
+    QColor ink = theme.color(Ink::primary);
+    if (kind_ == KeyKind::label) {
+        paintBox(painter, box, radius, faded(theme.color(Ink::accent), labelTint));
+    } else {
+        ink = paintCap(painter, box);
+    }
+    painter.setFont(Theme::font(capText));
+    painter.setPen(ink);
+    painter.drawText(box, Qt::AlignCenter, label_);
+}
+
+QColor KeyView::paintCap(QPainter& painter, const QRectF& box) const {
+    const Theme theme = this->theme();
     painter.setRenderHint(QPainter::Antialiasing);
-    const QPainterPath cap = roundedPath(keyBox(), radius);
+    const QPainterPath cap = roundedPath(box, radius);
     // The cap is translucent, and its own shadow must not show through it.
     painter.fillPath(cap.translated(0, shadowOffset).subtracted(cap),
                      theme.fill(faded(Qt::black, shadowOpacity)));
-    if (dark_) {
+    if (kind_ == KeyKind::darkCap) {
         painter.fillPath(cap, theme.fill(faded(Qt::white, darkCapOpacity)));
-        paintLabel(painter, theme.color(Brand::navy));
-    } else if (theme.dark()) {
-        painter.fillPath(cap, theme.fill(faded(Qt::white, lightCapOpacity)));
-        paintLabel(painter, theme.color(QColor{Qt::white}));
-    } else { // a white cap would be invisible on white
-        painter.fillPath(cap, theme.fill(faded(Brand::navy, lightCapOpacity)));
-        paintLabel(painter, theme.color(Ink::primary));
+        return theme.color(Brand::navy);
     }
+    // A white cap would be invisible on white.
+    const QColor fill = theme.dark() ? QColor{Qt::white} : Brand::navy;
+    painter.fillPath(cap, theme.fill(faded(fill, lightCapOpacity)));
+    return theme.color(theme.dark() ? Tint{QColor{Qt::white}} : Tint{Ink::primary});
 }
 
-void KeyLabel::paintEvent(QPaintEvent* /*event*/) {
-    const Theme theme = this->theme();
-    QPainter painter{this};
-    paintBox(painter, keyBox(), radius, faded(theme.color(Ink::accent), labelTint));
-    paintLabel(painter, theme.color(Ink::primary));
-}
-
-KeyRow::KeyRow(KeyKind kind, const QStringList& labels, QWidget* parent)
-    : View{parent},
-      kind_{kind} {
+KeyRow::KeyRow(KeyKind kind, const QStringList& labels) : kind_{kind} {
+    setAccessibleRole(QAccessible::StaticText);
     setLayoutDirection(Qt::LeftToRight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    auto* row = new QHBoxLayout{this};
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(betweenKeys);
+    rowIn(this, betweenKeys);
     setLabels(labels);
 }
 
@@ -134,24 +109,9 @@ void KeyRow::setLabels(const QStringList& labels) {
         delete item->widget();
         delete item;
     }
-    for (const QString& label : labels) {
-        KeyView* key = nullptr;
-        if (kind_ == KeyKind::label) {
-            key = new KeyLabel{label};
-        } else {
-            key = new Keycap{label, kind_ == KeyKind::darkCap};
-        }
-        layout()->addWidget(key);
-    }
-    announceText();
-}
-
-QAccessible::Role KeyRow::accessibleRole() const {
-    return QAccessible::StaticText;
-}
-
-QString KeyRow::accessibleText() const {
-    return spokenKeys(labels_);
+    for (const QString& label : labels)
+        layout()->addWidget(new KeyView{kind_, label});
+    setAccessibleName(spokenKeys(labels));
 }
 
 QStringList keyLabels(ShortcutChoice shortcut) {

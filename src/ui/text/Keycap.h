@@ -7,57 +7,32 @@
 
 namespace quillon {
 
+/// How a key looks: as a raised cap, as one for light and coloured grounds whatever the desktop's
+/// colours are, or as a lightly tinted label within a sentence.
+enum class KeyKind { cap, darkCap, label };
+
 /// Shows the label of one key, and says it in words to assistive technology.
 class KeyView : public View {
     Q_OBJECT
 
 public:
-    explicit KeyView(QString label, QWidget* parent = nullptr);
+    KeyView(KeyKind kind, QString label);
 
-    void setLabel(const QString& label);
     [[nodiscard]] QString label() const { return label_; }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
-    [[nodiscard]] QAccessible::Role accessibleRole() const override;
-    [[nodiscard]] QString accessibleText() const override;
 
 protected:
-    /// The key's box, without the room for its shadow.
-    [[nodiscard]] QRectF keyBox() const;
-    void paintLabel(QPainter& painter, QColor color) const;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// Paints the cap into this box, and returns the colour of the label on it.
+    [[nodiscard]] QColor paintCap(QPainter& painter, const QRectF& box) const;
+
+    KeyKind kind_;
     QString label_;
 };
-
-/// A key as a raised cap. A `dark` cap is made for light and coloured grounds, whatever the
-/// desktop's colours are.
-class Keycap : public KeyView {
-    Q_OBJECT
-
-public:
-    explicit Keycap(const QString& label, bool dark = false, QWidget* parent = nullptr);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    bool dark_;
-};
-
-/// A key as a lightly tinted label within a sentence.
-class KeyLabel : public KeyView {
-    Q_OBJECT
-
-public:
-    using KeyView::KeyView;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-};
-
-enum class KeyKind { cap, darkCap, label };
 
 /// The keys of a shortcut side by side, in the order in which they are pressed, whatever the
 /// direction of writing.
@@ -65,13 +40,9 @@ class KeyRow : public View {
     Q_OBJECT
 
 public:
-    explicit KeyRow(KeyKind kind, const QStringList& labels = {}, QWidget* parent = nullptr);
+    explicit KeyRow(KeyKind kind, const QStringList& labels = {});
 
     void setLabels(const QStringList& labels);
-
-    [[nodiscard]] QAccessible::Role accessibleRole() const override;
-    [[nodiscard]] QString accessibleText() const override;
-    [[nodiscard]] bool accessibleWhole() const override { return true; }
 
 private:
     KeyKind kind_;

@@ -28,9 +28,8 @@ bool isMirrored(const std::string& symbol) {
 
 } // namespace
 
-SymbolView::SymbolView(std::string symbol, SymbolLook look, QWidget* parent)
-    : View{parent},
-      symbol_{std::move(symbol)},
+SymbolView::SymbolView(std::string symbol, SymbolLook look)
+    : symbol_{std::move(symbol)},
       look_{look} {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
@@ -46,14 +45,9 @@ void SymbolView::setLook(const SymbolLook& look) {
     themeChanged();
 }
 
-void SymbolView::setFrameWidth(double points) {
-    frameWidth_ = points;
-    updateGeometry();
-}
-
 QSize SymbolView::sizeHint() const {
     const double scale = Theme::textScale();
-    return wholeSize(std::max(look_.size, frameWidth_) * scale, look_.size * scale);
+    return wholeSize(std::max(look_.size, look_.frameWidth) * scale, look_.size * scale);
 }
 
 void SymbolView::paintEvent(QPaintEvent* /*event*/) {

@@ -14,6 +14,9 @@ struct SymbolLook {
     double size = 13;
     SymbolWeight weight = SymbolWeight::regular;
     Tint ink = Ink::primary;
+    /// The width that it asks for at least, in points of the design. With the same frame, symbols
+    /// of several rows stand below each other.
+    double frameWidth = 0;
 };
 
 /// One symbol, centred. It is decoration unless it has an accessible name.
@@ -21,14 +24,11 @@ class SymbolView : public View {
     Q_OBJECT
 
 public:
-    explicit SymbolView(std::string symbol, SymbolLook look = {}, QWidget* parent = nullptr);
+    explicit SymbolView(std::string symbol, SymbolLook look = {});
 
     void setSymbol(const std::string& symbol);
     [[nodiscard]] const std::string& symbol() const { return symbol_; }
     void setLook(const SymbolLook& look);
-    /// The width that it asks for at least, in points of the design. With the same frame, symbols
-    /// of several rows stand below each other.
-    void setFrameWidth(double points);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
@@ -39,7 +39,6 @@ protected:
 private:
     std::string symbol_;
     SymbolLook look_;
-    double frameWidth_ = 0;
 };
 
 /// Paints a symbol centred in `frame`, `size` device-independent pixels large, aligned to whole

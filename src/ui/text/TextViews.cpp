@@ -17,7 +17,7 @@ constexpr double highestMessage = 260;
 
 } // namespace
 
-ReadOnlyText::ReadOnlyText(QWidget* parent) : Themed{parent} {
+ReadOnlyText::ReadOnlyText() {
     setFrameShape(QFrame::NoFrame);
     viewport()->setAutoFillBackground(false);
     setOpenLinks(false);
@@ -40,6 +40,7 @@ void ReadOnlyText::setStructuredText(const QString& html) {
 }
 
 int ReadOnlyText::heightFor(double width) const {
+    // The view's own document has the width and the font of the screen only once the view shows.
     const std::unique_ptr<QTextDocument> copy{document()->clone()};
     copy->setDefaultFont(font());
     copy->setTextWidth(width);
@@ -55,9 +56,7 @@ QVariant ReadOnlyText::loadResource(int /*type*/, const QUrl& /*name*/) {
     return QImage{};
 }
 
-MessageText::MessageText(const QString& text, double width, QWidget* parent)
-    : ReadOnlyText{parent},
-      width_{width} {
+MessageText::MessageText(const QString& text, double width) : width_{width} {
     document()->setDocumentMargin(0);
     setPlainText(text);
     setAccessibleName(text);
@@ -70,21 +69,12 @@ void MessageText::themeChanged() {
     fit();
 }
 
-/// Measures the height with a document of its own, because the view's document has the width and
-/// the font of the screen only once the view shows.
 void MessageText::fit() {
     QPalette colors = palette();
     colors.setColor(QPalette::Text, theme().color(Ink::secondary));
     if (colors != palette()) setPalette(colors);
     const int width = Theme::wholeLength(width_);
-    QTextDocument document{toPlainText()};
-    document.setDocumentMargin(0);
-    document.setDefaultFont(font());
-    QTextOption option;
-    option.setWrapMode(wordWrapMode());
-    document.setDefaultTextOption(option);
-    document.setTextWidth(width);
-    const double height = std::ceil(document.size().height());
+    const double height = heightFor(width);
     const double highest = Theme::length(highestMessage);
     // Keeps the text off the scroll bar.
     setViewportMargins(0, 0, height > highest ? Space::small : 0, 0);

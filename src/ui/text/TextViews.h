@@ -12,7 +12,7 @@ class ReadOnlyText : public Themed<QTextBrowser> {
     Q_OBJECT
 
 public:
-    explicit ReadOnlyText(QWidget* parent = nullptr);
+    ReadOnlyText();
 
     /// Shows an HTML text, with links in the theme's colour.
     void setStructuredText(const QString& html);
@@ -35,7 +35,7 @@ class MessageText : public ReadOnlyText {
 
 public:
     /// `width` in points of the design.
-    MessageText(const QString& text, double width, QWidget* parent = nullptr);
+    MessageText(const QString& text, double width);
 
 protected:
     void themeChanged() override;

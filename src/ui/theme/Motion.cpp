@@ -6,20 +6,17 @@
 namespace quillon {
 namespace {
 
-std::optional<bool>& setting() {
-    static std::optional<bool> value;
-    return value;
-}
+std::optional<bool> setting;
 
 } // namespace
 
 bool animationsEnabled() {
-    return setting().value_or(
-        QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0);
+    return setting.value_or(QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) >
+                            0);
 }
 
 void setAnimationsEnabled(std::optional<bool> enabled) {
-    setting() = enabled;
+    setting = enabled;
 }
 
 } // namespace quillon

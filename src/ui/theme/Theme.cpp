@@ -7,6 +7,7 @@
 #include <QFontInfo>
 #include <QGraphicsOpacityEffect>
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QPainter>
 #include <QWidget>
 
@@ -137,6 +138,20 @@ double Theme::length(double points) {
 
 int Theme::wholeLength(double points) {
     return static_cast<int>(std::ceil(length(points)));
+}
+
+QHBoxLayout* rowIn(QWidget* widget, int spacing, int margin) {
+    auto* row = new QHBoxLayout{widget};
+    row->setContentsMargins(margin, margin, margin, margin);
+    row->setSpacing(spacing);
+    return row;
+}
+
+QVBoxLayout* columnIn(QWidget* widget, int spacing, int margin) {
+    auto* column = new QVBoxLayout{widget};
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(spacing);
+    return column;
 }
 
 QSize wholeSize(double width, double height) {

@@ -9,8 +9,10 @@
 
 #include <variant>
 
+class QHBoxLayout;
 class QPainter;
 class QRectF;
+class QVBoxLayout;
 class QWidget;
 
 namespace quillon {
@@ -99,6 +101,11 @@ private:
 
 /// The opacity of what is disabled, and of a step whose turn has not come.
 inline constexpr double dimmedOpacity = 0.45;
+
+/// Lays the widget's content out as a row or a column, with this distance between its parts and to
+/// each of its edges.
+QHBoxLayout* rowIn(QWidget* widget, int spacing, int margin = 0);
+QVBoxLayout* columnIn(QWidget* widget, int spacing, int margin = 0);
 
 /// A size of whole pixels that has room for this width and height.
 [[nodiscard]] QSize wholeSize(double width, double height);
