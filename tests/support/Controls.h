@@ -83,6 +83,8 @@ public:
     /// In its middle: whatever lies on top there gets the click. What is disabled does not notice.
     template <typename T = QAbstractButton>
     void click(QAnyStringView name) const {
+        QCoreApplication::sendPostedEvents(); // the layout that a change has asked for
+        QCoreApplication::processEvents();
         T& widget = get<T>(name);
         QWidget& window = *widget.window();
         const QPoint place = widget.mapTo(&window, widget.rect().center());
