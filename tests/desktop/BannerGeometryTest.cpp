@@ -23,18 +23,13 @@ TEST(BannerFrame, IsCentredInWhatPanelsLeaveOfTheScreen) {
         EXPECT_EQ(bannerFrame(visible, c.window, c.position), c.frame) << c.frame.y();
 }
 
-class BannerTextTest : public testing::Test {
-protected:
-    [[nodiscard]] QStringList wrap(const QString& text) const {
-        const BannerText result = wrapBannerText(text, font);
-        EXPECT_LE(result.width, 380);
-        return result.lines;
-    }
+QStringList wrap(const QString& text) {
+    const BannerText result = wrapBannerText(text, QFont{QStringLiteral("sans"), 10});
+    EXPECT_LE(result.width, 380);
+    return result.lines;
+}
 
-    QFont font{QStringLiteral("sans"), 10};
-};
-
-TEST_F(BannerTextTest, WrapsIntoTwoLinesAndEndsTheSecondWithAnEllipsis) {
+TEST(BannerText, WrapsIntoTwoLinesAndEndsTheSecondWithAnEllipsis) {
     EXPECT_EQ(wrap(QString{}), QStringList{QString{}});
     EXPECT_EQ(wrap(QStringLiteral("Sent")), QStringList{QStringLiteral("Sent")});
     EXPECT_EQ(wrap(QStringLiteral("one\r\ntwo")),
@@ -46,10 +41,11 @@ TEST_F(BannerTextTest, WrapsIntoTwoLinesAndEndsTheSecondWithAnEllipsis) {
     ASSERT_EQ(lines.size(), 2);
     EXPECT_TRUE(lines[0].endsWith(QStringLiteral("word")));
     EXPECT_TRUE(lines[1].endsWith(QChar{0x2026}));
-    EXPECT_GT(QFontMetricsF{font}.horizontalAdvance(lines[1]), 340);
+    const QFontMetricsF font{QFont{QStringLiteral("sans"), 10}};
+    EXPECT_GT(font.horizontalAdvance(lines[1]), 340);
 }
 
-TEST_F(BannerTextTest, BreaksAWordThatFitsNoLineBetweenItsCharacters) {
+TEST(BannerText, BreaksAWordThatFitsNoLineBetweenItsCharacters) {
     const QString family =
         QStringLiteral("👨‍👩‍👧‍👦"); // one character to the eye, eleven code units
     const QStringList lines = wrap(family.repeated(100));

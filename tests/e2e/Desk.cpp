@@ -89,20 +89,6 @@ void Desk::click(QPoint there) {
     EXPECT_EQ(QProcess::execute(pointerTool, words("click 1")), 0);
 }
 
-void Desk::click(const Control& control) {
-    ASSERT_TRUE(control) << "nothing to click";
-    QRect before;
-    const auto rests = [&] {
-        const QRect place = control.place();
-        return !place.isEmpty() && std::exchange(before, place) == place;
-    };
-    EXPECT_TRUE(waitUntil([&] {
-        waitUntil([] { return false; }, std::chrono::milliseconds{50}); // a few frames
-        return rests();
-    })) << control.name();
-    click(before.center());
-}
-
 void Desk::press(const std::string& keys) {
     EXPECT_EQ(QProcess::execute(pointerTool, words("key " + keys)), 0);
 }

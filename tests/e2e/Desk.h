@@ -25,8 +25,6 @@ public:
     /// Moves the pointer.
     static void point(QPoint there);
     static void click(QPoint there);
-    /// In the middle of a control that has come to rest.
-    static void click(const Control& control);
     /// Keys by their X names, such as "ctrl+alt+v".
     static void press(const std::string& keys);
     static void type(const std::string& text);

@@ -38,6 +38,7 @@ TEST_F(Failures, AKillLosesNothingThatWasSaved) {
     setUp();
     clipboard.copyText("before");
     ASSERT_EQ(quillon.run({"send"}).code, 0);
+    EXPECT_THAT(quillon.processes(), SizeIs(1)) << "one that shows the banner";
     ASSERT_TRUE(waitUntil([this] { return quillon.processes().empty(); }));
     const std::string status = quillon.run({"status"}).out;
     const std::string history = quillon.run({"history"}).out;

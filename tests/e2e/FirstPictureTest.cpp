@@ -1,5 +1,5 @@
-// A new user, from the program's first start to the first picture on the phone: with the pointer,
-// with the keyboard alone, and through assistive technology alone.
+// A new user, from the program's first start to the first picture on the phone: with the keyboard
+// alone, and through assistive technology alone.
 #include "Desk.h"
 #include "EndToEnd.h"
 
@@ -82,28 +82,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(FirstPicture, WithThePointer) {
-    const auto button = [this](const char* name) { return reader.wait("push button", name); };
-    ASSERT_TRUE(waitUntil([] { return !Desk::icon().isEmpty(); })) << "no icon in the panel";
-    Desk::click(Desk::icon().center());
-    Desk::click(button("Start setup"));
-
-    const Control field = reader.wait("password text", "Bot token");
-    Desk::click(field);
-    Desk::type(token);
-    Desk::click(button("Connect"));
-    phone.userSays(group, "hi");
-    Desk::click(button("Find my group"));
-    Desk::click(button("Create the topics"));
-    reader.wait("notification", "You're all set.");
-
-    sendPicture();
-    EXPECT_TRUE(waitUntil([&] { return reader.shows("notification", "Sent to 📸 Images"); }));
-    expectPictureOnPhone();
-    Desk::click(Desk::icon().center());
-    expectHistory();
-}
 
 TEST_F(FirstPicture, WithTheKeyboardAlone) {
     Desk::goToOtherWindow();

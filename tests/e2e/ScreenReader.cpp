@@ -181,10 +181,6 @@ Control ScreenReader::find(const Which& which) const {
     return {};
 }
 
-Control ScreenReader::find(const std::string& role, const std::string& name) const {
-    return find([&](const Control& each) { return each.name() == name && each.role() == role; });
-}
-
 Control ScreenReader::wait(const std::string& role, const std::string& name) const {
     Control found;
     const auto ready = [&] {

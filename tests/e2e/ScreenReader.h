@@ -67,11 +67,11 @@ public:
 
     /// The first one that shows, from the top of each window down; nothing when there is none.
     [[nodiscard]] Control find(const Which& which) const;
-    [[nodiscard]] Control find(const std::string& role, const std::string& name) const;
     /// Waits until such a control shows and can be used; a failure of the test if none comes.
     Control wait(const std::string& role, const std::string& name) const;
     [[nodiscard]] bool shows(const std::string& role, const std::string& name) const {
-        return bool{find(role, name)};
+        return bool{
+            find([&](const Control& each) { return each.name() == name && each.role() == role; })};
     }
     /// What has the keyboard.
     [[nodiscard]] Control focused() const;

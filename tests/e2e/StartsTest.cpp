@@ -61,12 +61,4 @@ TEST_F(Starts, OfTwoSendsOneIsTurnedAway) {
     EXPECT_THAT(Json::parse(quillon.run({"history", "--json"}).out), SizeIs(1));
 }
 
-TEST_F(Starts, ASendReturnsWhileItsBannerStillShows) {
-    setUp();
-    clipboard.copyText("a");
-    EXPECT_EQ(quillon.run({"send"}).code, 0);
-    EXPECT_THAT(quillon.processes(), SizeIs(1)) << "one that shows the banner";
-    EXPECT_TRUE(waitUntil([this] { return quillon.processes().empty(); }));
-}
-
 } // namespace quillon::test

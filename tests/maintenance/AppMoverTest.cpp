@@ -1,12 +1,11 @@
 #include "maintenance/AppMover.h"
 #include "support/Await.h"
 #include "support/FakeAlerts.h"
+#include "support/Files.h"
 #include "support/TestComputer.h"
 #include "support/Unprivileged.h"
 
 #include <gmock/gmock.h>
-
-#include <fstream>
 
 #include <sys/xattr.h>
 
@@ -21,12 +20,11 @@ constexpr const char* mark = "user.com.apple.quarantine";
 
 void makeApplication(const path& app, const std::string& program) {
     fs::create_directories(app / "Contents/Linux");
-    std::ofstream{app / "Contents/Linux/quillon"} << program;
+    write(app / "Contents/Linux/quillon", program);
 }
 
 std::string program(const path& app) {
-    std::ifstream stream{app / "Contents/Linux/quillon"};
-    return {std::istreambuf_iterator<char>{stream}, {}};
+    return content(app / "Contents/Linux/quillon");
 }
 
 class AppMoverTest : public testing::Test {
@@ -137,7 +135,7 @@ TEST_F(AppMoverTest, TellsWhyItCouldNotMove) {
         if (each.older) {
             makeApplication(own / "Quillon.app", "old");
         } else {
-            std::ofstream{own} << "no folder";
+            write(own, "no folder");
         }
         computer.platform.bundle.url = each.url;
         computer.workspace.running = each.running;

@@ -1,11 +1,10 @@
 #include "maintenance/Uninstaller.h"
 #include "support/Await.h"
 #include "support/FakeAlerts.h"
+#include "support/Files.h"
 #include "support/TestComputer.h"
 
 #include <gmock/gmock.h>
-
-#include <fstream>
 
 namespace quillon::test {
 namespace {
@@ -22,7 +21,7 @@ protected:
 
     static void fill(const path& folder) {
         fs::create_directories(folder / "inner");
-        std::ofstream{folder / "inner/file"} << "x";
+        write(folder / "inner/file");
     }
     void run() {
         await(uninstaller.run([&] { computer.workspace.log.emplace_back("trashed"); }));

@@ -144,8 +144,8 @@ TEST(LibsecretStoreTest, ChangesNothingWithoutASearchAndTakesFiveSecondsInAll) {
         EXPECT_FALSE(await(store.save(token, "value")));
         EXPECT_GE(Clock::now() - begin, least);
         EXPECT_LT(Clock::now() - begin, most);
-        EXPECT_FALSE(service.callers("SearchItems").isEmpty());
-        EXPECT_TRUE(service.callers("OpenSession").isEmpty());
+        EXPECT_FALSE(service.calls("SearchItems").isEmpty());
+        EXPECT_TRUE(service.calls("OpenSession").isEmpty());
     };
     expectNoChange(1s, 4900ms, 5600ms);
     answers["SearchItems"] = std::nullopt;
@@ -162,10 +162,10 @@ TEST(LibsecretStoreTest, WaitsForTheUserForAsLongAsItTakes) {
                               {"Prompt", answer()}}};
     auto store = std::make_unique<LibsecretStore>();
     EXPECT_TRUE(store->exists(token));
-    EXPECT_TRUE(service.callers("Prompt").isEmpty());
+    EXPECT_TRUE(service.calls("Prompt").isEmpty());
     const auto reading = store->read(token);
     const auto saving = store->save(token, "value");
-    EXPECT_TRUE(waitUntil([&] { return !service.callers("Prompt").isEmpty(); }));
+    EXPECT_TRUE(waitUntil([&] { return !service.calls("Prompt").isEmpty(); }));
     EXPECT_FALSE(waitUntil([&] { return reading.isFinished(); }, 5500ms));
 
     const auto begin = Clock::now();

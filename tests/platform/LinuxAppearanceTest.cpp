@@ -158,7 +158,7 @@ TEST_F(LinuxAppearanceTest, TakesNoHarmFromAPortalThatHangsOrTalksNonsense) {
     for (const bool hangs : {true, false}) {
         told.clear();
         const FakePortal portal{hangs ? BusService::Answers{} : nonsense};
-        EXPECT_TRUE(waitUntil([&] { return !portal.callers("ReadAll").isEmpty(); }));
+        EXPECT_TRUE(waitUntil([&] { return !portal.calls("ReadAll").isEmpty(); }));
         portal.change(common, "color-scheme", hangs ? 2U : 1U);
         EXPECT_TRUE(isTold({.scheme = hangs ? Scheme::light : Scheme::dark}));
     }

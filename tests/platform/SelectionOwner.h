@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QByteArray>
+#include "platform/linux/x11/X11Connection.h"
 
-#include <xcb/xcb.h>
+#include <QByteArray>
 
 #include <atomic>
 #include <chrono>
@@ -22,7 +22,7 @@ public:
     using Answer = std::function<void(SelectionOwner&, const Request&)>;
 
     /// Owns the clipboard when it returns. Targets that are not in `answers` are refused.
-    SelectionOwner(const char* display, std::map<std::string, Answer> answers);
+    SelectionOwner(const char* display, const std::map<std::string, Answer>& answers);
     SelectionOwner(const SelectionOwner&) = delete;
     SelectionOwner& operator=(const SelectionOwner&) = delete;
     ~SelectionOwner();
@@ -42,16 +42,14 @@ public:
 
 private:
     void run();
-    void answer(const Request& request);
     bool waitUntilTaken(const Request& request);
-    xcb_atom_t atom(const std::string& name);
-    std::string name(xcb_atom_t atom);
+    /// Waits for an event of this type, and drops the others; null when the connection has ended.
+    XcbPointer<xcb_generic_event_t> next(int type);
 
-    std::map<std::string, Answer> answers_;
-    xcb_connection_t* connection_;
-    xcb_window_t window_ = XCB_WINDOW_NONE;
+    std::unique_ptr<X11Connection> connection_;
+    xcb_connection_t* xcb_ = connection_->get();
+    std::map<xcb_atom_t, Answer> answers_;
     std::atomic<int> requests_ = 0;
-    std::atomic<bool> stopped_ = false;
     std::thread thread_;
 };
 

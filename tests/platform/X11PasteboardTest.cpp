@@ -5,7 +5,6 @@
 #include "support/XServer.h"
 
 #include <QElapsedTimer>
-#include <QTimer>
 
 #include <gmock/gmock.h>
 
@@ -14,7 +13,6 @@ namespace quillon::test {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::Contains;
 using testing::IsEmpty;
 
 constexpr qint64 promptly = 800; // ms: sooner than the reader's patience
@@ -27,54 +25,7 @@ protected:
     std::unique_ptr<X11Pasteboard> pasteboard = X11Pasteboard::open(server.display());
 };
 
-/// The xclip program as the clipboard's owner.
-struct Xclip {
-    Xclip(const XServer& server, const QByteArray& content, const char* target) {
-        const auto text = [](const char* latin) { return QString::fromLatin1(latin); };
-        process.start(text("xclip"),
-                      {text("-quiet"), text("-display"), text(server.display()), text("-selection"),
-                       text("clipboard"), text("-t"), text(target), text("-in")});
-        process.write(content);
-        process.closeWriteChannel();
-    }
-    ~Xclip() {
-        process.kill();
-        process.waitForFinished();
-    }
-    Xclip(const Xclip&) = delete;
-    Xclip& operator=(const Xclip&) = delete;
-
-    QProcess process;
-};
-
-/// The longest time between two turns of the event loop while it lives, in milliseconds.
-class LongestGap {
-public:
-    LongestGap() {
-        QObject::connect(&timer_, &QTimer::timeout, &timer_,
-                         [this] { longest_ = std::max(longest_, clock_.restart()); });
-        clock_.start();
-        timer_.start(1);
-    }
-    [[nodiscard]] qint64 milliseconds() const { return std::max(longest_, clock_.elapsed()); }
-
-private:
-    QTimer timer_;
-    QElapsedTimer clock_;
-    qint64 longest_ = 0;
-};
-
 } // namespace
-
-TEST_F(X11PasteboardTest, ReadsWhatAnotherProgramCopied) {
-    QByteArray content{5'000'000, 'x'}; // more than one property holds
-    content[4'999'999] = '\0';
-    const Xclip owner{server, content, "image/png"};
-    ASSERT_TRUE(waitUntil([&] { return pasteboard->changeCount() > 0; }));
-    EXPECT_THAT(await(pasteboard->formats()), Contains("image/png"));
-    EXPECT_TRUE(data("image/png") == content);
-    EXPECT_EQ(data("a target that no program ever named"), std::nullopt);
-}
 
 TEST_F(X11PasteboardTest, CountsCopiesAndTheOwnersEnd) {
     EXPECT_THAT(await(pasteboard->formats()), IsEmpty());
@@ -96,11 +47,11 @@ TEST_F(X11PasteboardTest, GivesUpOnAnOwnerThatHangsAndHoldsUpNobody) {
     const SelectionOwner owner{server.display(), {{"TARGETS", silence()}}};
     QElapsedTimer clock;
     clock.start();
-    const LongestGap gap;
-    EXPECT_THAT(await(pasteboard->formats()), IsEmpty());
+    const auto asked = pasteboard->formats();
+    EXPECT_LT(clock.elapsed(), 200);
+    EXPECT_THAT(await(asked), IsEmpty());
     EXPECT_GE(clock.elapsed(), 990);
     EXPECT_LT(clock.elapsed(), 2000);
-    EXPECT_LT(gap.milliseconds(), 200);
 }
 
 TEST_F(X11PasteboardTest, TakesNoLateAnswerForALaterQuestion) {
@@ -118,16 +69,19 @@ TEST_F(X11PasteboardTest, TakesNoLateAnswerForALaterQuestion) {
 }
 
 TEST_F(X11PasteboardTest, ReceivesPiecesAsLongAsTheyKeepComing) {
-    const auto dribble = [](SelectionOwner& owner, const SelectionOwner::Request& request) {
-        owner.writePieces(request, "UTF8_STRING", {"a", "bc", "d"}, 450ms);
+    const QByteArray large(3'000'000, 'b');
+    const auto dribble = [&](SelectionOwner& owner, const SelectionOwner::Request& request) {
+        owner.writePieces(request, "UTF8_STRING", {"a", large, QByteArray{"\0d", 2}}, 450ms);
     };
     const auto stall = [](SelectionOwner& owner, const SelectionOwner::Request& request) {
         owner.writePieces(request, "text/html", {"<p>"}, 0ms, false);
     };
     const SelectionOwner owner{server.display(), {{"UTF8_STRING", dribble}, {"text/html", stall}}};
-    EXPECT_EQ(data("UTF8_STRING"), "abcd");
+    const QByteArray all = "a" + large + QByteArray{"\0d", 2};
+    EXPECT_TRUE(data("UTF8_STRING") == all);
     EXPECT_EQ(data("text/html"), std::nullopt);
-    EXPECT_EQ(data("UTF8_STRING"), "abcd");
+    EXPECT_TRUE(data("UTF8_STRING") == all);
+    EXPECT_EQ(data("a target that no program ever named"), std::nullopt);
 }
 
 TEST_F(X11PasteboardTest, TakesNoAnswerOfAWrongType) {

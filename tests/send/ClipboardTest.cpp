@@ -1,13 +1,7 @@
 #include "send/Clipboard.h"
 
+#include "SendTest.h"
 #include "send/ClipboardFormats.h"
-#include "support/Await.h"
-#include "support/FakePasteboard.h"
-
-#include <QBuffer>
-#include <QImage>
-
-#include <gmock/gmock.h>
 
 namespace quillon::test {
 
@@ -16,16 +10,6 @@ namespace {
 using namespace std::string_literals;
 using testing::ElementsAre;
 using testing::Pair;
-
-QByteArray picture(const char* format, QSize size = {3, 2}) {
-    QImage image{size, QImage::Format_RGB32};
-    image.fill(Qt::red);
-    QByteArray bytes;
-    QBuffer buffer{&bytes};
-    buffer.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(image.save(&buffer, format)) << format;
-    return bytes;
-}
 
 QByteArray bytes(const std::string& text) {
     return QByteArray::fromStdString(text);

@@ -10,15 +10,19 @@
 
 namespace quillon::test {
 
-/// A picture of 4 by 3 pixels in exactly so many bytes; what follows a PNG's end does not matter.
-inline QByteArray pngOf(qsizetype size) {
-    QImage image{4, 3, QImage::Format_RGB32};
+inline QByteArray picture(const char* format, QSize size = {3, 2}) {
+    QImage image{size, QImage::Format_RGB32};
     image.fill(Qt::red);
     QByteArray bytes;
     QBuffer buffer{&bytes};
     buffer.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(image.save(&buffer, "PNG"));
-    return bytes.append(size - bytes.size(), '\0');
+    EXPECT_TRUE(image.save(&buffer, format)) << format;
+    return bytes;
+}
+
+/// A picture of 4 by 3 pixels in exactly so many bytes; what follows a PNG's end does not matter.
+inline QByteArray pngOf(qsizetype size) {
+    return picture("PNG", {4, 3}).leftJustified(size, '\0');
 }
 
 inline FakePasteboard::Content text(std::string text) {
@@ -35,10 +39,7 @@ inline FakePasteboard::Content files(const std::vector<std::filesystem::path>& p
 }
 
 inline std::string repeated(std::string_view part, int count) {
-    std::string text;
-    for (int i = 0; i < count; ++i)
-        text += part;
-    return text;
+    return QByteArray{part.data(), qsizetype(part.size())}.repeated(count).toStdString();
 }
 
 /// A store that is set up, and files to send.

@@ -5,6 +5,7 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QFuture>
+#include <QPromise>
 #include <QThread>
 
 #include <gtest/gtest.h>
@@ -12,11 +13,8 @@
 #include <chrono>
 #include <exception>
 #include <functional>
-#include <memory>
-#include <stdexcept>
 #include <type_traits>
 #include <utility>
-#include <variant>
 
 namespace quillon::test {
 
@@ -34,35 +32,35 @@ inline bool waitUntil(const std::function<bool()>& done,
 
 /// Turns the event loop until the future has finished, and gives its result.
 template <typename T>
-T await(QFuture<T> future) {
-    EXPECT_TRUE(waitUntil([&] { return future.isFinished(); })) << "the future did not finish";
-    if constexpr (!std::is_void_v<T>) return future.result();
+T await(QFuture<T> future, std::chrono::milliseconds limit = std::chrono::seconds{10}) {
+    EXPECT_TRUE(waitUntil([&] { return future.isFinished(); }, limit)) << "it does not end";
+    if constexpr (std::is_void_v<T>) {
+        future.waitForFinished();
+    } else {
+        return future.result();
+    }
 }
 
 /// Runs the task to its end and gives its result; what it throws is thrown. QCoro::waitFor never
 /// returns from a task that has failed before its first wait.
 template <typename T>
 T await(QCoro::Task<T> task) {
-    using Result = std::conditional_t<std::is_void_v<T>, std::monostate, T>;
-    const auto result =
-        std::make_shared<std::variant<std::monostate, std::exception_ptr, Result>>();
-    const auto run = [](QCoro::Task<T> running, auto outcome) -> QCoro::Task<> {
+    QPromise<T> promise;
+    promise.start();
+    const auto run = [](QCoro::Task<T> running, QPromise<T>& outcome) -> QCoro::Task<> {
         try {
             if constexpr (std::is_void_v<T>) {
                 co_await running;
-                outcome->template emplace<2>();
             } else {
-                outcome->template emplace<2>(co_await running);
+                outcome.addResult(co_await running);
             }
         } catch (...) {
-            outcome->template emplace<1>(std::current_exception());
+            outcome.setException(std::current_exception());
         }
+        outcome.finish();
     };
-    const auto running = run(std::move(task), result);
-    if (!waitUntil([&] { return result->index() != 0; }, std::chrono::seconds{60}))
-        throw std::runtime_error{"the task does not end"};
-    if (const auto* error = std::get_if<1>(result.get())) std::rethrow_exception(*error);
-    if constexpr (!std::is_void_v<T>) return std::get<2>(std::move(*result));
+    const auto running = run(std::move(task), promise);
+    return await(promise.future(), std::chrono::seconds{60});
 }
 
 } // namespace quillon::test

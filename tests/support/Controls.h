@@ -28,6 +28,14 @@ inline QWidget* shownWindow() {
     return found;
 }
 
+/// What assistive technology is told about the widget.
+inline QAccessibleInterface& accessible(QWidget& widget) {
+    return *QAccessible::queryAccessibleInterface(&widget);
+}
+inline QString nameOf(QWidget& widget) {
+    return accessible(widget).text(QAccessible::Name);
+}
+
 /// What a user of assistive technology, a mouse or a keyboard finds in a window: the widgets that
 /// show, by their accessible names. Names that are literals are in UTF-8.
 class Controls {
@@ -38,18 +46,12 @@ public:
         QCoreApplication::processEvents();
     }
 
-    [[nodiscard]] static QString nameOf(QWidget* widget,
-                                        QAccessible::Text kind = QAccessible::Name) {
-        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
-        return accessible ? accessible->text(kind) : QString{};
-    }
-
     /// All there is to be seen: texts as they are written, other things by name.
     [[nodiscard]] std::vector<std::string> seen() const {
         std::vector<std::string> names;
         for (QWidget* widget : root_.findChildren<QWidget*>()) {
             const auto* label = qobject_cast<const IconLabel*>(widget);
-            const QString name = label ? label->text().plain() : nameOf(widget);
+            const QString name = label ? label->text().plain() : nameOf(*widget);
             if (widget->isVisible() && !name.isEmpty()) names.push_back(name.toStdString());
         }
         return names;
@@ -59,7 +61,7 @@ public:
     template <typename T = QWidget>
     [[nodiscard]] T* find(QAnyStringView name) const {
         for (T* each : root_.findChildren<T*>()) {
-            if (each->isVisible() && nameOf(each) == name) return each;
+            if (each->isVisible() && nameOf(*each) == name) return each;
         }
         return nullptr;
     }
@@ -78,10 +80,17 @@ public:
         return get<T>(name).isEnabled();
     }
 
-    /// In its middle; what is disabled does not notice.
+    /// In its middle: whatever lies on top there gets the click. What is disabled does not notice.
     template <typename T = QAbstractButton>
     void click(QAnyStringView name) const {
-        QTest::mouseClick(&get<T>(name), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(); // the layout that a change has asked for
+        QCoreApplication::processEvents();
+        T& widget = get<T>(name);
+        QWidget& window = *widget.window();
+        const QPoint place = widget.mapTo(&window, widget.rect().center());
+        QWidget* hit = window.childAt(place); // none beyond what the window has room for
+        if (!hit) hit = &widget;
+        QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(&window, place));
         QCoreApplication::processEvents();
     }
 

@@ -2,6 +2,7 @@
 
 #include "platform/HotKeys.h"
 #include "platform/LoginItem.h"
+#include "platform/SecretStore.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 
@@ -10,6 +11,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quillon::test {
@@ -35,6 +37,30 @@ public:
     }
     void remove(std::string_view key) override { values.erase(std::string{key}); }
     void removeAll() override { values.clear(); }
+};
+
+/// A keyring in memory that can be away.
+class FakeSecrets : public SecretStore {
+public:
+    bool available = true;
+    std::map<std::pair<std::string, std::string>, std::string> values;
+
+    [[nodiscard]] QFuture<bool> save(KeychainItem item, std::string value) override {
+        if (available) values[{item.service, item.account}] = std::move(value);
+        return QtFuture::makeReadyFuture(available);
+    }
+    [[nodiscard]] QFuture<std::optional<std::string>> read(KeychainItem item) override {
+        const auto found = values.find({item.service, item.account});
+        const bool readable = available && found != values.end();
+        return QtFuture::makeReadyFuture(readable ? std::optional{found->second} : std::nullopt);
+    }
+    [[nodiscard]] bool exists(const KeychainItem& item) override {
+        return available && values.contains({item.service, item.account});
+    }
+    [[nodiscard]] QFuture<bool> remove(KeychainItem item) override {
+        if (available) values.erase({item.service, item.account});
+        return QtFuture::makeReadyFuture(!values.contains({item.service, item.account}));
+    }
 };
 
 /// A keyboard that the test presses, with keys that others may hold.

@@ -3,8 +3,11 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 #include <string>
+
+#include <sys/stat.h>
 
 namespace quillon::test {
 
@@ -19,6 +22,25 @@ inline std::string content(const std::filesystem::path& file) {
 /// Makes a file of these bytes, in the place of what was there.
 inline void write(const std::filesystem::path& file, const std::string& bytes = "x") {
     std::ofstream{file, std::ios::binary} << bytes;
+}
+
+/// Everything at the path by its path below: kind, mode, time, number of names, and content or
+/// target.
+inline std::map<std::string, std::string> snapshot(const std::filesystem::path& root) {
+    std::map<std::string, std::string> items;
+    const auto note = [&](const std::filesystem::path& item) {
+        struct stat status {};
+        ::lstat(item.c_str(), &status);
+        std::ostringstream text;
+        text << status.st_mode << ' ' << status.st_mtim.tv_sec << '.' << status.st_mtim.tv_nsec;
+        if (S_ISLNK(status.st_mode)) text << " -> " << std::filesystem::read_symlink(item);
+        if (S_ISREG(status.st_mode)) text << ' ' << status.st_nlink << ' ' << content(item);
+        items[item.lexically_relative(root)] = text.str();
+    };
+    note(root);
+    for (const auto& entry : std::filesystem::recursive_directory_iterator{root})
+        note(entry.path());
+    return items;
 }
 
 } // namespace quillon::test

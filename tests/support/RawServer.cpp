@@ -9,48 +9,30 @@
 
 namespace quillon::test {
 
-namespace {
-
-constexpr std::size_t stepSize = 1 << 16;
-
-} // namespace
-
-std::string RawServer::Connection::receive(std::size_t limit) {
-    std::string bytes(limit, '\0');
-    const ssize_t count = ::recv(socket_, bytes.data(), bytes.size(), 0);
+std::string RawServer::Connection::receive(std::size_t size) {
+    std::string bytes(size, '\0');
+    const ssize_t count = ::recv(socket_, bytes.data(), bytes.size(), MSG_WAITALL);
     bytes.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
     return bytes;
 }
 
 std::string RawServer::Connection::request() {
-    constexpr std::string_view headEnd = "\r\n\r\n";
     constexpr std::string_view lengthName = "Content-Length: ";
-    constexpr std::size_t longestNumber = 20;
-    const auto wanted = [&]() -> std::size_t {
-        const auto head = received_.find(headEnd);
-        if (head == std::string::npos) return std::string::npos;
-        const auto length = received_.find(lengthName);
-        if (length > head) return head + headEnd.size();
-        const auto number = received_.substr(length + lengthName.size(), longestNumber);
-        return head + headEnd.size() + std::stoul(number);
-    };
-    while (received_.size() < wanted()) {
-        const std::string more = receive(stepSize);
-        if (more.empty()) return std::exchange(received_, {});
-        received_ += more;
+    std::string head;
+    while (!head.ends_with("\r\n\r\n")) {
+        const std::string next = receive(1);
+        if (next.empty()) return head;
+        head += next;
     }
-    std::string whole = received_.substr(0, wanted());
-    received_.erase(0, whole.size());
-    return whole;
+    const auto length = head.find(lengthName);
+    if (length == std::string::npos) return head;
+    const auto size = std::stoul(head.substr(length + lengthName.size()));
+    return size > 0 ? head + receive(size) : head; // to receive nothing waits for a byte
 }
 
 bool RawServer::Connection::send(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t count = ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        if (count <= 0) return false;
-        bytes.remove_prefix(static_cast<std::size_t>(count));
-    }
-    return true;
+    const ssize_t count = ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+    return count == static_cast<ssize_t>(bytes.size());
 }
 
 bool RawServer::Connection::reply(int status, std::string_view body, std::string_view headers) {
@@ -60,7 +42,7 @@ bool RawServer::Connection::reply(int status, std::string_view body, std::string
 }
 
 void RawServer::Connection::awaitEnd() {
-    while (!receive(stepSize).empty())
+    while (!receive(1 << 16).empty())
         continue;
 }
 

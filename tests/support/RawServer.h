@@ -21,8 +21,8 @@ public:
         /// The next request, head and body as they came; what there is when the client goes away.
         std::string request();
 
-        /// The next bytes, at most `limit`; empty when the client has gone away.
-        std::string receive(std::size_t limit);
+        /// The next `size` bytes; fewer when the client goes away.
+        std::string receive(std::size_t size);
 
         /// False when the client has gone away.
         bool send(std::string_view bytes);
@@ -35,7 +35,6 @@ public:
 
     private:
         int socket_;
-        std::string received_;
     };
 
     explicit RawServer(std::function<void(Connection&)> serve);

@@ -80,14 +80,14 @@ public:
         if (method == "Introspect") return false;
         message.setDelayedReply(true);
         std::unique_lock lock{mutex_};
-        callers_[method] += message.service();
+        calls_[method] += message;
         const auto answer = answers_.find(method);
         if (answer == answers_.end()) return true;
         const auto arguments = answer->second;
         lock.unlock();
         QThread::msleep(static_cast<unsigned long>(slowness_.count()));
         bus.send(arguments ? message.createReply(*arguments)
-                           : message.createErrorReply(QDBusError::Failed, QStringLiteral("no")));
+                           : message.createErrorReply(QDBusError::UnknownMethod, {}));
         return true;
     }
 
@@ -96,16 +96,15 @@ public:
         answers_[method] = std::move(answer);
     }
 
-    [[nodiscard]] QStringList callers(const std::string& method) const {
+    [[nodiscard]] QList<QDBusMessage> calls(const std::string& method) {
         const std::lock_guard lock{mutex_};
-        const auto found = callers_.find(method);
-        return found == callers_.end() ? QStringList{} : found->second;
+        return calls_[method];
     }
 
 private:
-    mutable std::mutex mutex_; ///< guards the next two
+    std::mutex mutex_; ///< guards the next two
     Answers answers_;
-    std::map<std::string, QStringList> callers_;
+    std::map<std::string, QList<QDBusMessage>> calls_;
     std::chrono::milliseconds slowness_;
     const char* interfaces_;
 };
@@ -140,8 +139,8 @@ void BusService::setAnswer(const std::string& method, QVariantList answer) {
     objects_->setAnswer(method, std::move(answer));
 }
 
-QStringList BusService::callers(const std::string& method) const {
-    return objects_->callers(method);
+QList<QDBusMessage> BusService::calls(const std::string& method) const {
+    return objects_->calls(method);
 }
 
 void BusService::sendSignal(const char* path, const char* interface, const char* member,

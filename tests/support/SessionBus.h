@@ -4,7 +4,6 @@
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QProcess>
-#include <QStringList>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -39,8 +38,8 @@ private:
 /// answer without turning the event loop. Gone from the bus with the object.
 class BusService {
 public:
-    /// From method names to the arguments of the answers, or none for an error; whoever calls
-    /// another method waits for ever.
+    /// From method names to the arguments of the answers, or none where there is no such method;
+    /// whoever calls another one waits for ever.
     using Answers = std::map<std::string, std::optional<QVariantList>>;
 
     /// Answers are as late as `slowness`; `interfaces` is what it tells who introspects it.
@@ -51,8 +50,8 @@ public:
     ~BusService();
 
     void setAnswer(const std::string& method, QVariantList answer);
-    /// The bus names of those who have called the method, in order.
-    [[nodiscard]] QStringList callers(const std::string& method) const;
+    /// The calls of the method, in order.
+    [[nodiscard]] QList<QDBusMessage> calls(const std::string& method) const;
     void sendSignal(const char* path, const char* interface, const char* member,
                     const QVariantList& arguments = {}) const;
     /// Calls a method of somebody else, and turns the event loop until the answer is there.

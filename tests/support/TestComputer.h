@@ -14,7 +14,6 @@
 #include "support/FakeClock.h"
 #include "support/FakeDesktop.h"
 #include "support/FakePasteboard.h"
-#include "support/FakeSecrets.h"
 
 #include <QTemporaryDir>
 

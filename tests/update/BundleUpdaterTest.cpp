@@ -258,13 +258,13 @@ TEST_F(BundleUpdaterTest, BringsAnOpenQuestionForwardInsteadOfCheckingAgain) {
 }
 
 TEST_F(BundleUpdaterTest, ShowsAFailureOnlyToWhoAsked) {
-    source.answerFeeds(UpdateSource::reply(503));
+    source.feedStatus = 503;
     EXPECT_THAT(checkNow(), ElementsAre("checking", "error 2002"));
     updater->setAutomaticallyChecksForUpdates(true);
     EXPECT_THAT(pass(24h), IsEmpty());
     EXPECT_THAT(delegate.errors, ElementsAre(2002, 2002));
 
-    source.answerFeeds(UpdateSource::give);
+    source.feedStatus = 200;
     source.publish("1.1", "no archive");
     user.choice = UpdateChoice::install;
     EXPECT_THAT(pass(24h),
@@ -279,7 +279,7 @@ TEST_F(BundleUpdaterTest, EndsWithoutAWordWhenTheUserCancels) {
     user.cancels = true;
     EXPECT_THAT(checkNow(), ElementsAre("checking"));
     // In the background nothing shows that could be cancelled, until the user installs.
-    source.answerArchives(UpdateSource::stall);
+    source.stalls = true;
     updater->setAutomaticallyChecksForUpdates(true);
     EXPECT_THAT(pass(24h),
                 ElementsAre("update 1.0 1.1 What is new gently", "preparing 1.1", "dismiss"));

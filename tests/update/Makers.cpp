@@ -1,6 +1,5 @@
 #include "update/Makers.h"
 
-#include "support/Files.h"
 #include "update/Archive.h"
 #include "update/ProgramOutput.h"
 #include "update/Utf8Locale.h"
@@ -8,7 +7,6 @@
 #include <archive.h>
 #include <gtest/gtest.h>
 #include <sodium.h>
-#include <sys/stat.h>
 
 #include <algorithm>
 
@@ -116,19 +114,6 @@ Signature Maker::sign(const std::string& bytes) const {
 void place(const std::vector<Entry>& entries, const fs::path& folder) {
     fs::create_directories(folder);
     EXPECT_EQ(unpack(archiveOf(entries), folder), std::nullopt);
-}
-
-std::map<std::string, std::string> snapshot(const fs::path& folder) {
-    std::map<std::string, std::string> found;
-    for (const auto& each : fs::recursive_directory_iterator{folder}) {
-        struct stat status {};
-        ::lstat(each.path().c_str(), &status);
-        std::string& entry = found[each.path().lexically_relative(folder)];
-        entry = std::to_string(status.st_mode) + ' ' + std::to_string(status.st_mtime) + ' ';
-        if (each.is_symlink()) entry += fs::read_symlink(each.path());
-        if (each.is_regular_file() && !each.is_symlink()) entry += content(each.path());
-    }
-    return found;
 }
 
 std::vector<std::string> namesIn(const fs::path& folder) {

@@ -6,7 +6,6 @@
 #include <archive_entry.h>
 
 #include <filesystem>
-#include <map>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -69,9 +68,6 @@ private:
 
 /// Writes the entries as they are below `folder`.
 void place(const std::vector<Entry>& entries, const std::filesystem::path& folder);
-
-/// Everything in a folder, byte for byte, with modes, times and links.
-std::map<std::string, std::string> snapshot(const std::filesystem::path& folder);
 
 /// The names in a folder.
 std::vector<std::string> namesIn(const std::filesystem::path& folder);

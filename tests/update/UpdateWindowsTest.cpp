@@ -24,12 +24,8 @@ void closeWindow() {
     shownWindow()->close();
 }
 
-void pressEscape() {
-    QTest::keyClick(shownWindow(), Qt::Key_Escape);
-}
-
-void pressReturn() {
-    QTest::keyClick(shownWindow(), Qt::Key_Return);
+void type(Qt::Key key) {
+    QTest::keyClick(shownWindow(), key);
 }
 
 std::vector<std::string> seen() {
@@ -44,7 +40,7 @@ TEST(UpdateWindows, GivesTheAnswerOfEachWayOutOfAWindow) {
     const std::pair<Way, UpdateChoice> offers[] = {
         {[] { press("Install"); }, UpdateChoice::install},
         {[] { press("Later"); }, UpdateChoice::later},
-        {pressEscape, UpdateChoice::later},
+        {[] { type(Qt::Key_Escape); }, UpdateChoice::later},
         {[&] { windows.dismiss(); }, UpdateChoice::later},
         {[] { press("Skip this version"); }, UpdateChoice::skip},
     };
@@ -58,14 +54,15 @@ TEST(UpdateWindows, GivesTheAnswerOfEachWayOutOfAWindow) {
     const std::pair<Way, InstallTime> ready[] = {
         {[] { press("Install and Relaunch"); }, InstallTime::nowAndRelaunch},
         {[] { press("Install on Quit"); }, InstallTime::onQuit},
-        {pressEscape, InstallTime::onQuit},
+        {[] { type(Qt::Key_Escape); }, InstallTime::onQuit},
     };
     for (const auto& [leave, time] : ready) {
         const auto answer = windows.showReady("1.1");
         leave();
         EXPECT_EQ(await(answer), time);
     }
-    const std::pair<Way, bool> permissions[] = {{pressReturn, true}, {closeWindow, false}};
+    const std::pair<Way, bool> permissions[] = {{[] { type(Qt::Key_Return); }, true},
+                                                {closeWindow, false}};
     for (const auto& [leave, granted] : permissions) {
         const auto answer = windows.askPermission();
         leave();
@@ -86,7 +83,7 @@ TEST(UpdateWindows, FollowsADownloadThatOnlyItsUserCancels) {
     UpdateWindows windows;
     const std::stop_source cancel;
     windows.showPreparing("1.1", cancel);
-    pressReturn(); // meant for the window before
+    type(Qt::Key_Return); // meant for the window before
     // More bytes than an int counts.
     windows.showProgress({UpdateProgress::Stage::downloading, 3'000'000'000, 6'000'000'000});
     EXPECT_THAT(seen(), Contains(HasSubstr("3,000.0 of 6,000.0 MB")));

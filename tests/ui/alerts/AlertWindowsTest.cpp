@@ -48,10 +48,9 @@ TEST(AlertWindowsTest, ShowsItsTextAsItIsToEverybody) {
     const Controls controls{window};
     for (const char* text : {"Move <b>it</b> **now**?", "It needs to.", "Move", "Not now"})
         EXPECT_TRUE(controls.shows(text)) << text;
-    auto* told = QAccessible::queryAccessibleInterface(&window);
-    EXPECT_EQ(told->role(), QAccessible::AlertMessage);
-    EXPECT_EQ(told->text(QAccessible::Name), QLatin1String{"Move <b>it</b> **now**?"});
-    EXPECT_EQ(told->text(QAccessible::Description), QLatin1String{"It needs to."});
+    EXPECT_EQ(accessible(window).role(), QAccessible::AlertMessage);
+    EXPECT_EQ(nameOf(window), QLatin1String{"Move <b>it</b> **now**?"});
+    EXPECT_EQ(accessible(window).text(QAccessible::Description), QLatin1String{"It needs to."});
     window.close();
     await(answer);
 }

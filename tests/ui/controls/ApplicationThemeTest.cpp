@@ -1,6 +1,5 @@
 #include "ui/theme/ApplicationTheme.h"
 
-#include "support/FakeAppearance.h"
 #include "ui/text/IconLabel.h"
 #include "ui/theme/Motion.h"
 
@@ -12,6 +11,20 @@ namespace quillon::test {
 namespace {
 
 using Scheme = Appearance::Scheme;
+
+/// A desktop whose appearance the test changes.
+class FakeAppearance : public AppearanceSource {
+public:
+    void follow(std::function<void(const Appearance&)> changed) override {
+        changed_ = std::move(changed);
+    }
+    void change(const Appearance& appearance) const {
+        if (changed_) changed_(appearance);
+    }
+
+private:
+    std::function<void(const Appearance&)> changed_;
+};
 
 /// Gives the application back what it had.
 class ApplicationThemeTest : public testing::Test {

@@ -1,5 +1,4 @@
-#include "Accessible.h"
-
+#include "support/Controls.h"
 #include "artwork/Palette.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/SegmentedPicker.h"
@@ -15,12 +14,6 @@
 
 namespace quillon::test {
 namespace {
-
-void show(QWidget& window) {
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-}
 
 const QStringList shortcuts{QStringLiteral("V"), QStringLiteral("P"), QStringLiteral("C")};
 
@@ -59,7 +52,7 @@ TEST(Spinner, TurnsOnlyWhileItShowsAndThingsMayMove) {
     spinner.show();
     EXPECT_TRUE(spinner.turning());
     EXPECT_TRUE(accessible(spinner).state().busy);
-    EXPECT_EQ(accessibleName(spinner), "Working");
+    EXPECT_EQ(nameOf(spinner), QLatin1String{"Working"});
     spinner.hide();
     EXPECT_FALSE(spinner.turning());
     EXPECT_FALSE(accessible(spinner).state().busy);
@@ -69,43 +62,27 @@ TEST(Spinner, TurnsOnlyWhileItShowsAndThingsMayMove) {
     setAnimationsEnabled({});
 }
 
-class ContentButtonTest : public testing::Test {
-protected:
-    ContentButtonTest() {
-        auto* column = new QVBoxLayout{&button_};
-        auto* inner = new QWidget; // as deep as a view can be
-        (new QVBoxLayout{inner})->addWidget(label_);
-        column->addWidget(inner);
-        QObject::connect(&button_, &QPushButton::clicked, &button_, [this] { ++clicks_; });
-    }
-
-    /// A click where the label is, which goes to whatever lies on top there.
-    void clickLabel() {
-        const QPoint place = label_->mapTo(&button_, label_->rect().center());
-        QWidget* hit = button_.childAt(place);
-        QTest::mouseClick(hit ? hit : &button_, Qt::LeftButton, {}, place);
-    }
-
-    ContentButton button_;
-    IconLabel* label_ = new IconLabel{QStringLiteral("Send clipboard")};
-    int clicks_ = 0;
-};
-
-TEST_F(ContentButtonTest, WhileBusyItIsDisabledButNotFaded) {
-    const QColor ink = Theme{*label_}.color(Ink::primary);
-    show(button_);
-    button_.setBusy(true);
-    clickLabel();
-    QTest::keyClick(&button_, Qt::Key_Return);
-    EXPECT_EQ(clicks_, 0);
-    EXPECT_TRUE(accessible(button_).state().busy);
-    EXPECT_TRUE(accessible(button_).state().disabled);
-    EXPECT_EQ(Theme{*label_}.color(Ink::primary), ink);
-    button_.setBusy(false);
-    clickLabel();
-    EXPECT_EQ(clicks_, 1);
-    button_.setEnabled(false);
-    EXPECT_NE(Theme{*label_}.color(Ink::primary), ink);
+TEST(ContentButton, WhileBusyIsDisabledButNotFaded) {
+    ContentButton button;
+    auto* inner = new QWidget; // as deep as a view can be
+    (new QVBoxLayout{&button})->addWidget(inner);
+    auto* label = new IconLabel{QStringLiteral("Send clipboard")};
+    (new QVBoxLayout{inner})->addWidget(label);
+    const QSignalSpy clicks{&button, &QPushButton::clicked};
+    const QColor ink = Theme{*label}.color(Ink::primary);
+    const Controls controls{button};
+    button.setBusy(true);
+    controls.click<IconLabel>("Send clipboard");
+    QTest::keyClick(&button, Qt::Key_Return);
+    EXPECT_TRUE(clicks.isEmpty());
+    EXPECT_TRUE(accessible(button).state().busy);
+    EXPECT_TRUE(accessible(button).state().disabled);
+    EXPECT_EQ(Theme{*label}.color(Ink::primary), ink);
+    button.setBusy(false);
+    controls.click<IconLabel>("Send clipboard");
+    EXPECT_EQ(clicks.size(), 1);
+    button.setEnabled(false);
+    EXPECT_NE(Theme{*label}.color(Ink::primary), ink);
 }
 
 } // namespace

@@ -1,6 +1,5 @@
-#include "Accessible.h"
-
 #include "artwork/Colors.h"
+#include "support/Controls.h"
 #include "ui/text/IconLabel.h"
 
 #include <gmock/gmock.h>
@@ -15,7 +14,7 @@ using testing::StartsWith;
 TEST(IconLabel, ShowsAPlainTextAsItIs) {
     for (const char* const text : {"**", "a **b** c", "*****", "no stars"}) {
         IconLabel label{QString::fromUtf8(text)};
-        EXPECT_EQ(accessibleName(label), text);
+        EXPECT_EQ(nameOf(label), QString::fromUtf8(text));
         EXPECT_EQ(label.shownText().toStdString(), text);
         EXPECT_EQ(label.text().runs(), (std::vector{StyledText::Run{QString::fromUtf8(text)}}));
     }
@@ -29,7 +28,7 @@ TEST(IconLabel, ALongNameLosesItsMiddleOnTheScreenButIsReadWhole) {
     EXPECT_THAT(middle.shownText().toStdString(), StartsWith("Quart"));
     EXPECT_THAT(middle.shownText().toStdString(), EndsWith("end.pdf"));
     EXPECT_THAT(middle.shownText().toStdString(), HasSubstr("…"));
-    EXPECT_EQ(accessibleName(middle), name.toStdString());
+    EXPECT_EQ(nameOf(middle), name);
     EXPECT_LT(middle.minimumSizeHint().width(), 150) << "would push its row apart";
 
     middle.setLook({.overflow = Overflow::elideEnd});

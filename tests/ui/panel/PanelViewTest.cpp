@@ -52,7 +52,7 @@ struct PanelOn : testing::Test {
         turn();
     }
     [[nodiscard]] std::string clipLine() const {
-        return Controls::nameOf(button(sendName), QAccessible::Description).toStdString();
+        return accessible(*button(sendName)).text(QAccessible::Description).toStdString();
     }
     [[nodiscard]] std::string clipSymbol() const {
         return button(sendName)->template findChild<SymbolView*>()->symbol();

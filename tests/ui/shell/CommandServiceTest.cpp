@@ -124,4 +124,26 @@ TEST(CommandService, AnswersWhoOnlyReadsWhileAnotherCommandIsAtWork) {
     EXPECT_EQ(Caller::output(caller.run({})), refused);
 }
 
+TEST(RemoteProgram, IsAlsoUnderstoodByAProgramOfTheVersionBefore) {
+    const SessionBus bus;
+    const BusService older{
+        RemoteProgram::busName,
+        {{"RunCommand", std::nullopt},
+         {"Run", QVariantList{1, QStringLiteral("said\n"), QStringLiteral("warned\n")}}}};
+    // The command, and its argument or none.
+    for (const char* argument : {"", "on"}) {
+        QStringList words{QLatin1String{*argument ? "launch-at-login" : "status"}};
+        if (*argument) words << QLatin1String{argument};
+        QProcess quillon;
+        quillon.start(QStringLiteral(QUILLON), words);
+        EXPECT_TRUE(waitUntil([&] { return quillon.state() == QProcess::NotRunning; }));
+        const QVariantList asked = older.calls("Run").constLast().arguments();
+        EXPECT_EQ(asked[0], words[0]);
+        EXPECT_EQ(asked[1], QLatin1String{argument});
+        EXPECT_EQ(quillon.exitCode(), 1);
+        EXPECT_EQ(quillon.readAllStandardOutput(), "said\n");
+        EXPECT_EQ(quillon.readAllStandardError(), "warned\n");
+    }
+}
+
 } // namespace quillon::test

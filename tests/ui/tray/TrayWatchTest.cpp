@@ -17,15 +17,6 @@ public:
         xcb_create_window(xcb_, 0, window_, connection_->root(), 0, 0, 1, 1, 0,
                           XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
         xcb_set_selection_owner(xcb_, window_, tray, XCB_CURRENT_TIME);
-        xcb_client_message_event_t news{};
-        news.response_type = XCB_CLIENT_MESSAGE;
-        news.format = 32;
-        news.window = connection_->root();
-        news.type = internAtom(xcb_, "MANAGER");
-        news.data.data32[1] = tray;
-        news.data.data32[2] = window_;
-        xcb_send_event(xcb_, 0, connection_->root(), XCB_EVENT_MASK_STRUCTURE_NOTIFY,
-                       reinterpret_cast<const char*>(&news));
         xcb_flush(xcb_);
     }
 
