@@ -26,7 +26,7 @@ constexpr std::array buckets{Bucket{100'000, "lt100k"}, Bucket{1'000'000, "lt1m"
 
 Analytics::Analytics(const Platform& platform) : platform_{platform} {}
 
-void Analytics::track(std::string_view name, Json props) {
+void Analytics::track(std::string_view name, Props props) {
     if (!persist_) return;
     const auto now = platform_.clock.now().time_since_epoch();
     const auto at = std::chrono::duration_cast<std::chrono::milliseconds>(now).count();

@@ -24,7 +24,7 @@ public:
     explicit Analytics(const Platform& platform);
 
     /// Records one event; it is on disk when this returns.
-    void track(std::string_view name, Json props = Json::object());
+    void track(std::string_view name, Props props = {});
 
     /// The bucket of an item's size in bytes; none from 50,000,000 bytes.
     [[nodiscard]] static std::optional<std::string_view> sizeBucket(std::int64_t bytes);

@@ -17,7 +17,7 @@ namespace {
 struct SettingEvent {
     std::string_view setting;
     bool (*changed)(const Config& old, const Config& now);
-    Json (*value)(const Config& now);
+    Prop (*value)(const Config& now);
 };
 
 template <auto Field>
@@ -28,14 +28,18 @@ bool differs(const Config& old, const Config& now) {
 /// In the order in which the events are recorded.
 const std::array settingEvents{
     SettingEvent{"shortcut", differs<&Config::shortcut>,
-                 [](const Config& config) { return Json(keysText(config.shortcut)); }},
+                 [](const Config& config) { return Prop{keysText(config.shortcut)}; }},
     SettingEvent{"sound", differs<&Config::playSound>,
-                 [](const Config& config) { return Json(config.playSound); }},
+                 [](const Config& config) { return Prop{config.playSound}; }},
     SettingEvent{"banner", differs<&Config::showBanner>,
-                 [](const Config& config) { return Json(config.showBanner); }},
+                 [](const Config& config) { return Prop{config.showBanner}; }},
     SettingEvent{"banner_position", differs<&Config::bannerPosition>,
-                 [](const Config& config) { return Json(rawValue(config.bannerPosition)); }},
+                 [](const Config& config) { return Prop{rawValue(config.bannerPosition)}; }},
 };
+
+std::string_view word(TopicKind kind) {
+    return traits(kind).item;
+}
 
 TopicKind mostFrequentKind(const std::vector<SendInfo>& items) {
     std::map<TopicKind, int> counts;
@@ -52,9 +56,7 @@ StoreEvents::StoreEvents(Store& store, Analytics& analytics)
       analytics_{analytics} {
     connect(&store, &Store::configChanged, this, &StoreEvents::trackSettings);
     connect(&store, &Store::sent, this, &StoreEvents::trackSend);
-    connect(&store, &Store::setupStepDone, this, [this](Store::SetupStep step) {
-        analytics_.track("setup_step", {{"step", rawValue(step)}});
-    });
+    connect(&store, &Store::setupStepDone, this, &StoreEvents::trackSetupStep);
     connect(&store, &Store::sendRefused, this, [this] {
         analytics_.track("send_failed", {{"reason", "not_set_up"}});
     });
@@ -76,19 +78,23 @@ void StoreEvents::trackSend(const std::vector<SendInfo>& items, Trigger via) {
     if (items.empty()) return;
     const bool ok =
         std::ranges::none_of(items, [](const SendInfo& item) { return item.reason.has_value(); });
-    Json props{{"kind", traits(mostFrequentKind(items)).item},
-               {"ok", ok},
-               {"via", rawValue(via)},
-               {"count", items.size()}};
+    Props props{{"kind", word(mostFrequentKind(items))},
+                {"ok", ok},
+                {"via", rawValue(via)},
+                {"count", static_cast<std::int64_t>(items.size())}};
     const std::int64_t largest = std::ranges::max(items, {}, &SendInfo::bytes).bytes;
-    if (const auto bucket = Analytics::sizeBucket(largest)) props["size"] = *bucket;
+    if (const auto bucket = Analytics::sizeBucket(largest)) props.emplace_back("size", *bucket);
     analytics_.track("sent", std::move(props));
 
     for (const SendInfo& item : items) {
         if (!item.reason) continue;
         analytics_.track("send_failed",
-                         {{"kind", traits(item.kind).item}, {"reason", rawValue(*item.reason)}});
+                         {{"kind", word(item.kind)}, {"reason", rawValue(*item.reason)}});
     }
+}
+
+void StoreEvents::trackSetupStep(Store::SetupStep step) {
+    analytics_.track("setup_step", {{"step", rawValue(step)}});
 }
 
 } // namespace quillon

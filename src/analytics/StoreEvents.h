@@ -16,6 +16,7 @@ private:
     void trackSettings(const Config& old, const Config& now);
     /// Records one event for the send, and one for each item that failed.
     void trackSend(const std::vector<SendInfo>& items, Trigger via);
+    void trackSetupStep(Store::SetupStep step);
 
     Store& store_;
     Analytics& analytics_;
