@@ -11,7 +11,6 @@
 #include <QCoroFuture>
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace quillon {
 
@@ -19,8 +18,7 @@ namespace {
 
 using std::filesystem::path;
 
-/// A part of every path below which the system keeps hidden copies. Where their originals are
-/// cannot be told here.
+/// A part of every path below which the system keeps hidden copies.
 constexpr std::string_view translocation = "/AppTranslocation/";
 /// The extended attribute that marks downloaded files.
 constexpr const char* quarantine = "user.com.apple.quarantine";
@@ -80,8 +78,7 @@ QCoro::Task<bool> AppMover::ask() {
     Alert problem;
     try {
         const path moved = co_await move();
-        platform_.workspace.openAfterExit(moved);
-        platform_.workspace.terminate();
+        relaunch(moved);
         co_return true;
     } catch (const std::exception& error) {
         problem = failure(error);
@@ -93,7 +90,9 @@ QCoro::Task<bool> AppMover::ask() {
 path AppMover::source() const {
     const path& url = platform_.bundle.url;
     if (url.native().find(translocation) == std::string::npos) return url;
-    throw std::runtime_error{translate("AppMover", hiddenCopy)};
+    const auto original = originalURL(url);
+    if (!original) throw MoveError{translate("AppMover", hiddenCopy)};
+    return *original;
 }
 
 path AppMover::targetFolder() const {
@@ -101,7 +100,7 @@ path AppMover::targetFolder() const {
     if (platform_.trees.isWritable(shared)) return shared;
     path own = homeApplications();
     platform_.files.createFolder(own);
-    if (!platform_.trees.isWritable(own)) throw std::runtime_error{translate("AppMover", noFolder)};
+    if (!platform_.trees.isWritable(own)) throw MoveError{translate("AppMover", noFolder)};
     return own;
 }
 
@@ -115,16 +114,16 @@ bool AppMover::isRunning(const path& application) const {
 /// Sends what lies at the destination to the trash.
 QCoro::Task<> AppMover::makeRoom(path destination) {
     if (!platform_.trees.exists(destination)) co_return;
-    if (isRunning(destination)) throw std::runtime_error{translate("AppMover", olderIsOpen)};
+    if (isRunning(destination)) throw MoveError{translate("AppMover", olderIsOpen)};
     const bool trashed = co_await platform_.workspace.trash(destination);
-    if (!trashed) throw std::runtime_error{translate("AppMover", olderStays)};
+    if (!trashed) throw MoveError{translate("AppMover", olderStays)};
 }
 
 QCoro::Task<path> AppMover::move() {
     const path from = source();
     const path to = targetFolder() / from.filename();
     // If somebody else has moved the application meanwhile, what lies there is no older copy.
-    if (!platform_.trees.exists(from)) throw std::runtime_error{translate("AppMover", notAllowed)};
+    if (!platform_.trees.exists(from)) throw MoveError{translate("AppMover", notAllowed)};
     co_await makeRoom(to);
     bool moved = false;
     if (platform_.trees.isDeletable(from)) {
@@ -132,12 +131,21 @@ QCoro::Task<path> AppMover::move() {
     } else {
         moved = co_await platform_.trees.copy(from, to);
     }
-    if (!moved) throw std::runtime_error{translate("AppMover", notAllowed)};
+    if (!moved) throw MoveError{translate("AppMover", notAllowed)};
     co_await platform_.trees.removeAttribute(to, quarantine);
     platform_.workspace.listApplication(to);
     const Bundle& bundle = platform_.bundle;
     platform_.loginItem.follow(to / bundle.executable.lexically_relative(bundle.url));
     co_return to;
+}
+
+std::optional<path> AppMover::originalURL(const path& /*ofTranslocated*/) {
+    return std::nullopt;
+}
+
+void AppMover::relaunch(const path& at) {
+    platform_.workspace.openAfterExit(at);
+    platform_.workspace.terminate();
 }
 
 Alert AppMover::makeAlert() {

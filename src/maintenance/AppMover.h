@@ -4,12 +4,26 @@
 
 #include <QCoroTask>
 
+#include <exception>
 #include <filesystem>
-#include <string_view>
+#include <optional>
+#include <string>
 
 namespace quillon {
 
 struct Platform;
+
+/// Why the application could not be moved.
+struct MoveError : std::exception {
+    explicit MoveError(std::string sentence) : errorDescription{std::move(sentence)} {}
+
+    [[nodiscard]] const char* what() const noexcept override {
+        return errorDescription ? errorDescription->c_str() : "";
+    }
+
+    /// A finished sentence for the user.
+    std::optional<std::string> errorDescription;
+};
 
 /// Offers to move the application to an Applications folder, where it can update itself, and does
 /// it. Outlives its tasks.
@@ -31,9 +45,16 @@ public:
     [[nodiscard]] QCoro::Task<bool> ask();
 
     /// Moves the application, an older copy going to the trash, and has the desktop's entries
-    /// follow it. Gives the new place; throws a std::runtime_error that says why it could not be
-    /// moved, a finished sentence for the user.
+    /// follow it. Gives the new place; throws MoveError.
     [[nodiscard]] QCoro::Task<std::filesystem::path> move();
+
+    /// The place of an application that the system runs from a hidden copy; none when the system
+    /// cannot tell. Linux makes no such copies, so it never can.
+    [[nodiscard]] static std::optional<std::filesystem::path>
+    originalURL(const std::filesystem::path& ofTranslocated);
+
+    /// Ends this process the normal way and then opens the application at the path.
+    void relaunch(const std::filesystem::path& at);
 
     /// The offer.
     [[nodiscard]] static Alert makeAlert();
