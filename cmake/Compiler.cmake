@@ -13,7 +13,7 @@ endif()
 
 add_library(quillon_compiler INTERFACE)
 target_compile_options(quillon_compiler INTERFACE
-    -Wall -Wextra -Wconversion -Wshadow -Werror -fvisibility=hidden)
+    -Wall -Wextra -Wconversion -Wshadow -Werror -fvisibility=hidden -pthread)
 target_compile_definitions(quillon_compiler INTERFACE
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CONTEXTLESS_CONNECT
     QT_NO_URL_CAST_FROM_STRING)

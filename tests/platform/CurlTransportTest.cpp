@@ -180,7 +180,8 @@ TEST_F(CurlTransportTest, EndsTransfersWhenDestroyed) {
 
 TEST_F(CurlTransportTest, TrustsOnlyCertificatesItKnowsForTheHost) {
     const sandbox::Sandbox server{{.tls = true}};
-    const std::string port = ":" + std::to_string(server.port()) + "/";
+    const std::string address = server.baseUrl();
+    const std::string port = address.substr(address.rfind(':')) + "/";
     const auto answered = [&](HttpTransport& http, const std::string& host) {
         return await(http.post(requestTo("https://" + host + port))).has_value();
     };
