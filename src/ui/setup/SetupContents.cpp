@@ -57,18 +57,19 @@ constexpr std::array<Titled, 4> groupSteps{{
 constexpr int betweenParts = Space::small + Space::hair;
 
 /// One line of the instructions for the group: a symbol in a badge, and a text.
-QWidget* groupStep(const char* symbol, const QString& text) {
-    auto* step = new View;
-    step->setAccessibleRole(QAccessible::ListItem);
-    auto* row = rowIn(step, betweenParts);
-    auto* badge = new Badge;
-    badge->setSymbol(symbol);
-    auto* label = new IconLabel{markedUp(text)};
-    step->setAccessibleName(label->accessibleText());
-    row->addWidget(badge, 0, Qt::AlignTop);
-    row->addWidget(label, 1, Qt::AlignVCenter);
-    return step;
-}
+class GroupStep : public View {
+public:
+    GroupStep(const char* symbol, const QString& text) {
+        setAccessibleRole(QAccessible::ListItem);
+        auto* row = rowIn(this, betweenParts);
+        auto* badge = new Badge;
+        badge->setSymbol(symbol);
+        auto* label = new IconLabel{markedUp(text)};
+        setAccessibleName(label->accessibleText());
+        row->addWidget(badge, 0, Qt::AlignTop);
+        row->addWidget(label, 1, Qt::AlignVCenter);
+    }
+};
 
 } // namespace
 
@@ -128,7 +129,7 @@ QWidget* SetupView::buildGroupStep() {
     auto* column = columnIn(content, betweenParts);
     column->addWidget(new IconLabel{tr("In Telegram:")});
     for (const Titled& line : groupSteps)
-        column->addWidget(groupStep(line.symbol, tr(line.text)));
+        column->addWidget(new GroupStep{line.symbol, tr(line.text)});
     findGroup_ = new TextButton{{}, "magnifyingglass", {.kind = ButtonKind::prominent}};
     column->addWidget(findGroup_, 0, Qt::AlignLeading);
     connect(findGroup_, &QPushButton::clicked, this,

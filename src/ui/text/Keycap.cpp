@@ -48,7 +48,7 @@ QString spokenKey(const QString& label) {
 
 } // namespace
 
-KeyView::KeyView(KeyKind kind, QString label) : kind_{kind}, label_{std::move(label)} {
+KeyView::KeyView(QString label) : label_{std::move(label)} {
     setAccessibleRole(QAccessible::StaticText);
     setAccessibleName(spokenKey(label_));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -63,28 +63,28 @@ QSize KeyView::sizeHint() const {
 }
 
 void KeyView::paintEvent(QPaintEvent* /*event*/) {
-    const Theme theme = this->theme();
     QPainter painter{this};
     const QRectF box = QRectF{rect()}.adjusted(0, 0, 0, -shadowRoom);
-    QColor ink = theme.color(Ink::primary);
-    if (kind_ == KeyKind::label) {
-        paintBox(painter, box, radius, faded(theme.color(Ink::accent), labelTint));
-    } else {
-        ink = paintCap(painter, box);
-    }
+    const QColor ink = paintKey(painter, box);
     painter.setFont(Theme::font(capText));
     painter.setPen(ink);
     painter.drawText(box, Qt::AlignCenter, label_);
 }
 
-QColor KeyView::paintCap(QPainter& painter, const QRectF& box) const {
+QColor KeyLabel::paintKey(QPainter& painter, const QRectF& box) const {
+    const Theme theme = this->theme();
+    paintBox(painter, box, radius, faded(theme.color(Ink::accent), labelTint));
+    return theme.color(Ink::primary);
+}
+
+QColor Keycap::paintKey(QPainter& painter, const QRectF& box) const {
     const Theme theme = this->theme();
     painter.setRenderHint(QPainter::Antialiasing);
     const QPainterPath cap = roundedPath(box, radius);
     // The cap is translucent, and its own shadow must not show through it.
     painter.fillPath(cap.translated(0, shadowOffset).subtracted(cap),
                      theme.fill(faded(Qt::black, shadowOpacity)));
-    if (kind_ == KeyKind::darkCap) {
+    if (dark_) {
         painter.fillPath(cap, theme.fill(faded(Qt::white, darkCapOpacity)));
         return theme.color(Brand::navy);
     }
@@ -109,8 +109,15 @@ void KeyRow::setLabels(const QStringList& labels) {
         delete item->widget();
         delete item;
     }
-    for (const QString& label : labels)
-        layout()->addWidget(new KeyView{kind_, label});
+    for (const QString& label : labels) {
+        KeyView* key = nullptr;
+        if (kind_ == KeyKind::label) {
+            key = new KeyLabel{label};
+        } else {
+            key = new Keycap{label, kind_ == KeyKind::darkCap};
+        }
+        layout()->addWidget(key);
+    }
     setAccessibleName(spokenKeys(labels));
 }
 

@@ -7,16 +7,12 @@
 
 namespace quillon {
 
-/// How a key looks: as a raised cap, as one for light and coloured grounds whatever the desktop's
-/// colours are, or as a lightly tinted label within a sentence.
-enum class KeyKind { cap, darkCap, label };
-
 /// Shows the label of one key, and says it in words to assistive technology.
 class KeyView : public View {
     Q_OBJECT
 
 public:
-    KeyView(KeyKind kind, QString label);
+    explicit KeyView(QString label);
 
     [[nodiscard]] QString label() const { return label_; }
 
@@ -24,15 +20,41 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    /// Paints what is under the label into this box, and returns the colour of the label on it.
+    [[nodiscard]] virtual QColor paintKey(QPainter& painter, const QRectF& box) const = 0;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// Paints the cap into this box, and returns the colour of the label on it.
-    [[nodiscard]] QColor paintCap(QPainter& painter, const QRectF& box) const;
-
-    KeyKind kind_;
     QString label_;
 };
+
+/// A key as a raised cap. A `dark` cap is made for light and coloured grounds, whatever the
+/// desktop's colours are.
+class Keycap : public KeyView {
+    Q_OBJECT
+
+public:
+    explicit Keycap(const QString& label, bool dark = false) : KeyView{label}, dark_{dark} {}
+
+protected:
+    [[nodiscard]] QColor paintKey(QPainter& painter, const QRectF& box) const override;
+
+private:
+    bool dark_;
+};
+
+/// A key as a lightly tinted label within a sentence.
+class KeyLabel : public KeyView {
+    Q_OBJECT
+
+public:
+    using KeyView::KeyView;
+
+protected:
+    [[nodiscard]] QColor paintKey(QPainter& painter, const QRectF& box) const override;
+};
+
+enum class KeyKind { cap, darkCap, label };
 
 /// The keys of a shortcut side by side, in the order in which they are pressed, whatever the
 /// direction of writing.
