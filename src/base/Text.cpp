@@ -124,16 +124,13 @@ std::vector<std::string_view> chunks(std::string_view text, TextLimit limit) {
 std::string escapedHtml(std::string_view text) {
     std::string escaped;
     escaped.reserve(text.size() + text.size() / 8);
-    for (const char letter : text) {
-        if (letter == '&') {
-            escaped += "&amp;";
-        } else if (letter == '<') {
-            escaped += "&lt;";
-        } else if (letter == '>') {
-            escaped += "&gt;";
-        } else {
-            escaped += letter;
-        }
+    while (!text.empty()) {
+        const std::string_view plain = text.substr(0, text.find_first_of("&<>"));
+        escaped += plain;
+        text.remove_prefix(plain.size());
+        if (text.empty()) break;
+        escaped += text.front() == '&' ? "&amp;" : text.front() == '<' ? "&lt;" : "&gt;";
+        text.remove_prefix(1);
     }
     return escaped;
 }

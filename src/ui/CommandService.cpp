@@ -46,8 +46,8 @@ class DistantConsole final : public Console {
 public:
     using Progress = std::function<void(std::string_view, qint64, qint64)>;
 
-    DistantConsole(QDBusUnixFileDescriptor input, Progress progress)
-        : input_{std::move(input)},
+    DistantConsole(const QDBusUnixFileDescriptor& input, Progress progress)
+        : input_{input},
           progress_{std::move(progress)} {}
 
     std::string output;
