@@ -62,8 +62,9 @@ QCoro::Task<> Uninstaller::run(std::function<void()> onTrashed) {
     platform_.workspace.unlistApplication();
     bool trashed = false;
     // An executable without an application folder belongs to a package, or to who built it.
-    if (platform_.bundle.isApplication())
+    if (platform_.bundle.isApplication()) {
         trashed = co_await platform_.workspace.trash(platform_.bundle.url);
+    }
     if (trashed) {
         if (onTrashed) onTrashed();
     } else {
