@@ -7,6 +7,7 @@ namespace quillon {
 const std::vector<Topic>& Topic::defaults() {
     static const std::vector<Topic> topics = [] {
         std::vector<Topic> all;
+        all.reserve(allValues<TopicKind>.size());
         for (const TopicKind kind : allValues<TopicKind>) {
             all.push_back({.key = std::string{rawValue(kind)},
                            .name = std::string{traits(kind).name},

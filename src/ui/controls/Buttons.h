@@ -77,9 +77,11 @@ public:
     /// The radius of its corners, which the focus ring follows.
     void setCornerRadius(double radius);
 
-    /// The sizes are those of its layout.
+    /// The sizes are those of its layout, not those of a push button's text.
+    // NOLINTBEGIN(bugprone-parent-virtual-call)
     [[nodiscard]] QSize sizeHint() const override { return QWidget::sizeHint(); }
     [[nodiscard]] QSize minimumSizeHint() const override { return QWidget::minimumSizeHint(); }
+    // NOLINTEND(bugprone-parent-virtual-call)
 
 protected:
     /// Paints what is under the views. Unless overridden, only the pointer leaves a trace.

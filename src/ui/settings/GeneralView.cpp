@@ -55,9 +55,10 @@ Card* GeneralView::buildShortcut() {
         items << QString::fromStdString(keysText(choice));
     shortcut_ = new SegmentedPicker{items};
     shortcut_->setAccessibleName(tr("Shortcut"));
-    for (std::size_t i = 0; i < allShortcutChoices.size(); ++i)
+    for (std::size_t i = 0; i < allShortcutChoices.size(); ++i) {
         shortcut_->setItemAccessibleName(static_cast<int>(i),
                                          spokenKeys(keyLabels(allShortcutChoices.at(i))));
+    }
     connect(shortcut_, &SegmentedPicker::picked, this, &GeneralView::pickShortcut);
     auto* label = new TileLabel{tr("Send clipboard"), "keyboard.fill", Palette::blue};
     shortcut_->setAccessibleLabel(label);

@@ -89,11 +89,11 @@ public:
         // The thread starts with the first request, which most processes of this program never
         // make.
         if (!thread_.joinable()) thread_ = std::thread{[this] { run(); }};
-        {
-            const std::lock_guard lock{mutex_};
-            if (!broken_) waiting_.push_back(std::move(transfer));
-        }
-        if (transfer) return transfer->finish(CURLE_FAILED_INIT);
+        std::unique_lock lock{mutex_};
+        const bool broken = broken_;
+        if (!broken) waiting_.push_back(std::move(transfer));
+        lock.unlock();
+        if (broken) return transfer->finish(CURLE_FAILED_INIT);
         wake();
     }
 
