@@ -194,7 +194,9 @@ QCoro::Task<> BundleUpdater::offer(FeedItem item, bool gently) {
     enter(Phase::waiting);
     const UpdateChoice choice = co_await driver_.showUpdate(std::move(offered));
     if (choice == UpdateChoice::skip) platform_.defaults.setText(skippedKey, item.version);
-    if (choice == UpdateChoice::install) co_await prepare(std::move(item));
+    if (choice == UpdateChoice::install) {
+        co_await prepare(std::move(item));
+    }
 }
 
 QCoro::Task<> BundleUpdater::prepare(FeedItem item) {

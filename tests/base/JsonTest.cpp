@@ -31,7 +31,7 @@ TEST(Json, RefusesObjectsOfTooManyKeys) {
     const auto objectOf = [](int keys) {
         std::string object = "{";
         for (int key = 0; key < keys; ++key) {
-            object += (key > 0 ? ",\"" : "\"") + std::to_string(key) + "\":{\"a\":[{}]}";
+            object += (key > 0 ? ",\"" : "\"") + std::to_string(key) + R"(":{"a":[{}]})";
         }
         return object + "}";
     };

@@ -134,10 +134,11 @@ void Control::enter(const std::string& text) const {
 }
 
 ScreenReader::ScreenReader() {
-    for (const char* property : {"IsEnabled", "ScreenReaderEnabled"})
+    for (const char* property : {"IsEnabled", "ScreenReaderEnabled"}) {
         askSession("org.freedesktop.DBus.Properties", "Set",
                    {QStringLiteral("org.a11y.Status"), QLatin1String{property},
                     QVariant::fromValue(QDBusVariant{true})});
+    }
     QDBusConnection bus = accessibilityBus();
     EXPECT_TRUE(bus.connect({}, {}, QStringLiteral("org.a11y.atspi.Event.Object"),
                             QStringLiteral("StateChanged"), this, SLOT(hear(QDBusMessage))));

@@ -46,10 +46,11 @@ TEST_F(Secrets, AreShownToNobody) {
     EXPECT_THAT(ids, SizeIs(2));
     for (const int id : ids) {
         const std::string folder = "/proc/" + std::to_string(id) + "/";
-        for (const char* name : {"cmdline", "environ", "comm"})
+        for (const char* name : {"cmdline", "environ", "comm"}) {
             EXPECT_THAT(content(folder + name),
                         testing::AllOf(Not(IsEmpty()), Not(HasSubstr(secret))))
                 << name;
+        }
     }
     phone.stop();
     runs.push_back(Program::finish(*sending));

@@ -10,10 +10,8 @@ namespace {
 
 using namespace std::chrono_literals;
 using std::filesystem::path;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::SizeIs;
 
 /// Runs to the end and gives standard output, without the last line break.
 std::string output(const std::string& tool, const std::vector<std::string>& arguments) {
@@ -53,7 +51,7 @@ bool answer(const std::string& title, const QStringList& keys = {QStringLiteral(
 /// The makers' web server, with a feed that announces one archive.
 class Feed {
 public:
-    explicit Feed(const path& folder) : folder_{folder} {}
+    explicit Feed(path folder) : folder_{std::move(folder)} {}
 
     [[nodiscard]] std::string url() const { return server_.url("/feed.xml"); }
     [[nodiscard]] bool asked() const { return server_.connections() > 0; }
@@ -95,9 +93,10 @@ protected:
     }
 
     void TearDown() override {
-        for (const path& program : {downloaded / inside, installed / inside})
+        for (const path& program : {downloaded / inside, installed / inside}) {
             for (const int process : running(program))
                 ::kill(process, SIGKILL);
+        }
         EndToEnd::TearDown();
     }
 

@@ -71,7 +71,9 @@ TrayIcon::TrayIcon(Store& store, Clock& clock, TrayActions actions, QDBusConnect
 TrayIcon::~TrayIcon() = default;
 
 QCoro::Task<> TrayIcon::settled(std::chrono::milliseconds patience) {
-    if (!watch_.known()) co_await qCoro(&watch_, &TrayWatch::answered, patience);
+    if (!watch_.known()) {
+        co_await qCoro(&watch_, &TrayWatch::answered, patience);
+    }
 }
 
 void TrayIcon::buildMenu() {

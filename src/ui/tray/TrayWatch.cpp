@@ -28,9 +28,10 @@ void TrayWatch::watchBus() {
         setHosted(false); // the next watcher knows nothing of icons that were given to this one
         askWatcher();
     });
-    for (const char* signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
+    for (const char* signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"}) {
         bus_.connect(watcherName, watcherPath, watcherName, QLatin1String{signal}, this,
                      SLOT(askWatcher()));
+    }
     askWatcher();
 }
 
