@@ -132,8 +132,8 @@ TEST_F(CurlDownloadTest, SpeaksPlainHttpToThisMachineAlone) {
     EXPECT_TRUE(got("http://127.0.0.1" + port));
     EXPECT_TRUE(got("http://localhost" + port));
     const int connections = server.connections();
-    for (const std::string host : {"0.0.0.0", "[::]", "127.0.0.1@0.0.0.0"})
-        EXPECT_FALSE(got("http://" + host + port)) << host;
+    for (std::string address : {"http://0.0.0.0", "http://[::]", "http://127.0.0.1@0.0.0.0"})
+        EXPECT_FALSE(got(address.append(port))) << address;
     EXPECT_EQ(server.connections(), connections);
 }
 

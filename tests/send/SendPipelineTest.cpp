@@ -1,5 +1,7 @@
 #include "SendTest.h"
 
+#include "base/Translate.h"
+
 namespace quillon::test {
 
 namespace {
@@ -87,10 +89,10 @@ TEST_F(SendPipeline, SendsEachKindOfContentToItsTopic) {
         const Topic topic = computer.topic(kind.topic);
         const auto requests = computer.sandbox.requests();
         ASSERT_THAT(requests, SizeIs(1));
-        EXPECT_EQ(described(requests[0]), kind.method + " chat_id=" + quote +
-                                              std::to_string(computer.group) + quote +
-                                              " message_thread_id=" + quote +
-                                              std::to_string(*topic.threadId) + quote + kind.rest);
+        EXPECT_EQ(described(requests[0]),
+                  filled("%1 chat_id=%2%3%2 message_thread_id=%2%4%2%5",
+                         {kind.method, quote, std::to_string(computer.group),
+                          std::to_string(*topic.threadId), kind.rest}));
         const Sent& entry = computer.store->history().front();
         EXPECT_EQ(entry,
                   (Sent{entry.id, kind.symbol, kind.title, topic.name, computer.clock.now(), {}}));
