@@ -27,10 +27,17 @@ constexpr std::array buckets{Bucket{100'000, "lt100k"}, Bucket{1'000'000, "lt1m"
 Analytics::Analytics(const Platform& platform) : platform_{platform} {}
 
 void Analytics::track(std::string_view name, Props props) {
+    std::vector<std::pair<std::string_view, Props>> event;
+    event.emplace_back(name, std::move(props));
+    track(std::move(event));
+}
+
+void Analytics::track(std::vector<std::pair<std::string_view, Props>> events) {
     if (!persist_) return;
     const auto now = platform_.clock.now().time_since_epoch();
     const auto at = std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
-    loadedQueue().append({.name = std::string{name}, .at = at, .props = std::move(props)});
+    for (auto& [name, props] : events)
+        loadedQueue().append({.name = std::string{name}, .at = at, .props = std::move(props)});
     save();
 }
 
@@ -52,8 +59,9 @@ const EventQueue& Analytics::queue() {
 
 EventQueue& Analytics::loadedQueue() {
     if (!queue_) {
-        const FileReading reading =
-            platform_.files.read(platform_.dataFolder / eventsFile, maximumDataFileSize);
+        const auto file = platform_.dataFolder / eventsFile;
+        platform_.files.removeLeftovers(file);
+        const FileReading reading = platform_.files.read(file, maximumDataFileSize);
         // An unreadable file has no bytes and decodes as an empty queue.
         queue_ = EventQueue::decode(asText(reading.bytes));
     }

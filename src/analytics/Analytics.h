@@ -11,6 +11,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace quillon {
 
@@ -25,6 +27,8 @@ public:
 
     /// Records one event; it is on disk when this returns.
     void track(std::string_view name, Props props = {});
+    /// Records several events, each its name and properties, with one write to the disk.
+    void track(std::vector<std::pair<std::string_view, Props>> events);
 
     /// The bucket of an item's size in bytes; none from 50,000,000 bytes.
     [[nodiscard]] static std::optional<std::string_view> sizeBucket(std::int64_t bytes);

@@ -84,13 +84,15 @@ void StoreEvents::trackSend(const std::vector<SendInfo>& items, Trigger via) {
                 {"count", static_cast<std::int64_t>(items.size())}};
     const std::int64_t largest = std::ranges::max(items, {}, &SendInfo::bytes).bytes;
     if (const auto bucket = Analytics::sizeBucket(largest)) props.emplace_back("size", *bucket);
-    analytics_.track("sent", std::move(props));
 
+    std::vector<std::pair<std::string_view, Props>> events;
+    events.emplace_back("sent", std::move(props));
     for (const SendInfo& item : items) {
         if (!item.reason) continue;
-        analytics_.track("send_failed",
-                         {{"kind", word(item.kind)}, {"reason", rawValue(*item.reason)}});
+        events.emplace_back("send_failed",
+                            Props{{"kind", word(item.kind)}, {"reason", rawValue(*item.reason)}});
     }
+    analytics_.track(std::move(events));
 }
 
 void StoreEvents::trackSetupStep(Store::SetupStep step) {

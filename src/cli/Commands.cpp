@@ -57,6 +57,13 @@ QCoro::Task<int> send(CommandContext context, Arguments /*arguments*/) {
     co_return code;
 }
 
+/// Fails when what a command has set up is in memory alone.
+void expectSaved(const Store& store) {
+    if (store.configSaved()) return;
+    throw TelegramError{
+        translate("Command", "The setup could not be saved. Is there room on the disk?")};
+}
+
 QCoro::Task<int> connect(CommandContext context, Arguments /*arguments*/) {
     const std::string token =
         context.console->readSecret(translate("Command", tokenPrompt)).value_or("");
@@ -67,12 +74,14 @@ QCoro::Task<int> connect(CommandContext context, Arguments /*arguments*/) {
         throw TelegramError{
             translate("Command", "The bot answers, but no keyring could keep its token.")};
     }
+    expectSaved(context.core.store);
     context.console->print(filled(translate("Command", "Connected to %1"), {name}));
     co_return exitDone;
 }
 
 QCoro::Task<int> findGroup(CommandContext context, Arguments /*arguments*/) {
     co_await context.core.store.findGroup();
+    expectSaved(context.core.store);
     const std::string title =
         context.core.store.config().chatTitle.value_or(translate("Command", "your group"));
     context.console->print(filled(translate("Command", "Found “%1”"), {title}));
@@ -81,6 +90,7 @@ QCoro::Task<int> findGroup(CommandContext context, Arguments /*arguments*/) {
 
 QCoro::Task<int> createTopics(CommandContext context, Arguments /*arguments*/) {
     co_await context.core.store.createTopics();
+    expectSaved(context.core.store);
     for (const Topic& topic : context.core.store.config().topics) {
         context.console->print(topic.name);
     }
@@ -98,6 +108,7 @@ QCoro::Task<int> forget(CommandContext context, Arguments /*arguments*/) {
         throw TelegramError{translate(
             "Command", "The keyring still holds the bot's token. Unlock it and try again.")};
     }
+    expectSaved(context.core.store);
     co_return exitDone;
 }
 

@@ -6,12 +6,11 @@
 #include "send/ClipboardFormats.h"
 #include "send/FileKind.h"
 #include "send/PngConversion.h"
+#include "send/PngStructure.h"
 
 #include <QCoroFuture>
-#include <QSize>
 #include <QSysInfo>
 #include <QtConcurrentRun>
-#include <QtEndian>
 
 #include <utility>
 
@@ -60,7 +59,7 @@ QCoro::Task<std::optional<std::string>> readText(Pasteboard& pasteboard, Names o
 QCoro::Task<std::optional<QByteArray>> readImage(Pasteboard& pasteboard, Names offered) {
     if (const auto format = ClipboardFormats::png(offered)) {
         const auto png = co_await bytesOf(pasteboard, *format);
-        if (png && !png->isEmpty()) co_return png;
+        if (png && !png->isEmpty() && !isCutPng(*png)) co_return png;
     }
     for (const std::string& format : ClipboardFormats::otherBitmaps(offered)) {
         const auto bitmap = co_await bytesOf(pasteboard, format);
@@ -82,18 +81,6 @@ QCoro::Task<ClipContent> look(Pasteboard& pasteboard) {
     if (png) co_return ClipImage{std::move(*png), std::move(text)};
     if (text && !trimmed(*text).empty()) co_return ClipText{std::move(*text)};
     co_return ClipEmpty{};
-}
-
-/// The size in pixels that a PNG's header tells: after the signature comes the chunk IHDR with
-/// width and height as its first fields (W3C, PNG, 11.2.1). Empty when these bytes are something
-/// else. Not left to QImageReader, which loads every plugin there is before it looks at the first
-/// byte.
-QSize pngSize(const QByteArray& png) {
-    constexpr qsizetype widthAt = 16;
-    constexpr qsizetype heightAt = 20;
-    if (png.size() < heightAt + 4 || !png.startsWith("\x89PNG\r\n\x1a\n")) return {};
-    const auto number = [&](qsizetype at) { return qFromBigEndian<qint32>(png.constData() + at); };
-    return {number(widthAt), number(heightAt)};
 }
 
 Summary summaryOf(const ClipFiles& files) {

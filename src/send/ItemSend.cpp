@@ -10,13 +10,20 @@
 #include "send/Message.h"
 
 #include <QCoroFuture>
+#include <QThreadPool>
 #include <QtConcurrentRun>
 
 #include <chrono>
+#include <exception>
 
 namespace quillon {
 
 namespace {
+
+using namespace std::chrono_literals;
+
+/// A file of which no byte comes for this long cannot be read.
+constexpr std::chrono::seconds readingPatience = 30s;
 
 /// The Bot API's limit for photos is 10,000,000 bytes; a picture of that size or more goes as a
 /// document.
@@ -45,10 +52,17 @@ SentItem makeItem(const Sending& sending, TopicKind kind, std::string title, std
 }
 
 /// Marks the item as not sent.
-SentItem failed(SentItem item, SendFailure reason, std::string error) {
-    item.entry.error = std::move(error);
+SentItem failed(SentItem item, SendFailure reason, const std::string& error) {
+    item.entry.error = prefix(error, errorLimit);
     item.info.reason = reason;
     return item;
+}
+
+/// Only the want of memory throws anything but TelegramErrors here. It may come from another thread
+/// and in the clothes of a QUnhandledException.
+SentItem failedForMemory(SentItem item) {
+    return failed(std::move(item), SendFailure::unreadable,
+                  translate("Send", "There is not enough memory to send this."));
 }
 
 /// The parameters that every message to the kind's topic has; thread 0 stands for the general
@@ -67,6 +81,7 @@ struct Request {
 
 /// Makes the request, and gives the item with the failure, if any.
 QCoro::Task<SentItem> delivered(SentItem item, Request request, Sending sending) {
+    QByteArray file = request.upload ? request.upload->data : QByteArray{};
     try {
         co_await sending.recipient.client.call(std::move(request.method), std::move(request.params),
                                                std::move(request.upload), sending.progress);
@@ -75,8 +90,48 @@ QCoro::Task<SentItem> delivered(SentItem item, Request request, Sending sending)
         item =
             failed(std::move(item), offline ? SendFailure::noInternet : SendFailure::telegramError,
                    error.message);
+    } catch (const std::exception&) {
+        item = failedForMemory(std::move(item));
     }
+    // The system takes milliseconds to have a big file's memory back.
+    QThreadPool::globalInstance()->start([file = std::move(file)] {});
     co_return item;
+}
+
+/// Gives up a file that does not come any further, as from a mount whose server is gone.
+class Watch {
+public:
+    Watch(Clock& clock, FileLoading loading) : clock_{clock}, loading_{std::move(loading)} {
+        lookLater();
+    }
+
+private:
+    static constexpr std::chrono::seconds interval = 1s;
+
+    void lookLater() {
+        timer_ = clock_.after(interval, [this] { look(); });
+    }
+
+    void look() {
+        const qint64 progress = loading_.progress();
+        still_ = progress == progress_ ? still_ + interval : 0s;
+        progress_ = progress;
+        if (still_ >= readingPatience) return loading_.giveUp();
+        lookLater();
+    }
+
+    Clock& clock_;
+    FileLoading loading_;
+    qint64 progress_ = 0;
+    std::chrono::seconds still_ = 0s;
+    std::unique_ptr<Clock::Timer> timer_;
+};
+
+QCoro::Task<FileReading> loaded(std::filesystem::path path, Platform& platform) {
+    const FileLoading loading = platform.files.load(std::move(path), maximumFileSize);
+    const Watch watch{platform.clock, loading};
+    const QFuture<FileReading> result = loading.result();
+    co_return co_await result;
 }
 
 std::string imageFilename(const Clock& clock) {
@@ -108,9 +163,16 @@ std::optional<SentItem> unsendable(const SentItem& item, FileReading::Outcome ou
 } // namespace
 
 QCoro::Task<SentItem> sendText(ClipText text, Sending sending) {
-    const PreparedText prepared = co_await QtConcurrent::run(prepare, text.text);
-    SentItem item = makeItem(sending, TopicKind::notes, prepared.title,
-                             static_cast<std::int64_t>(text.text.size()));
+    SentItem item =
+        makeItem(sending, TopicKind::notes, {}, static_cast<std::int64_t>(text.text.size()));
+    PreparedText prepared;
+    try {
+        const QFuture<PreparedText> pending = QtConcurrent::run(prepare, std::move(text.text));
+        prepared = co_await pending;
+    } catch (const std::exception&) {
+        co_return failedForMemory(std::move(item));
+    }
+    item.entry.title = prepared.title;
     for (const std::string& message : prepared.messages) {
         Request request{.method = "sendMessage",
                         .params = addressed(sending.recipient, TopicKind::notes)};
@@ -140,9 +202,7 @@ QCoro::Task<SentItem> sendImage(ClipImage image, Sending sending) {
 QCoro::Task<SentItem> sendFile(std::filesystem::path path, Sending sending) {
     const TopicKind kind = fileKind(path);
     const std::string name = lastComponent(path).native();
-    const QFuture<FileReading> pending = QtConcurrent::run(
-        [&files = sending.platform.files, path] { return files.read(path, maximumFileSize); });
-    FileReading reading = co_await pending;
+    FileReading reading = co_await loaded(path, sending.platform);
     SentItem item = makeItem(sending, kind, validUtf8(name), reading.size);
     if (auto problem = unsendable(item, reading.outcome)) co_return *std::move(problem);
     Request request{.method = "sendDocument",

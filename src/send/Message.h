@@ -17,6 +17,9 @@ inline constexpr TextLimit captionLimit{.characters = 1024, .codePoints = 1024};
 /// How long a title in the history may be. Only texts with endless accents on one letter reach the
 /// limit of code points.
 inline constexpr TextLimit titleLimit{.characters = 60, .codePoints = 2000};
+/// How long an error may be in the history. A server can answer with megabytes, and a history file
+/// over its limit is not read again.
+inline constexpr TextLimit errorLimit{.characters = 500, .codePoints = 2000};
 
 /// The messages that carry a copied text, in order: each chunk as preformatted HTML. Chunks of
 /// blanks alone are left out, since the Bot API refuses a message without visible text. If all

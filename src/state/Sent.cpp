@@ -31,13 +31,21 @@ Json sentToJson(const Sent& sent) {
     return object;
 }
 
+/// The moment so many seconds after the reference date; the nearest that has a year of four digits,
+/// which all calendars can show, and which fits into milliseconds.
+Date dateFromSeconds(double seconds) {
+    using std::chrono::sys_days, std::chrono::year;
+    constexpr Date first{sys_days{year{1} / 1 / 1}};
+    constexpr Date last{sys_days{year{9999} / 12 / 31}};
+    return std::clamp(referenceDate + std::chrono::duration<double>{seconds}, first, last);
+}
+
 Sent sentFromJson(const Json& object) {
-    const std::chrono::duration<double> sinceReference{requiredField<double>(object, "date")};
     return {.id = uuidFromText(requiredField<std::string>(object, "id")),
             .symbol = requiredField<std::string>(object, "symbol"),
             .title = requiredField<std::string>(object, "title"),
             .topic = requiredField<std::string>(object, "topic"),
-            .date = referenceDate + sinceReference,
+            .date = dateFromSeconds(requiredField<double>(object, "date")),
             .error = optionalField<std::string>(object, "error")};
 }
 

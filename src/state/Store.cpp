@@ -46,9 +46,9 @@ void Store::load() {
     }
 }
 
-void Store::save(std::string_view file, const std::string& content) const {
-    if (!persist_) return;
-    platform_.files.write(platform_.dataFolder / file, QByteArray::fromStdString(content));
+bool Store::save(std::string_view file, const std::string& content) const {
+    if (!persist_) return true;
+    return platform_.files.write(platform_.dataFolder / file, QByteArray::fromStdString(content));
 }
 
 void Store::saveHistory() const {
@@ -67,7 +67,7 @@ template void Store::publish(std::vector<Sent>& field, std::vector<Sent> value);
 void Store::setConfig(Config config) {
     const Config previous = config_;
     publish(config_, std::move(config));
-    save(configFile, encodeConfig(config_));
+    configSaved_ = save(configFile, encodeConfig(config_));
     Q_EMIT configChanged(previous, config_);
 }
 

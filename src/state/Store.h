@@ -47,6 +47,9 @@ public:
     void setConfig(Config config);
     /// Changes the settings in place, as setConfig does.
     void changeConfig(const std::function<void(Config&)>& change);
+    /// False from a change of the settings that could not be written until one that could, as on a
+    /// full disk: config.json then holds the settings of before.
+    [[nodiscard]] bool configSaved() const { return configSaved_; }
 
     /// Newest first.
     [[nodiscard]] const std::vector<Sent>& history() const { return history_; }
@@ -113,7 +116,8 @@ Q_SIGNALS:
 
 private:
     void load();
-    void save(std::string_view file, const std::string& content) const;
+    /// False when the file could not be written, and so is as it was before.
+    bool save(std::string_view file, const std::string& content) const;
     void saveHistory() const;
     template <typename T>
     void publish(T& field, T value);
@@ -139,6 +143,7 @@ private:
     bool busy_ = false;
     bool tokenSaved_ = false;
     bool persist_ = true;
+    bool configSaved_ = true;
     /// A send has begun but is not yet busy: it still asks the keyring or reads the clipboard.
     bool preparing_ = false;
     std::optional<std::string> cachedToken_;

@@ -15,6 +15,7 @@
 #include "ui/theme/ApplicationTheme.h"
 
 #include <QApplication>
+#include <QThreadPool>
 #include <QTimer>
 
 #include <chrono>
@@ -26,6 +27,9 @@ namespace {
 
 /// A bus that is well tells within a few milliseconds which places for an icon there are.
 constexpr std::chrono::milliseconds busPatience{50};
+
+/// How long work on the thread pool may hold up the end of the program, in milliseconds.
+constexpr int poolPatience = 500;
 
 /// Tells the desktop the program's name, icon and desktop entry.
 void introduce() {
@@ -83,7 +87,12 @@ int App::run(std::string_view wanted) {
         launch(platform, *desktop->compositor, alerts, mover, resident, std::string{wanted},
                activationData);
     });
-    return QApplication::exec();
+    const int code = QApplication::exec();
+    resident.reset();
+    // The application's destructor would wait for work that may never end, as on a mount that
+    // hangs.
+    if (!QThreadPool::globalInstance()->waitForDone(poolPatience)) platform.workspace.exitNow(code);
+    return code;
 }
 
 } // namespace quillon

@@ -30,6 +30,24 @@ TEST(Analytics, DropsTheOldestBeyondItsLimit) {
     EXPECT_EQ(events.back(), R"(n {"number":2004})");
 }
 
+TEST(Analytics, WritesTheEventsOfOneSendAtOnce) {
+    TestComputer computer;
+    const SendInfo failure{.reason = SendFailure::folder};
+    computer.store->sent(std::vector<SendInfo>(1500, failure), Trigger::button);
+    EXPECT_EQ(computer.events().size(), 1501U);
+    EXPECT_EQ(computer.files.writes, 1);
+}
+
+TEST(Analytics, RemovesWhatAKilledProcessLeft) {
+    TestComputer computer;
+    computer.setContent("events.json.new-a1B2c3", "[");
+    computer.setContent("events.json.backup", "mine");
+    computer.restart();
+    computer.analytics->track("next");
+    EXPECT_FALSE(std::filesystem::exists(computer.path("events.json.new-a1B2c3")));
+    EXPECT_TRUE(std::filesystem::exists(computer.path("events.json.backup")));
+}
+
 TEST(Analytics, StartsEmptyFromAnUnusableFile) {
     TestComputer computer;
     for (const char* content : {"", "{}", "[7]", R"([{"name":"a","at":1,"props":{"x":null}}])",

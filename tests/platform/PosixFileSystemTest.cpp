@@ -1,5 +1,8 @@
 #include "platform/linux/files/PosixFileSystem.h"
 
+#include "support/Await.h"
+#include "support/Unprivileged.h"
+
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -81,6 +84,25 @@ TEST_F(PosixFileSystemTest, TellsWhatLiesAtAPath) {
     EXPECT_EQ(content(at("ten")), QByteArray("0123\x00\xff\n789", 10));
 }
 
+TEST_F(PosixFileSystemTest, TellsAFileThatMayNotBeReadFromOneThatIsTooBig) {
+    ASSERT_TRUE(files.write(at("secret"), "0123"));
+    std::filesystem::permissions(root, std::filesystem::perms::all);
+    std::filesystem::permissions(at("secret"), std::filesystem::perms::none);
+    EXPECT_TRUE(
+        asNobody([&] { return files.read(at("secret"), 3).outcome == Outcome::unreadable; }));
+}
+
+TEST_F(PosixFileSystemTest, LoadsAFileInPiecesAndTellsHowFarItIs) {
+    QByteArray bytes{2'000'003, 'x'};
+    bytes[1'999'999] = 'y';
+    ASSERT_TRUE(files.write(at("big"), bytes));
+    const FileLoading loading = files.load(at("big"), bytes.size());
+    EXPECT_EQ(await(loading.result()).bytes, bytes);
+    EXPECT_EQ(loading.progress(), bytes.size());
+    loading.giveUp();
+    EXPECT_EQ(loading.result().result().bytes, bytes) << "what is there stays";
+}
+
 TEST_F(PosixFileSystemTest, ReadsNoMoreThanTheLimitOfAFileThatHidesItsSize) {
     const FileReading tooBig = files.read("/proc/self/smaps", 10'000);
     EXPECT_EQ(tooBig.outcome, Outcome::tooBig);
@@ -118,20 +140,26 @@ TEST_F(PosixFileSystemTest, WritesNothingButFiles) {
 }
 
 TEST_F(PosixFileSystemTest, ReportsAFullDisk) {
+    const QByteArray longer(300'000, 'o');
     ASSERT_TRUE(files.write(at("old"), "old"));
+    ASSERT_TRUE(files.write(at("longer"), longer));
     rlimit before{};
     ::getrlimit(RLIMIT_FSIZE, &before);
     const rlimit small{100'000, before.rlim_max};
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     ::setrlimit(RLIMIT_FSIZE, &small);
     const bool replaced = files.writeAtomically(at("old"), QByteArray(200'000, 'x'));
-    const bool written = files.write(at("new"), QByteArray(200'000, 'x'));
+    const bool written = files.write(at("new"), QByteArray(200'000, 'x')) ||
+                         files.write(at("old"), QByteArray(200'000, 'x')) ||
+                         files.write(at("longer"), QByteArray(200'000, 'x'));
     ::setrlimit(RLIMIT_FSIZE, &before);
     static_cast<void>(std::signal(SIGXFSZ, handler));
     EXPECT_FALSE(replaced);
     EXPECT_FALSE(written);
     EXPECT_EQ(content(at("old")), "old");
-    EXPECT_EQ(entries(), 2U);
+    EXPECT_EQ(content(at("longer")), longer);
+    EXPECT_EQ(content(at("new")), "");
+    EXPECT_EQ(entries(), 3U);
 }
 
 TEST_F(PosixFileSystemTest, CreatesFoldersForTheirOwnerAlone) {

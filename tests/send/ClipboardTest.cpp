@@ -74,6 +74,8 @@ TEST_F(ClipboardRead, GoesOnToTextWhereNothingBetterCanBeRead) {
         {{"text/uri-list", "https://example.org/\r\n"}},
         {{"image/tiff", picture("TIFF").left(20)}},
         {{"image/png", ""}},
+        {{"image/png", picture("PNG").chopped(1)}},
+        {{"image/png", picture("PNG").left(40)}},
         {{"application/pdf", "%PDF"}},
     };
     for (FakePasteboard::Content content : unusable) {

@@ -1,4 +1,5 @@
 #include "SendTest.h"
+#include "support/Unprivileged.h"
 
 #include <sys/stat.h>
 
@@ -6,6 +7,7 @@ namespace quillon::test {
 
 namespace {
 
+using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -57,6 +59,38 @@ TEST_F(SendFiles, ReportsFilesThatCannotBeRead) {
                   R"(send_failed {"kind":"file","reason":"unreadable"})");
     }
     EXPECT_THAT(computer.sandbox.requests(), IsEmpty());
+}
+
+TEST_F(SendFiles, GivesUpFilesThatHangAndStillSendsText) {
+    std::filesystem::create_directories(documents);
+    const Mount mount = Mount::hanging(documents);
+    if (!mount) GTEST_SKIP() << "this user may mount nothing";
+    computer.pasteboard.copy(files({documents / "a", documents / "b"}));
+    const auto start = computer.clock.now();
+    auto sending = computer.store->sendClipboard(Trigger::button);
+    ASSERT_TRUE(waitUntil([&] {
+        computer.clock.advance(1s);
+        return computer.store->history().size() == 2;
+    }));
+    await(std::move(sending));
+    EXPECT_GE(computer.clock.now() - start, 60s);
+    EXPECT_THAT(banners().back(), "Couldn't read a");
+    computer.send(text("c"));
+    EXPECT_THAT(computer.messages("notes"), SizeIs(1)) << "though both are still being read";
+}
+
+TEST_F(SendFiles, WaitsForAFileThatComesSlowly) {
+    const FileLoading slow = *(computer.files.loading = FileLoading{});
+    computer.pasteboard.copy(files({file("a")}));
+    auto sending = computer.store->sendClipboard(Trigger::button);
+    ASSERT_TRUE(waitUntil([&] { return computer.store->busy(); }));
+    for (qint64 read = 1; read <= 3; ++read) {
+        computer.clock.advance(29s);
+        slow.setProgress(read);
+    }
+    slow.finish({.outcome = FileReading::Outcome::read, .size = 3, .bytes = "abc"});
+    await(std::move(sending));
+    EXPECT_THAT(banners().back(), "Sent to 📎 Files");
 }
 
 TEST_F(SendFiles, SendsFilesOfAnyName) {

@@ -230,6 +230,7 @@ TEST_F(SendPipeline, TellsApartWhatWentWrong) {
     const Case cases[] = {
         {fault(FaultKind::cutReply), unreachableText, "no_internet"},
         {refusal("", 400, "Bad Request: <b>no</b>"), "Bad Request: <b>no</b>", "telegram_error"},
+        {refusal("", 400, repeated("é", 2'000'000)), repeated("é", 500), "telegram_error"},
     };
     for (const Case& each : cases) {
         computer.clear();
@@ -240,6 +241,19 @@ TEST_F(SendPipeline, TellsApartWhatWentWrong) {
         EXPECT_EQ(computer.newEvents().back(),
                   R"(send_failed {"kind":"image","reason":")" + each.reason + "\"}");
     }
+}
+
+TEST_F(SendPipeline, EndsASendForWhichMemoryIsTooShort) {
+    computer.http.memoryIsShort = true;
+    const Content contents[] = {text("a"), {{"image/png", pngOf(1000)}}, files({file("a.txt")})};
+    for (const Content& content : contents) {
+        computer.clear();
+        computer.send(content);
+        EXPECT_THAT(banners(), ElementsAre("There is not enough memory to send this."));
+        EXPECT_FALSE(computer.store->busy());
+        EXPECT_THAT(computer.newEvents(), SizeIs(2));
+    }
+    EXPECT_THAT(computer.store->history(), SizeIs(3));
 }
 
 } // namespace

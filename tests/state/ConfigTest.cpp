@@ -84,6 +84,12 @@ TEST(Sent, IsReadAllOrNothing) {
     const auto history = decodeHistory("[" + good + "]");
     ASSERT_EQ(history.size(), 1U);
     EXPECT_EQ(history.front().error, std::nullopt);
+    for (const std::string far : {"1e300", "-1e300"}) {
+        std::string record = good;
+        const Date date =
+            decodeHistory("[" + record.replace(record.find("5,"), 1, far) + "]").at(0).date;
+        EXPECT_LT(abs(date.time_since_epoch()), std::chrono::years{10'000}) << "fits calendars";
+    }
     const std::pair<const char*, const char*> faults[] = {{"a1b2c3d4-0000", "{1b2c3d4-0000"},
                                                           {"a1b2c3d4-", "a1b2c3d4"},
                                                           {R"("date":5)", R"("date":"5")"},

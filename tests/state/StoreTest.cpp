@@ -29,6 +29,20 @@ TEST(Store, WritesNothingBeforeTheFirstChange) {
     EXPECT_EQ(computer.store->config().chatTitle, "Family");
 }
 
+TEST(Store, KnowsThatItsSettingsAreNotOnAFullDisk) {
+    TestComputer computer;
+    const auto change = [&](bool diskFull, const std::string& title) {
+        computer.files.full = diskFull;
+        computer.store->changeConfig([&](Config& config) { config.chatTitle = title; });
+        return computer.store->configSaved();
+    };
+    EXPECT_TRUE(change(false, "first"));
+    EXPECT_FALSE(change(true, "second"));
+    EXPECT_EQ(computer.store->config().chatTitle, "second");
+    EXPECT_EQ(decodeConfig(computer.content("config.json"))->chatTitle, "first");
+    EXPECT_TRUE(change(false, "third"));
+}
+
 TEST(Store, StartsFromTheDefaultsWhateverLiesInItsFiles) {
     TestComputer computer;
     for (const std::string garbage : {R"({"playSound":"x"})", "\xFF\xFE"}) {

@@ -18,6 +18,8 @@
 #include <QTemporaryDir>
 
 #include <memory>
+#include <new>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -39,13 +41,37 @@ public:
     void play(Sound sound) override { played.push_back(sound); }
 };
 
+/// The real files, on a disk that counts what is written and can be full.
+class FakeDisk : public PosixFileSystem {
+public:
+    bool full = false;
+    mutable int writes = 0;
+    /// Stands for every file that is loaded, where there is one.
+    std::optional<FileLoading> loading;
+
+    [[nodiscard]] FileLoading load(std::filesystem::path path, qint64 limit) const override {
+        return loading ? *loading : PosixFileSystem::load(std::move(path), limit);
+    }
+    bool write(const std::filesystem::path& path, const QByteArray& bytes) const override {
+        ++writes;
+        return !full && PosixFileSystem::write(path, bytes);
+    }
+    bool writeAtomically(const std::filesystem::path& path,
+                         const QByteArray& bytes) const override {
+        ++writes;
+        return !full && PosixFileSystem::writeAtomically(path, bytes);
+    }
+};
+
 /// The real transport, which notes the time-outs of what is posted and can be cut off.
 class FakeNetwork : public HttpTransport {
 public:
     std::vector<std::chrono::milliseconds> timeouts;
     bool down = false;
+    bool memoryIsShort = false;
 
     [[nodiscard]] QFuture<std::optional<HttpReply>> post(HttpRequest request) override {
+        if (memoryIsShort) throw std::bad_alloc{};
         timeouts.push_back(request.inactivityTimeout);
         if (down) return QtFuture::makeReadyFuture(std::optional<HttpReply>{});
         return real_.post(std::move(request));
@@ -131,7 +157,7 @@ struct TestComputer {
 
     QTemporaryDir folder;
     FakeClock clock;
-    PosixFileSystem files;
+    FakeDisk files;
     FakeNetwork http;
     FakePasteboard pasteboard;
     FakeSecrets secrets;

@@ -44,9 +44,18 @@ public:
         constexpr auto flags = MS_BIND | MS_REMOUNT | MS_RDONLY;
         return Mount{at, bound && ::mount(nullptr, path, nullptr, flags, nullptr) == 0};
     }
+    /// A file system that never answers, as when its server is gone. Whoever waits for it gets an
+    /// error when the mount ends.
+    static Mount hanging(const std::string& at) {
+        const int server = ::open("/dev/fuse", O_RDWR | O_CLOEXEC);
+        const std::string options =
+            "fd=" + std::to_string(server) + ",rootmode=40000,user_id=0,group_id=0";
+        return Mount{at, ::mount("nobody", at.c_str(), "fuse", 0, options.c_str()) == 0, server};
+    }
     Mount(const Mount&) = delete;
     Mount& operator=(const Mount&) = delete;
     ~Mount() {
+        if (server_ >= 0) ::close(server_);
         if (mounted_) ::umount2(at_.c_str(), MNT_DETACH);
     }
 
@@ -54,10 +63,14 @@ public:
     explicit operator bool() const { return mounted_; }
 
 private:
-    Mount(std::string at, bool mounted) : at_{std::move(at)}, mounted_{mounted} {}
+    Mount(std::string at, bool mounted, int server = -1)
+        : at_{std::move(at)},
+          mounted_{mounted},
+          server_{server} {}
 
     std::string at_;
     bool mounted_;
+    int server_;
 };
 
 } // namespace quillon::test
