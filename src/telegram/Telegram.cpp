@@ -73,6 +73,7 @@ QCoro::Task<Json> Telegram::call(std::string method, Json params, std::optional<
         if (stop.stop_requested()) throw Stopped{};
         HttpRequest request = makeRequest(url, params, upload);
         request.progress = progress;
+        request.onlyReads = method.starts_with("get"); // as the Bot API names what changes nothing
         const std::optional<HttpReply> reply = co_await http.post(std::move(request));
         if (!reply) {
             throw TelegramError{

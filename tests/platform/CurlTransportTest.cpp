@@ -63,18 +63,25 @@ TEST_F(CurlTransportTest, SendsPiecesAsOneBodyAndKeepsTheConnection) {
     EXPECT_EQ(server.connections(), 1);
 }
 
-TEST_F(CurlTransportTest, SendsNothingTwiceThatMayHaveArrived) {
-    std::atomic<int> arrived = 0;
-    RawServer server{[&](Connection& connection) {
-        if (connection.request().ends_with("a message")) ++arrived;
-        connection.reply(200, "reply");
-        // The next request on this connection is taken, and perhaps carried out, but not answered.
-        if (connection.request().ends_with("a message")) ++arrived;
-    }};
-    ASSERT_TRUE(post(server.url()));
-    EXPECT_EQ(await(transport->post(requestTo(server.url(), {"a message"}))), std::nullopt);
-    EXPECT_EQ(arrived, 1);
-    EXPECT_TRUE(post(server.url())) << "the next one has a connection of its own";
+TEST_F(CurlTransportTest, SendsNothingTwiceThatMayHaveArrivedUnlessItOnlyReads) {
+    for (const bool onlyReads : {false, true}) {
+        std::atomic<int> arrived = 0;
+        RawServer server{[&](Connection& connection) {
+            if (connection.request().ends_with("a message")) ++arrived;
+            connection.reply(200, "reply");
+            // The next request on this connection is taken, and perhaps carried out, but not
+            // answered.
+            if (connection.request().ends_with("a message")) ++arrived;
+        }};
+        ASSERT_TRUE(post(server.url()));
+        HttpRequest request = requestTo(server.url(), {"a message"});
+        request.onlyReads = onlyReads;
+        const auto reply = await(transport->post(std::move(request)));
+        EXPECT_EQ(reply ? reply->body : "", onlyReads ? "reply" : "");
+        EXPECT_EQ(arrived, onlyReads ? 2 : 1);
+        // The repeat's connection is kept, and breaks in its turn.
+        EXPECT_EQ(post(server.url()).has_value(), !onlyReads);
+    }
 }
 
 TEST_F(CurlTransportTest, TakesARedirectAsTheReply) {
