@@ -1,11 +1,15 @@
 #include "platform/linux/http/CurlTransport.h"
 
+#include "platform/linux/http/Certificates.h"
 #include "sandbox/Sandbox.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
 
 #include <gmock/gmock.h>
 
+#include <QTemporaryDir>
+
+#include <fstream>
 #include <future>
 
 namespace quillon::test {
@@ -200,6 +204,26 @@ TEST_F(CurlTransportTest, TrustsOnlyCertificatesItKnowsForTheHost) {
     qputenv("SSL_CERT_FILE", QByteArray::fromStdString(server.caFile()));
     EXPECT_TRUE(answered(*transport, "localhost"));
     qunsetenv("SSL_CERT_FILE");
+}
+
+TEST(Certificates, AreReadFromAFolderAloneWhereItHasAllOfThem) {
+    const QTemporaryDir temporary;
+    const std::filesystem::path root = temporary.path().toStdString();
+    const CertificatePlaces system{.bundle = root / "bundle", .folder = root / "system"};
+    const auto add = [&](const char* folder, const std::vector<std::string>& names) {
+        std::filesystem::create_directory(root / folder);
+        for (const std::string& name : names)
+            std::ofstream{root / folder / name};
+        return replacesBundle(root / folder, system);
+    };
+    const std::string certificate =
+        "-----BEGIN CERTIFICATE-----\nMII=\n-----END CERTIFICATE-----\n";
+    std::ofstream{system.bundle} << certificate << "# another\n" << certificate;
+    EXPECT_FALSE(add("system", {"0123abcd.0", "a.pem", "0123abcg.0", "01234567.x", "012345678"}));
+    EXPECT_TRUE(add("system", {"0123abcd.1"}));
+    EXPECT_FALSE(add("own", {"0123abcd.0", "ffffffff.0"}));
+    EXPECT_TRUE(add("own", {"0123abcd.1"}));
+    EXPECT_FALSE(replacesBundle(root / "own", {.bundle = system.bundle, .folder = root / "none"}));
 }
 
 } // namespace
