@@ -51,6 +51,7 @@ def main():
         for telegram, name in zip(telegrams, ("http", "https")):
             rows += sending.upload(telegram, name, file, tiny_file)
         plain = telegrams[0]
+        rows += sending.first_https(*telegrams, text)
         rows += sending.running_send(plain, text)
         rows += sending.key_press(plain, text)
         rows += sending.stalls(plain, file, tiff, text)

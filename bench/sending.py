@@ -66,6 +66,20 @@ def upload(telegram, name, file, tiny_file):
               f"{more / MB:.1f} MB", f"the file {FILE_SIZE / MB:.0f} MB", more / FILE_SIZE, 1.2)
 
 
+def first_https(plain, secure, text):
+    """What TLS takes of the processor at a process's first request, which reads certificates."""
+    costs = {key: [] for key in ("http", "https", "peer http", "peer https")}
+    for _ in range(UPLOAD_ROUNDS):
+        for telegram, key in (plain, "http"), (secure, "https"):
+            with copied("UTF8_STRING", text):
+                costs[key].append(telegram.quillon())
+            costs[f"peer {key}"].append(telegram.curl_text())
+    cpu = {key: median_cost(found).cpu * 1000 for key, found in costs.items()}
+    ours, theirs = cpu["https"] - cpu["http"], cpu["peer https"] - cpu["peer http"]
+    yield Row("processor time of a first https request over http", f"{ours:.1f} ms",
+              f"curl --cacert {theirs:.1f} ms", ours - theirs, 5, unit="ms")
+
+
 def running_send(telegram, text):
     """Sends of the running program against curl processes, in turns of a few."""
     ours, theirs = [], []

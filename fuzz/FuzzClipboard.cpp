@@ -13,8 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const auto& path : ClipboardFormats::decodedPaths(bytes, "fuzz")) {
         require(path.is_absolute() && path.native().find('\0') == std::string::npos);
     }
-    const std::string text =
-        ClipboardFormats::decodedText(bytes, ClipboardFormats::TextCoding::utf8);
+    const std::string text = ClipboardFormats::decodedText(bytes, "UTF8_STRING");
     require(validUtf8(text) == text);
     std::size_t total = 0;
     for (const std::string_view chunk : chunks(text, {.characters = 3, .codePoints = 5})) {

@@ -26,6 +26,9 @@ struct HttpRequest {
     std::chrono::milliseconds inactivityTimeout{std::chrono::seconds{30}};
     /// The limit for the whole transfer; 0 for none.
     std::chrono::milliseconds totalTimeout{0};
+    /// The request changes nothing at the server. It is sent once more, on a new connection, when
+    /// one that was kept open breaks before the reply. Any other request may have been carried out.
+    bool onlyReads = false;
     /// Called on the main thread, a few times a second, with how many bytes of the body have gone
     /// out.
     std::function<void(qint64 sent, qint64 total)> progress;

@@ -16,8 +16,8 @@ class Pasteboard {
 public:
     virtual ~Pasteboard() = default;
 
-    /// Grows whenever something new is copied, so that an unchanged clipboard need not be read
-    /// again.
+    /// Grows whenever something new is copied, or an owner answers that did not in time, so that an
+    /// unchanged clipboard need not be read again.
     [[nodiscard]] virtual std::uint64_t changeCount() const = 0;
 
     /// The names of the formats offered now (media types and X11 targets such as "UTF8_STRING"), in

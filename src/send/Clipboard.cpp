@@ -28,58 +28,59 @@ constexpr qsizetype longText = 100'000;
 /// How often a clipboard is read that changes each time while it is being read.
 constexpr int maximumLooks = 3;
 
-QCoro::Task<std::optional<QByteArray>> bytesOf(Pasteboard& pasteboard, std::string format) {
-    const QFuture<std::optional<QByteArray>> answer = pasteboard.data(std::move(format));
-    co_return co_await answer;
-}
+// Each makes something of the bytes that the owner gave in a format; none when they hold nothing of
+// the kind.
 
-QCoro::Task<Paths> readFiles(Pasteboard& pasteboard, Names offered) {
+QFuture<std::optional<Paths>> decodeFiles(QByteArray list, std::string /*format*/) {
     const std::string machine = QSysInfo::machineHostName().toStdString();
-    for (const std::string& format : ClipboardFormats::fileLists(offered)) {
-        const auto list = co_await bytesOf(pasteboard, format);
-        if (!list) continue;
-        Paths paths = ClipboardFormats::decodedPaths(*list, machine);
-        if (!paths.empty()) co_return paths;
-    }
-    co_return Paths{};
+    Paths paths = ClipboardFormats::decodedPaths(list, machine);
+    return QtFuture::makeReadyFuture(paths.empty() ? std::nullopt
+                                                   : std::optional{std::move(paths)});
 }
 
-QCoro::Task<std::optional<std::string>> readText(Pasteboard& pasteboard, Names offered) {
-    const auto format = ClipboardFormats::text(offered);
-    if (!format) co_return std::nullopt;
-    const auto text = co_await bytesOf(pasteboard, format->name);
-    if (!text) co_return std::nullopt;
-    if (text->size() < longText) co_return ClipboardFormats::decodedText(*text, format->coding);
-    const QFuture<std::string> decoded =
-        QtConcurrent::run(&ClipboardFormats::decodedText, *text, format->coding);
-    co_return co_await decoded;
+QFuture<std::optional<std::string>> decodeText(QByteArray text, std::string format) {
+    const auto decode = [](const QByteArray& bytes, const std::string& name) {
+        return std::optional{ClipboardFormats::decodedText(bytes, name)};
+    };
+    if (text.size() < longText) return QtFuture::makeReadyFuture(decode(text, format));
+    return QtConcurrent::run(decode, std::move(text), std::move(format));
 }
 
 /// As PNG.
-QCoro::Task<std::optional<QByteArray>> readImage(Pasteboard& pasteboard, Names offered) {
-    if (const auto format = ClipboardFormats::png(offered)) {
-        const auto png = co_await bytesOf(pasteboard, *format);
-        if (png && !png->isEmpty() && !isCutPng(*png)) co_return png;
-    }
-    for (const std::string& format : ClipboardFormats::otherBitmaps(offered)) {
-        const auto bitmap = co_await bytesOf(pasteboard, format);
-        if (!bitmap) continue;
-        const QFuture<std::optional<QByteArray>> conversion = convertToPng(*bitmap);
-        auto png = co_await conversion;
-        if (png) co_return png;
+QFuture<std::optional<QByteArray>> decodeImage(QByteArray bitmap, std::string format) {
+    if (!ClipboardFormats::isPng(format)) return convertToPng(std::move(bitmap));
+    return QtFuture::makeReadyFuture(
+        bitmap.isEmpty() || isCutPng(bitmap) ? std::nullopt : std::optional{std::move(bitmap)});
+}
+
+/// Asks for the content in one format of the kind after another until one can be used: an owner may
+/// refuse what it offers, or give what cannot be read.
+template <typename T>
+QCoro::Task<std::optional<T>> readFirst(Pasteboard& pasteboard, Names formats,
+                                        QFuture<std::optional<T>> (*decode)(QByteArray,
+                                                                            std::string)) {
+    for (const std::string& format : formats) {
+        const QFuture<std::optional<QByteArray>> answer = pasteboard.data(format);
+        const std::optional<QByteArray> bytes = co_await answer;
+        if (!bytes) continue;
+        const QFuture<std::optional<T>> decoding = decode(*bytes, format);
+        std::optional<T> content = co_await decoding;
+        if (content) co_return content;
     }
     co_return std::nullopt;
 }
 
 QCoro::Task<ClipContent> look(Pasteboard& pasteboard) {
+    using ClipboardFormats::formatsOf;
+    using ClipboardFormats::Kind;
     const QFuture<Names> answer = pasteboard.formats();
     const Names offered = co_await answer;
-    Paths paths = co_await readFiles(pasteboard, offered);
-    if (!paths.empty()) co_return ClipFiles{std::move(paths)};
-    std::optional<std::string> text = co_await readText(pasteboard, offered);
-    std::optional<QByteArray> png = co_await readImage(pasteboard, offered);
-    if (png) co_return ClipImage{std::move(*png), std::move(text)};
-    if (text && !trimmed(*text).empty()) co_return ClipText{std::move(*text)};
+    auto paths = co_await readFirst(pasteboard, formatsOf(Kind::files, offered), decodeFiles);
+    if (paths) co_return ClipFiles{*std::move(paths)};
+    auto text = co_await readFirst(pasteboard, formatsOf(Kind::text, offered), decodeText);
+    auto png = co_await readFirst(pasteboard, formatsOf(Kind::image, offered), decodeImage);
+    if (png) co_return ClipImage{*std::move(png), std::move(text)};
+    if (text && !trimmed(*text).empty()) co_return ClipText{*std::move(text)};
     co_return ClipEmpty{};
 }
 

@@ -21,31 +21,46 @@ constexpr std::array fileListNames{
     std::string_view{"x-special/mate-copied-files"},
 };
 
-struct TextEntry {
-    std::string_view name;
-    TextCoding coding;
-};
+constexpr std::string_view latin1Name = "string";
 
 // UTF8_STRING comes first, because some toolkits rewrite line ends for the media types.
-constexpr std::array textTable{
-    TextEntry{"utf8_string", TextCoding::utf8},
-    TextEntry{"text/plain;charset=utf-8", TextCoding::utf8},
-    TextEntry{"text/plain; charset=utf-8", TextCoding::utf8},
-    TextEntry{"text/plain;charset=utf8", TextCoding::utf8},
-    TextEntry{"text/plain", TextCoding::utf8},
-    TextEntry{"string", TextCoding::latin1},
+constexpr std::array textNames{
+    std::string_view{"utf8_string"},
+    std::string_view{"text/plain;charset=utf-8"},
+    std::string_view{"text/plain; charset=utf-8"},
+    std::string_view{"text/plain;charset=utf8"},
+    std::string_view{"text/plain"},
+    latin1Name,
 };
 
 constexpr std::string_view pngName = "image/png";
 
-// After TIFF, lossless formats come first.
-constexpr std::array otherBitmapNames{
-    std::string_view{"image/tiff"},   std::string_view{"image/bmp"},
-    std::string_view{"image/x-bmp"},  std::string_view{"image/x-ms-bmp"},
-    std::string_view{"image/webp"},   std::string_view{"image/jpeg"},
-    std::string_view{"image/jpg"},    std::string_view{"image/gif"},
-    std::string_view{"image/x-icon"}, std::string_view{"image/vnd.microsoft.icon"},
+// After PNG and TIFF, lossless formats come first.
+constexpr std::array imageNames{
+    pngName,
+    std::string_view{"image/tiff"},
+    std::string_view{"image/bmp"},
+    std::string_view{"image/x-bmp"},
+    std::string_view{"image/x-ms-bmp"},
+    std::string_view{"image/webp"},
+    std::string_view{"image/jpeg"},
+    std::string_view{"image/jpg"},
+    std::string_view{"image/gif"},
+    std::string_view{"image/x-icon"},
+    std::string_view{"image/vnd.microsoft.icon"},
 };
+
+std::span<const std::string_view> namesOf(Kind kind) {
+    switch (kind) {
+    case Kind::files:
+        return fileListNames;
+    case Kind::text:
+        return textNames;
+    case Kind::image:
+        break;
+    }
+    return imageNames;
+}
 
 std::optional<std::string> spelling(std::string_view name,
                                     const std::vector<std::string>& offered) {
@@ -53,15 +68,6 @@ std::optional<std::string> spelling(std::string_view name,
         if (lowercasedAscii(candidate) == name) return candidate;
     }
     return {};
-}
-
-std::vector<std::string> all(std::span<const std::string_view> names,
-                             const std::vector<std::string>& offered) {
-    std::vector<std::string> found;
-    for (const std::string_view name : names) {
-        if (auto format = spelling(name, offered)) found.push_back(std::move(*format));
-    }
-    return found;
 }
 
 std::string_view withoutTrailingNul(std::string_view bytes) {
@@ -143,23 +149,16 @@ std::string utf8FromLatin1(std::string_view text) {
 
 } // namespace
 
-std::vector<std::string> fileLists(const std::vector<std::string>& offered) {
-    return all(fileListNames, offered);
-}
-
-std::optional<TextFormat> text(const std::vector<std::string>& offered) {
-    for (const TextEntry& entry : textTable) {
-        if (auto name = spelling(entry.name, offered)) return TextFormat{*name, entry.coding};
+std::vector<std::string> formatsOf(Kind kind, const std::vector<std::string>& offered) {
+    std::vector<std::string> found;
+    for (const std::string_view name : namesOf(kind)) {
+        if (auto format = spelling(name, offered)) found.push_back(*std::move(format));
     }
-    return {};
+    return found;
 }
 
-std::optional<std::string> png(const std::vector<std::string>& offered) {
-    return spelling(pngName, offered);
-}
-
-std::vector<std::string> otherBitmaps(const std::vector<std::string>& offered) {
-    return all(otherBitmapNames, offered);
+bool isPng(std::string_view format) {
+    return lowercasedAscii(format) == pngName;
 }
 
 std::vector<std::filesystem::path> decodedPaths(const QByteArray& list, std::string_view machine) {
@@ -172,9 +171,9 @@ std::vector<std::filesystem::path> decodedPaths(const QByteArray& list, std::str
     return paths;
 }
 
-std::string decodedText(const QByteArray& bytes, TextCoding coding) {
+std::string decodedText(const QByteArray& bytes, std::string_view format) {
     const std::string_view text = withoutTrailingNul(asText(bytes));
-    return coding == TextCoding::latin1 ? utf8FromLatin1(text) : validUtf8(text);
+    return lowercasedAscii(format) == latin1Name ? utf8FromLatin1(text) : validUtf8(text);
 }
 
 } // namespace quillon::ClipboardFormats

@@ -65,6 +65,10 @@ SentItem failedForMemory(SentItem item) {
                   translate("Send", "There is not enough memory to send this."));
 }
 
+/// How the usage events, which have no word of their own for it, name a send that was ended: like a
+/// transfer that was.
+constexpr SendFailure endedReason = SendFailure::noInternet;
+
 /// The parameters that every message to the kind's topic has; thread 0 stands for the general
 /// topic.
 Json addressed(const Recipient& recipient, TopicKind kind) {
@@ -84,12 +88,15 @@ QCoro::Task<SentItem> delivered(SentItem item, Request request, Sending sending)
     QByteArray file = request.upload ? request.upload->data : QByteArray{};
     try {
         co_await sending.recipient.client.call(std::move(request.method), std::move(request.params),
-                                               std::move(request.upload), sending.progress);
+                                               std::move(request.upload), sending.progress,
+                                               sending.stop);
     } catch (const TelegramError& error) {
         const bool offline = error.cause == TelegramError::Cause::unreachable;
         item =
             failed(std::move(item), offline ? SendFailure::noInternet : SendFailure::telegramError,
                    error.message);
+    } catch (const Stopped&) {
+        item = failed(std::move(item), endedReason, stoppedText());
     } catch (const std::exception&) {
         item = failedForMemory(std::move(item));
     }
@@ -140,6 +147,10 @@ std::string imageFilename(const Clock& clock) {
            std::to_string(std::chrono::duration_cast<std::chrono::seconds>(now).count()) + ".png";
 }
 
+std::string tooBigText(const std::string& name) {
+    return filled(translate("Send", "%1 is over 50 MB (Telegram's limit for bots)"), {name});
+}
+
 /// The failed item of a file that could not be read; none when the file can be sent.
 std::optional<SentItem> unsendable(const SentItem& item, FileReading::Outcome outcome) {
     const std::string& name = item.entry.title;
@@ -150,9 +161,7 @@ std::optional<SentItem> unsendable(const SentItem& item, FileReading::Outcome ou
         return failed(item, SendFailure::folder,
                       filled(translate("Send", "Folders can't be sent yet: %1"), {name}));
     case FileReading::Outcome::tooBig:
-        return failed(
-            item, SendFailure::tooBig,
-            filled(translate("Send", "%1 is over 50 MB (Telegram's limit for bots)"), {name}));
+        return failed(item, SendFailure::tooBig, tooBigText(name));
     case FileReading::Outcome::unreadable:
         break;
     }
@@ -189,6 +198,8 @@ QCoro::Task<SentItem> sendImage(ClipImage image, Sending sending) {
     const bool asDocument = size > maximumPhotoSize;
     const std::string title = Clipboard::summary(ClipContent{image}).line;
     SentItem item = makeItem(sending, TopicKind::images, title, size);
+    if (size > maximumFileSize)
+        co_return failed(std::move(item), SendFailure::tooBig, tooBigText(title));
     Request request{.method = asDocument ? "sendDocument" : "sendPhoto",
                     .params = addressed(sending.recipient, TopicKind::images),
                     .upload = Upload{.field = asDocument ? "document" : "photo",
@@ -213,6 +224,28 @@ QCoro::Task<SentItem> sendFile(std::filesystem::path path, Sending sending) {
                                      .mime = "application/octet-stream"}};
     request.params["disable_content_type_detection"] = "true";
     co_return co_await delivered(std::move(item), std::move(request), sending);
+}
+
+SentItem unsent(const ClipText& text, const Sending& sending, std::string error) {
+    const auto size = static_cast<std::int64_t>(text.text.size());
+    return failed(makeItem(sending, TopicKind::notes, textTitle(text.text), size), endedReason,
+                  std::move(error));
+}
+
+SentItem unsent(const ClipImage& image, const Sending& sending, std::string error) {
+    return failed(makeItem(sending, TopicKind::images, Clipboard::summary(ClipContent{image}).line,
+                           image.png.size()),
+                  endedReason, std::move(error));
+}
+
+SentItem unsent(const std::filesystem::path& file, const Sending& sending, std::string error) {
+    std::string name = validUtf8(lastComponent(file).native());
+    return failed(makeItem(sending, fileKind(file), std::move(name), 0), endedReason,
+                  std::move(error));
+}
+
+std::string stoppedText() {
+    return translate("Send", "Not sent: the send was stopped.");
 }
 
 } // namespace quillon

@@ -7,6 +7,10 @@
 
 #include <QCoroTask>
 
+#include <filesystem>
+#include <stop_token>
+#include <string>
+
 namespace quillon {
 
 struct Platform;
@@ -24,6 +28,8 @@ struct Sending {
     Recipient recipient;
     /// Told how far each upload has come; may be empty.
     SendProgress progress;
+    /// Once a stop is requested, nothing more is sent than what is on its way.
+    std::stop_token stop{};
 };
 
 // Each sends one item to its topic. None throws: a failure is in the entry's error.
@@ -34,5 +40,14 @@ struct Sending {
 [[nodiscard]] QCoro::Task<SentItem> sendImage(ClipImage image, Sending sending);
 /// As a document. A folder, and a file that is too large or cannot be read, are not sent.
 [[nodiscard]] QCoro::Task<SentItem> sendFile(std::filesystem::path path, Sending sending);
+
+// Each item as it stands in the history when it has not arrived because the send was ended.
+[[nodiscard]] SentItem unsent(const ClipText& text, const Sending& sending, std::string error);
+[[nodiscard]] SentItem unsent(const ClipImage& image, const Sending& sending, std::string error);
+[[nodiscard]] SentItem unsent(const std::filesystem::path& file, const Sending& sending,
+                              std::string error);
+
+/// The error of an item that was not on its way yet.
+[[nodiscard]] std::string stoppedText();
 
 } // namespace quillon

@@ -9,9 +9,15 @@
 #include "send/Outcome.h"
 #include "state/Store.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QPointer>
 #include <QScopeGuard>
+#include <QTimer>
 
 #include <chrono>
+#include <cstdlib>
 
 namespace quillon {
 
@@ -22,26 +28,63 @@ using namespace std::chrono_literals;
 /// After this long the banner says that the send is under way.
 constexpr std::chrono::milliseconds patience = 700ms;
 
-/// Sends the items of the content one after another, in their order.
-QCoro::Task<std::vector<SentItem>> sendItems(ClipContent content, Sending sending) {
-    std::vector<SentItem> items;
-    if (auto* text = std::get_if<ClipText>(&content)) {
-        items.push_back(co_await sendText(std::move(*text), sending));
-    } else if (auto* image = std::get_if<ClipImage>(&content)) {
-        items.push_back(co_await sendImage(std::move(*image), sending));
-    } else if (const auto* files = std::get_if<ClipFiles>(&content)) {
-        for (const std::filesystem::path& path : files->paths)
-            items.push_back(co_await sendFile(path, sending));
+} // namespace
+
+/// A send under way: what it sends, and what has become of the items so far, in their order.
+struct RunningSend {
+    ClipContent content;
+    Sending sending;
+    Trigger via;
+    std::vector<SendInfo> infos{};
+    std::vector<Sent> entries{};
+    /// All items are recorded; what comes now comes too late.
+    bool over = false;
+
+    [[nodiscard]] std::size_t count() const {
+        const auto* files = std::get_if<ClipFiles>(&content);
+        return files ? files->paths.size() : 1;
     }
-    co_return items;
+};
+
+namespace {
+
+/// What the function that is for this kind of item makes of the item of that number.
+template <typename Text, typename Image, typename File>
+auto withItem(const ClipContent& content, std::size_t number, Text text, Image image, File file) {
+    if (const auto* found = std::get_if<ClipText>(&content)) return text(*found);
+    if (const auto* found = std::get_if<ClipImage>(&content)) return image(*found);
+    return file(std::get<ClipFiles>(content).paths[number]);
+}
+
+QCoro::Task<SentItem> sendItem(const RunningSend& send, std::size_t number) {
+    const Sending& sending = send.sending;
+    return withItem(
+        send.content, number, [&](const ClipText& text) { return sendText(text, sending); },
+        [&](const ClipImage& image) { return sendImage(image, sending); },
+        [&](const std::filesystem::path& file) { return sendFile(file, sending); });
+}
+
+SentItem unsentItem(const RunningSend& send, std::size_t number, const std::string& error) {
+    const auto make = [&](const auto& item) { return unsent(item, send.sending, error); };
+    return withItem(send.content, number, make, make, make);
 }
 
 } // namespace
 
+/// If the X server goes away, Qt ends the program by exit(), and no event loop turns again.
+void Store::abandonAtExit(Store* store) {
+    static QPointer<Store> latest;
+    [[maybe_unused]] static const int registered = std::atexit([] {
+        if (latest) latest->abandonSend();
+    });
+    latest = store;
+}
+
 QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress) {
-    if (busy_ || preparing_) co_return;
+    if (busy_ || preparing_ || sendingEnded_) co_return;
     preparing_ = true;
     const auto prepared = qScopeGuard([this] { preparing_ = false; });
+    sendStop_ = {};
 
     std::optional<Recipient> to = co_await recipient();
     if (!to) co_return refuseToSend();
@@ -52,26 +95,61 @@ QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress) {
     }
 
     publish(busy_, true);
-    const auto idle = qScopeGuard([this] { publish(busy_, false); });
+    const auto idle = qScopeGuard([this] {
+        running_.reset();
+        publish(busy_, false);
+    });
     std::unique_ptr<Clock::Timer> slow = platform_.clock.after(patience, [this] {
         // If banners are switched off, no later banner would replace this one.
         if (!config_.showBanner) return;
         show({.text = translate("Send", "Sending…"), .symbol = "arrow.up.circle", .sticky = true});
     });
-    Sending sending{
-        .platform = platform_, .recipient = *std::move(to), .progress = std::move(progress)};
-    const std::vector<SentItem> items = co_await sendItems(std::move(content), std::move(sending));
-    slow.reset();
-
-    std::vector<SendInfo> infos;
-    std::vector<Sent> entries;
-    for (const SentItem& item : items) {
-        infos.push_back(item.info);
-        entries.push_back(item.entry);
+    const auto send =
+        std::make_shared<RunningSend>(RunningSend{.content = std::move(content),
+                                                  .sending = {.platform = platform_,
+                                                              .recipient = *std::move(to),
+                                                              .progress = std::move(progress),
+                                                              .stop = sendStop_.get_token()},
+                                                  .via = via});
+    running_ = send;
+    abandonAtExit(this);
+    while (send->entries.size() < send->count() && !sendStop_.stop_requested()) {
+        QCoro::Task<SentItem> next = sendItem(*send, send->entries.size());
+        SentItem item = co_await next;
+        if (send->over) co_return;
+        record(*send, {std::move(item)});
     }
-    Q_EMIT sent(infos, via);
-    addToHistory(entries);
-    reportOutcome(entries);
+    recordUnsent(*send, stoppedText());
+    slow.reset();
+    Q_EMIT sent(send->infos, via);
+    reportOutcome(send->entries);
+}
+
+void Store::stopSending() {
+    sendStop_.request_stop();
+}
+
+void Store::endSending(std::chrono::milliseconds limit) {
+    sendingEnded_ = true;
+    stopSending();
+    const QDeadlineTimer deadline{limit};
+    QTimer wake; // ends the last wait for events
+    wake.start(limit);
+    while ((busy_ || preparing_) && !deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                        QEventLoop::WaitForMoreEvents);
+    }
+    abandonSend();
+}
+
+void Store::abandonSend() {
+    if (!running_ || running_->over) return;
+    sendingEnded_ = true;
+    // The item under way may have arrived.
+    const std::string error = translate("Send", "Quillon ended before Telegram confirmed it.");
+    record(*running_, {unsentItem(*running_, running_->entries.size(), error)});
+    recordUnsent(*running_, stoppedText());
+    Q_EMIT sent(running_->infos, running_->via);
 }
 
 void Store::refuseToSend() {
@@ -81,14 +159,27 @@ void Store::refuseToSend() {
     Q_EMIT sendRefused();
 }
 
-void Store::addToHistory(const std::vector<Sent>& entries) {
-    std::vector<Sent> history{entries.rbegin(), entries.rend()};
-    history.insert(history.end(), history_.begin(), history_.end());
-    publish(history_, std::move(history));
+void Store::record(RunningSend& send, const std::vector<SentItem>& items) {
+    for (const SentItem& item : items) {
+        send.infos.push_back(item.info);
+        send.entries.push_back(item.entry);
+    }
+    Q_EMIT objectWillChange();
+    const auto count = static_cast<std::ptrdiff_t>(items.size());
+    history_.insert(history_.begin(), send.entries.rbegin(), send.entries.rbegin() + count);
     saveHistory();
 }
 
+void Store::recordUnsent(RunningSend& send, const std::string& error) {
+    std::vector<SentItem> items;
+    for (std::size_t next = send.entries.size(); next < send.count(); ++next)
+        items.push_back(unsentItem(send, next, error));
+    if (!items.empty()) record(send, items);
+    send.over = true;
+}
+
 void Store::reportOutcome(const std::vector<Sent>& entries) {
+    if (sendingEnded_) return;
     const Outcome result = outcome(entries);
     if (!result.ok) {
         show({.text = result.text, .symbol = "exclamationmark.triangle", .ok = false});

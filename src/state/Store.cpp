@@ -62,7 +62,6 @@ void Store::publish(T& field, T value) {
 }
 
 template void Store::publish(bool& field, bool value);
-template void Store::publish(std::vector<Sent>& field, std::vector<Sent> value);
 
 void Store::setConfig(Config config) {
     const Config previous = config_;

@@ -11,8 +11,11 @@
 #include <QCoroTask>
 #include <QObject>
 
+#include <chrono>
 #include <functional>
+#include <memory>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +26,8 @@ class Banner;
 class Hotkey;
 struct BannerMessage;
 struct Platform;
+struct RunningSend;
+struct SentItem;
 
 /// The bot token's place in the keyring, the only place where it persists.
 [[nodiscard]] const KeychainItem& botTokenItem();
@@ -85,6 +90,14 @@ public:
     /// while another send runs. `progress` is told on the main thread how far an upload has come.
     [[nodiscard]] QCoro::Task<> sendClipboard(Trigger via, SendProgress progress = {});
 
+    /// Has the send that runs, if any, send nothing more than what is on its way; the rest goes
+    /// into the history as not sent.
+    void stopSending();
+    /// Ends sending for good, as the program quits. Turns the event loop until the send has
+    /// stopped, for at most `patience`; what has not arrived by then goes into the history as not
+    /// sent.
+    void endSending(std::chrono::milliseconds patience);
+
     // The actions of the setup. One works at a time, the others wait for it in their order.
 
     /// Checks the token with Telegram, stores it and gives the bot's name. Throws TelegramError.
@@ -129,8 +142,14 @@ private:
     [[nodiscard]] QCoro::Task<std::optional<Recipient>> recipient();
 
     void refuseToSend();
-    /// Puts the entries of one send, in the order sent, into the history, the last one first.
-    void addToHistory(const std::vector<Sent>& entries);
+    /// Puts the next items of the send, in the order sent, into its record and into the history,
+    /// the last one first.
+    void record(RunningSend& send, const std::vector<SentItem>& items);
+    /// Records all items that are left as not sent, for this reason.
+    void recordUnsent(RunningSend& send, const std::string& error);
+    /// Ends the send under way, if any, without waiting for it.
+    void abandonSend();
+    static void abandonAtExit(Store* store);
     void reportOutcome(const std::vector<Sent>& entries);
     /// Shows the message where the settings want the banner.
     void show(BannerMessage message);
@@ -146,6 +165,11 @@ private:
     bool configSaved_ = true;
     /// A send has begun but is not yet busy: it still asks the keyring or reads the clipboard.
     bool preparing_ = false;
+    /// The send that makes the store busy, and how the present or next one is stopped.
+    std::shared_ptr<RunningSend> running_;
+    std::stop_source sendStop_;
+    /// The program quits, and no send may begin.
+    bool sendingEnded_ = false;
     std::optional<std::string> cachedToken_;
     /// Grows whenever the user connects or forgets a bot.
     int tokenChanges_ = 0;

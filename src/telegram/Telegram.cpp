@@ -38,6 +38,12 @@ HttpRequest makeRequest(const std::string& url, const Json& params,
     return request;
 }
 
+/// Sleeps for so long, and less when a stop is requested, which it looks for every second.
+QCoro::Task<> wait(Clock& clock, std::chrono::seconds duration, std::stop_token stop) {
+    for (; duration > 0s && !stop.stop_requested(); duration -= 1s)
+        co_await sleep(clock, 1s);
+}
+
 /// Reads a reply. Almost all are small; a large one is read off the main thread.
 QCoro::Task<Verdict> judged(HttpReply reply) {
     constexpr qsizetype small = 100'000;
@@ -55,7 +61,7 @@ Telegram::Telegram(std::string token, std::string api, HttpTransport& http, Cloc
       clock_{&clock} {}
 
 QCoro::Task<Json> Telegram::call(std::string method, Json params, std::optional<Upload> upload,
-                                 SendProgress progress) const {
+                                 SendProgress progress, std::stop_token stop) const {
     // The coroutine may outlive this value: it keeps what it needs in its own frame.
     HttpTransport& http = *http_;
     Clock& clock = *clock_;
@@ -64,8 +70,10 @@ QCoro::Task<Json> Telegram::call(std::string method, Json params, std::optional<
         throw TelegramError{translate("Telegram", "That bot token doesn't look right.")};
 
     for (;;) {
+        if (stop.stop_requested()) throw Stopped{};
         HttpRequest request = makeRequest(url, params, upload);
         request.progress = progress;
+        request.onlyReads = method.starts_with("get"); // as the Bot API names what changes nothing
         const std::optional<HttpReply> reply = co_await http.post(std::move(request));
         if (!reply) {
             throw TelegramError{
@@ -77,7 +85,7 @@ QCoro::Task<Json> Telegram::call(std::string method, Json params, std::optional<
         if (auto* refusal = std::get_if<Refusal>(&verdict)) {
             throw TelegramError{std::move(refusal->message)};
         }
-        co_await sleep(clock, std::get<Wait>(verdict).duration);
+        co_await wait(clock, std::get<Wait>(verdict).duration, stop);
     }
 }
 

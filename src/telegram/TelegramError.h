@@ -20,4 +20,9 @@ struct TelegramError : std::exception {
     Cause cause;
 };
 
+/// The caller has asked to stop before the request went out.
+struct Stopped : std::exception {
+    [[nodiscard]] const char* what() const noexcept override { return "stopped"; }
+};
+
 } // namespace quillon

@@ -25,6 +25,9 @@ namespace {
 /// The icon is in its place this long after the start.
 constexpr std::chrono::milliseconds quietMoment{100};
 
+/// How long a send that is under way when the program quits may take to end.
+constexpr std::chrono::milliseconds sendPatience{700};
+
 /// Qt looks through the fonts when it draws its first text, which takes longer than a frame. This
 /// has it done soon after the start, before the first banner fades in.
 void loadFont() {
@@ -124,8 +127,10 @@ void Resident::start(std::string_view wanted) {
     service_->serve({platform_, core_, nullptr}, desktopActions());
     if (!wanted.empty()) service_->wishByName(QString::fromStdString(std::string{wanted}), {});
     QTimer::singleShot(quietMoment, &core_.store, loadFont);
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &core_.store,
-                     [this] { core_.analytics.flushBeforeQuit(); });
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &core_.store, [this] {
+        core_.store.endSending(sendPatience);
+        core_.analytics.flushBeforeQuit();
+    });
 }
 
 } // namespace quillon

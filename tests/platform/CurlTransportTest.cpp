@@ -1,11 +1,15 @@
 #include "platform/linux/http/CurlTransport.h"
 
+#include "platform/linux/http/Certificates.h"
 #include "sandbox/Sandbox.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
 
 #include <gmock/gmock.h>
 
+#include <QTemporaryDir>
+
+#include <fstream>
 #include <future>
 
 namespace quillon::test {
@@ -63,18 +67,25 @@ TEST_F(CurlTransportTest, SendsPiecesAsOneBodyAndKeepsTheConnection) {
     EXPECT_EQ(server.connections(), 1);
 }
 
-TEST_F(CurlTransportTest, SendsNothingTwiceThatMayHaveArrived) {
-    std::atomic<int> arrived = 0;
-    RawServer server{[&](Connection& connection) {
-        if (connection.request().ends_with("a message")) ++arrived;
-        connection.reply(200, "reply");
-        // The next request on this connection is taken, and perhaps carried out, but not answered.
-        if (connection.request().ends_with("a message")) ++arrived;
-    }};
-    ASSERT_TRUE(post(server.url()));
-    EXPECT_EQ(await(transport->post(requestTo(server.url(), {"a message"}))), std::nullopt);
-    EXPECT_EQ(arrived, 1);
-    EXPECT_TRUE(post(server.url())) << "the next one has a connection of its own";
+TEST_F(CurlTransportTest, SendsNothingTwiceThatMayHaveArrivedUnlessItOnlyReads) {
+    for (const bool onlyReads : {false, true}) {
+        std::atomic<int> arrived = 0;
+        RawServer server{[&](Connection& connection) {
+            if (connection.request().ends_with("a message")) ++arrived;
+            connection.reply(200, "reply");
+            // The next request on this connection is taken, and perhaps carried out, but not
+            // answered.
+            if (connection.request().ends_with("a message")) ++arrived;
+        }};
+        ASSERT_TRUE(post(server.url()));
+        HttpRequest request = requestTo(server.url(), {"a message"});
+        request.onlyReads = onlyReads;
+        const auto reply = await(transport->post(std::move(request)));
+        EXPECT_EQ(reply ? reply->body : "", onlyReads ? "reply" : "");
+        EXPECT_EQ(arrived, onlyReads ? 2 : 1);
+        // The repeat's connection is kept, and breaks in its turn.
+        EXPECT_EQ(post(server.url()).has_value(), !onlyReads);
+    }
 }
 
 TEST_F(CurlTransportTest, TakesARedirectAsTheReply) {
@@ -193,6 +204,26 @@ TEST_F(CurlTransportTest, TrustsOnlyCertificatesItKnowsForTheHost) {
     qputenv("SSL_CERT_FILE", QByteArray::fromStdString(server.caFile()));
     EXPECT_TRUE(answered(*transport, "localhost"));
     qunsetenv("SSL_CERT_FILE");
+}
+
+TEST(Certificates, AreReadFromAFolderAloneWhereItHasAllOfThem) {
+    const QTemporaryDir temporary;
+    const std::filesystem::path root = temporary.path().toStdString();
+    const CertificatePlaces system{.bundle = root / "bundle", .folder = root / "system"};
+    const auto add = [&](const char* folder, const std::vector<std::string>& names) {
+        std::filesystem::create_directory(root / folder);
+        for (const std::string& name : names)
+            std::ofstream{root / folder / name};
+        return replacesBundle(root / folder, system);
+    };
+    const std::string certificate =
+        "-----BEGIN CERTIFICATE-----\nMII=\n-----END CERTIFICATE-----\n";
+    std::ofstream{system.bundle} << certificate << "# another\n" << certificate;
+    EXPECT_FALSE(add("system", {"0123abcd.0", "a.pem", "0123abcg.0", "01234567.x", "012345678"}));
+    EXPECT_TRUE(add("system", {"0123abcd.1"}));
+    EXPECT_FALSE(add("own", {"0123abcd.0", "ffffffff.0"}));
+    EXPECT_TRUE(add("own", {"0123abcd.1"}));
+    EXPECT_FALSE(replacesBundle(root / "own", {.bundle = system.bundle, .folder = root / "none"}));
 }
 
 } // namespace

@@ -23,6 +23,11 @@ QByteArray sidewaysJpeg() {
     return jpeg.insert(2, bytes(exif));
 }
 
+/// A TIFF with a tag that no library knows, in place of the one for the unit of its resolution.
+QByteArray unusualTiff() {
+    return picture("TIFF").replace("\x28\x01\x03", "\xe8\xfd\x03");
+}
+
 class ClipboardRead : public testing::Test {
 protected:
     ClipContent read(FakePasteboard::Content content) {
@@ -52,12 +57,15 @@ TEST_F(ClipboardRead, TakesPngUntouchedWithTheTextBesideIt) {
     EXPECT_EQ(read({{"image/png", png}, {"STRING", ""}}), ClipContent{(ClipImage{png, ""})});
 }
 
-TEST_F(ClipboardRead, ConvertsOtherBitmapsToPng) {
+TEST_F(ClipboardRead, ConvertsOtherBitmapsToPngWithoutAWord) {
+    testing::internal::CaptureStderr();
     const std::vector<std::pair<std::string, QByteArray>> cases{
-        {"image/tiff", picture("TIFF")},
+        {"image/tiff", unusualTiff()},
         {"image/bmp", picture("BMP")},
         {"image/webp", picture("WEBP")},
         {"image/jpeg", picture("JPEG")},
+        {"image/jpeg", picture("JPEG").chopped(4)},
+        {"image/gif", picture("PNG")},
     };
     for (const auto& [format, bitmap] : cases) {
         const auto content = read({{"image/png", std::nullopt}, {format, bitmap}});
@@ -67,21 +75,28 @@ TEST_F(ClipboardRead, ConvertsOtherBitmapsToPng) {
     }
     const auto upright = read({{"image/jpeg", sidewaysJpeg()}});
     EXPECT_EQ(Clipboard::summary(upright).line, "Image · 2×3");
+    EXPECT_EQ(read({{"image/tiff", picture("TIFF").left(20)}}), ClipContent{ClipEmpty{}});
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-TEST_F(ClipboardRead, GoesOnToTextWhereNothingBetterCanBeRead) {
+TEST_F(ClipboardRead, GoesOnWhereAFormatCannotBeRead) {
     const FakePasteboard::Content unusable[]{
         {{"text/uri-list", "https://example.org/\r\n"}},
-        {{"image/tiff", picture("TIFF").left(20)}},
         {{"image/png", ""}},
         {{"image/png", picture("PNG").chopped(1)}},
         {{"image/png", picture("PNG").left(40)}},
         {{"application/pdf", "%PDF"}},
+        {{"UTF8_STRING", std::nullopt}, {"text/plain;charset=UTF-8", std::nullopt}},
     };
     for (FakePasteboard::Content content : unusable) {
-        content.emplace_back("UTF8_STRING", "a");
+        content.emplace_back("text/plain", "a");
+        content.emplace_back("STRING", "b");
         EXPECT_EQ(read(content), ClipContent{ClipText{"a"}}) << content.front().first;
     }
+    EXPECT_EQ(read({{"text/uri-list", std::nullopt},
+                    {"x-special/gnome-copied-files", "copy\nfile:///a"},
+                    {"UTF8_STRING", "a"}}),
+              ClipContent{ClipFiles{{"/a"}}});
 }
 
 TEST_F(ClipboardRead, KeepsTextAsCopiedButCountsBlankTextAsNothing) {
@@ -109,20 +124,15 @@ TEST_F(ClipboardRead, ComesToAnEndOnAClipboardThatNeverRests) {
     EXPECT_EQ(await(Clipboard::read(pasteboard)), ClipContent{ClipText{"tick"}});
 }
 
-TEST(ClipboardFormats, PrefersTheFormatThatKeepsTextExactly) {
-    using ClipboardFormats::TextCoding;
-    using ClipboardFormats::TextFormat;
+TEST(ClipboardFormats, NamesTheBestFormatsFirst) {
+    using ClipboardFormats::formatsOf;
+    using ClipboardFormats::Kind;
     using Names = std::vector<std::string>;
-    EXPECT_EQ(ClipboardFormats::text(
-                  Names{"STRING", "text/plain", "text/plain;charset=utf-8", "UTF8_STRING"}),
-              (TextFormat{"UTF8_STRING", TextCoding::utf8}));
-    EXPECT_EQ(ClipboardFormats::text(Names{"STRING", "text/plain;charset=UTF-8"}),
-              (TextFormat{"text/plain;charset=UTF-8", TextCoding::utf8}));
-    EXPECT_EQ(ClipboardFormats::text(Names{"TARGETS", "STRING"}),
-              (TextFormat{"STRING", TextCoding::latin1}));
-    EXPECT_EQ(ClipboardFormats::text(Names{"text/html", "TARGETS"}), std::nullopt);
-    EXPECT_EQ(ClipboardFormats::otherBitmaps(Names{"image/jpeg", "image/bmp", "image/tiff"}),
-              (Names{"image/tiff", "image/bmp", "image/jpeg"}));
+    EXPECT_EQ(formatsOf(Kind::text, Names{"STRING", "text/html", "text/plain",
+                                          "text/plain;charset=UTF-8", "TARGETS", "UTF8_STRING"}),
+              (Names{"UTF8_STRING", "text/plain;charset=UTF-8", "text/plain", "STRING"}));
+    EXPECT_EQ(formatsOf(Kind::image, Names{"image/jpeg", "image/bmp", "image/tiff", "image/PNG"}),
+              (Names{"image/PNG", "image/tiff", "image/bmp", "image/jpeg"}));
 }
 
 TEST(ClipboardFormats, DecodesListsOfLocalFiles) {
@@ -150,11 +160,10 @@ TEST(ClipboardFormats, DecodesListsOfLocalFiles) {
 
 TEST(ClipboardFormats, DecodesText) {
     using ClipboardFormats::decodedText;
-    using ClipboardFormats::TextCoding;
-    EXPECT_EQ(decodedText(bytes("a\0b\r\n\0\0"s), TextCoding::utf8), "a\0b\r\n"s);
-    EXPECT_EQ(decodedText(bytes("\xc3\xa9\xe9 \xf0\x9f\x98\x80"), TextCoding::utf8),
+    EXPECT_EQ(decodedText(bytes("a\0b\r\n\0\0"s), "UTF8_STRING"), "a\0b\r\n"s);
+    EXPECT_EQ(decodedText(bytes("\xc3\xa9\xe9 \xf0\x9f\x98\x80"), "text/plain"),
               "\u00e9\ufffd \U0001f600");
-    EXPECT_EQ(decodedText(bytes("\xc3\xa9\xff\0"s), TextCoding::latin1), "Ã©ÿ");
+    EXPECT_EQ(decodedText(bytes("\xc3\xa9\xff\0"s), "STRING"), "Ã©ÿ");
 }
 
 TEST(ClipboardSummary, SaysWhatTheClipboardHolds) {

@@ -8,6 +8,7 @@ namespace quillon::test {
 namespace {
 
 using namespace std::chrono_literals;
+using sandbox::FaultKind;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -34,7 +35,7 @@ TEST_F(SendFiles, SendsTheFileThoughTheFolderBeforeItFails) {
                     R"(send_failed {"kind":"file","reason":"folder"})"));
 }
 
-TEST_F(SendFiles, RefusesFilesOver50MegabytesWithoutReadingThem) {
+TEST_F(SendFiles, RefusesWhatIsOver50MegabytesWithoutReadingIt) {
     computer.send(files({file("limit.bin", 50'000'000)}));
     EXPECT_EQ(computer.messages("files").at(0)["size"], 50'000'000);
     computer.clear();
@@ -46,6 +47,45 @@ TEST_F(SendFiles, RefusesFilesOver50MegabytesWithoutReadingThem) {
                 ElementsAre(testing::StartsWith("sent {"),
                             R"(send_failed {"kind":"file","reason":"too_big"})",
                             R"(send_failed {"kind":"video","reason":"too_big"})"));
+    computer.send({{"image/png", pngOf(50'000'001)}});
+    EXPECT_THAT(computer.sandbox.requests(), IsEmpty());
+    EXPECT_EQ(banners().back(), "Image · 4×3 is over 50 MB (Telegram's limit for bots)");
+    EXPECT_EQ(computer.newEvents().back(), R"(send_failed {"kind":"image","reason":"too_big"})");
+}
+
+TEST_F(SendFiles, TellsOfEachItemWhenTheProgramEndsMeanwhile) {
+    const auto told = [this] {
+        std::vector<std::string> entries;
+        for (const Sent& entry : computer.store->history())
+            entries.push_back(entry.title + ": " + entry.error.value_or("sent"));
+        return entries;
+    };
+    const auto clipboard = files({file("a"), file("b"), file("c")});
+    // The second file's reply comes while the program waits for it, or too late.
+    for (const auto kind : {FaultKind::delay, FaultKind::hang}) {
+        computer.setContent("history.json", "");
+        computer.restart();
+        computer.clear();
+        computer.sandbox.failNext(answer("", 200, R"({"ok":true})"));
+        computer.sandbox.failNext(fault(kind));
+        computer.pasteboard.copy(clipboard);
+        auto sending = computer.store->sendClipboard(Trigger::button);
+        ASSERT_TRUE(waitUntil([&] { return computer.sandbox.requests().size() == 2; }));
+        EXPECT_THAT(told(), ElementsAre("a: sent")) << "each is recorded as it comes";
+        computer.store->endSending(kind == FaultKind::hang ? 50ms : 10s);
+        const std::string second =
+            kind == FaultKind::hang ? "b: Quillon ended before Telegram confirmed it." : "b: sent";
+        const auto all = ElementsAre("c: Not sent: the send was stopped.", second, "a: sent");
+        EXPECT_THAT(told(), all);
+        EXPECT_THAT(computer.newEvents().front(), testing::HasSubstr(R"("count":3)"));
+        if (kind == FaultKind::hang) computer.sandbox.stop();
+        await(std::move(sending));
+        await(computer.store->sendClipboard(Trigger::button));
+        EXPECT_THAT(computer.sandbox.requests(), SizeIs(2)) << "it has ended";
+        EXPECT_THAT(banners(), IsEmpty());
+        computer.restart();
+        EXPECT_THAT(told(), all) << "the history is on disk";
+    }
 }
 
 TEST_F(SendFiles, ReportsFilesThatCannotBeRead) {

@@ -81,6 +81,20 @@ TEST(BotConnection, NamesABotThatHasNoName) {
     }
 }
 
+TEST(BotConnection, AsksOnceMoreWhereAKeptConnectionBreaks) {
+    ConnectedComputer computer;
+    computer.sandbox.userSays(computer.group, "hi");
+    for (const char* method : {"getMe", "getUpdates", "getChat"}) {
+        Fault broken = fault(sandbox::FaultKind::cutAfterBody);
+        broken.method = method;
+        computer.sandbox.failNext(broken);
+    }
+    EXPECT_EQ(computer.failure(computer.store->connectBot(BotComputer::token)), "");
+    EXPECT_EQ(computer.failure(computer.store->findGroup()), "");
+    EXPECT_THAT(computer.methods(),
+                ElementsAre("getMe", "getMe", "getUpdates", "getUpdates", "getChat", "getChat"));
+}
+
 TEST(BotConnection, KeepsGroupAndTopicsForAnotherBot) {
     ConnectedComputer computer;
     Config expected = computer.store->config();

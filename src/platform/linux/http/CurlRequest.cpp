@@ -3,6 +3,7 @@
 #include <QByteArrayView>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <utility>
 
@@ -12,6 +13,10 @@ namespace {
 
 /// libcurl asks for this much of a large body at once, in bytes.
 constexpr long uploadBufferSize = 512L * 1024;
+
+/// How a transfer ends whose connection breaks.
+constexpr std::array breaks{CURLE_SEND_ERROR, CURLE_RECV_ERROR, CURLE_GOT_NOTHING, CURLE_HTTP2,
+                            CURLE_HTTP2_STREAM};
 
 } // namespace
 
@@ -65,6 +70,18 @@ void CurlRequest::describeBody() {
     curl().easy_setopt(handle(), CURLOPT_SEEKDATA, this);
 }
 
+bool CurlRequest::repeat(CURLcode code) {
+    long connections = 0;
+    curl().easy_getinfo(handle(), CURLINFO_NUM_CONNECTS, &connections);
+    // In the second case libcurl has made the new connection, but seekBody() has kept it from going
+    // on.
+    const bool broke = (connections == 0 && std::ranges::find(breaks, code) != breaks.end()) ||
+                       code == CURLE_SEND_FAIL_REWIND;
+    if (!broke || !request_.onlyReads || std::exchange(repeated_, true)) return false;
+    taken_ = 0;
+    return curl().easy_setopt(handle(), CURLOPT_FRESH_CONNECT, 1L) == CURLE_OK;
+}
+
 CurlTransfer::Progress CurlRequest::progress() const {
     curl_off_t bytes = 0;
     if (handle()) curl().easy_getinfo(handle(), CURLINFO_SIZE_UPLOAD_T, &bytes);
@@ -102,7 +119,7 @@ int CurlRequest::seekBody(void* self, curl_off_t offset, int origin) {
     auto& transfer = *static_cast<CurlRequest*>(self);
     if (origin != SEEK_SET || offset < 0 || offset > transfer.total_) return CURL_SEEKFUNC_FAIL;
     // libcurl seeks back to repeat a request whose reused connection broke. A request that went out
-    // completely may have been carried out, and a message must not arrive twice.
+    // completely may have been carried out, and a message must not arrive twice. See repeat().
     if (transfer.taken_ == transfer.total_) return CURL_SEEKFUNC_FAIL;
     transfer.taken_ = offset;
     return CURL_SEEKFUNC_OK;

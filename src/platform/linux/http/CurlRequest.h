@@ -16,6 +16,7 @@ public:
 
     [[nodiscard]] QFuture<std::optional<HttpReply>> future() const { return promise_.future(); }
 
+    bool repeat(CURLcode code) override;
     /// Counts the sent bytes of the body.
     [[nodiscard]] Progress progress() const override;
     void finish(CURLcode code) override;
@@ -36,6 +37,7 @@ private:
     HttpRequest request_;
     qint64 total_ = 0;
     qint64 taken_ = 0; ///< bytes of the body that libcurl has taken
+    bool repeated_ = false;
     HttpReply reply_;
     QPromise<std::optional<HttpReply>> promise_;
     std::unique_ptr<curl_slist, FreeList> headers_;

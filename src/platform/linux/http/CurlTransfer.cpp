@@ -2,8 +2,10 @@
 
 #include "base/Environment.h"
 #include "base/ThisMachine.h"
+#include "platform/linux/http/Certificates.h"
 
 #include <array>
+#include <string_view>
 #include <utility>
 
 namespace quillon {
@@ -12,16 +14,32 @@ namespace {
 
 constexpr long maximumRedirects = 10;
 
+/// Whether libcurl needs no bundle besides this folder.
+bool isFolderEnough(const std::filesystem::path& folder) {
+    const curl_version_info_data& libcurl = *curl().version_info(CURLVERSION_NOW);
+    // Other TLS libraries read the whole folder, or none.
+    if (!libcurl.capath || !libcurl.cainfo || !libcurl.ssl_version ||
+        !std::string_view{libcurl.ssl_version}.starts_with("OpenSSL/"))
+        return false;
+    const CertificatePlaces system{.bundle = libcurl.cainfo, .folder = libcurl.capath};
+    return replacesBundle(folder.empty() ? system.folder : folder, system);
+}
+
 void trustCertificates(CURL* handle, const std::filesystem::path& certificates) {
     if (!certificates.empty()) {
         curl().easy_setopt(handle, CURLOPT_CAINFO, certificates.c_str());
         curl().easy_setopt(handle, CURLOPT_CAPATH, nullptr);
         return;
     }
-    if (const auto file = environment("SSL_CERT_FILE"))
+    const auto folder = environment("SSL_CERT_DIR");
+    if (folder) curl().easy_setopt(handle, CURLOPT_CAPATH, folder->c_str());
+    if (const auto file = environment("SSL_CERT_FILE")) {
         curl().easy_setopt(handle, CURLOPT_CAINFO, file->c_str());
-    if (const auto folder = environment("SSL_CERT_DIR"))
-        curl().easy_setopt(handle, CURLOPT_CAPATH, folder->c_str());
+        return;
+    }
+    // Looked up once, since it takes a millisecond.
+    static const bool folderIsEnough = isFolderEnough(folder.value_or(""));
+    if (folderIsEnough) curl().easy_setopt(handle, CURLOPT_CAINFO, nullptr);
 }
 
 /// The host that libcurl will connect to; empty if the URL is malformed.

@@ -41,6 +41,10 @@ public:
     /// from now on.
     Moment deadline(Moment now);
 
+    /// Makes the transfer ready to run once more, if it may after it ended like this. The handle
+    /// must be in no multi handle.
+    virtual bool repeat(CURLcode /*code*/) { return false; }
+
     [[nodiscard]] virtual Progress progress() const = 0;
 
     /// Whether a stop was requested.

@@ -171,7 +171,10 @@ private:
             const CURLcode code = message->data.result;
             CurlTransfer* transfer = nullptr;
             curl().easy_getinfo(message->easy_handle, CURLINFO_PRIVATE, &transfer);
-            end(*transfer, code);
+            curl().multi_remove_handle(multi_, transfer->handle());
+            const bool again = transfer->repeat(code) &&
+                               curl().multi_add_handle(multi_, transfer->handle()) == CURLM_OK;
+            if (!again) end(*transfer, code);
         }
     }
 

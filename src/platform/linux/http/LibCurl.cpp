@@ -20,6 +20,11 @@ bool find(QLibrary& library, const char* name, Function& function) {
 
 bool load() {
     QLibrary library{QStringLiteral("curl"), soVersion};
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    // Its thousands of symbols are then looked for in it and in what it needs, not in each library
+    // of this program first. Sanitizers refuse that, since their own functions would be passed by.
+    library.setLoadHints(QLibrary::DeepBindHint);
+#endif
     bool found = true;
 #define QUILLON_FIND(name) found = find(library, "curl_" #name, functions.name) && found;
     QUILLON_CURL_FUNCTIONS(QUILLON_FIND)

@@ -60,6 +60,7 @@ bool SelectionReader::selectEvents() {
 }
 
 std::vector<std::string> SelectionReader::formats() {
+    if (!silent()) silence_ = {};
     const auto limit = maximumTargets * qsizetype{sizeof(xcb_atom_t)};
     const auto answer = convert(targets_, limit);
     if (!answer || !isRightType(targets_, *answer)) return {};
@@ -123,14 +124,16 @@ std::vector<std::string> SelectionReader::namesOf(const std::vector<xcb_atom_t>&
 
 std::optional<SelectionReader::Property> SelectionReader::convert(xcb_atom_t target,
                                                                   qsizetype limit) {
+    if (silent()) return {};
     ask(target);
-    if (!waitFor([this] { return answer_.has_value(); })) return {};
+    if (!waitForOwner([this] { return answer_.has_value(); })) return {};
     if (*answer_ == XCB_ATOM_NONE) {
         open_ = false;
         return {};
     }
     const auto answer = takeProperty(limit);
     if (!answer || answer->bytes_after > 0) return {};
+    silence_ = {};
     if (answer->type == incr_) return receivePieces(announcedSize(*answer), limit);
     open_ = false;
     const auto value = valueOf(*answer);
@@ -159,10 +162,15 @@ std::optional<SelectionReader::Property> SelectionReader::receivePieces(qsizetyp
     Property whole;
     whole.bytes.reserve(announced);
     const auto end = std::chrono::steady_clock::now() + transferLimit;
-    while (std::chrono::steady_clock::now() < end && waitFor([this] { return newValue_; })) {
+    while (waitForOwner([this] { return newValue_; })) {
+        if (std::chrono::steady_clock::now() >= end) {
+            silence_ = patience;
+            return {};
+        }
         const auto piece = takeProperty(limit);
         if (!piece) return {};
         if (piece->type == XCB_ATOM_NONE) continue; // there is no property, so this is not a piece
+        silence_ = {};
         const auto value = valueOf(*piece);
         if (value.empty()) {
             open_ = false;
@@ -219,6 +227,7 @@ void SelectionReader::handle(const xcb_generic_event_t& event) {
         const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
         const bool written = change.state == XCB_PROPERTY_NEW_VALUE;
         if (written && change.window == window_ && change.atom == property_) newValue_ = true;
+        if (written && change.window != window_) noteLateAnswer();
     } else if (type == firstXfixesEvent_ + XCB_XFIXES_SELECTION_NOTIFY) {
         noteOwner(event.full_sequence);
     }
@@ -234,20 +243,44 @@ void SelectionReader::noteAnswer(const xcb_selection_notify_event_t& event) {
     if (late == retired_.end()) return;
     xcb_destroy_window(connection_.get(), *late);
     retired_.erase(late);
+    noteLateAnswer();
+}
+
+/// What a slow owner gave too late, it may give in time when it is asked again.
+void SelectionReader::noteLateAnswer() {
+    if (!silent()) return;
+    silence_ = {};
+    ownerChanged_();
 }
 
 /// An owner that was replaced or is gone answers no more, or with content that is no longer on the
 /// clipboard. If the change came before the server had the question, the question went to the new
 /// owner.
 void SelectionReader::noteOwner(std::uint32_t sequence) {
+    silence_ = {};
     ownerChanged_();
     const bool sinceQuestion = static_cast<std::int32_t>(sequence - question_) >= 0;
     if (open_ && sinceQuestion) overtaken_ = true;
 }
 
 template <typename Done>
-bool SelectionReader::waitFor(Done done) {
-    const auto deadline = std::chrono::steady_clock::now() + patience;
+bool SelectionReader::waitForOwner(Done done) {
+    const auto start = std::chrono::steady_clock::now();
+    if (waitUntil(start + patience - silence_, done)) {
+        silence_ += std::chrono::steady_clock::now() - start;
+        return true;
+    }
+    // An answer that comes now is a late one.
+    if (!overtaken_) {
+        silence_ = patience;
+        retireWindow();
+        open_ = false;
+    }
+    return false;
+}
+
+template <typename Done>
+bool SelectionReader::waitUntil(X11Connection::Time deadline, Done done) {
     for (;;) {
         handleEvents();
         if (!connection_.alive() || stop_.stop_requested()) return false;
@@ -261,8 +294,9 @@ template <typename Reply>
 XcbPointer<Reply> SelectionReader::reply(unsigned sequence) {
     void* answer = nullptr;
     xcb_generic_error_t* error = nullptr;
-    const bool arrived = waitFor(
-        [&] { return xcb_poll_for_reply(connection_.get(), sequence, &answer, &error) != 0; });
+    const bool arrived = waitUntil(std::chrono::steady_clock::now() + patience, [&] {
+        return xcb_poll_for_reply(connection_.get(), sequence, &answer, &error) != 0;
+    });
     if (!arrived) xcb_discard_reply(connection_.get(), sequence);
     std::free(error); // NOLINT: xcb hands out malloc'd
     return XcbPointer<Reply>{static_cast<Reply*>(answer)};

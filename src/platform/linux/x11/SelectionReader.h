@@ -20,16 +20,18 @@ namespace quillon {
 /// thread until it is answered, given up or stopped.
 class SelectionReader {
 public:
-    /// A question is given up after nothing has come from the owner for this long. Each piece of a
-    /// large answer starts the time anew.
+    /// How long all questions since formats() together wait for an owner that gives nothing. Each
+    /// byte starts the time anew. After it the owner counts as silent: no question is put to it
+    /// until it changes, or answers after all.
     static constexpr std::chrono::milliseconds patience{1000};
-    /// After this time, no further piece of a large answer is waited for.
+    /// After this time, no further piece of a large answer is waited for, and the owner counts as
+    /// silent.
     static constexpr std::chrono::seconds transferLimit{30};
     /// A larger answer counts as none, in bytes.
     static constexpr qsizetype maximumSize = qsizetype{256} * 1024 * 1024;
 
-    /// `ownerChanged` is called on the reading thread, each time something is copied or the owner
-    /// goes away. Check ready() before use.
+    /// `ownerChanged` is called on the reading thread, each time something is copied, the owner
+    /// goes away, or one answers that counted as silent. Check ready() before use.
     SelectionReader(X11Connection& connection, std::function<void()> ownerChanged);
 
     /// False when the server lacks what reading needs (the XFixes extension).
@@ -40,6 +42,7 @@ public:
     void stopOn(std::stop_token stop) { stop_ = std::move(stop); }
 
     /// The names of the targets that the owner offers, in its order; empty when there is no answer.
+    /// Begins a reading.
     [[nodiscard]] std::vector<std::string> formats();
 
     /// The selection converted to the target of this name; none when refused or not answered, or
@@ -71,9 +74,15 @@ private:
     void handle(const xcb_generic_event_t& event);
     void noteAnswer(const xcb_selection_notify_event_t& event);
     void noteOwner(std::uint32_t sequence);
+    void noteLateAnswer();
 
+    [[nodiscard]] bool silent() const { return silence_ >= patience; }
+    /// Both wait for what the connection brings; false when it does not come in time, or never
+    /// will.
     template <typename Done>
-    bool waitFor(Done done);
+    bool waitForOwner(Done done);
+    template <typename Done>
+    bool waitUntil(X11Connection::Time deadline, Done done);
     template <typename Reply>
     XcbPointer<Reply> reply(unsigned sequence);
 
@@ -95,6 +104,8 @@ private:
     bool overtaken_ = false;           ///< the owner changed since the question
     bool newValue_ = false;            ///< the owner wrote the property since it was last taken
     unsigned question_ = 0;            ///< the question's sequence number
+    /// How long this reading has waited for the owner since its last byte.
+    std::chrono::steady_clock::duration silence_{};
     xcb_atom_t target_ = XCB_ATOM_NONE;
     std::optional<xcb_atom_t> answer_; ///< the property of the answer; NONE when refused
 };
