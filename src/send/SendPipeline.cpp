@@ -75,7 +75,9 @@ QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress) {
 }
 
 void Store::refuseToSend() {
-    show({.text = translate("Send", "Finish setting up Quillon first"),
+    // With the setup finished, the keyring may be what is in the way.
+    const auto problem = isConnected() ? keyringProblem() : std::nullopt;
+    show({.text = problem.value_or(translate("Send", "Finish setting up Quillon first")),
           .symbol = "exclamationmark.circle",
           .ok = false});
     Q_EMIT sendRefused();

@@ -6,9 +6,12 @@
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 
+#include <QPromise>
 #include <QWindow>
 
+#include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <utility>
@@ -39,28 +42,68 @@ public:
     void removeAll() override { values.clear(); }
 };
 
-/// A keyring in memory that can be away.
+/// A keyring in memory that can be away, locked without the user unlocking it, or late.
 class FakeSecrets : public SecretStore {
 public:
     bool available = true;
+    bool locked = false;
+    /// Answers wait until the test calls answer().
+    bool late = false;
     std::map<std::pair<std::string, std::string>, std::string> values;
+    /// What watches the keyring, for the test to call.
+    std::function<void()> changed;
+
+    void answer() {
+        late = false;
+        for (const auto& question : std::exchange(waiting_, {}))
+            question();
+    }
 
     [[nodiscard]] QFuture<bool> save(KeychainItem item, std::string value) override {
-        if (available) values[{item.service, item.account}] = std::move(value);
-        return QtFuture::makeReadyFuture(available);
+        return answered<bool>([this, item = std::move(item), value = std::move(value)] {
+            const bool open = available && !locked;
+            if (open) values[{item.service, item.account}] = value;
+            return open;
+        });
     }
-    [[nodiscard]] QFuture<std::optional<std::string>> read(KeychainItem item) override {
-        const auto found = values.find({item.service, item.account});
-        const bool readable = available && found != values.end();
-        return QtFuture::makeReadyFuture(readable ? std::optional{found->second} : std::nullopt);
+    [[nodiscard]] QFuture<SecretReading> read(KeychainItem item) override {
+        return answered<SecretReading>([this, item = std::move(item)] {
+            const SecretAnswer there = look(item);
+            const bool readable = there == SecretAnswer::found;
+            return SecretReading{there, readable ? values[{item.service, item.account}] : ""};
+        });
     }
-    [[nodiscard]] bool exists(const KeychainItem& item) override {
-        return available && values.contains({item.service, item.account});
+    [[nodiscard]] QFuture<SecretAnswer> find(KeychainItem item) override {
+        return answered<SecretAnswer>([this, item = std::move(item)] { return look(item); });
     }
-    [[nodiscard]] QFuture<bool> remove(KeychainItem item) override {
-        if (available) values.erase({item.service, item.account});
-        return QtFuture::makeReadyFuture(!values.contains({item.service, item.account}));
+    [[nodiscard]] QFuture<SecretAnswer> remove(KeychainItem item) override {
+        return answered<SecretAnswer>([this, item = std::move(item)] {
+            if (look(item) == SecretAnswer::found) values.erase({item.service, item.account});
+            return look(item);
+        });
     }
+    void watch(std::function<void()> whenChanged) override { changed = std::move(whenChanged); }
+
+private:
+    [[nodiscard]] SecretAnswer look(const KeychainItem& item) const {
+        if (!available) return SecretAnswer::none;
+        if (!values.contains({item.service, item.account})) return SecretAnswer::absent;
+        return locked ? SecretAnswer::locked : SecretAnswer::found;
+    }
+
+    template <typename T>
+    QFuture<T> answered(std::function<T()> operation) {
+        const auto promise = std::make_shared<QPromise<T>>();
+        promise->start();
+        const auto reply = [promise, operation = std::move(operation)] {
+            promise->addResult(operation());
+            promise->finish();
+        };
+        late ? waiting_.push_back(reply) : reply();
+        return promise->future();
+    }
+
+    std::vector<std::function<void()>> waiting_;
 };
 
 /// A keyboard that the test presses, with keys that others may hold.
