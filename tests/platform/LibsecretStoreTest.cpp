@@ -9,7 +9,6 @@ namespace quillon::test {
 namespace {
 
 using namespace std::chrono_literals;
-using namespace std::string_literals;
 using Clock = std::chrono::steady_clock;
 
 const KeychainItem token{"quillon-test-service", "quillon", "Quillon bot token"};
@@ -39,20 +38,11 @@ QByteArray secretTool(const QStringList& arguments, const QByteArray& input = {}
     return tool.readAllStandardOutput() + tool.readAllStandardError();
 }
 
-/// A store on the bus that the environment names, as a program has one that starts there.
-struct StoreOnBus : LibsecretStore {
-    explicit StoreOnBus(std::chrono::milliseconds limit = 5s)
-        : LibsecretStore{
-              QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), name),
-              limit} {}
-    ~StoreOnBus() override { QDBusConnection::disconnectFromBus(name); }
-
-    static inline const QString name = QStringLiteral("keyring test");
-};
-
-/// What a reading says, with the secret.
-std::pair<SecretAnswer, std::string> said(const SecretReading& reading) {
-    return {reading.answer, reading.secret};
+/// A connection to the bus that the environment names at the moment.
+QDBusConnection ownConnection() {
+    static int count = 0;
+    return QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"),
+                                         QStringLiteral("keyring test %1").arg(++count));
 }
 
 class KeyringTest : public testing::Test {
@@ -72,7 +62,7 @@ protected:
     }
 
     SessionBus bus;
-    StoreOnBus store;
+    LibsecretStore store{ownConnection()};
 };
 
 TEST_F(KeyringTest, KeepsOneItemAndGivesItBackUnchanged) {
@@ -85,7 +75,7 @@ TEST_F(KeyringTest, KeepsOneItemAndGivesItBackUnchanged) {
     EXPECT_TRUE(await(store.save(token, "first")));
     EXPECT_TRUE(await(store.save(token, second)));
     EXPECT_EQ(await(store.find(token)), SecretAnswer::found);
-    EXPECT_EQ(said(await(store.read(token))), std::pair(SecretAnswer::found, second));
+    EXPECT_EQ(await(store.read(token)).secret, second);
     EXPECT_EQ(listing().count("label = Quillon bot token\n"), 1);
     EXPECT_EQ(listing().count("label ="), 1);
 
@@ -96,14 +86,14 @@ TEST_F(KeyringTest, KeepsOneItemAndGivesItBackUnchanged) {
 
     int changes = 0;
     store.watch([&changes] { ++changes; });
-    bus.lockKeyring();
+    secretTool({QStringLiteral("lock"), QStringLiteral("--collection=login")});
     EXPECT_TRUE(waitUntil([&] { return changes > 0; }));
     EXPECT_EQ(await(store.find(token)), SecretAnswer::locked);
 }
 
 TEST_F(KeyringTest, FindsWhatAnotherProgramStored) {
     storeForeign("foreign");
-    EXPECT_EQ(said(await(store.read(token))), std::pair(SecretAnswer::found, "foreign"s));
+    EXPECT_EQ(await(store.read(token)).secret, "foreign");
     EXPECT_TRUE(await(store.save(token, "own")));
     EXPECT_EQ(await(store.read(token)).secret, "own");
     EXPECT_EQ(listing().count("label ="), 1);
@@ -120,7 +110,7 @@ TEST(LibsecretStoreTest, HasNoAnswerWithoutABusOrAService) {
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     qputenv("XDG_RUNTIME_DIR", "/nonexistent");
     const auto expectNothing = [&] {
-        StoreOnBus store;
+        LibsecretStore store{ownConnection()};
         const auto begin = Clock::now();
         EXPECT_EQ(await(store.find(token)), SecretAnswer::none);
         EXPECT_EQ(await(store.read(token)).answer, SecretAnswer::none);
@@ -140,7 +130,7 @@ TEST(LibsecretStoreTest, HasNoAnswerWithoutABusOrAService) {
 /// A keyring that comes up, hangs, and answers in the end.
 TEST(LibsecretStoreTest, TakesALateAnswerAndHearsOfANewKeyring) {
     const SessionBus bus;
-    StoreOnBus store{300ms};
+    LibsecretStore store{ownConnection(), 300ms};
     int changes = 0;
     store.watch([&changes] { ++changes; });
     EXPECT_EQ(await(store.find(token)), SecretAnswer::none);
@@ -166,7 +156,7 @@ TEST(LibsecretStoreTest, ChangesNothingWithoutASearchAndHasOneLimitForAll) {
     const auto expectNoChange = [&](std::chrono::milliseconds slowness, auto least, auto most) {
         const SessionBus bus;
         const BusService service{serviceName, answers, slowness};
-        StoreOnBus store{500ms};
+        LibsecretStore store{ownConnection(), 500ms};
         const auto begin = Clock::now();
         EXPECT_FALSE(await(store.save(token, "value")));
         EXPECT_GE(Clock::now() - begin, least);
@@ -188,7 +178,7 @@ TEST(LibsecretStoreTest, WaitsForTheUserForAsLongAsItTakes) {
                               {"SearchItems", answer(Paths{}, Paths{path("collection/login/1")})},
                               {"Unlock", answer(Paths{}, path("prompt/p1"))},
                               {"Prompt", answer()}}};
-    auto store = std::make_unique<StoreOnBus>(500ms);
+    auto store = std::make_unique<LibsecretStore>(ownConnection(), 500ms);
     EXPECT_EQ(await(store->find(token)), SecretAnswer::locked);
     EXPECT_TRUE(service.calls("Prompt").isEmpty());
     const auto reading = store->read(token);

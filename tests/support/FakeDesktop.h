@@ -60,24 +60,22 @@ public:
     }
 
     [[nodiscard]] QFuture<bool> save(KeychainItem item, std::string value) override {
-        return answered<bool>([this, item = std::move(item), value = std::move(value)] {
-            const bool open = available && !locked;
-            if (open) values[{item.service, item.account}] = value;
-            return open;
+        return reply<bool>([=, this] {
+            if (available && !locked) values[{item.service, item.account}] = value;
+            return available && !locked;
         });
     }
     [[nodiscard]] QFuture<SecretReading> read(KeychainItem item) override {
-        return answered<SecretReading>([this, item = std::move(item)] {
-            const SecretAnswer there = look(item);
-            const bool readable = there == SecretAnswer::found;
-            return SecretReading{there, readable ? values[{item.service, item.account}] : ""};
+        return reply<SecretReading>([=, this] {
+            const bool readable = look(item) == SecretAnswer::found;
+            return SecretReading{look(item), readable ? values[{item.service, item.account}] : ""};
         });
     }
     [[nodiscard]] QFuture<SecretAnswer> find(KeychainItem item) override {
-        return answered<SecretAnswer>([this, item = std::move(item)] { return look(item); });
+        return reply<SecretAnswer>([=, this] { return look(item); });
     }
     [[nodiscard]] QFuture<SecretAnswer> remove(KeychainItem item) override {
-        return answered<SecretAnswer>([this, item = std::move(item)] {
+        return reply<SecretAnswer>([=, this] {
             if (look(item) == SecretAnswer::found) values.erase({item.service, item.account});
             return look(item);
         });
@@ -92,14 +90,14 @@ private:
     }
 
     template <typename T>
-    QFuture<T> answered(std::function<T()> operation) {
+    QFuture<T> reply(std::function<T()> operation) {
+        if (!late) return QtFuture::makeReadyFuture(operation());
         const auto promise = std::make_shared<QPromise<T>>();
         promise->start();
-        const auto reply = [promise, operation = std::move(operation)] {
+        waiting_.push_back([=] {
             promise->addResult(operation());
             promise->finish();
-        };
-        late ? waiting_.push_back(reply) : reply();
+        });
         return promise->future();
     }
 

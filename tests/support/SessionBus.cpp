@@ -63,14 +63,6 @@ void SessionBus::startKeyring() {
     QDBusConnection::disconnectFromBus(watcher);
 }
 
-void SessionBus::lockKeyring() {
-    QProcess tool;
-    tool.start(QStringLiteral("secret-tool"),
-               {QStringLiteral("lock"), QStringLiteral("--collection=login")});
-    EXPECT_TRUE(tool.waitForFinished());
-    EXPECT_EQ(tool.exitCode(), 0);
-}
-
 /// Everything below the root, in the service's thread.
 class BusService::Objects : public QDBusVirtualObject {
 public:

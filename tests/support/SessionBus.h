@@ -26,8 +26,6 @@ public:
 
     /// Starts the real keyring, empty and unlocked.
     void startKeyring();
-    /// Locks it, as the desktop does when the user says so.
-    void lockKeyring();
 
 private:
     QTemporaryDir folder_;
