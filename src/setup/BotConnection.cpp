@@ -43,6 +43,7 @@ QCoro::Task<> Store::forgetBot() {
     const bool inMemoryAlone = cachedToken_ && !tokenKept_ && left == SecretAnswer::none;
     if (left != SecretAnswer::absent && !inMemoryAlone) {
         if (!cachedToken_) learn(left);
+        if (left == SecretAnswer::none) askKeyring();
         throw TelegramError{keyringSentence(left)};
     }
     // A bot that was connected meanwhile stays, but not the group of the one before.

@@ -182,6 +182,8 @@ QCoro::Task<std::optional<Telegram>> Store::telegram() {
         // If the user has connected or forgotten a bot meanwhile, that is newer than this answer.
         if (changes == tokenChanges_) {
             learn(stored.answer);
+            // This question stays open until a keyring that hangs recovers.
+            if (stored.answer == SecretAnswer::none) askKeyring();
             tokenKept_ = stored.answer == SecretAnswer::found;
             if (tokenKept_) cachedToken_ = std::move(stored.secret);
         }

@@ -2,6 +2,8 @@
 #include "support/Await.h"
 #include "support/SessionBus.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 
@@ -86,7 +88,10 @@ TEST_F(KeyringTest, KeepsOneItemAndGivesItBackUnchanged) {
 
     int changes = 0;
     store.watch([&changes] { ++changes; });
-    secretTool({QStringLiteral("lock"), QStringLiteral("--collection=login")});
+    QDBusMessage lock = QDBusMessage::createMethodCall(
+        QLatin1String{serviceName}, QStringLiteral("/org/freedesktop/secrets"),
+        QStringLiteral("org.freedesktop.Secret.Service"), QStringLiteral("Lock"));
+    ownConnection().send(lock << QVariant::fromValue(QList{path("collection/login")}));
     EXPECT_TRUE(waitUntil([&] { return changes > 0; }));
     EXPECT_EQ(await(store.find(token)), SecretAnswer::locked);
 }
