@@ -127,8 +127,8 @@ TEST(SetupActions, LeaveASendThatHasBegunItsGroup) {
     await(computer.store->forgetBot());
     computer.clock.advance(std::chrono::seconds{2});
     await(std::move(sending));
-    const Json topics = computer.sandbox.view()["groups"][0]["topics"];
-    EXPECT_THAT(topics[2]["messages"], SizeIs(3)) << "its creation and both files";
+    const Json topics = computer.sandbox.view()["groups"][0]["topics"]; // "General" is the first
+    EXPECT_THAT(topics[3]["messages"], SizeIs(3)) << "its creation and both files";
 }
 
 TEST(Topics, AreFoundAgainWithoutAWelcome) {
