@@ -1,8 +1,6 @@
 #include "platform/linux/keyring/Keyring.h"
 
-#include "base/Environment.h"
-
-#include <filesystem>
+#include "platform/linux/keyring/SecretServiceWatch.h"
 
 namespace quillon {
 
@@ -31,16 +29,6 @@ Attributes attributesOf(const KeychainItem& item) {
 }
 
 using Value = std::unique_ptr<SecretValue, decltype(&secret_value_unref)>;
-
-/// Whether there is a session bus already. Otherwise GLib would start one, whose keyring only this
-/// program could see.
-bool hasSessionBus() {
-    if (const auto address = environment("DBUS_SESSION_BUS_ADDRESS"))
-        return !address->starts_with("autolaunch:");
-    const auto folder = environment("XDG_RUNTIME_DIR");
-    std::error_code ignored;
-    return folder && std::filesystem::is_socket(std::filesystem::path{*folder} / "bus", ignored);
-}
 
 } // namespace
 

@@ -1,5 +1,7 @@
 #include "platform/linux/keyring/SecretServiceWatch.h"
 
+#include "base/Environment.h"
+
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
@@ -7,6 +9,7 @@
 #include <QMap>
 #include <QPromise>
 
+#include <filesystem>
 #include <limits>
 #include <memory>
 #include <utility>
@@ -34,12 +37,21 @@ SecretAnswer answerOf(const QDBusPendingReply<Paths, Paths>& reply) {
 
 } // namespace
 
+bool hasSessionBus() {
+    if (const auto address = environment("DBUS_SESSION_BUS_ADDRESS"))
+        return !address->starts_with("autolaunch:");
+    const auto folder = environment("XDG_RUNTIME_DIR");
+    std::error_code ignored;
+    return folder && std::filesystem::is_socket(std::filesystem::path{*folder} / "bus", ignored);
+}
+
 SecretServiceWatch::SecretServiceWatch(QDBusConnection bus) : bus_{std::move(bus)} {
     qDBusRegisterMetaType<Attributes>();
 }
 
 QFuture<SecretAnswer> SecretServiceWatch::find(const KeychainItem& item) {
-    if (!bus_.isConnected()) return QtFuture::makeReadyFuture(SecretAnswer::none);
+    if (!hasSessionBus() || !bus_.isConnected())
+        return QtFuture::makeReadyFuture(SecretAnswer::none);
     QDBusMessage question = QDBusMessage::createMethodCall(
         serviceName, servicePath, serviceInterface, QStringLiteral("SearchItems"));
     question << QVariant::fromValue(
