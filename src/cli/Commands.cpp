@@ -1,6 +1,5 @@
 #include "cli/Commands.h"
 
-#include "base/Text.h"
 #include "base/Translate.h"
 #include "cli/Console.h"
 #include "cli/Reports.h"
@@ -14,6 +13,7 @@
 #include "platform/linux/desktop/LinuxBundle.h"
 
 #include <QCoroFuture>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <array>
@@ -69,8 +69,7 @@ QCoro::Task<int> connect(CommandContext context, Arguments /*arguments*/) {
         context.console->readSecret(translate("Command", tokenPrompt)).value_or("");
     const std::string name = co_await context.core.store.connectBot(token);
     // The next command gets the token from the keyring alone.
-    const std::optional<std::string> kept = co_await context.platform.secrets.read(botTokenItem());
-    if (kept != trimmed(token)) {
+    if (!context.core.store.tokenKept()) {
         throw TelegramError{
             translate("Command", "The bot answers, but no keyring could keep its token.")};
     }
@@ -89,6 +88,7 @@ QCoro::Task<int> findGroup(CommandContext context, Arguments /*arguments*/) {
 }
 
 QCoro::Task<int> createTopics(CommandContext context, Arguments /*arguments*/) {
+    co_await context.core.store.dropLostTopics();
     co_await context.core.store.createTopics();
     expectSaved(context.core.store);
     for (const Topic& topic : context.core.store.config().topics) {
@@ -103,16 +103,13 @@ QCoro::Task<int> renameTopics(CommandContext context, Arguments /*arguments*/) {
 }
 
 QCoro::Task<int> forget(CommandContext context, Arguments /*arguments*/) {
-    const bool forgotten = co_await context.core.store.forgetBot();
-    if (!forgotten) {
-        throw TelegramError{translate(
-            "Command", "The keyring still holds the bot's token. Unlock it and try again.")};
-    }
+    co_await context.core.store.forgetBot();
     expectSaved(context.core.store);
     co_return exitDone;
 }
 
 QCoro::Task<int> status(CommandContext context, Arguments arguments) {
+    co_await context.core.store.keyringAsked();
     context.console->printText(contains(arguments, "--json") ? statusJson(context.core.store)
                                                              : statusText(context.core.store));
     co_return exitDone;
@@ -172,6 +169,11 @@ QCoro::Task<int> uninstall(CommandContext context, Arguments /*arguments*/) {
     co_await uninstaller.run(tell);
     // Not reached: run() ends the process.
     co_return exitDone;
+}
+
+std::string waitsForKeyring() {
+    return translate("Command", "Waiting for your keyring, which may be asking for its password in "
+                                "a window of its own. Press Ctrl-C to stop.");
 }
 
 std::string helpOf(const Arguments& /*arguments*/) {
@@ -262,6 +264,10 @@ const std::vector<Command>& allCommands() {
 }
 
 QCoro::Task<int> runCommand(Invocation invocation, CommandContext context) {
+    const auto slow =
+        QObject::connect(&context.core.store, &Store::keyringSlow, &context.core.store,
+                         [console = context.console] { console->notice(waitsForKeyring()); });
+    const auto disconnected = qScopeGuard([&slow] { QObject::disconnect(slow); });
     try {
         co_return co_await invocation.command->action(context, invocation.arguments);
     } catch (const std::exception& error) {

@@ -16,6 +16,8 @@ public:
     /// Prints one line to standard output or standard error.
     virtual void print(std::string_view line) = 0;
     virtual void printError(std::string_view line) = 0;
+    /// Prints a line to standard error that is of use only while the command works.
+    virtual void notice(std::string_view line) = 0;
     /// Prints text that has its own line breaks.
     virtual void printText(std::string_view text) = 0;
 

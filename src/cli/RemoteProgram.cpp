@@ -50,7 +50,7 @@ QDBusUnixFileDescriptor inMemory(const std::string& secret) {
     return descriptor;
 }
 
-/// Shows how far the command has come, as the running program tells it.
+/// Shows how far the command has come and what it waits for, as the running program tells it.
 class ProgressListener : public QObject {
     Q_OBJECT
 
@@ -59,11 +59,16 @@ public:
         QDBusConnection::sessionBus().connect(
             QLatin1String{busName}, QLatin1String{objectPath}, QLatin1String{interfaceName},
             QStringLiteral("Progress"), this, SLOT(progress(QString, qlonglong, qlonglong)));
+        QDBusConnection::sessionBus().connect(
+            QLatin1String{busName}, QLatin1String{objectPath}, QLatin1String{interfaceName},
+            QStringLiteral("Notice"), this, SLOT(notice(QString)));
     }
 
     Q_SLOT void progress(const QString& activity, qlonglong done, qlonglong total) {
         console_.progress(activity.toStdString(), done, total);
     }
+
+    Q_SLOT void notice(const QString& line) { console_.notice(line.toStdString()); }
 
 private:
     TerminalConsole& console_;

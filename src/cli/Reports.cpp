@@ -24,6 +24,19 @@ std::string row(const std::string& name, const std::string& value) {
     return Terminal::harmless(label.toStdString() + value) + "\n";
 }
 
+/// Ready, as far as is known of the keyring.
+bool canSend(const Store& store) {
+    return store.isReady() && !store.keyringProblem();
+}
+
+/// The bot's row: without the keyring's answer, what the settings remember.
+std::string botText(const Store& store) {
+    const bool known = store.keyring() != Store::KeyringState::silent;
+    const auto& name = store.config().botName;
+    if (store.tokenSaved()) return name.value_or(translate("Status", "connected"));
+    return known || !name ? translate("Status", "not connected") : *name;
+}
+
 } // namespace
 
 std::string sendLine(const Sent& entry) {
@@ -32,10 +45,7 @@ std::string sendLine(const Sent& entry) {
 
 std::string statusText(const Store& store) {
     const Config& config = store.config();
-    std::string text =
-        row(translate("Status", "Bot"),
-            store.tokenSaved() ? config.botName.value_or(translate("Status", "connected"))
-                               : translate("Status", "not connected"));
+    std::string text = row(translate("Status", "Bot"), botText(store));
     text += row(translate("Status", "Group"),
                 config.chatId ? config.chatTitle.value_or(translate("Status", "your group"))
                               : translate("Status", "not found yet"));
@@ -45,13 +55,15 @@ std::string statusText(const Store& store) {
         text += row(translate("Status", "Topic"), filled(shown, {topic.name}));
     }
     text += row(translate("Status", "Shortcut"), keysText(config.shortcut));
+    if (const auto problem = store.keyringProblem())
+        text += row(translate("Status", "Keyring"), *problem);
     return text + row(translate("Status", "Ready"),
-                      store.isReady() ? translate("Status", "yes") : translate("Status", "no"));
+                      canSend(store) ? translate("Status", "yes") : translate("Status", "no"));
 }
 
 std::string statusJson(const Store& store) {
     const Config& config = store.config();
-    Json object{{"ready", store.isReady()}, {"tokenSaved", store.tokenSaved()}};
+    Json object{{"ready", canSend(store)}, {"tokenSaved", store.tokenSaved()}};
     if (config.botName) object["botName"] = *config.botName;
     if (config.chatId) object["chatId"] = *config.chatId;
     if (config.chatTitle) object["chatTitle"] = *config.chatTitle;

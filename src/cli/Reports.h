@@ -14,6 +14,7 @@ class Store;
 
 /// What is set up, for people, and as one JSON object: "ready", "tokenSaved", "botName", "chatId",
 /// "chatTitle", "topics", "shortcut"; what is unknown is left out.
+/// "ready" is false while the keyring keeps the token from us.
 [[nodiscard]] std::string statusText(const Store& store);
 [[nodiscard]] std::string statusJson(const Store& store);
 

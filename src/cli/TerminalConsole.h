@@ -12,6 +12,7 @@ class TerminalConsole final : public Console {
 public:
     void print(std::string_view line) override { Terminal::print(line); }
     void printError(std::string_view line) override { Terminal::printError(line); }
+    void notice(std::string_view line) override { Terminal::printError(line); }
     void printText(std::string_view text) override { Terminal::printText(text); }
     [[nodiscard]] std::optional<std::string> readSecret(std::string_view prompt) override {
         return Terminal::readSecret(prompt);

@@ -2,7 +2,7 @@
 
 #include <QFuture>
 
-#include <optional>
+#include <functional>
 #include <string>
 
 namespace quillon {
@@ -17,9 +17,23 @@ struct KeychainItem {
     bool operator==(const KeychainItem&) const = default;
 };
 
-/// The user's keyring. No operation reports why it failed: it gives none or false, or does nothing.
-/// Each gives up 5 seconds after its turn has come. If the user is asked to unlock or create a
-/// keyring, the user may take any time, and the 5 seconds begin anew with the answer.
+/// What the keyring says about an item.
+enum class SecretAnswer {
+    found,
+    locked, ///< it is there, in a keyring that was not unlocked
+    absent,
+    none, ///< nobody answered, so that it may be there or not
+};
+
+/// The answer with the secret, which is empty unless found.
+struct SecretReading {
+    SecretAnswer answer = SecretAnswer::none;
+    std::string secret;
+};
+
+/// The user's keyring. Each operation gives up 5 seconds after its turn has come. If the user is
+/// asked to unlock or create a keyring, the user may take any time, and the 5 seconds begin anew
+/// with the answer.
 class SecretStore {
 public:
     virtual ~SecretStore() = default;
@@ -27,15 +41,21 @@ public:
     /// Replaces whatever was stored under the item. Tells whether the secret is stored now.
     [[nodiscard]] virtual QFuture<bool> save(KeychainItem item, std::string value) = 0;
 
-    /// The secret; none when there is no such item, it cannot be read, or it is not UTF-8.
-    [[nodiscard]] virtual QFuture<std::optional<std::string>> read(KeychainItem item) = 0;
+    /// Reads the secret, for which the user may be asked. A secret that is not UTF-8 counts as
+    /// absent.
+    [[nodiscard]] virtual QFuture<SecretReading> read(KeychainItem item) = 0;
 
-    /// Whether the item is there, without reading its secret or unlocking anything. Waits for the
-    /// keyring's answer: for start-up, before any window exists.
-    [[nodiscard]] virtual bool exists(const KeychainItem& item) = 0;
+    /// Whether the item is there, without reading its secret or unlocking anything. A keyring that
+    /// hangs holds this answer open for as long as it likes.
+    [[nodiscard]] virtual QFuture<SecretAnswer> find(KeychainItem item) = 0;
 
-    /// Removes the item; a missing one is not an error. Tells whether the keyring holds none now.
-    [[nodiscard]] virtual QFuture<bool> remove(KeychainItem item) = 0;
+    /// Removes the item; a missing one is not an error. Tells what has become of it: "absent" if
+    /// it is gone, "found" if the keyring kept it.
+    [[nodiscard]] virtual QFuture<SecretAnswer> remove(KeychainItem item) = 0;
+
+    /// Calls `changed` whenever the keyring may answer differently: when it comes up, and when the
+    /// user unlocks or locks it. Replaces the one before.
+    virtual void watch(std::function<void()> changed) = 0;
 };
 
 } // namespace quillon

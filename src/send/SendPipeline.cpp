@@ -153,7 +153,9 @@ void Store::abandonSend() {
 }
 
 void Store::refuseToSend() {
-    show({.text = translate("Send", "Finish setting up Quillon first"),
+    // With the setup finished, the keyring may be what is in the way.
+    const auto problem = isConnected() ? keyringProblem() : std::nullopt;
+    show({.text = problem.value_or(translate("Send", "Finish setting up Quillon first")),
           .symbol = "exclamationmark.circle",
           .ok = false});
     Q_EMIT sendRefused();

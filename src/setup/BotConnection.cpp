@@ -16,34 +16,51 @@ QCoro::Task<std::string> Store::connectBot(std::string pasted) {
             "Setup", "That doesn't look like a bot token. It looks like 123456:ABC-DEF…")};
     }
     const Telegram tg = telegramFor(token);
+    int changes = tokenChanges_;
     const Json me = co_await tg.call("getMe", Json::object());
+    expectSameBot(changes, translate("Setup", "The bot was forgotten meanwhile."));
     const std::string name = textMember(me, "username").value_or("your bot");
 
     // The state changes at once, so that nothing else comes in between; the keyring follows. If it
     // refuses, the token stays in memory for this run.
     const QFuture<bool> saved = platform_.secrets.save(botTokenItem(), token);
     cachedToken_ = token;
-    ++tokenChanges_;
+    changes = ++tokenChanges_;
     publish(tokenSaved_, true);
+    setKeyring(KeyringState::answers);
     changeConfig([&name](Config& config) { config.botName = name; });
     Q_EMIT setupStepDone(SetupStep::botConnected);
-    co_await saved;
+    const auto patience = keyringPatience();
+    const bool kept = co_await saved;
+    if (changes == tokenChanges_) tokenKept_ = kept;
     co_return name;
 }
 
-QCoro::Task<bool> Store::forgetBot() {
-    const auto turn = co_await setupActions_.turn();
-    const QFuture<bool> removed = platform_.secrets.remove(botTokenItem());
-    cachedToken_.reset();
+QCoro::Task<> Store::forgetBot() {
+    const int changes = tokenChanges_;
+    const auto patience = keyringPatience();
+    const SecretAnswer left = co_await platform_.secrets.remove(botTokenItem());
+    const bool inMemoryAlone = cachedToken_ && !tokenKept_ && left == SecretAnswer::none;
+    if (left != SecretAnswer::absent && !inMemoryAlone) {
+        if (!cachedToken_) learn(left);
+        if (left == SecretAnswer::none) askKeyring();
+        throw TelegramError{keyringSentence(left)};
+    }
+    // A bot that was connected meanwhile stays, but not the group of the one before.
+    const bool same = changes == tokenChanges_;
     ++tokenChanges_;
-    publish(tokenSaved_, false);
-    changeConfig([](Config& config) {
+    if (same) {
+        cachedToken_.reset();
+        tokenKept_ = false;
+        publish(tokenSaved_, false);
+        setKeyring(KeyringState::answers);
+    }
+    changeConfig([same](Config& config) {
         config.chatId.reset();
         config.chatTitle.reset();
-        config.botName.reset();
+        if (same) config.botName.reset();
         config.topics = Topic::defaults();
     });
-    co_return co_await removed;
 }
 
 } // namespace quillon

@@ -14,6 +14,14 @@ bool saysNotModified(const TelegramError& error) {
     return QString::fromStdString(error.message).toUpper().contains(QLatin1String{"NOT_MODIFIED"});
 }
 
+/// Telegram's answers about a topic that was deleted on the phone.
+bool saysGone(const TelegramError& error) {
+    const QString message = QString::fromStdString(error.message).toUpper();
+    return message.contains(QLatin1String{"TOPIC_ID_INVALID"}) ||
+           message.contains(QLatin1String{"TOPIC_DELETED"}) ||
+           message.contains(QLatin1String{"MESSAGE THREAD NOT FOUND"});
+}
+
 /// Gives the topic its name. Does not fail when it has that name already.
 QCoro::Task<> editTopic(Telegram tg, std::int64_t chat, std::int64_t thread, std::string name) {
     Json params{{"chat_id", chat}, {"message_thread_id", thread}, {"name", name}};
@@ -22,6 +30,17 @@ QCoro::Task<> editTopic(Telegram tg, std::int64_t chat, std::int64_t thread, std
     } catch (const TelegramError& error) {
         if (!saysNotModified(error)) throw;
     }
+}
+
+/// Whether the topic's thread is gone from the group. A bot that may not edit it cannot tell.
+QCoro::Task<bool> isLost(Telegram tg, std::int64_t chat, Topic topic) {
+    try {
+        co_await editTopic(tg, chat, topic.threadId.value_or(0), topic.name);
+    } catch (const TelegramError& error) {
+        if (error.cause == TelegramError::Cause::unreachable) throw;
+        co_return saysGone(error);
+    }
+    co_return false;
 }
 
 using TopicThreads = std::map<std::string, std::int64_t>;
@@ -63,6 +82,10 @@ QCoro::Task<std::optional<std::int64_t>> createTopic(Telegram tg, std::int64_t c
     }
 }
 
+std::string noGroup() {
+    return translate("Setup", "Find your group first.");
+}
+
 std::string welcome(ShortcutChoice shortcut) {
     return filled(translate("Setup",
                             "✅ Quillon is connected. Press %1 on your Mac to send what you "
@@ -75,17 +98,22 @@ std::string welcome(ShortcutChoice shortcut) {
 QCoro::Task<> Store::createTopics() {
     const auto turn = co_await setupActions_.turn();
     const std::optional<Telegram> tg = co_await telegram();
-    if (!tg || !config_.chatId) throw TelegramError{translate("Setup", "Find your group first.")};
+    if (!config_.chatId) throw TelegramError{noGroup()};
+    if (!tg) throw noClient(noGroup());
+    const int changes = tokenChanges_;
     const std::int64_t chat = *config_.chatId;
     const TopicThreads known = co_await knownTopics(*tg, chat);
+    expectSameBot(changes, noGroup());
 
     bool created = false;
     for (std::size_t index = 0; index < config_.topics.size(); ++index) {
         const Topic topic = config_.topics[index];
         if (topic.threadId) continue;
         std::optional<std::int64_t> thread = co_await existingThread(*tg, chat, known, topic.name);
+        expectSameBot(changes, noGroup());
         if (!thread) {
             thread = co_await createTopic(*tg, chat, topic);
+            expectSameBot(changes, noGroup());
             created = true;
         }
         changeConfig([&](Config& config) { config.topics.at(index).threadId = thread; });
@@ -100,15 +128,36 @@ QCoro::Task<> Store::createTopics() {
     co_await tg->call("sendMessage", std::move(params));
 }
 
+QCoro::Task<> Store::dropLostTopics() {
+    const auto turn = co_await setupActions_.turn();
+    const std::optional<Telegram> tg = co_await telegram();
+    if (!tg || !config_.chatId) co_return; // createTopics() says so
+    const int changes = tokenChanges_;
+    const std::int64_t chat = *config_.chatId;
+    for (std::size_t index = 0; index < config_.topics.size(); ++index) {
+        const Topic topic = config_.topics[index];
+        if (!topic.threadId) continue;
+        const bool lost = co_await isLost(*tg, chat, topic);
+        if (changes != tokenChanges_) co_return;
+        if (lost) changeConfig([&](Config& config) { config.topics.at(index).threadId.reset(); });
+    }
+}
+
 QCoro::Task<> Store::renameTopics() {
     const auto turn = co_await setupActions_.turn();
     const std::optional<Telegram> tg = co_await telegram();
-    if (!tg || !config_.chatId) co_return;
+    if (!config_.chatId) co_return;
+    if (!tg) {
+        if (const auto problem = keyringProblem()) throw TelegramError{*problem};
+        co_return;
+    }
+    const int changes = tokenChanges_;
     const std::int64_t chat = *config_.chatId;
     const std::vector<Topic> topics = config_.topics; // they may change meanwhile
     for (const Topic& topic : topics) {
         if (!topic.threadId) continue;
         co_await editTopic(*tg, chat, *topic.threadId, topic.name);
+        if (changes != tokenChanges_) co_return;
     }
 }
 

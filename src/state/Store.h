@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Clock.h"
 #include "platform/SecretStore.h"
 #include "state/ActionQueue.h"
 #include "state/Config.h"
@@ -32,6 +33,9 @@ struct SentItem;
 /// The bot token's place in the keyring, the only place where it persists.
 [[nodiscard]] const KeychainItem& botTokenItem();
 
+/// Tells the user why the token cannot be had, or not be removed; empty where it is just absent.
+[[nodiscard]] std::string keyringSentence(SecretAnswer answer);
+
 /// The application's state for the life of the process: settings, history and the flags that views
 /// show, saved as they change, and the actions on them. Each action is defined in the folder that
 /// owns the behaviour. Lives on the main thread and outlives every action.
@@ -42,9 +46,18 @@ public:
     /// A step of the setup that the user has finished.
     enum class SetupStep { botConnected, groupFound, topicsCreated, topicsReused };
 
+    /// What is known of the keyring, which alone can tell whether there is a token.
+    enum class KeyringState {
+        asked,   ///< at the start; it has not answered yet
+        answers, ///< tokenSaved() is its answer
+        locked,  ///< and the user did not unlock it when the token was needed
+        silent,  ///< nobody answered, so that the token may be there or not
+    };
+
     /// Creates the data folder and loads settings and history from it; a file that cannot be read
-    /// counts as missing, and none is written. Asks the keyring whether a token is stored. Banner
-    /// and hot key outlive the store.
+    /// counts as missing, and none is written. Asks the keyring whether a token is stored, without
+    /// waiting for the answer, and again whenever the keyring may answer differently. Banner and
+    /// hot key outlive the store.
     Store(Platform& platform, Banner& banner, Hotkey& hotkey);
 
     [[nodiscard]] const Config& config() const { return config_; }
@@ -60,12 +73,22 @@ public:
     [[nodiscard]] const std::vector<Sent>& history() const { return history_; }
     /// True while a send runs.
     [[nodiscard]] bool busy() const { return busy_; }
-    /// True once a bot token is stored.
+    /// True once a bot token is stored, as the keyring last said.
     [[nodiscard]] bool tokenSaved() const { return tokenSaved_; }
+    /// Whether the keyring has the token of the connected bot; else it is in memory alone.
+    [[nodiscard]] bool tokenKept() const { return tokenKept_; }
+    [[nodiscard]] KeyringState keyring() const { return keyring_; }
+    /// Tells the user why the token cannot be had; none while nothing is known to be in the way.
+    [[nodiscard]] std::optional<std::string> keyringProblem() const;
+    /// Ends when the keyring has answered after the start, or has been silent for 5 seconds.
+    [[nodiscard]] QCoro::Task<> keyringAsked();
     /// The group is known and every topic has its thread.
     [[nodiscard]] bool isConnected() const;
     /// Connected, with a bot token: sending can work.
     [[nodiscard]] bool isReady() const;
+    /// Ready, or connected while the keyring does not tell whether there is a token. A send asks
+    /// it.
+    [[nodiscard]] bool mayBeReady() const;
 
     /// Another program has the shortcut, so that it does not work.
     [[nodiscard]] bool shortcutTaken() const { return shortcutTaken_; }
@@ -98,24 +121,33 @@ public:
     /// sent.
     void endSending(std::chrono::milliseconds patience);
 
-    // The actions of the setup. One works at a time, the others wait for it in their order.
+    // The actions of the setup. One works at a time, the others wait for it in their order; only
+    // forgetBot() waits for none, and ends those that work for the bot. All throw TelegramError.
 
-    /// Checks the token with Telegram, stores it and gives the bot's name. Throws TelegramError.
+    /// Checks the token with Telegram, stores it and gives the bot's name.
     [[nodiscard]] QCoro::Task<std::string> connectBot(std::string token);
-    /// Removes the token and everything learnt about the group. The state changes at once; the task
-    /// ends when the keyring has answered, with whether the keyring holds no token now.
-    [[nodiscard]] QCoro::Task<bool> forgetBot();
-    /// Finds the group in the bot's recent updates. Throws TelegramError.
+    /// Removes the token, and with it everything learnt about the group: all of it, or nothing
+    /// where the keyring does not give up the token.
+    [[nodiscard]] QCoro::Task<> forgetBot();
+    /// Finds the group in the bot's recent updates.
     [[nodiscard]] QCoro::Task<> findGroup();
-    /// Gives every topic its thread: one found in the group again, or a new one. Throws
-    /// TelegramError; threads found before stay stored.
+    /// Gives every topic its thread: one found in the group again, or a new one. After a failure,
+    /// threads found before stay stored.
     [[nodiscard]] QCoro::Task<> createTopics();
-    /// Gives the forum topics the names they have here. Throws TelegramError.
+    /// Forgets the threads of topics that were deleted on the phone, so that createTopics() makes
+    /// these anew. Gives the others the names they have here, which is how it looks for them.
+    [[nodiscard]] QCoro::Task<> dropLostTopics();
+    /// Gives the forum topics the names they have here.
     [[nodiscard]] QCoro::Task<> renameTopics();
 
 Q_SIGNALS:
     /// A published field is about to change.
     void objectWillChange();
+    /// The keyring has answered the question of the start, or been silent for too long.
+    void keyringAnswered();
+    /// An action has waited for the keyring for 5 seconds, and goes on waiting: the keyring may be
+    /// asking the user for its password.
+    void keyringSlow();
 
     // What happened, just after it did.
     void configChanged(const Config& old, const Config& now);
@@ -135,11 +167,25 @@ private:
     template <typename T>
     void publish(T& field, T value);
 
-    /// A client for the stored token, read from the keyring on first use; none without a token.
+    /// Asks the keyring whether there is a token.
+    QCoro::Task<> askKeyring();
+    /// Takes over what the keyring said about the token.
+    void learn(SecretAnswer answer);
+    void setKeyring(KeyringState state);
+    /// Announces keyringSlow() unless it is destroyed before.
+    [[nodiscard]] std::unique_ptr<Clock::Timer> keyringPatience();
+
+    /// A client for the stored token, read from the keyring while none is known; none without a
+    /// token.
     [[nodiscard]] QCoro::Task<std::optional<Telegram>> telegram();
     [[nodiscard]] Telegram telegramFor(std::string token) const;
     /// Where to send to now; none while the setup is not finished.
     [[nodiscard]] QCoro::Task<std::optional<Recipient>> recipient();
+    /// The sentence for an action that has no client: what is wrong with the keyring, or
+    /// `otherwise`.
+    [[nodiscard]] TelegramError noClient(std::string otherwise) const;
+    /// Throws when the user has forgotten the bot since `change`, a value of tokenChanges_.
+    void expectSameBot(int change, std::string sentence) const;
 
     void refuseToSend();
     /// Puts the next items of the send, in the order sent, into its record and into the history,
@@ -161,6 +207,10 @@ private:
     std::vector<Sent> history_;
     bool busy_ = false;
     bool tokenSaved_ = false;
+    bool tokenKept_ = false;
+    KeyringState keyring_ = KeyringState::asked;
+    /// Runs while the keyring is asked at the start.
+    std::unique_ptr<Clock::Timer> firstAnswer_;
     bool persist_ = true;
     bool configSaved_ = true;
     /// A send has begun but is not yet busy: it still asks the keyring or reads the clipboard.

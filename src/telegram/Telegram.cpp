@@ -18,6 +18,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
+/// What @BotFather makes tokens of. Other characters, such as "#" and "?", would change the URL.
+constexpr const char* tokenCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"
+                                        "0123456789:_-";
+
 constexpr std::chrono::seconds plainTimeout = 30s;
 constexpr std::chrono::seconds uploadTimeout = 300s;
 
@@ -66,7 +70,7 @@ QCoro::Task<Json> Telegram::call(std::string method, Json params, std::optional<
     HttpTransport& http = *http_;
     Clock& clock = *clock_;
     const std::string url = api_ + "/bot" + token_ + "/" + method;
-    if (!isUrlText(url))
+    if (!isUrlText(url) || token_.find_first_not_of(tokenCharacters) != token_.npos)
         throw TelegramError{translate("Telegram", "That bot token doesn't look right.")};
 
     for (;;) {

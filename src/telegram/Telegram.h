@@ -28,8 +28,8 @@ public:
 
     /// Posts one method: parameters as JSON, or as a multipart form when a file goes with them.
     /// Gives the reply's "result", JSON null when there is none. Repeats the call after a
-    /// flood-control wait of less than 60 seconds. Throws TelegramError: the token makes no
-    /// valid URL, Telegram cannot be reached, or what Telegram itself said. Throws Stopped once a
+    /// flood-control wait of less than 60 seconds. Throws TelegramError: the token cannot be
+    /// one, Telegram cannot be reached, or what Telegram itself said. Throws Stopped once a
     /// stop is requested, unless the request is on its way.
     [[nodiscard]] QCoro::Task<Json> call(std::string method, Json params,
                                          std::optional<Upload> upload = std::nullopt,

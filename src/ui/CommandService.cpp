@@ -44,29 +44,41 @@ std::optional<std::string> firstLine(const QDBusUnixFileDescriptor& file) {
 /// Collects what a command prints, for the process that handed it over.
 class DistantConsole final : public Console {
 public:
-    using Progress = std::function<void(std::string_view, qint64, qint64)>;
-
-    DistantConsole(const QDBusUnixFileDescriptor& input, Progress progress)
+    /// `caller` is the process's name on the bus.
+    DistantConsole(const QDBusUnixFileDescriptor& input, QString caller)
         : input_{input},
-          progress_{std::move(progress)} {}
+          caller_{std::move(caller)} {}
 
     std::string output;
     std::string errors;
 
     void print(std::string_view line) override { output += Terminal::harmless(line) + '\n'; }
     void printError(std::string_view line) override { errors += Terminal::harmless(line) + '\n'; }
+    void notice(std::string_view line) override {
+        signal("Notice", {QString::fromStdString(Terminal::harmless(line))});
+    }
     void printText(std::string_view text) override { output += text; }
     [[nodiscard]] std::optional<std::string> readSecret(std::string_view /*prompt*/) override {
         return firstLine(input_);
     }
     void progress(std::string_view activity, qint64 done, qint64 total) override {
-        if (progress_) progress_(activity, done, total);
+        if (!ended_) signal("Progress", {QString::fromUtf8(activity), done, total});
     }
-    void endProgress() override { progress_ = {}; }
+    void endProgress() override { ended_ = true; }
 
 private:
+    /// Only to this caller: others may be waiting for their own commands.
+    void signal(const char* name, const QVariantList& arguments) const {
+        QDBusMessage signal = QDBusMessage::createTargetedSignal(
+            caller_, QLatin1String{RemoteProgram::objectPath},
+            QLatin1String{RemoteProgram::interfaceName}, QLatin1String{name});
+        signal.setArguments(arguments);
+        QDBusConnection::sessionBus().send(signal);
+    }
+
     QDBusUnixFileDescriptor input_;
-    Progress progress_;
+    QString caller_;
+    bool ended_ = false;
 };
 
 /// The interface by which desktops start an application over the bus.
@@ -183,16 +195,7 @@ QCoro::Task<> CommandService::work() {
 }
 
 QCoro::Task<> CommandService::carryOut(Call call) {
-    const auto console = std::make_shared<DistantConsole>(
-        call.input,
-        [caller = call.message.service()](std::string_view activity, qint64 done, qint64 total) {
-            // Only to this caller: others may be waiting for their own commands.
-            QDBusMessage progress = QDBusMessage::createTargetedSignal(
-                caller, QLatin1String{RemoteProgram::objectPath},
-                QLatin1String{RemoteProgram::interfaceName}, QStringLiteral("Progress"));
-            progress << QString::fromStdString(std::string{activity}) << done << total;
-            QDBusConnection::sessionBus().send(progress);
-        });
+    const auto console = std::make_shared<DistantConsole>(call.input, call.message.service());
     CommandContext context = *context_;
     context.console = console;
     const int code = co_await runCommand(call.invocation, context);

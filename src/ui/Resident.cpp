@@ -123,7 +123,7 @@ void Resident::start(std::string_view wanted) {
     // The windows say so, too; this is for people who started the program from a terminal.
     if (core_.store.shortcutTaken())
         std::cerr << PanelView::takenText(core_.store.config().shortcut).toStdString() << std::endl;
-    if (!core_.store.isReady()) settingsWindow_.show();
+    offerSetup();
     service_->serve({platform_, core_, nullptr}, desktopActions());
     if (!wanted.empty()) service_->wishByName(QString::fromStdString(std::string{wanted}), {});
     QTimer::singleShot(quietMoment, &core_.store, loadFont);
@@ -131,6 +131,15 @@ void Resident::start(std::string_view wanted) {
         core_.store.endSending(sendPatience);
         core_.analytics.flushBeforeQuit();
     });
+}
+
+QCoro::Task<> Resident::offerSetup() {
+    // Without a group the setup is not finished, whatever the keyring says.
+    if (core_.store.isConnected()) {
+        QCoro::Task<> asked = core_.store.keyringAsked();
+        co_await asked;
+    }
+    if (!core_.store.mayBeReady()) settingsWindow_.show();
 }
 
 } // namespace quillon

@@ -42,6 +42,8 @@ private:
     [[nodiscard]] std::unique_ptr<QWidget> makeSettings(const SettingsWindow::Fit& fit);
     [[nodiscard]] std::unique_ptr<PanelView> makePanel();
     [[nodiscard]] TrayActions trayActions();
+    /// Shows the settings window while the setup is not finished.
+    QCoro::Task<> offerSetup();
     [[nodiscard]] DesktopActions desktopActions();
 
     Platform& platform_;

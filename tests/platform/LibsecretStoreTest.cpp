@@ -2,6 +2,8 @@
 #include "support/Await.h"
 #include "support/SessionBus.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 
@@ -38,6 +40,13 @@ QByteArray secretTool(const QStringList& arguments, const QByteArray& input = {}
     return tool.readAllStandardOutput() + tool.readAllStandardError();
 }
 
+/// A connection to the bus that the environment names at the moment.
+QDBusConnection ownConnection() {
+    static int count = 0;
+    return QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"),
+                                         QStringLiteral("keyring test %1").arg(++count));
+}
+
 class KeyringTest : public testing::Test {
 protected:
     KeyringTest() { bus.startKeyring(); }
@@ -55,59 +64,63 @@ protected:
     }
 
     SessionBus bus;
-    LibsecretStore store;
+    LibsecretStore store{ownConnection()};
 };
 
 TEST_F(KeyringTest, KeepsOneItemAndGivesItBackUnchanged) {
-    EXPECT_FALSE(store.exists(token));
-    EXPECT_EQ(await(store.read(token)), std::nullopt);
-    await(store.remove(token));
+    EXPECT_EQ(await(store.find(token)), SecretAnswer::absent);
+    EXPECT_EQ(await(store.read(token)).answer, SecretAnswer::absent);
+    EXPECT_EQ(await(store.remove(token)), SecretAnswer::absent);
     EXPECT_EQ(listing().count("label ="), 0);
 
     const std::string second = "12:né wörd \U0001F5DD";
     EXPECT_TRUE(await(store.save(token, "first")));
     EXPECT_TRUE(await(store.save(token, second)));
-    EXPECT_TRUE(store.exists(token));
-    EXPECT_EQ(await(store.read(token)), second);
+    EXPECT_EQ(await(store.find(token)), SecretAnswer::found);
+    EXPECT_EQ(await(store.read(token)).secret, second);
     EXPECT_EQ(listing().count("label = Quillon bot token\n"), 1);
     EXPECT_EQ(listing().count("label ="), 1);
 
     auto other = token;
     other.account = "someone else";
-    EXPECT_FALSE(store.exists(other));
-    await(store.remove(other));
-    EXPECT_TRUE(store.exists(token));
-    await(store.remove(token));
-    EXPECT_FALSE(store.exists(token));
-    EXPECT_EQ(listing().count("label ="), 0);
+    EXPECT_EQ(await(store.remove(other)), SecretAnswer::absent);
+    EXPECT_EQ(await(store.find(token)), SecretAnswer::found);
+
+    int changes = 0;
+    store.watch([&changes] { ++changes; });
+    QDBusMessage lock = QDBusMessage::createMethodCall(
+        QLatin1String{serviceName}, QStringLiteral("/org/freedesktop/secrets"),
+        QStringLiteral("org.freedesktop.Secret.Service"), QStringLiteral("Lock"));
+    ownConnection().send(lock << QVariant::fromValue(QList{path("collection/login")}));
+    EXPECT_TRUE(waitUntil([&] { return changes > 0; }));
+    EXPECT_EQ(await(store.find(token)), SecretAnswer::locked);
 }
 
 TEST_F(KeyringTest, FindsWhatAnotherProgramStored) {
     storeForeign("foreign");
-    EXPECT_TRUE(store.exists(token));
-    EXPECT_EQ(await(store.read(token)), "foreign");
+    EXPECT_EQ(await(store.read(token)).secret, "foreign");
     EXPECT_TRUE(await(store.save(token, "own")));
-    EXPECT_EQ(await(store.read(token)), "own");
+    EXPECT_EQ(await(store.read(token)).secret, "own");
     EXPECT_EQ(listing().count("label ="), 1);
     EXPECT_EQ(listing().count("label = Quillon bot token\n"), 1);
 
     storeForeign("not \xff UTF-8");
-    EXPECT_TRUE(store.exists(token));
-    EXPECT_EQ(await(store.read(token)), std::nullopt);
-    await(store.remove(token));
-    EXPECT_FALSE(store.exists(token));
+    EXPECT_EQ(await(store.find(token)), SecretAnswer::found);
+    EXPECT_EQ(await(store.read(token)).answer, SecretAnswer::absent);
+    EXPECT_EQ(await(store.remove(token)), SecretAnswer::absent);
+    EXPECT_EQ(listing().count("label ="), 0);
 }
 
-TEST(LibsecretStoreTest, HasNothingWithoutABusOrAService) {
+TEST(LibsecretStoreTest, HasNoAnswerWithoutABusOrAService) {
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     qputenv("XDG_RUNTIME_DIR", "/nonexistent");
-    LibsecretStore store;
     const auto expectNothing = [&] {
+        LibsecretStore store{ownConnection()};
         const auto begin = Clock::now();
-        EXPECT_FALSE(store.exists(token));
-        EXPECT_EQ(await(store.read(token)), std::nullopt);
+        EXPECT_EQ(await(store.find(token)), SecretAnswer::none);
+        EXPECT_EQ(await(store.read(token)).answer, SecretAnswer::none);
         EXPECT_FALSE(await(store.save(token, "value")));
-        await(store.remove(token));
+        EXPECT_EQ(await(store.remove(token)), SecretAnswer::none);
         EXPECT_LT(Clock::now() - begin, 2s);
     };
     expectNothing();
@@ -119,19 +132,28 @@ TEST(LibsecretStoreTest, HasNothingWithoutABusOrAService) {
     expectNothing();
 }
 
-TEST(LibsecretStoreTest, GivesUpOnAServiceThatDoesNotAnswer) {
+/// A keyring that comes up, hangs, and answers in the end.
+TEST(LibsecretStoreTest, TakesALateAnswerAndHearsOfANewKeyring) {
     const SessionBus bus;
-    const BusService service{serviceName, {}};
-    LibsecretStore store;
+    LibsecretStore store{ownConnection(), 300ms};
+    int changes = 0;
+    store.watch([&changes] { ++changes; });
+    EXPECT_EQ(await(store.find(token)), SecretAnswer::none);
+    using Paths = QList<QDBusObjectPath>;
+    const BusService service{
+        serviceName, {{"SearchItems", answer(Paths{}, Paths{path("collection/login/1")})}}, 1s};
+    EXPECT_TRUE(waitUntil([&] { return changes > 0; }));
     const auto begin = Clock::now();
-    EXPECT_FALSE(store.exists(token));
-    EXPECT_GE(Clock::now() - begin, 4900ms);
-    EXPECT_LT(Clock::now() - begin, 5900ms);
+    const auto late = store.find(token);
+    EXPECT_LT(Clock::now() - begin, 100ms) << "nobody waits";
+    EXPECT_EQ(await(store.read(token)).answer, SecretAnswer::none);
+    EXPECT_LT(Clock::now() - begin, 900ms) << "gives up";
+    EXPECT_EQ(await(late), SecretAnswer::locked);
 }
 
 /// A service that cannot be searched may hold the item all the same. Every answer comes in time,
 /// but all of them together do not.
-TEST(LibsecretStoreTest, ChangesNothingWithoutASearchAndTakesFiveSecondsInAll) {
+TEST(LibsecretStoreTest, ChangesNothingWithoutASearchAndHasOneLimitForAll) {
     BusService::Answers answers{
         {"GetAll", answer(QVariantMap{{QStringLiteral("Locked"), false}})},
         {"ReadAlias", answer(path("collection/login"))},
@@ -139,17 +161,18 @@ TEST(LibsecretStoreTest, ChangesNothingWithoutASearchAndTakesFiveSecondsInAll) {
     const auto expectNoChange = [&](std::chrono::milliseconds slowness, auto least, auto most) {
         const SessionBus bus;
         const BusService service{serviceName, answers, slowness};
-        LibsecretStore store;
+        LibsecretStore store{ownConnection(), 500ms};
         const auto begin = Clock::now();
         EXPECT_FALSE(await(store.save(token, "value")));
         EXPECT_GE(Clock::now() - begin, least);
         EXPECT_LT(Clock::now() - begin, most);
         EXPECT_FALSE(service.calls("SearchItems").isEmpty());
         EXPECT_TRUE(service.calls("OpenSession").isEmpty());
+        EXPECT_EQ(await(store.remove(token)), SecretAnswer::none);
     };
-    expectNoChange(1s, 4900ms, 5600ms);
+    expectNoChange(100ms, 490ms, 1s);
     answers["SearchItems"] = std::nullopt;
-    expectNoChange(0s, 0s, 1s);
+    expectNoChange(0s, 0s, 400ms);
 }
 
 TEST(LibsecretStoreTest, WaitsForTheUserForAsLongAsItTakes) {
@@ -160,18 +183,18 @@ TEST(LibsecretStoreTest, WaitsForTheUserForAsLongAsItTakes) {
                               {"SearchItems", answer(Paths{}, Paths{path("collection/login/1")})},
                               {"Unlock", answer(Paths{}, path("prompt/p1"))},
                               {"Prompt", answer()}}};
-    auto store = std::make_unique<LibsecretStore>();
-    EXPECT_TRUE(store->exists(token));
+    auto store = std::make_unique<LibsecretStore>(ownConnection(), 500ms);
+    EXPECT_EQ(await(store->find(token)), SecretAnswer::locked);
     EXPECT_TRUE(service.calls("Prompt").isEmpty());
     const auto reading = store->read(token);
     const auto saving = store->save(token, "value");
     EXPECT_TRUE(waitUntil([&] { return !service.calls("Prompt").isEmpty(); }));
-    EXPECT_FALSE(waitUntil([&] { return reading.isFinished(); }, 5500ms));
+    EXPECT_FALSE(waitUntil([&] { return reading.isFinished(); }, 1s));
 
     const auto begin = Clock::now();
     store.reset();
     EXPECT_LT(Clock::now() - begin, 1s);
-    EXPECT_EQ(await(reading), std::nullopt);
+    EXPECT_EQ(await(reading).answer, SecretAnswer::locked);
     EXPECT_FALSE(await(saving));
 }
 

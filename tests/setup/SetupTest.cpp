@@ -51,9 +51,16 @@ TEST(BotConnection, RefusesWhatIsNoTokenAndKeepsTheOldOne) {
         std::size_t requests;
     };
     const Case cases[] = {
-        {"", noTokenText, 0},        {"123456 ABC", noTokenText, 0},
-        {"1:a b", malformedText, 0}, {"999:unknown-to-everyone", refusedText, 1}, // 401
-        {":", "Not Found", 1},                                                    // 404
+        {"", noTokenText, 0},
+        {"123456 ABC", noTokenText, 0},
+        {"1:a b", malformedText, 0},
+        {"1:a[b]", malformedText, 0},
+        {"1:a#b", malformedText, 0},
+        {"1:a?b", malformedText, 0},
+        {"1:a/b", malformedText, 0},
+        {"1:a%2Fb", malformedText, 0},
+        {"999:unknown-to-everyone", refusedText, 1}, // 401
+        {":", "Not Found", 1},                       // 404
     };
     ConnectedComputer computer;
     const Config before = computer.store->config();

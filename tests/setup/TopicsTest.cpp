@@ -56,15 +56,79 @@ TEST(SetupActions, WorkOneAfterTheOther) {
     auto finding = computer.store->findGroup();
     auto creating = computer.store->createTopics();
     auto again = computer.store->createTopics();
-    auto forgetting = computer.store->forgetBot();
-    EXPECT_TRUE(computer.store->tokenSaved()) << "forgotten before its turn";
     await(std::move(finding));
     await(std::move(creating));
     await(std::move(again));
-    EXPECT_TRUE(await(std::move(forgetting)));
     EXPECT_EQ(std::ranges::count(computer.methods(), "createForumTopic"), 4);
-    EXPECT_EQ(computer.store->config().topics, Topic::defaults());
-    EXPECT_FALSE(computer.store->tokenSaved());
+    EXPECT_TRUE(computer.store->isReady());
+}
+
+TEST(SetupActions, EndWhenTheirBotIsForgotten) {
+    struct Case {
+        std::string heldUp; ///< the request during which the bot is forgotten
+        std::function<QCoro::Task<>(Store&)> action;
+        std::string message;
+    };
+    const auto connect = [](Store& store) -> QCoro::Task<> {
+        auto connecting = store.connectBot("8:second");
+        co_await connecting;
+    };
+    const auto find = std::mem_fn(&Store::findGroup);
+    const auto create = std::mem_fn(&Store::createTopics);
+    const auto rename = std::mem_fn(&Store::renameTopics);
+    const std::string noBot = "Connect your bot first.";
+    const std::string noGroup = "Find your group first.";
+    const Case cases[] = {
+        {"getMe", connect, "The bot was forgotten meanwhile."},
+        {"getUpdates", find, noBot},
+        {"getChat", find, noBot},
+        {"getUpdates", create, noGroup},
+        {"editForumTopic", create, noGroup},
+        {"createForumTopic", create, noGroup},
+        {"editForumTopic", rename, ""},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.heldUp + each.message);
+        ConnectedComputer computer;
+        computer.sandbox.addBot("8:second", "second_bot");
+        if (each.message == noGroup) {
+            computer.forgetThreads();
+            computer.store->changeConfig(
+                [](Config& config) { config.topics.back().name = "Another"; });
+        }
+        Fault held = flood(1);
+        held.method = each.heldUp;
+        computer.sandbox.failNext(held);
+        auto acting = each.action(*computer.store);
+        ASSERT_TRUE(waitUntil([&] { return computer.clock.pending() == 1; }));
+        await(computer.store->forgetBot());
+        computer.clock.advance(std::chrono::seconds{2});
+        EXPECT_EQ(computer.failure(std::move(acting)), each.message);
+        EXPECT_EQ(computer.store->config(), Config{});
+        EXPECT_TRUE(computer.secrets.values.empty());
+        EXPECT_EQ(std::ranges::count(computer.methods(), each.heldUp), 2) << "and no further one";
+    }
+}
+
+TEST(SetupActions, LeaveASendThatHasBegunItsGroup) {
+    ConnectedComputer computer;
+    std::string list;
+    for (const char* name : {"a.pdf", "b.pdf"}) {
+        computer.setContent(name, "x");
+        list += "file://" + computer.path(name).native() + "\r\n";
+    }
+    computer.sandbox.failNext(flood(1));
+    computer.pasteboard.copy({{"text/uri-list", list.c_str()}});
+    auto sending = computer.store->sendClipboard(Trigger::button);
+    ASSERT_TRUE(waitUntil([&] { return computer.clock.pending() == 2; }));
+    computer.sandbox.userSays(computer.sandbox.addGroup(), "hi");
+    await(computer.store->findGroup());
+    await(computer.store->createTopics());
+    await(computer.store->forgetBot());
+    computer.clock.advance(std::chrono::seconds{2});
+    await(std::move(sending));
+    const Json topics = computer.sandbox.view()["groups"][0]["topics"]; // "General" is the first
+    EXPECT_THAT(topics[3]["messages"], SizeIs(3)) << "its creation and both files";
 }
 
 TEST(Topics, AreFoundAgainWithoutAWelcome) {
@@ -102,6 +166,21 @@ TEST(Topics, AreMadeAnewWhereTheOldOnesAreGone) {
     EXPECT_EQ(computer.newEvents().back(), R"(setup_step {"step":"topics_created"})");
     EXPECT_THAT(computer.messages("notes"), IsEmpty()) << "but the welcome";
     EXPECT_EQ(computer.methods().back(), "sendMessage");
+
+    // One that is gone does not show until somebody looks for it.
+    computer.sandbox.deleteTopic(computer.group, *after[2]);
+    await(computer.store->createTopics());
+    EXPECT_EQ(computer.threads(), after);
+    computer.clear();
+    const auto lose = [](Store& store) -> QCoro::Task<> {
+        co_await store.dropLostTopics();
+        co_await store.createTopics();
+    };
+    computer.sandbox.failNext(refusal("editForumTopic", 400, "not enough rights"));
+    await(lose(*computer.store));
+    EXPECT_THAT(computer.threads(),
+                ElementsAre(after[0], after[1], testing::Gt(after[3]), after[3]));
+    EXPECT_THAT(computer.newEvents(), ElementsAre(R"(setup_step {"step":"topics_created"})"));
 }
 
 TEST(Topics, AreMadeThoughTheUpdatesCannotBeHad) {

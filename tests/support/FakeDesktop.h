@@ -6,9 +6,12 @@
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 
+#include <QPromise>
 #include <QWindow>
 
+#include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <utility>
@@ -39,28 +42,66 @@ public:
     void removeAll() override { values.clear(); }
 };
 
-/// A keyring in memory that can be away.
+/// A keyring in memory that can be away, locked without the user unlocking it, or late.
 class FakeSecrets : public SecretStore {
 public:
     bool available = true;
+    bool locked = false;
+    /// Answers wait until the test calls answer().
+    bool late = false;
     std::map<std::pair<std::string, std::string>, std::string> values;
+    /// What watches the keyring, for the test to call.
+    std::function<void()> changed;
+
+    void answer() {
+        late = false;
+        for (const auto& question : std::exchange(waiting_, {}))
+            question();
+    }
 
     [[nodiscard]] QFuture<bool> save(KeychainItem item, std::string value) override {
-        if (available) values[{item.service, item.account}] = std::move(value);
-        return QtFuture::makeReadyFuture(available);
+        return reply<bool>([=, this] {
+            if (available && !locked) values[{item.service, item.account}] = value;
+            return available && !locked;
+        });
     }
-    [[nodiscard]] QFuture<std::optional<std::string>> read(KeychainItem item) override {
-        const auto found = values.find({item.service, item.account});
-        const bool readable = available && found != values.end();
-        return QtFuture::makeReadyFuture(readable ? std::optional{found->second} : std::nullopt);
+    [[nodiscard]] QFuture<SecretReading> read(KeychainItem item) override {
+        return reply<SecretReading>([=, this] {
+            const bool readable = look(item) == SecretAnswer::found;
+            return SecretReading{look(item), readable ? values[{item.service, item.account}] : ""};
+        });
     }
-    [[nodiscard]] bool exists(const KeychainItem& item) override {
-        return available && values.contains({item.service, item.account});
+    [[nodiscard]] QFuture<SecretAnswer> find(KeychainItem item) override {
+        return reply<SecretAnswer>([=, this] { return look(item); });
     }
-    [[nodiscard]] QFuture<bool> remove(KeychainItem item) override {
-        if (available) values.erase({item.service, item.account});
-        return QtFuture::makeReadyFuture(!values.contains({item.service, item.account}));
+    [[nodiscard]] QFuture<SecretAnswer> remove(KeychainItem item) override {
+        return reply<SecretAnswer>([=, this] {
+            if (look(item) == SecretAnswer::found) values.erase({item.service, item.account});
+            return look(item);
+        });
     }
+    void watch(std::function<void()> whenChanged) override { changed = std::move(whenChanged); }
+
+private:
+    [[nodiscard]] SecretAnswer look(const KeychainItem& item) const {
+        if (!available) return SecretAnswer::none;
+        if (!values.contains({item.service, item.account})) return SecretAnswer::absent;
+        return locked ? SecretAnswer::locked : SecretAnswer::found;
+    }
+
+    template <typename T>
+    QFuture<T> reply(std::function<T()> operation) {
+        if (!late) return QtFuture::makeReadyFuture(operation());
+        const auto promise = std::make_shared<QPromise<T>>();
+        promise->start();
+        waiting_.push_back([=] {
+            promise->addResult(operation());
+            promise->finish();
+        });
+        return promise->future();
+    }
+
+    std::vector<std::function<void()>> waiting_;
 };
 
 /// A keyboard that the test presses, with keys that others may hold.

@@ -37,6 +37,13 @@ TextButton* footerButton(const QString& text, const char* symbol) {
     return new TextButton{text, symbol, {.kind = ButtonKind::borderless, .style = Text::callout}};
 }
 
+IconLabel* makeWarning() {
+    auto* const warning = new IconLabel{
+        {}, "exclamationmark.triangle.fill", {.style = Text::caption, .ink = Ink::warning}};
+    warning->setAccessibleRole(QAccessible::AlertMessage);
+    return warning;
+}
+
 } // namespace
 
 PanelView::PanelView(Platform& platform, Store& store, const Updater& updater, PanelActions actions)
@@ -48,12 +55,11 @@ PanelView::PanelView(Platform& platform, Store& store, const Updater& updater, P
       header_{new PanelHeader},
       setup_{new SetupCard},
       send_{new SendButton},
-      warning_{new IconLabel{
-          {}, "exclamationmark.triangle.fill", {.style = Text::caption, .ink = Ink::warning}}},
+      warning_{makeWarning()},
+      keyring_{makeWarning()},
       recent_{new RecentSends},
       refresher_{this, [this] { refresh(); }} {
     build();
-    warning_->setAccessibleRole(QAccessible::AlertMessage);
     refresher_.watch(store_, &Store::objectWillChange)
         .watch(updater_, &Updater::objectWillChange)
         .refreshNow();
@@ -62,8 +68,8 @@ PanelView::PanelView(Platform& platform, Store& store, const Updater& updater, P
 void PanelView::build() {
     auto* const parts = new QVBoxLayout;
     parts->setSpacing(spacing);
-    for (QWidget* part :
-         std::initializer_list<QWidget*>{header_, setup_, send_, warning_, recent_, new Divider})
+    for (QWidget* part : std::initializer_list<QWidget*>{header_, setup_, send_, keyring_, warning_,
+                                                         recent_, new Divider})
         parts->addWidget(part);
 
     // The texts of the footer's buttons line up with everything else, not the buttons' edges.
@@ -97,7 +103,7 @@ QHBoxLayout* PanelView::buildFooter(TextButton* settings) {
 }
 
 void PanelView::refresh() {
-    const bool ready = store_.isReady();
+    const bool ready = store_.mayBeReady();
     const Config& config = store_.config();
     const QString keys = QString::fromStdString(keysText(config.shortcut));
 
@@ -107,6 +113,9 @@ void PanelView::refresh() {
     send_->setClip(clip_, store_.busy());
     send_->setShortcut(config.shortcut);
     send_->setVisible(ready);
+    const auto problem = ready ? store_.keyringProblem() : std::nullopt;
+    keyring_->setText(QString::fromStdString(problem.value_or("")));
+    keyring_->setVisible(problem.has_value());
     warning_->setText(takenText(config.shortcut));
     warning_->setVisible(store_.shortcutTaken());
     recent_->setHistory(store_.history(), platform_.clock.now(), platform_.system.locale);
@@ -123,7 +132,7 @@ QString PanelView::takenText(ShortcutChoice shortcut) {
 void PanelView::focusMainAction() {
     // This reason does not show the focus. Users of the keyboard see it from their next key on.
     if (send_->isVisible() && send_->isEnabled()) return send_->setFocus(Qt::PopupFocusReason);
-    if (!store_.isReady()) setup_->findChild<TextButton*>()->setFocus(Qt::PopupFocusReason);
+    if (!store_.mayBeReady()) setup_->findChild<TextButton*>()->setFocus(Qt::PopupFocusReason);
 }
 
 QSize PanelView::sizeHint() const {

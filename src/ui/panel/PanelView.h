@@ -82,6 +82,8 @@ private:
     SetupCard* setup_;
     SendButton* send_;
     IconLabel* warning_;
+    /// Tells why the token cannot be had.
+    IconLabel* keyring_;
     RecentSends* recent_;
     TextButton* updates_ = nullptr;
     Refresher refresher_;

@@ -120,7 +120,7 @@ QWidget* SetupView::buildTokenStep() {
     token_ = new TokenStep;
     connect(token_, &TokenStep::connectWanted, this, &SetupView::connectBot);
     connect(token_, &TokenStep::anotherBotWanted, this,
-            [this] { std::ignore = store_.forgetBot(); });
+            [this] { run([&store = store_] { return store.forgetBot(); }); });
     return token_;
 }
 

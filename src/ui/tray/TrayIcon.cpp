@@ -147,7 +147,7 @@ QRect TrayIcon::place() const {
 }
 
 void TrayIcon::refresh() {
-    send_->setEnabled(store_.isReady() && !store_.busy());
+    send_->setEnabled(store_.mayBeReady() && !store_.busy());
 }
 
 QIcon TrayIcon::image() const {

@@ -147,6 +147,22 @@ TEST_F(ReadyPanel, SendsTheClipboardAndSaysSo) {
     EXPECT_TRUE(button(sendName)->isEnabled());
 }
 
+TEST_F(ReadyPanel, FollowsAKeyringThatIsNotThereOrLocked) {
+    const std::string silent = "Your keyring doesn't answer. Start or unlock it and try again.";
+    computer.secrets.available = false;
+    computer.restart();
+    open();
+    EXPECT_THAT(seen(), AllOf(Contains(silent), Not(Contains("Not set up yet"))));
+    computer.secrets.available = true;
+    computer.secrets.locked = true;
+    click(sendName);
+    EXPECT_THAT(seen(), Contains("Your keyring is locked. Unlock it and try again."));
+    computer.secrets.locked = false;
+    computer.secrets.changed();
+    turn();
+    EXPECT_THAT(seen(), Not(Contains(testing::HasSubstr("keyring"))));
+}
+
 TEST_F(ReadyPanel, NamesTheGroupItIsConnectedTo) {
     open();
     const QSize before = panel->sizeHint();

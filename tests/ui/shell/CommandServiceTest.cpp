@@ -124,6 +124,29 @@ TEST(CommandService, AnswersWhoOnlyReadsWhileAnotherCommandIsAtWork) {
     EXPECT_EQ(Caller::output(caller.run({})), refused);
 }
 
+/// The real command line, which hands a command over to this process.
+TEST(CommandService, TellsWhoWaitsForTheKeyring) {
+    const SessionBus bus;
+    TestComputer computer;
+    Core core{computer.platform, nullptr};
+    CommandService service{[] {}};
+    ASSERT_EQ(service.publish(), CommandService::Publication::done);
+    service.serve({computer.platform, core, nullptr}, {});
+    computer.secrets.late = true;
+    QProcess quillon;
+    quillon.setReadChannel(QProcess::StandardError);
+    quillon.start(QStringLiteral(QUILLON), {QStringLiteral("forget")});
+    ASSERT_TRUE(waitUntil([&] { return computer.clock.pending() == 1; }));
+    computer.clock.advance(std::chrono::seconds{5});
+    EXPECT_TRUE(waitUntil([&] { return quillon.bytesAvailable() > 0; })) << "at once";
+    computer.secrets.answer();
+    EXPECT_TRUE(waitUntil([&] { return quillon.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(quillon.readAllStandardError(),
+              "Waiting for your keyring, which may be asking for its password in a window of its "
+              "own. Press Ctrl-C to stop.\n");
+    EXPECT_EQ(quillon.exitCode(), 0);
+}
+
 TEST(RemoteProgram, IsAlsoUnderstoodByAProgramOfTheVersionBefore) {
     const SessionBus bus;
     const BusService older{

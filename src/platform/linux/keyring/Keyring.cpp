@@ -1,14 +1,10 @@
 #include "platform/linux/keyring/Keyring.h"
 
-#include "base/Environment.h"
-
-#include <filesystem>
+#include "platform/linux/keyring/SecretServiceWatch.h"
 
 namespace quillon {
 
 namespace {
-
-constexpr std::chrono::seconds visitLimit{5};
 
 /// Describes the attributes of items. Searches ignore the schema's name, so an item that another
 /// program made with the same attributes is the same item.
@@ -34,21 +30,12 @@ Attributes attributesOf(const KeychainItem& item) {
 
 using Value = std::unique_ptr<SecretValue, decltype(&secret_value_unref)>;
 
-/// Whether there is a session bus already. Otherwise GLib would start one, whose keyring only this
-/// program could see.
-bool hasSessionBus() {
-    if (const auto address = environment("DBUS_SESSION_BUS_ADDRESS"))
-        return !address->starts_with("autolaunch:");
-    const auto folder = environment("XDG_RUNTIME_DIR");
-    std::error_code ignored;
-    return folder && std::filesystem::is_socket(std::filesystem::path{*folder} / "bus", ignored);
-}
-
 } // namespace
 
-Keyring::Keyring(GlibSteps& steps)
+Keyring::Keyring(GlibSteps& steps, std::chrono::milliseconds limit)
     : steps_{steps},
-      deadline_{std::chrono::steady_clock::now() + visitLimit} {}
+      limit_{limit},
+      deadline_{std::chrono::steady_clock::now() + limit} {}
 
 GlibPointer<GAsyncResult> Keyring::ask(const GlibSteps::Start& start) {
     return steps_.await(deadline_, start);
@@ -57,7 +44,7 @@ GlibPointer<GAsyncResult> Keyring::ask(const GlibSteps::Start& start) {
 GlibPointer<GAsyncResult> Keyring::askUser(const GlibSteps::Start& start) {
     if (std::chrono::steady_clock::now() >= deadline_) return {};
     auto answer = steps_.await(std::nullopt, start);
-    deadline_ = std::chrono::steady_clock::now() + visitLimit;
+    deadline_ = std::chrono::steady_clock::now() + limit_;
     return answer;
 }
 
@@ -99,48 +86,48 @@ bool Keyring::unlock(gpointer object) {
 }
 
 bool Keyring::load(SecretItem* item) {
-    if (secret_item_get_locked(item) && !unlock(item)) return false;
     const auto answer = ask([&](auto... end) { secret_item_load_secret(item, end...); });
     return answer && secret_item_load_secret_finish(item, answer.get(), nullptr);
 }
 
-bool Keyring::exists(const KeychainItem& item) {
-    if (!open()) return false;
+SecretReading Keyring::read(const KeychainItem& item) {
+    if (!open()) return {};
     const auto found = search(item, SECRET_SEARCH_NONE);
-    return found && *found;
-}
-
-std::optional<std::string> Keyring::read(const KeychainItem& item) {
-    if (!open()) return std::nullopt;
-    const auto found = search(item, SECRET_SEARCH_NONE);
-    if (!found || !*found) return std::nullopt;
+    if (!found) return {};
+    if (!*found) return {.answer = SecretAnswer::absent, .secret = {}};
     auto* first = SECRET_ITEM((*found)->data);
-    if (!load(first)) return std::nullopt;
+    if (secret_item_get_locked(first) && !unlock(first))
+        return {.answer = SecretAnswer::locked, .secret = {}};
+    if (!load(first)) return {};
     const Value value{secret_item_get_secret(first), &secret_value_unref};
-    if (!value) return std::nullopt;
+    if (!value) return {};
     gsize length = 0;
     const char* bytes = secret_value_get(value.get(), &length);
-    if (!g_utf8_validate_len(bytes, length, nullptr)) return std::nullopt;
-    return std::string{bytes, length};
+    if (!g_utf8_validate_len(bytes, length, nullptr))
+        return {.answer = SecretAnswer::absent, .secret = {}};
+    return {.answer = SecretAnswer::found, .secret = {bytes, length}};
 }
 
-bool Keyring::removeOne(SecretItem* item) {
-    if (secret_item_get_locked(item) && !unlock(item)) return false;
+SecretAnswer Keyring::removeOne(SecretItem* item) {
+    if (secret_item_get_locked(item) && !unlock(item)) return SecretAnswer::locked;
     const auto answer = ask([&](auto... end) { secret_item_delete(item, end...); });
-    return answer && secret_item_delete_finish(item, answer.get(), nullptr);
+    if (!answer) return SecretAnswer::none;
+    return secret_item_delete_finish(item, answer.get(), nullptr) ? SecretAnswer::absent
+                                                                  : SecretAnswer::found;
 }
 
-bool Keyring::removeAll(const KeychainItem& item) {
+SecretAnswer Keyring::removeAll(const KeychainItem& item) {
     const auto found = search(item, SECRET_SEARCH_ALL);
-    if (!found) return false;
-    bool all = true;
-    for (const GList* link = found->get(); link; link = link->next)
-        all = removeOne(SECRET_ITEM(link->data)) && all;
-    return all;
+    if (!found) return SecretAnswer::none;
+    for (const GList* link = found->get(); link; link = link->next) {
+        const SecretAnswer removed = removeOne(SECRET_ITEM(link->data));
+        if (removed != SecretAnswer::absent) return removed;
+    }
+    return SecretAnswer::absent;
 }
 
-void Keyring::remove(const KeychainItem& item) {
-    if (open()) removeAll(item);
+SecretAnswer Keyring::remove(const KeychainItem& item) {
+    return open() ? removeAll(item) : SecretAnswer::none;
 }
 
 Keyring::DefaultCollection Keyring::prepareDefaultCollection() {
@@ -165,7 +152,8 @@ Keyring::DefaultCollection Keyring::prepareDefaultCollection() {
 bool Keyring::save(const KeychainItem& item, const std::string& value) {
     if (!open()) return false;
     const DefaultCollection collection = prepareDefaultCollection();
-    if (collection == DefaultCollection::unusable || !removeAll(item)) return false;
+    if (collection == DefaultCollection::unusable) return false;
+    if (removeAll(item) != SecretAnswer::absent) return false;
 
     const Attributes attributes = attributesOf(item);
     const Value secret{

@@ -7,18 +7,17 @@
 
 namespace quillon {
 
-/// One visit to the Secret Service, which gives up 5 seconds after it began. Only the steps that
-/// ask the user to unlock or create a keyring wait without limit, and the steps after them have 5
-/// seconds anew.
+/// One visit to the Secret Service, which gives up after a limit. Only the steps that ask the user
+/// to unlock or create a keyring wait for as long as it takes, and the limit begins anew after
+/// them.
 class Keyring {
 public:
     /// Begins the visit.
-    explicit Keyring(GlibSteps& steps);
+    Keyring(GlibSteps& steps, std::chrono::milliseconds limit);
 
     bool save(const KeychainItem& item, const std::string& value);
-    std::optional<std::string> read(const KeychainItem& item);
-    bool exists(const KeychainItem& item);
-    void remove(const KeychainItem& item);
+    SecretReading read(const KeychainItem& item);
+    SecretAnswer remove(const KeychainItem& item);
 
 private:
     struct FreeObjects {
@@ -36,11 +35,12 @@ private:
     std::optional<Items> search(const KeychainItem& item, SecretSearchFlags flags);
     bool unlock(gpointer object);
     bool load(SecretItem* item);
-    bool removeOne(SecretItem* item);
-    bool removeAll(const KeychainItem& item);
+    SecretAnswer removeOne(SecretItem* item);
+    SecretAnswer removeAll(const KeychainItem& item);
     DefaultCollection prepareDefaultCollection();
 
     GlibSteps& steps_;
+    std::chrono::milliseconds limit_;
     GlibSteps::Time deadline_;
     GlibPointer<SecretService> service_;
 };

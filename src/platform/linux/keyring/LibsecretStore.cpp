@@ -12,19 +12,14 @@
 
 namespace quillon {
 
-namespace {
-
-/// exists() waits no longer than this.
-constexpr std::chrono::seconds existsLimit{5};
-
-} // namespace
-
 /// The thread that runs keyring operations, one after another.
 class LibsecretStore::Worker {
 public:
     using Job = std::function<void(Keyring&)>;
 
-    Worker() : thread_{[this] { run(); }} { started_.get_future().wait(); }
+    explicit Worker(std::chrono::milliseconds limit) : limit_{limit}, thread_{[this] { run(); }} {
+        started_.get_future().wait();
+    }
     Worker(const Worker&) = delete;
     Worker& operator=(const Worker&) = delete;
 
@@ -73,7 +68,7 @@ private:
             jobs_.pop_front();
             lock.unlock();
             {
-                Keyring keyring{steps};
+                Keyring keyring{steps, limit_};
                 job(keyring);
             }
             steps.settle();
@@ -81,6 +76,7 @@ private:
         }
     }
 
+    std::chrono::milliseconds limit_;
     std::mutex mutex_;
     std::condition_variable changed_;
     std::deque<Job> jobs_;
@@ -90,33 +86,39 @@ private:
     std::thread thread_;
 };
 
-LibsecretStore::LibsecretStore() : worker_{std::make_unique<Worker>()} {}
+LibsecretStore::LibsecretStore(QDBusConnection bus, std::chrono::milliseconds limit)
+    : service_{std::move(bus)},
+      limit_{limit} {}
 
 LibsecretStore::~LibsecretStore() = default;
 
+LibsecretStore::Worker& LibsecretStore::worker() {
+    if (!worker_) worker_ = std::make_unique<Worker>(limit_);
+    return *worker_;
+}
+
 QFuture<bool> LibsecretStore::save(KeychainItem item, std::string value) {
-    return worker_->perform([item = std::move(item), value = std::move(value)](Keyring& keyring) {
+    return worker().perform([item = std::move(item), value = std::move(value)](Keyring& keyring) {
         return keyring.save(item, value);
     });
 }
 
-QFuture<std::optional<std::string>> LibsecretStore::read(KeychainItem item) {
-    return worker_->perform(
+QFuture<SecretReading> LibsecretStore::read(KeychainItem item) {
+    return worker().perform(
         [item = std::move(item)](Keyring& keyring) { return keyring.read(item); });
 }
 
-bool LibsecretStore::exists(const KeychainItem& item) {
-    const auto promise = std::make_shared<std::promise<bool>>();
-    auto answer = promise->get_future();
-    worker_->add([promise, item](Keyring& keyring) { promise->set_value(keyring.exists(item)); });
-    return answer.wait_for(existsLimit) == std::future_status::ready && answer.get();
+QFuture<SecretAnswer> LibsecretStore::find(KeychainItem item) {
+    return service_.find(item);
 }
 
-QFuture<bool> LibsecretStore::remove(KeychainItem item) {
-    return worker_->perform([item = std::move(item)](Keyring& keyring) {
-        keyring.remove(item);
-        return !keyring.exists(item);
-    });
+QFuture<SecretAnswer> LibsecretStore::remove(KeychainItem item) {
+    return worker().perform(
+        [item = std::move(item)](Keyring& keyring) { return keyring.remove(item); });
+}
+
+void LibsecretStore::watch(std::function<void()> changed) {
+    service_.watch(std::move(changed));
 }
 
 } // namespace quillon
