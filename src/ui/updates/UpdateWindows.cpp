@@ -4,7 +4,7 @@
 #include "ui/controls/Card.h"
 #include "ui/controls/MessageWindow.h"
 #include "ui/controls/ProgressBar.h"
-#include "ui/text/TextViews.h"
+#include "ui/controls/TextViews.h"
 #include "ui/updates/ReleaseNotes.h"
 
 #include <QLocale>

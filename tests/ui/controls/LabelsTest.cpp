@@ -1,6 +1,15 @@
 #include "artwork/Colors.h"
+#include "support/Await.h"
 #include "support/Controls.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/ScrollView.h"
+#include "ui/controls/TextViews.h"
+#include "ui/text/Chip.h"
 #include "ui/text/IconLabel.h"
+
+#include <QElapsedTimer>
+#include <QScrollBar>
+#include <QVBoxLayout>
 
 #include <gmock/gmock.h>
 
@@ -35,6 +44,68 @@ TEST(IconLabel, ALongNameLosesItsMiddleOnTheScreenButIsReadWhole) {
     EXPECT_THAT(middle.shownText().toStdString(), EndsWith("…"));
     middle.resize(middle.sizeHint());
     EXPECT_EQ(middle.shownText(), name) << "it asks for the room it needs";
+}
+
+TEST(Views, CutAnEndlessTextBeforeTheyLayItOutAndTell) {
+    const QString endless = QStringLiteral("words without an end ").repeated(500'000);
+    QElapsedTimer time;
+    time.start();
+    QWidget window;
+    auto* column = new QVBoxLayout{&window};
+    for (const Overflow overflow : {Overflow::wrap, Overflow::elideEnd, Overflow::elideMiddle})
+        column->addWidget(new IconLabel{endless, {}, {.overflow = overflow}});
+    column->addWidget(new Chip{endless, Qt::red});
+    auto* button = new ContentButton;
+    button->setAccessibleDescription(endless);
+    column->addWidget(button);
+    auto* message = new MessageText{endless, 300};
+    column->addWidget(message);
+    const Controls controls{window};
+    window.grab();
+    EXPECT_LT(time.elapsed(), 1000);
+    for (const std::string& text : controls.seen())
+        EXPECT_LE(QString::fromStdString(text).size(), 10'001);
+    EXPECT_LE(accessible(*button).text(QAccessible::Description).size(), 1'001);
+    EXPECT_THAT(message->toPlainText().toStdString(), EndsWith("an end "));
+}
+
+TEST(ScrollView, ShowsWhatTheKeyboardIsLedToFromAnywhere) {
+    QWidget window;
+    auto* outside = new TextButton{QStringLiteral("outside")};
+    auto* content = new QWidget;
+    auto* rows = new QVBoxLayout{content};
+    for (int i = 0; i < 20; ++i)
+        rows->addWidget(new TextButton{QString::number(i)});
+    auto* view = new ScrollView{content};
+    auto* column = new QVBoxLayout{&window};
+    column->addWidget(outside);
+    column->addWidget(view);
+    window.resize(200, 200);
+    window.show();
+    const auto inSight = [&](int row) {
+        QCoreApplication::processEvents();
+        const QWidget* button = content->findChildren<TextButton*>()[row];
+        return view->viewport()->rect().contains(
+            {button->mapTo(view->viewport(), QPoint{}), button->size()});
+    };
+    const auto focus = [&](int row, Qt::FocusReason reason) {
+        content->findChildren<TextButton*>()[row]->setFocus(reason);
+    };
+    ASSERT_TRUE(waitUntil([&] { return window.isActiveWindow(); }));
+    outside->setFocus();
+    EXPECT_FALSE(inSight(19));
+    QTest::keyClick(outside, Qt::Key_Backtab);
+    EXPECT_TRUE(inSight(19)) << "by the Tab key, from outside";
+    focus(0, Qt::OtherFocusReason);
+    EXPECT_TRUE(inSight(0)) << "by the program";
+    focus(19, Qt::ShortcutFocusReason);
+    EXPECT_TRUE(inSight(19)) << "by a mnemonic";
+    focus(10, Qt::TabFocusReason);
+    rows->insertSpacing(0, 150);
+    EXPECT_TRUE(inSight(10)) << "also when it moves";
+    view->verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMinimum);
+    rows->insertSpacing(0, 10);
+    EXPECT_FALSE(inSight(10)) << "unless the user has scrolled on";
 }
 
 TEST(IconLabel, GrowsDownwardsAsItBecomesNarrower) {
