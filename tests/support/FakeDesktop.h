@@ -6,6 +6,7 @@
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 
+#include <QGuiApplication>
 #include <QWindow>
 
 #include <map>
@@ -123,6 +124,7 @@ class FakeWorkspace : public Workspace {
 public:
     std::vector<std::filesystem::path> running;
     bool trashWorks = true;
+    QScreen* screen = QGuiApplication::primaryScreen();
     /// What happened, in order: "trash PATH", "list PATH", "exit 0"...
     std::vector<std::string> log;
 
@@ -145,6 +147,8 @@ public:
         window.raise();
         window.requestActivate();
     }
+    void keepOffTaskBar(QWindow& /*window*/) override { log.emplace_back("off the task bar"); }
+    [[nodiscard]] QScreen* screenInUse() const override { return screen; }
     void openAfterExit(const std::filesystem::path& application) override {
         log.push_back("open " + application.native());
     }
