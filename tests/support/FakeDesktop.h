@@ -79,6 +79,11 @@ public:
         ++handlersInstalled;
         handler_ = std::move(handler);
     }
+    void observe(std::function<void(PhysicalKey, bool)> observer) override {
+        observer_ = std::move(observer);
+    }
+    /// As after a change of the keyboard.
+    void tell(PhysicalKey key, bool works) const { observer_(key, works); }
     [[nodiscard]] std::unique_ptr<Registration> registerHotKey(PhysicalKey key) override {
         // Like the real ones, refuses what this process itself holds.
         if (takenByOthers.contains(key) || registered.contains(key)) return nullptr;
@@ -98,6 +103,7 @@ private:
     };
 
     std::function<void()> handler_;
+    std::function<void(PhysicalKey, bool)> observer_;
 };
 
 /// A login item in memory, which can refuse.
