@@ -100,9 +100,12 @@ QFuture<bool> UpdateWindows::askPermission() {
         tr("Check for updates automatically?"),
         tr("Quillon can look for a new version once a day. You can change this in its settings at "
            "any time, or check by hand."));
-    permission_->addButton(tr("Check Automatically"), Place::primary,
-                           [answer] { answer.give(true); });
+    TextButton* const check = permission_->addButton(tr("Check Automatically"), Place::primary,
+                                                     [answer] { answer.give(true); });
     permission_->setEscape(permission_->addButton(tr("Don't Check"), Place::secondary));
+    // Nobody has asked for this window; its keys may be meant for another program.
+    check->setDefault(false);
+    permission_->setAttribute(Qt::WA_ShowWithoutActivating);
     permission_->show();
     return answer.future();
 }
