@@ -111,6 +111,7 @@ TEST(X11Screen, AWindowStaysOffTheTaskBarEachTimeItShows) {
     for (int showing = 0; showing < 2; ++showing) {
         keepOffTaskBar(*window.windowHandle());
         window.show();
+        QCoreApplication::processEvents();
         QProcess xprop;
         xprop.start(QStringLiteral("xprop"),
                     {QStringLiteral("-id"), QString::number(window.winId()),
