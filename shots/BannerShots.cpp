@@ -60,7 +60,8 @@ QPixmap overDesktop(const QPixmap& banner) {
 QPixmap take(const Scene& scene) {
     FakeClock clock;
     const FakeCompositor compositor{scene.blended};
-    HUD hud{clock, compositor};
+    FakeWorkspace workspace;
+    HUD hud{clock, compositor, workspace};
     hud.show({.text = shown(scene.text).toStdString(), .symbol = scene.symbol, .ok = scene.ok});
     clock.advance(200ms);
     QWidget& window = onlyWindow();

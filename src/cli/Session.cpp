@@ -11,6 +11,8 @@
 #include "platform/Sleep.h"
 #include "platform/linux/Desktop.h"
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/desktop/LinuxAppearance.h"
+#include "ui/theme/ApplicationTheme.h"
 
 #include <QTimer>
 
@@ -21,6 +23,14 @@ namespace quillon {
 namespace {
 
 using namespace std::chrono_literals;
+
+/// What the banner looks like on this desktop, and whether it moves.
+struct Look {
+    Look() { theme.follow(appearance); }
+
+    ApplicationTheme theme;
+    LinuxAppearance appearance;
+};
 
 bool showsBanner(const Core& core) {
     return core.hud && core.hud->panel() != nullptr && core.hud->panel()->isVisible();
@@ -64,6 +74,8 @@ int runInThisProcess(const Invocation& invocation, Detach* detach) {
         Terminal::printError(noDesktopMessage());
         return exitFailed;
     }
+    std::optional<Look> look;
+    if (desktop->compositor) look.emplace();
     LinuxPlatform services{std::move(desktop->pasteboard), std::move(desktop->hotKeys)};
     QTimer::singleShot(0, desktop->application.get(), [&] {
         runToExit(invocation, services.platform(), desktop->compositor.get(), detach);

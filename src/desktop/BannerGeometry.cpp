@@ -1,5 +1,7 @@
 #include "desktop/BannerGeometry.h"
 
+#include "base/ShownText.h"
+
 #include <QFontMetricsF>
 #include <QTextLayout>
 
@@ -23,11 +25,11 @@ constexpr double maxTextWidth = 380;
 constexpr qsizetype maxLines = 2;
 
 /// As much of the text from `start` on as fits into one line. There is more than that.
-QString lastLine(const QString& text, qsizetype start, const QFont& font) {
+QString lastLine(const QString& text, qsizetype start, const QFont& font, double width) {
     QString rest = text.mid(start);
     const qsizetype end = rest.indexOf(QChar::LineSeparator);
     if (end >= 0) rest = rest.left(end) + QChar{0x2026};
-    return QFontMetricsF{font}.elidedText(rest, Qt::ElideRight, maxTextWidth);
+    return QFontMetricsF{font}.elidedText(rest, Qt::ElideRight, width);
 }
 
 QString trimmedEnd(QString text) {
@@ -38,21 +40,25 @@ QString trimmedEnd(QString text) {
 
 } // namespace
 
-BannerLayout layOutBanner(QSizeF text) {
-    const double height = std::ceil(std::max(markSide, text.height()));
-    const double middle = margin + endPadding + height / 2;
-    double x = margin + sidePadding;
+BannerLayout layOutBanner(QSizeF text, double scale) {
+    const double mark = std::round(markSide * scale);
+    const double symbol = std::round(symbolSide * scale);
+    const double side = std::round(sidePadding * scale);
+    const double end = std::round(endPadding * scale);
+    const double gap = std::round(between * scale);
+    const double height = std::ceil(std::max(mark, text.height()));
+    const double middle = margin + end + height / 2;
+    double x = margin + side;
     const auto next = [&](QSizeF size) {
         const QRectF box{QPointF{x, middle - size.height() / 2}, size};
-        x += size.width() + between;
+        x += size.width() + gap;
         return box;
     };
     BannerLayout layout;
-    layout.mark = next({markSide, markSide});
+    layout.mark = next({mark, mark});
     layout.text = next({std::ceil(text.width()), text.height()});
-    layout.symbol = next({symbolSide, symbolSide});
-    layout.capsule = {margin, margin, layout.symbol.right() + sidePadding - margin,
-                      height + 2 * endPadding};
+    layout.symbol = next({symbol, symbol});
+    layout.capsule = {margin, margin, layout.symbol.right() + side - margin, height + 2 * end};
     layout.window = layout.capsule.adjusted(-margin, -margin, margin, margin).size().toSize();
     return layout;
 }
@@ -80,7 +86,9 @@ QRect bannerFrame(QRect visible, QSize window, BannerPosition position) {
     return {QPoint{x, y}, window};
 }
 
-BannerText wrapBannerText(QString text, const QFont& font) {
+BannerText wrapBannerText(QString text, const QFont& font, double scale) {
+    const double width = maxTextWidth * scale;
+    text = shortened(text, maxLines * longestShown);
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     text.replace(u'\n', QChar{QChar::LineSeparator});
     QTextLayout layout{text, font};
@@ -92,10 +100,10 @@ BannerText wrapBannerText(QString text, const QFont& font) {
     qsizetype start = 0;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         if (result.lines.size() == maxLines) {
-            result.lines.back() = lastLine(text, start, font);
+            result.lines.back() = lastLine(text, start, font, width);
             break;
         }
-        line.setLineWidth(maxTextWidth);
+        line.setLineWidth(width);
         start = line.textStart();
         result.lines << trimmedEnd(text.mid(start, line.textLength()));
     }

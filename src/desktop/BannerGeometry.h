@@ -7,7 +7,8 @@
 #include <QString>
 #include <QStringList>
 
-/// The places and sizes of the banner and its parts, in device-independent pixels.
+/// The places and sizes of the banner and its parts, in device-independent pixels. `scale` is by
+/// how much texts are larger than those of the design; what belongs to the text grows with it.
 namespace quillon {
 
 /// The places of the banner's parts in its window: mark, text and symbol stand in a row in a
@@ -21,7 +22,7 @@ struct BannerLayout {
 };
 
 /// Lays the banner out around a text of this size.
-BannerLayout layOutBanner(QSizeF text);
+BannerLayout layOutBanner(QSizeF text, double scale = 1);
 
 /// The same layout for writing that goes from right to left.
 BannerLayout mirrored(BannerLayout layout);
@@ -37,6 +38,6 @@ struct BannerText {
 
 /// Wraps at words, and inside a word only if it is wider than a line. A text of more than two lines
 /// ends with an ellipsis. The result has at least one line, which may be empty.
-BannerText wrapBannerText(QString text, const QFont& font);
+BannerText wrapBannerText(QString text, const QFont& font, double scale = 1);
 
 } // namespace quillon

@@ -3,8 +3,9 @@
 #include "desktop/HUDPanel.h"
 #include "desktop/HUDView.h"
 #include "platform/Compositor.h"
+#include "platform/Workspace.h"
+#include "ui/theme/Motion.h"
 
-#include <QGuiApplication>
 #include <QScreen>
 
 namespace quillon {
@@ -19,9 +20,10 @@ constexpr auto fadeOutTime = 350ms;
 
 } // namespace
 
-HUD::HUD(Clock& clock, const Compositor& compositor)
+HUD::HUD(Clock& clock, const Compositor& compositor, const Workspace& workspace)
     : clock_{clock},
       compositor_{compositor},
+      workspace_{workspace},
       fade_{clock, [this](double alpha) { panel_->setAlpha(alpha); }} {}
 
 HUD::~HUD() = default;
@@ -37,7 +39,7 @@ void HUD::show(BannerMessage message) {
 
 void HUD::place(const BannerMessage& message) {
     const HUDView view{message.text, message.symbol, message.ok};
-    const QScreen* const screen = QGuiApplication::primaryScreen();
+    const QScreen* const screen = workspace_.screenInUse();
     blended_ = compositor_.active();
     panel_->setContent(view, QString::fromStdString(message.text),
                        screen ? screen->devicePixelRatio() : 1, blended_);
@@ -46,17 +48,21 @@ void HUD::place(const BannerMessage& message) {
     if (panel_->isVisible()) panel_->repaint();
 }
 
+bool HUD::fades() const {
+    return blended_ && animationsEnabled();
+}
+
 void HUD::fadeIn() {
     if (!panel_->isVisible()) {
         fade_.run(0, 0ms);
         panel_->show();
     }
     panel_->raise();
-    fade_.run(1, blended_ ? fadeInTime : 0ms);
+    fade_.run(1, fades() ? fadeInTime : 0ms);
 }
 
 void HUD::fadeOut() {
-    fade_.run(0, blended_ ? fadeOutTime : 0ms, [this] { panel_->hide(); });
+    fade_.run(0, fades() ? fadeOutTime : 0ms, [this] { panel_->hide(); });
 }
 
 } // namespace quillon

@@ -10,11 +10,13 @@ namespace quillon {
 
 class Compositor;
 class HUDPanel;
+class Workspace;
 
 /// The confirmation banner: one window, made for the first banner and used for all of them.
 class HUD : public Banner {
 public:
-    HUD(Clock& clock, const Compositor& compositor);
+    /// `workspace` tells on which screen the banner is to come.
+    HUD(Clock& clock, const Compositor& compositor, const Workspace& workspace);
     ~HUD() override;
 
     void show(BannerMessage message) override;
@@ -24,11 +26,13 @@ public:
 
 private:
     void place(const BannerMessage& message);
+    [[nodiscard]] bool fades() const;
     void fadeIn();
     void fadeOut();
 
     Clock& clock_;
     const Compositor& compositor_;
+    const Workspace& workspace_;
     std::unique_ptr<HUDPanel> panel_;
     Fade fade_;
     bool blended_ = true;

@@ -1,5 +1,6 @@
 #include "desktop/HUDPanel.h"
 
+#include "base/ShownText.h"
 #include "desktop/HUDView.h"
 
 #include <QAccessible>
@@ -38,7 +39,7 @@ void HUDPanel::setContent(const HUDView& view, const QString& text, double devic
                           bool blended) {
     picture_ = view.render(devicePixelRatio, blended);
     setMask(blended ? QRegion{} : view.outline());
-    setAccessibleName(text);
+    setAccessibleName(shortened(text));
     QAccessibleEvent announcement{this, QAccessible::Alert};
     QAccessible::updateAccessibility(&announcement);
     // Qt does not pass alerts on to the accessibility bus. It does pass on that a notification

@@ -6,6 +6,7 @@
 #include "artwork/Shapes.h"
 #include "artwork/Symbols.h"
 #include "desktop/Shadow.h"
+#include "ui/theme/Theme.h"
 
 #include <QBitmap>
 #include <QFontMetricsF>
@@ -19,25 +20,19 @@ namespace quillon {
 namespace {
 
 constexpr QColor amber{255, 194, 75};
-constexpr int fontSize = 13;
+constexpr TextStyle messageStyle{13, QFont::DemiBold};
 constexpr double capsuleOpacity = 0.94;
 constexpr double borderOpacity = 0.08;
 constexpr Shadow shadow{.opacity = 0.30, .blur = 14, .offset = {0, 6}};
 
-QFont bannerFont() {
-    QFont font = QGuiApplication::font();
-    font.setPixelSize(fontSize);
-    font.setWeight(QFont::DemiBold);
-    return font;
-}
-
 } // namespace
 
 HUDView::HUDView(const std::string& text, std::string symbol, bool ok)
-    : font_{bannerFont()},
-      text_{wrapBannerText(QString::fromStdString(text), font_)},
+    : font_{Theme::font(messageStyle)},
+      text_{wrapBannerText(QString::fromStdString(text), font_, Theme::length(1))},
       layout_{layOutBanner({text_.width, std::ceil(QFontMetricsF{font_}.height()) *
-                                             static_cast<double>(text_.lines.size())})},
+                                             static_cast<double>(text_.lines.size())},
+                           Theme::length(1))},
       symbol_{std::move(symbol)},
       ok_{ok} {
     if (QGuiApplication::isRightToLeft()) layout_ = mirrored(layout_);

@@ -15,11 +15,14 @@ constexpr std::array<PhysicalKey, allShortcutChoices.size()> physicalKeys{
 
 } // namespace
 
-bool Hotkey::registerChoice(ShortcutChoice choice, std::function<void()> action) {
+bool Hotkey::registerChoice(ShortcutChoice choice, std::function<void()> action,
+                            std::function<void(bool)> changed) {
     ref_.reset();
     action_ = std::move(action);
+    changed_ = std::move(changed);
     installHandler();
-    ref_ = hotKeys_.registerHotKey(physicalKeys.at(static_cast<std::size_t>(choice)));
+    key_ = physicalKeys.at(static_cast<std::size_t>(choice));
+    ref_ = hotKeys_.registerHotKey(*key_);
     return ref_ != nullptr;
 }
 
@@ -31,7 +34,14 @@ void Hotkey::installHandler() {
         QMetaObject::invokeMethod(
             self.data(), [self] { self->act(); }, Qt::QueuedConnection);
     });
+    hotKeys_.observe([self = QPointer{this}](PhysicalKey key, bool works) {
+        if (self) self->tell(key, works);
+    });
     handlerInstalled_ = true;
+}
+
+void Hotkey::tell(PhysicalKey key, bool works) const {
+    if (ref_ && key == key_ && changed_) changed_(works);
 }
 
 void Hotkey::act() const {

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace quillon {
 
@@ -18,16 +19,21 @@ public:
 
     /// Registers the choice in place of the one before, which ends even when the new one is
     /// refused. `action` is called from the event loop at each press. False when the choice was
-    /// refused.
-    [[nodiscard]] bool registerChoice(ShortcutChoice choice, std::function<void()> action);
+    /// refused. `changed` is called when a choice that was accepted stops working (false), and when
+    /// it works again (true).
+    [[nodiscard]] bool registerChoice(ShortcutChoice choice, std::function<void()> action,
+                                      std::function<void(bool works)> changed = {});
 
 private:
     void installHandler();
+    void tell(PhysicalKey key, bool works) const;
     void act() const;
 
     HotKeys& hotKeys_;
     std::unique_ptr<HotKeys::Registration> ref_;
+    std::optional<PhysicalKey> key_;
     std::function<void()> action_;
+    std::function<void(bool)> changed_;
     bool handlerInstalled_ = false;
 };
 

@@ -7,9 +7,15 @@
 namespace quillon {
 
 void Store::registerShortcut() {
-    const bool accepted = hotkey_.registerChoice(config_.shortcut, [store = QPointer{this}] {
-        if (store) Q_EMIT store->shortcutPressed();
-    });
+    const QPointer<Store> store{this};
+    const bool accepted = hotkey_.registerChoice(
+        config_.shortcut,
+        [store] {
+            if (store) Q_EMIT store->shortcutPressed();
+        },
+        [store](bool works) {
+            if (store) store->publish(store->shortcutTaken_, !works);
+        });
     publish(shortcutTaken_, !accepted);
 }
 

@@ -45,7 +45,7 @@ public:
     virtual bool willInstallUpdateOnQuit() = 0;
     /// Whether an update found by a scheduled check may be shown without taking the focus.
     virtual bool supportsGentleScheduledUpdateReminders() = 0;
-    /// A window about an update is about to open.
+    /// A window about an update is about to open for a user who asked for it.
     virtual void willHandleShowingUpdate() = 0;
 };
 

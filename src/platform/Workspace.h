@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+class QScreen;
 class QWindow;
 
 namespace quillon {
@@ -35,6 +36,12 @@ public:
     /// where the desktop keeps programs from taking it. Only for a window that the user has just
     /// asked for.
     virtual void bringToFront(QWindow& window) = 0;
+    /// Keeps one of this application's windows out of the desktop's lists of windows. To be called
+    /// each time before the window shows.
+    virtual void keepOffTaskBar(QWindow& window) = 0;
+    /// The screen on which the user works: that of the active window or, where the desktop tells of
+    /// none, of the pointer. Null if there is no screen at all.
+    [[nodiscard]] virtual QScreen* screenInUse() const = 0;
     /// Opens the application folder as soon as this process has ended. A failure is ignored.
     virtual void openAfterExit(const std::filesystem::path& application) = 0;
     /// Ends this process the normal way, on the next turn of the event loop.

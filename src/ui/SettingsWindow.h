@@ -29,13 +29,18 @@ public:
 
 private:
     void make();
-    /// Makes the window as high as its content on the next turn of the event loop. Its top edge
-    /// stays where it is.
+    /// Makes the window as high as its content on the next turn of the event loop, as far as there
+    /// is room below its top edge, which stays where it is. The content scrolls in a lower window.
     void fit(double height);
+    void resize();
+    /// The height that the screen has for the content, from its top edge down.
+    [[nodiscard]] int room() const;
 
     Workspace& workspace_;
     MakeContent makeContent_;
     std::unique_ptr<QWidget> window_;
+    /// The height that the content needs.
+    double wanted_ = 0;
 };
 
 } // namespace quillon

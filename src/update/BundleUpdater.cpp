@@ -190,7 +190,9 @@ QCoro::Task<> BundleUpdater::offer(FeedItem item, bool gently) {
                         .version = item.shortVersion,
                         .notes = item.notes,
                         .gently = gently && delegate_->supportsGentleScheduledUpdateReminders()};
-    delegate_->willHandleShowingUpdate();
+    // What nobody asked for is shown beside what the user is doing, and the delegate brings windows
+    // to the front.
+    if (!offered.gently) delegate_->willHandleShowingUpdate();
     enter(Phase::waiting);
     const UpdateChoice choice = co_await driver_.showUpdate(std::move(offered));
     if (choice == UpdateChoice::skip) platform_.defaults.setText(skippedKey, item.version);

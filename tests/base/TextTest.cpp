@@ -1,4 +1,5 @@
 #include "base/Text.h"
+#include "base/ShownText.h"
 
 #include <gtest/gtest.h>
 
@@ -53,4 +54,24 @@ TEST(Text, CutsBetweenUserPerceivedCharacters) {
     const char* const zalgo = "a\u0301\u0301\u0301\u0301\u0301";
     EXPECT_EQ(prefix(zalgo, {.characters = 1, .codePoints = 4}), "a\u0301\u0301\u0301")
         << "one character over the limit is cut all the same";
+}
+
+TEST(ShownText, LosesItsMiddleBetweenCharactersWhenItIsEndless) {
+    const QString family =
+        QStringLiteral("👨‍👩‍👧‍👦"); // one character, eleven units
+    const QString wave = QStringLiteral("🌊");
+    struct Case {
+        QString text;
+        QString shown;
+    };
+    for (const Case& each : {
+             Case{QStringLiteral("0123456789"), QStringLiteral("0123456789")},
+             Case{QStringLiteral("012345678901"), QStringLiteral("01234…78901")},
+             Case{QStringLiteral("012") + family + QStringLiteral("789"),
+                  QStringLiteral("012…789")},
+             Case{QStringLiteral("a") + wave.repeated(9), QStringLiteral("a🌊🌊…🌊🌊")},
+             // Longer than all that is kept.
+             Case{family.repeated(2), family.left(5) + QStringLiteral("…")},
+         })
+        EXPECT_EQ(shortened(each.text, 10).toStdString(), each.shown.toStdString());
 }

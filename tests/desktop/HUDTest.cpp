@@ -2,6 +2,8 @@
 #include "desktop/HUDPanel.h"
 #include "support/FakeClock.h"
 #include "support/FakeCompositor.h"
+#include "support/FakeDesktop.h"
+#include "ui/theme/Motion.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -28,7 +30,8 @@ protected:
     test::FakeClock clock;
     test::FakeCompositor compositor{true};
     BannerPosition position = BannerPosition::top;
-    HUD hud{clock, compositor};
+    test::FakeWorkspace workspace;
+    HUD hud{clock, compositor, workspace};
 };
 
 TEST_F(HUDTest, FadesInStaysAsLongAsItsNewsDeservesAndFadesOut) {
@@ -106,6 +109,24 @@ TEST_F(HUDTest, IsASolidCapsuleThatComesAndGoesAtOnceWhereNothingBlends) {
     compositor.blending = true;
     good();
     EXPECT_TRUE(hud.panel()->mask().isEmpty());
+    EXPECT_EQ(alpha(), 0);
+    setAnimationsEnabled(false);
+    good();
+    setAnimationsEnabled(std::nullopt);
+    EXPECT_EQ(alpha(), 1) << "it moves though the user wants nothing to";
+}
+
+TEST_F(HUDTest, GrowsWithTheTextsOfTheDesktop) {
+    good();
+    const QSize before = hud.panel()->size();
+    const QFont font = QGuiApplication::font();
+    QFont larger = font;
+    larger.setPixelSize(26);
+    QGuiApplication::setFont(larger);
+    good();
+    QGuiApplication::setFont(font);
+    EXPECT_GT(hud.panel()->width() - 32, (before.width() - 32) * 1.7);
+    EXPECT_GT(hud.panel()->height() - 32, (before.height() - 32) * 1.7);
 }
 
 } // namespace

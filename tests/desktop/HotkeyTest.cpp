@@ -42,6 +42,11 @@ TEST(StoreShortcut, HoldsTheChosenKeyAloneAndTellsWhileItIsTaken) {
     EXPECT_TRUE(choose(ctrlOptV));
     EXPECT_TRUE(choose(ctrlOptV)) << "it holds it itself";
     EXPECT_THAT(computer.hotKeys.registered, ElementsAre(PhysicalKey::v));
+    // The keyboard changes.
+    computer.hotKeys.tell(PhysicalKey::v, false);
+    EXPECT_TRUE(computer.store->shortcutTaken());
+    computer.hotKeys.tell(PhysicalKey::v, true);
+    EXPECT_FALSE(computer.store->shortcutTaken());
     computer.hotKeys.takenByOthers = {PhysicalKey::p};
     EXPECT_FALSE(choose(ctrlOptP));
     EXPECT_THAT(computer.hotKeys.registered, IsEmpty());

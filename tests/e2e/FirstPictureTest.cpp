@@ -7,6 +7,7 @@ namespace quillon::test {
 
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -14,7 +15,16 @@ class FirstPicture : public EndToEnd {
 protected:
     void SetUp() override {
         EndToEnd::SetUp();
+        write(browser, "#!/bin/sh\n{ echo \"$1\"; env; } > $0.new && mv $0.new $0.seen\n");
+        std::filesystem::permissions(browser, std::filesystem::perms{0755});
+        QProcessEnvironment& given = quillon.environment;
+        given.insert(QStringLiteral("PATH"),
+                     documents.path() + QLatin1Char{':'} + given.value(QStringLiteral("PATH")));
+        for (const char* permission : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
+            given.insert(QLatin1String{permission}, QStringLiteral("permission"));
         program = quillon.start({});
+        for (const char* permission : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
+            given.remove(QLatin1String{permission});
         // The guide comes by itself.
         ASSERT_TRUE(reader.wait("password text", "Bot token"));
     }
@@ -76,6 +86,8 @@ protected:
         EXPECT_EQ(reader.focused().name(), name) << "the keyboard went along " << passed;
     }
 
+    /// Stands for the desktop's browser, and writes down how it was started.
+    const std::filesystem::path browser{documents.path().toStdString() + "/xdg-open"};
     Desk desk;
     ScreenReader reader;
     std::unique_ptr<QProcess> program;
@@ -112,6 +124,12 @@ TEST_F(FirstPicture, WithTheKeyboardAlone) {
 TEST_F(FirstPicture, ThroughAssistiveTechnologyAlone) {
     desk.takePanelAway();
     const auto press = [this](const char* name) { reader.wait("push button", name).press(); };
+    press("Open BotFather");
+    const std::string seen = browser.native() + ".seen";
+    ASSERT_TRUE(waitUntil([&] { return std::filesystem::exists(seen); }));
+    EXPECT_THAT(content(seen),
+                AllOf(HasSubstr("https://t.me/BotFather\n"), Not(HasSubstr("QT_QPA_PLATFORM")),
+                      Not(HasSubstr("permission"))));
     reader.wait("password text", "Bot token").enter("123456789:AAwrong");
     press("Connect");
     EXPECT_TRUE(reader.hears("Telegram didn't accept that bot token."));

@@ -167,6 +167,27 @@ TEST_F(X11HotKeysTest, IsRefusedAsAWholeWhatAnotherProgramHoldsInPart) {
     EXPECT_TRUE(other.grabAll(v)) << "still grabbed";
 }
 
+TEST_F(X11HotKeysTest, TellsOfAKeyThatIsLostAndComesBackAsTheKeyboardChanges) {
+    std::vector<bool> works;
+    hotKeys->observe([&](PhysicalKey /*key*/, bool now) { works.push_back(now); });
+    const auto registration = hotKeys->registerHotKey(PhysicalKey::v);
+    const Client holder{server};
+    ASSERT_TRUE(holder.grabAll(p));
+    // V gets the code that P has had, and P that of V.
+    const QString swap = QStringLiteral("xkbcomp -w0 %1 - | sed 's/<AB04> = 55/<AB04> = 33/; "
+                                        "s/<AD10> = 33/<AD10> = 55/' | xkbcomp -w0 - %1");
+    ASSERT_EQ(QProcess::execute(QStringLiteral("sh"),
+                                {QStringLiteral("-c"), swap.arg(QLatin1String{server.display()})}),
+              0);
+    ASSERT_TRUE(waitUntil([&] { return works.size() == 1; }));
+    EXPECT_FALSE(works[0]);
+    holder.ungrabAll();
+    setLayout(QStringLiteral("us"));
+    ASSERT_TRUE(waitUntil([&] { return works.size() == 2; }));
+    EXPECT_TRUE(works[1]);
+    EXPECT_EQ(pressesBy({control, alt, v}), 1);
+}
+
 TEST_F(X11HotKeysTest, HearsAHeldKeyOnce) {
     const auto registration = hotKeys->registerHotKey(PhysicalKey::v);
     for (const xcb_keycode_t code : {control, alt, v})

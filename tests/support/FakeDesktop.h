@@ -6,6 +6,7 @@
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 
+#include <QGuiApplication>
 #include <QPromise>
 #include <QWindow>
 
@@ -119,6 +120,11 @@ public:
         ++handlersInstalled;
         handler_ = std::move(handler);
     }
+    void observe(std::function<void(PhysicalKey, bool)> observer) override {
+        observer_ = std::move(observer);
+    }
+    /// As after a change of the keyboard.
+    void tell(PhysicalKey key, bool works) const { observer_(key, works); }
     [[nodiscard]] std::unique_ptr<Registration> registerHotKey(PhysicalKey key) override {
         // Like the real ones, refuses what this process itself holds.
         if (takenByOthers.contains(key) || registered.contains(key)) return nullptr;
@@ -138,6 +144,7 @@ private:
     };
 
     std::function<void()> handler_;
+    std::function<void(PhysicalKey, bool)> observer_;
 };
 
 /// A login item in memory, which can refuse.
@@ -164,6 +171,7 @@ class FakeWorkspace : public Workspace {
 public:
     std::vector<std::filesystem::path> running;
     bool trashWorks = true;
+    QScreen* screen = QGuiApplication::primaryScreen();
     /// What happened, in order: "trash PATH", "list PATH", "exit 0"...
     std::vector<std::string> log;
 
@@ -186,6 +194,8 @@ public:
         window.raise();
         window.requestActivate();
     }
+    void keepOffTaskBar(QWindow& /*window*/) override { log.emplace_back("off the task bar"); }
+    [[nodiscard]] QScreen* screenInUse() const override { return screen; }
     void openAfterExit(const std::filesystem::path& application) override {
         log.push_back("open " + application.native());
     }

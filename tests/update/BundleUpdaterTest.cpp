@@ -235,8 +235,10 @@ TEST_F(BundleUpdaterTest, TellsOfASkippedVersionOnlyWhoAsks) {
     user.choice = UpdateChoice::skip;
     EXPECT_THAT(pass(10s), ElementsAre("update 1.0 1.1 What is new gently"));
     EXPECT_THAT(pass(24h), IsEmpty());
+    EXPECT_EQ(delegate.showings, 0) << "comes to the front, though nobody has asked";
     user.choice = UpdateChoice::later;
     EXPECT_THAT(checkNow(), ElementsAre("checking", "update 1.0 1.1 What is new"));
+    EXPECT_EQ(delegate.showings, 1);
     source.publish("1.2");
     EXPECT_THAT(pass(24h), ElementsAre("update 1.0 1.2 What is new gently"));
     EXPECT_THAT(pass(24h), ElementsAre("update 1.0 1.2 What is new gently")); // it was "later"

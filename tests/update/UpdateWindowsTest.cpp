@@ -61,10 +61,13 @@ TEST(UpdateWindows, GivesTheAnswerOfEachWayOutOfAWindow) {
         leave();
         EXPECT_EQ(await(answer), time);
     }
-    const std::pair<Way, bool> permissions[] = {{[] { type(Qt::Key_Return); }, true},
+    const std::pair<Way, bool> permissions[] = {{[] { press("Check Automatically"); }, true},
                                                 {closeWindow, false}};
     for (const auto& [leave, granted] : permissions) {
         const auto answer = windows.askPermission();
+        type(Qt::Key_Return); // meant for another program
+        EXPECT_FALSE(answer.isFinished());
+        EXPECT_TRUE(shownWindow()->testAttribute(Qt::WA_ShowWithoutActivating));
         leave();
         EXPECT_EQ(await(answer), granted);
     }

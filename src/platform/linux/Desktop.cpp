@@ -21,10 +21,12 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
     // Before the application, which would end the process where no X server answers.
     desktop.pasteboard = X11Pasteboard::open(nullptr);
     if (!desktop.pasteboard) return std::nullopt;
-    // Qt is to work on the X server, where the banner and the shortcut are, even if the desktop
-    // offers Wayland as well; unless the user wants it otherwise.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
-    desktop.application = makeApplication<QApplication>();
+    // The banner and the shortcut are on the X server. The user may want it otherwise.
+    desktop.application =
+        makeApplication<QApplication>(!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"));
+    // The permission to come to the front is this program's, not that of programs it will start.
+    for (const char* const permission : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
+        qunsetenv(permission);
     QApplication::setQuitOnLastWindowClosed(false);
     desktop.compositor = std::make_unique<X11Compositor>();
     if (needs == DesktopNeeds::clipboardAndBanner) return desktop;

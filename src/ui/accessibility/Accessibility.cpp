@@ -1,5 +1,6 @@
 #include "ui/accessibility/Accessibility.h"
 
+#include "base/ShownText.h"
 #include "ui/accessibility/View.h"
 
 #include <QDialog>
@@ -10,6 +11,10 @@ QAccessible::Role ContainerDescription::role() const {
     if (qobject_cast<QDialog*>(widget())) return QAccessible::Dialog;
     if (widget()->isWindow()) return QAccessible::Window;
     return text(QAccessible::Name).isEmpty() ? QAccessible::Client : QAccessible::Grouping;
+}
+
+QString ContainerDescription::text(QAccessible::Text kind) const {
+    return shortened(QAccessibleWidget::text(kind));
 }
 
 bool ContainerDescription::decorates(const QAccessibleInterface* part) {

@@ -30,6 +30,8 @@ public:
     explicit ContainerDescription(QWidget* widget) : QAccessibleWidget{widget} {}
 
     [[nodiscard]] QAccessible::Role role() const override;
+    /// What the widget has been given, shortened() if it comes from outside and is very long.
+    [[nodiscard]] QString text(QAccessible::Text kind) const override;
     [[nodiscard]] int childCount() const override { return static_cast<int>(parts().size()); }
     [[nodiscard]] QAccessibleInterface* child(int index) const override {
         return parts().value(index);

@@ -1,5 +1,6 @@
 #include "ui/accessibility/View.h"
 
+#include "base/ShownText.h"
 #include "ui/accessibility/Accessibility.h"
 
 #include <QDialog>
@@ -21,8 +22,9 @@ public:
     }
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
-        const QString given = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && given.isEmpty() ? view_->accessibleText() : given;
+        const QString given = ContainerDescription::text(kind);
+        if (kind != QAccessible::Name || !given.isEmpty()) return given;
+        return shortened(view_->accessibleText());
     }
 
     [[nodiscard]] QAccessible::State state() const override {

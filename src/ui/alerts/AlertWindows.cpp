@@ -4,7 +4,7 @@
 #include "platform/Workspace.h"
 #include "ui/controls/Answer.h"
 #include "ui/controls/MessageWindow.h"
-#include "ui/text/TextViews.h"
+#include "ui/controls/TextViews.h"
 
 namespace quillon {
 

@@ -1,5 +1,7 @@
 #include "ui/controls/TextField.h"
 
+#include "base/ShownText.h"
+
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QPainter>
@@ -20,6 +22,7 @@ constexpr double leastWidth = 80;
 TextField::TextField() {
     // The style draws nothing but the text. (With a style sheet, Qt would keep the first colours.)
     setFrame(false);
+    setMaxLength(longestShown);
     QPalette bare;
     bare.setColor(QPalette::Base, Qt::transparent);
     setPalette(bare);

@@ -1,5 +1,6 @@
 #include "ui/panel/PanelView.h"
 
+#include "base/ShownText.h"
 #include "maintenance/Updater.h"
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
@@ -12,9 +13,10 @@
 #include "ui/panel/SetupCard.h"
 #include "ui/text/IconLabel.h"
 
+#include <QCoroFuture>
 #include <QPointer>
-#include <QThreadPool>
 #include <QVBoxLayout>
+#include <QtConcurrentRun>
 
 #include <algorithm>
 #include <chrono>
@@ -32,6 +34,22 @@ constexpr int spacing = 14;
 /// The room above and below the texts of the footer's buttons.
 constexpr int footerRoom = 3;
 constexpr std::chrono::seconds tickInterval{1};
+
+/// A text of more bytes than this is summed up on another thread.
+constexpr std::size_t largeText = 100'000;
+
+/// Whether summing the content up and freeing its memory takes milliseconds.
+bool isLarge(const ClipContent& content) {
+    const auto* const text = std::get_if<ClipText>(&content);
+    return std::holds_alternative<ClipImage>(content) || (text && text->text.size() > largeText);
+}
+
+/// The line of a summary may be as long as the clipboard; no more of it is kept than shows.
+Clipboard::Summary shownSummary(const ClipContent& content) {
+    Clipboard::Summary summary = Clipboard::summary(content);
+    summary.line = shortened(QString::fromStdString(summary.line)).toStdString();
+    return summary;
+}
 
 TextButton* footerButton(const QString& text, const char* symbol) {
     return new TextButton{text, symbol, {.kind = ButtonKind::borderless, .style = Text::callout}};
@@ -163,14 +181,19 @@ QCoro::Task<> PanelView::readClipboard() {
     const QPointer<PanelView> self{this};
     ClipContent content = co_await Clipboard::read(platform_.pasteboard);
     if (!self) co_return;
+    const bool empty = std::holds_alternative<ClipEmpty>(content);
+    if (isLarge(content)) {
+        const QFuture<Clipboard::Summary> work =
+            QtConcurrent::run([large = std::move(content)] { return shownSummary(large); });
+        Clipboard::Summary summary = co_await work;
+        if (!self) co_return;
+        clip_ = std::move(summary);
+    } else {
+        clip_ = shownSummary(content);
+    }
     reading_ = false;
-    readAt_ = count;
-    if (std::holds_alternative<ClipEmpty>(content)) readAt_.reset();
-    clip_ = Clipboard::summary(content);
+    readAt_ = empty ? std::nullopt : std::optional{count};
     refresher_.schedule();
-    // Freeing the memory of a large picture takes milliseconds, so another thread does it.
-    if (std::holds_alternative<ClipImage>(content))
-        QThreadPool::globalInstance()->start([gone = std::move(content)] {});
 }
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 
 #include "platform/Compositor.h"
 #include "platform/Workspace.h"
+#include "ui/controls/ScrollView.h"
 #include "ui/panel/PanelPlacement.h"
 #include "ui/panel/PanelView.h"
 #include "ui/theme/Theme.h"
@@ -11,7 +12,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -43,14 +43,7 @@ void PanelWindow::makePanel() {
     // This is decided once, because a window cannot change its colour depth.
     setAttribute(Qt::WA_TranslucentBackground, compositor_.active());
     panel_ = makePanel_().release();
-    scroll_ = new QScrollArea;
-    scroll_->setFrameShape(QFrame::NoFrame);
-    scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll_->setWidgetResizable(true);
-    scroll_->setFocusPolicy(Qt::NoFocus);
-    scroll_->viewport()->setAutoFillBackground(false);
-    scroll_->setWidget(panel_);
-    panel_->setAutoFillBackground(false);
+    scroll_ = new ScrollView{panel_};
     panel_->installEventFilter(this);
     auto* const column = new QVBoxLayout{this};
     column->setContentsMargins(1, 1, 1, 1);
@@ -69,7 +62,11 @@ void PanelWindow::open(const QRect& icon) {
     icon_ = icon;
     pointer_ = QCursor::pos();
     place();
-    show();
+    if (!isVisible()) {
+        create();
+        workspace_.keepOffTaskBar(*windowHandle());
+        show();
+    }
     workspace_.bringToFront(*windowHandle());
     panel_->focusMainAction();
 }

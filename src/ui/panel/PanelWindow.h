@@ -7,12 +7,11 @@
 #include <functional>
 #include <memory>
 
-class QScrollArea;
-
 namespace quillon {
 
 class Compositor;
 class PanelView;
+class ScrollView;
 class Workspace;
 
 /// The small window of the panel. It opens beside the icon that was clicked, and closes on Escape,
@@ -47,7 +46,7 @@ private:
     Workspace& workspace_;
     MakePanel makePanel_;
     PanelView* panel_ = nullptr;
-    QScrollArea* scroll_ = nullptr;
+    ScrollView* scroll_ = nullptr;
     QRect icon_;
     QPoint pointer_;
     /// The time since the window closed because it lost the focus.

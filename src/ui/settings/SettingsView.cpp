@@ -2,13 +2,13 @@
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Card.h"
+#include "ui/controls/ScrollView.h"
 #include "ui/settings/GeneralView.h"
 #include "ui/settings/TabStrip.h"
 #include "ui/settings/TopicsView.h"
 #include "ui/setup/SetupView.h"
 #include "ui/text/IconLabel.h"
 
-#include <QScrollArea>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -74,21 +74,13 @@ void SettingsView::build() {
     auto* stack = new QVBoxLayout{pages_};
     stack->setContentsMargins(0, 0, 0, 0);
     pages_->installEventFilter(this);
-    scroll_ = new QScrollArea;
-    scroll_->setFrameShape(QFrame::NoFrame);
-    scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll_->setWidgetResizable(true);
-    scroll_->setFocusPolicy(Qt::NoFocus);
-    scroll_->setWidget(pages_);
-    scroll_->viewport()->setAutoFillBackground(false);
-    pages_->setAutoFillBackground(false);
     auto* column = new QVBoxLayout{this};
     column->setContentsMargins(0, Space::small, 0, 0);
     column->setSpacing(0);
     column->addWidget(tabs_, 0, Qt::AlignHCenter);
     column->addSpacing(Space::small);
     column->addWidget(new Divider);
-    column->addWidget(scroll_, 1);
+    column->addWidget(new ScrollView{pages_}, 1);
     column->addWidget(offer_);
     offer_->hide();
 }

@@ -6,8 +6,6 @@
 
 #include <vector>
 
-class QScrollArea;
-
 namespace quillon {
 
 class SetupView;
@@ -64,7 +62,6 @@ private:
     TabStrip* tabs_;
     QWidget* pages_;
     std::vector<QWidget*> pageList_;
-    QScrollArea* scroll_ = nullptr;
     QWidget* offer_;
     int reported_ = 0;
     Refresher measuring_;

@@ -53,7 +53,7 @@ void TopicRow::setTopic(const Topic& topic) {
     setDescription(*name_, rule(topic));
     rule_->setText(rule(topic));
     // What the user is typing is already the topic's name, so that this is a name from elsewhere.
-    const QString name = QString::fromStdString(topic.name);
+    const QString name = QString::fromStdString(topic.name).left(name_->maxLength());
     shown_ = name;
     if (name_->text() != name) name_->setText(name);
 }

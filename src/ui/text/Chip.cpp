@@ -1,6 +1,7 @@
 #include "ui/text/Chip.h"
 
 #include "artwork/Colors.h"
+#include "base/ShownText.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -21,17 +22,16 @@ constexpr TextStyle chipText{12, QFont::Medium};
 
 } // namespace
 
-Chip::Chip(QString text, QColor color) : text_{std::move(text)}, color_{color} {
+Chip::Chip(const QString& text, QColor color) : text_{shortened(text)}, color_{color} {
     setAccessibleRole(QAccessible::StaticText);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
 void Chip::setChip(const QString& text, QColor color) {
-    const bool renamed = text != text_;
-    text_ = text;
+    const QString before = std::exchange(text_, shortened(text));
     color_ = color;
     themeChanged();
-    if (renamed) announceText();
+    if (text_ != before) announceText();
 }
 
 QSize Chip::sizeHint() const {

@@ -10,7 +10,7 @@ class Chip : public View {
     Q_OBJECT
 
 public:
-    Chip(QString text, QColor color);
+    Chip(const QString& text, QColor color);
     void setChip(const QString& text, QColor color);
 
     [[nodiscard]] QSize sizeHint() const override;

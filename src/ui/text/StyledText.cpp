@@ -1,11 +1,13 @@
 #include "ui/text/StyledText.h"
 
+#include "base/ShownText.h"
+
 #include <QStringList>
 
 namespace quillon {
 
 StyledText::StyledText(const QString& plain) {
-    if (!plain.isEmpty()) runs_.push_back({.text = plain});
+    if (!plain.isEmpty()) runs_.push_back({.text = shortened(plain)});
 }
 
 QString StyledText::plain() const {

@@ -8,7 +8,8 @@
 namespace quillon {
 
 /// A text of which some parts are bold. A QString becomes one that is shown as it is, whatever
-/// stars are in it; only markedUp() makes bold parts.
+/// stars are in it, and shortened() if it is longer than any text should be; only markedUp() makes
+/// bold parts.
 class StyledText {
 public:
     struct Run {

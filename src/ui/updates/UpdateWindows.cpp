@@ -4,7 +4,7 @@
 #include "ui/controls/Card.h"
 #include "ui/controls/MessageWindow.h"
 #include "ui/controls/ProgressBar.h"
-#include "ui/text/TextViews.h"
+#include "ui/controls/TextViews.h"
 #include "ui/updates/ReleaseNotes.h"
 
 #include <QLocale>
@@ -100,9 +100,12 @@ QFuture<bool> UpdateWindows::askPermission() {
         tr("Check for updates automatically?"),
         tr("Quillon can look for a new version once a day. You can change this in its settings at "
            "any time, or check by hand."));
-    permission_->addButton(tr("Check Automatically"), Place::primary,
-                           [answer] { answer.give(true); });
+    TextButton* const check = permission_->addButton(tr("Check Automatically"), Place::primary,
+                                                     [answer] { answer.give(true); });
     permission_->setEscape(permission_->addButton(tr("Don't Check"), Place::secondary));
+    // Nobody has asked for this window; its keys may be meant for another program.
+    check->setDefault(false);
+    permission_->setAttribute(Qt::WA_ShowWithoutActivating);
     permission_->show();
     return answer.future();
 }

@@ -2,10 +2,13 @@
 
 #include "platform/linux/x11/X11Compositor.h"
 #include "platform/linux/x11/X11Connection.h"
+#include "platform/linux/x11/X11Screen.h"
 #include "support/Await.h"
 #include "support/XServer.h"
 
 #include <QApplication>
+#include <QWidget>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -82,6 +85,41 @@ TEST(X11Compositor, IsActiveWhileACompositingManagerRuns) {
     manager.own("_NET_WM_CM_S0");
     EXPECT_TRUE(waitUntil([&] { return compositor.active(); }));
     EXPECT_TRUE(X11Compositor{}.active()) << "one that was there before";
+}
+
+TEST(X11Screen, IsThatOfTheActiveWindowWhereThereIsOne) {
+    QWidget window;
+    window.setGeometry(20, 20, 100, 100);
+    window.show();
+    xcb_connection_t* const xcb = qtConnection();
+    const auto screenWith = [xcb](std::initializer_list<xcb_window_t> active) {
+        xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, rootWindow(xcb),
+                            internAtom(xcb, "_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 32,
+                            static_cast<std::uint32_t>(active.size()), active.begin());
+        return screenOfActiveWindow();
+    };
+    const auto id = static_cast<xcb_window_t>(window.winId());
+    EXPECT_EQ(screenOfActiveWindow(), nullptr) << "nobody tells";
+    EXPECT_EQ(screenWith({XCB_WINDOW_NONE}), nullptr);
+    EXPECT_EQ(screenWith({id + 1'000}), nullptr) << "it has gone";
+    EXPECT_EQ(screenWith({id}), window.screen());
+}
+
+TEST(X11Screen, AWindowStaysOffTheTaskBarEachTimeItShows) {
+    QWidget window{nullptr, Qt::Tool | Qt::WindowStaysOnTopHint};
+    window.winId();
+    for (int showing = 0; showing < 2; ++showing) {
+        keepOffTaskBar(*window.windowHandle());
+        window.show();
+        QCoreApplication::processEvents();
+        QProcess xprop;
+        xprop.start(QStringLiteral("xprop"),
+                    {QStringLiteral("-id"), QString::number(window.winId()),
+                     QStringLiteral("_NET_WM_STATE")});
+        EXPECT_TRUE(xprop.waitForFinished());
+        EXPECT_TRUE(xprop.readAll().contains("SKIP_TASKBAR, _NET_WM_STATE_SKIP_PAGER, "));
+        window.hide();
+    }
 }
 
 } // namespace quillon::test

@@ -1,6 +1,15 @@
 #include "artwork/Colors.h"
+#include "support/Await.h"
 #include "support/Controls.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/ScrollView.h"
+#include "ui/controls/TextViews.h"
+#include "ui/text/Chip.h"
 #include "ui/text/IconLabel.h"
+
+#include <QElapsedTimer>
+#include <QScrollBar>
+#include <QVBoxLayout>
 
 #include <gmock/gmock.h>
 
@@ -35,6 +44,62 @@ TEST(IconLabel, ALongNameLosesItsMiddleOnTheScreenButIsReadWhole) {
     EXPECT_THAT(middle.shownText().toStdString(), EndsWith("…"));
     middle.resize(middle.sizeHint());
     EXPECT_EQ(middle.shownText(), name) << "it asks for the room it needs";
+}
+
+TEST(Views, CutAnEndlessTextBeforeTheyLayItOutAndTell) {
+    const QString endless = QStringLiteral("words without an end ").repeated(500'000);
+    QElapsedTimer time;
+    time.start();
+    QWidget window;
+    auto* column = new QVBoxLayout{&window};
+    for (const Overflow overflow : {Overflow::wrap, Overflow::elideEnd, Overflow::elideMiddle})
+        column->addWidget(new IconLabel{endless, {}, {.overflow = overflow}});
+    column->addWidget(new Chip{endless, Qt::red});
+    auto* button = new ContentButton;
+    button->setAccessibleDescription(endless);
+    column->addWidget(button);
+    auto* message = new MessageText{endless, 300};
+    column->addWidget(message);
+    const Controls controls{window};
+    window.grab();
+    EXPECT_LT(time.elapsed(), 1000);
+    for (const std::string& text : controls.seen())
+        EXPECT_LE(QString::fromStdString(text).size(), 10'001);
+    EXPECT_LE(accessible(*button).text(QAccessible::Description).size(), 1'001);
+    EXPECT_THAT(message->toPlainText().toStdString(), EndsWith("an end "));
+}
+
+TEST(ScrollView, ShowsWhatTheKeyboardIsLedToFromAnywhere) {
+    QWidget window;
+    auto* content = new QWidget;
+    auto* rows = columnIn(content, 0);
+    std::vector<TextButton*> buttons(20);
+    for (TextButton*& button : buttons)
+        rows->addWidget(button = new TextButton{QStringLiteral("row")});
+    auto* view = new ScrollView{content};
+    auto* outside = new TextButton{QStringLiteral("outside")};
+    auto* column = columnIn(&window, 0);
+    column->addWidget(outside);
+    column->addWidget(view);
+    window.resize(200, 200);
+    window.show();
+    ASSERT_TRUE(waitUntil([&] { return window.isActiveWindow(); }));
+    const auto inSight = [&](int row) {
+        QCoreApplication::processEvents();
+        const TextButton& button = *buttons.at(static_cast<std::size_t>(row));
+        return button.visibleRegion().boundingRect() == button.rect();
+    };
+    outside->setFocus();
+    EXPECT_FALSE(inSight(19));
+    QTest::keyClick(outside, Qt::Key_Backtab);
+    EXPECT_TRUE(inSight(19)) << "by the Tab key, from outside";
+    buttons[10]->setFocus(Qt::OtherFocusReason);
+    EXPECT_TRUE(inSight(10)) << "by the program";
+    rows->insertSpacing(0, 150);
+    EXPECT_TRUE(inSight(10)) << "also when it moves";
+    view->verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMinimum);
+    rows->insertSpacing(0, 10);
+    EXPECT_FALSE(inSight(10)) << "unless the user has scrolled on";
 }
 
 TEST(IconLabel, GrowsDownwardsAsItBecomesNarrower) {

@@ -1,5 +1,6 @@
 #include "ui/SettingsWindow.h"
 
+#include "support/Await.h"
 #include "support/FakeDesktop.h"
 
 #include <QApplication>
@@ -73,6 +74,7 @@ TEST_F(SettingsWindowTest, IsNeverLowerThanAtFirst) {
 TEST_F(SettingsWindowTest, FollowsItsContentsHeightFromItsTopEdge) {
     settings.show();
     window().move(30, 40);
+    const int below = window().screen()->availableGeometry().bottom() + 1;
     struct Case {
         double height;
         int becomes;
@@ -84,7 +86,8 @@ TEST_F(SettingsWindowTest, FollowsItsContentsHeightFromItsTopEdge) {
                                   {299.5, 300},
                                   {301, 301},
                                   {50.6, 51},
-                                  {420, 420}};
+                                  {420, 420},
+                                  {9'000, below - 40}}; // the content scrolls
     for (const Case& each : cases) {
         const QSize before = window().size();
         fit(each.height);
@@ -93,6 +96,8 @@ TEST_F(SettingsWindowTest, FollowsItsContentsHeightFromItsTopEdge) {
         EXPECT_EQ(window().pos(), QPoint(30, 40));
         EXPECT_EQ(window().size(), QSize(540, each.becomes)) << each.height;
     }
+    window().move(30, 140);
+    EXPECT_TRUE(waitUntil([&] { return window().height() == below - 140; }));
 }
 
 } // namespace quillon::test

@@ -6,8 +6,10 @@
 #include "platform/linux/desktop/RunningPrograms.h"
 #include "platform/linux/files/Trash.h"
 #include "platform/linux/x11/X11Activation.h"
+#include "platform/linux/x11/X11Screen.h"
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QGuiApplication>
 #include <QTimer>
 #include <QWindow>
@@ -64,6 +66,16 @@ void LinuxWorkspace::activate() {
 
 void LinuxWorkspace::bringToFront(QWindow& window) {
     quillon::bringToFront(window);
+}
+
+void LinuxWorkspace::keepOffTaskBar(QWindow& window) {
+    quillon::keepOffTaskBar(window);
+}
+
+QScreen* LinuxWorkspace::screenInUse() const {
+    if (QScreen* const screen = screenOfActiveWindow()) return screen;
+    QScreen* const pointed = QGuiApplication::screenAt(QCursor::pos());
+    return pointed ? pointed : QGuiApplication::primaryScreen();
 }
 
 void LinuxWorkspace::openAfterExit(const std::filesystem::path& application) {

@@ -17,6 +17,8 @@ public:
     void unlistApplication() override;
     void activate() override;
     void bringToFront(QWindow& window) override;
+    void keepOffTaskBar(QWindow& window) override;
+    [[nodiscard]] QScreen* screenInUse() const override;
     void openAfterExit(const std::filesystem::path& application) override;
     void terminate() override;
     void exitNow(int status) override;

@@ -85,6 +85,10 @@ void X11HotKeys::installHandler(std::function<void()> handler) {
     handler_ = std::move(handler);
 }
 
+void X11HotKeys::observe(std::function<void(PhysicalKey, bool)> observer) {
+    observer_ = std::move(observer);
+}
+
 std::unique_ptr<HotKeys::Registration> X11HotKeys::registerHotKey(PhysicalKey key) {
     // The server would let this client grab the same key twice, and the first release would end
     // both grabs.
@@ -133,8 +137,15 @@ void X11HotKeys::followKeyboard() {
             ungrab(key);
     }
     keyboard_ = std::move(*now);
-    for (auto& [key, grabbed] : keys_)
-        grabbed = (grabbed && !moved) || grab(key);
+    std::map<PhysicalKey, bool> changed;
+    for (auto& [key, grabbed] : keys_) {
+        const bool before = std::exchange(grabbed, (grabbed && !moved) || grab(key));
+        if (grabbed != before) changed[key] = grabbed;
+    }
+    // The observer may register other keys.
+    for (const auto& [key, works] : changed) {
+        if (observer_) observer_(key, works);
+    }
 }
 
 void X11HotKeys::takeEvents() {

@@ -22,6 +22,7 @@ public:
     [[nodiscard]] static std::unique_ptr<X11HotKeys> open(const char* display);
 
     void installHandler(std::function<void()> handler) override;
+    void observe(std::function<void(PhysicalKey key, bool works)> observer) override;
     /// Waits for the server's answer. Also refuses a key that is registered already.
     [[nodiscard]] std::unique_ptr<Registration> registerHotKey(PhysicalKey key) override;
 
@@ -32,7 +33,8 @@ private:
 
     [[nodiscard]] bool grab(PhysicalKey key);
     void ungrab(PhysicalKey key);
-    /// Reads the keyboard again and moves the grabs to where the keys are now.
+    /// Reads the keyboard again and moves the grabs to where the keys are now. Tells of each that
+    /// has been lost or has come back.
     void followKeyboard();
 
     void takeEvents();
@@ -46,6 +48,7 @@ private:
     X11Keyboard keyboard_;
     std::uint8_t xkbEvent_;
     std::function<void()> handler_;
+    std::function<void(PhysicalKey, bool)> observer_;
     /// The registered keys, and whether they are grabbed. After a change of layout, another program
     /// may hold a key's new combination.
     std::map<PhysicalKey, bool> keys_;

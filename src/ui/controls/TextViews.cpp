@@ -1,4 +1,7 @@
-#include "ui/text/TextViews.h"
+#include "ui/controls/TextViews.h"
+
+#include "base/ShownText.h"
+#include "ui/controls/ScrollBar.h"
 
 #include <QDesktopServices>
 #include <QImage>
@@ -14,11 +17,14 @@ namespace {
 
 /// The greatest height of a message, in points of the design.
 constexpr double highestMessage = 260;
+/// The longest message, in UTF-16 units: some pages, laid out in 10 ms.
+constexpr qsizetype longestMessage = 10'000;
 
 } // namespace
 
 ReadOnlyText::ReadOnlyText() {
     setFrameShape(QFrame::NoFrame);
+    useOwnScrollBars(*this);
     viewport()->setAutoFillBackground(false);
     setOpenLinks(false);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -58,8 +64,9 @@ QVariant ReadOnlyText::loadResource(int /*type*/, const QUrl& /*name*/) {
 
 MessageText::MessageText(const QString& text, double width) : width_{width} {
     document()->setDocumentMargin(0);
-    setPlainText(text);
-    setAccessibleName(text);
+    const QString message = shortened(text, longestMessage);
+    setPlainText(message);
+    setAccessibleName(message);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     fit();
 }
