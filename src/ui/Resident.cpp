@@ -108,7 +108,7 @@ DesktopActions Resident::desktopActions() {
 }
 
 void Resident::start(std::string_view wanted) {
-    platform_.loginItem.follow(platform_.bundle.executable);
+    platform_.loginItem.followIfLost(platform_.bundle.executable);
     core_.analytics.start();
     updater_.start();
     QObject::connect(&core_.store, &Store::shortcutPressed, &core_.store,

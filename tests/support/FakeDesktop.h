@@ -6,6 +6,7 @@
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 
+#include <QPromise>
 #include <QWindow>
 
 #include <map>
@@ -39,10 +40,11 @@ public:
     void removeAll() override { values.clear(); }
 };
 
-/// A keyring in memory that can be away.
+/// A keyring in memory that can be away, or wait for a user who does not come.
 class FakeSecrets : public SecretStore {
 public:
     bool available = true;
+    bool silent = false; ///< when asked to remove something
     std::map<std::pair<std::string, std::string>, std::string> values;
 
     [[nodiscard]] QFuture<bool> save(KeychainItem item, std::string value) override {
@@ -58,9 +60,13 @@ public:
         return available && values.contains({item.service, item.account});
     }
     [[nodiscard]] QFuture<bool> remove(KeychainItem item) override {
+        if (silent) return (never_.start(), never_.future());
         if (available) values.erase({item.service, item.account});
         return QtFuture::makeReadyFuture(!values.contains({item.service, item.account}));
     }
+
+private:
+    QPromise<bool> never_;
 };
 
 /// A keyboard that the test presses, with keys that others may hold.
@@ -116,6 +122,7 @@ public:
         return !refuses;
     }
     void follow(const std::filesystem::path& executable) override { followed = executable; }
+    void followIfLost(const std::filesystem::path& /*executable*/) override {}
 };
 
 /// A desktop that does as it is told and remembers it.
