@@ -35,7 +35,7 @@ QCoro::Task<int> send(CommandContext context, Arguments /*arguments*/) {
     SendProgress progress = [console = context.console](qint64 sent, qint64 total) {
         console->progress(translate("Send", "Sending…"), sent, total);
     };
-    co_await context.core.store.sendClipboard(Trigger::command, std::move(progress));
+    co_await context.core.store.sendClipboard(Trigger::command, std::move(progress), context.stop);
     context.console->endProgress();
 
     const std::vector<Sent>& history = context.core.store.history();

@@ -22,23 +22,26 @@ using namespace std::chrono_literals;
 /// After this long the banner says that the send is under way.
 constexpr std::chrono::milliseconds patience = 700ms;
 
-/// Sends the items of the content one after another, in their order.
-QCoro::Task<std::vector<SentItem>> sendItems(ClipContent content, Sending sending) {
+/// Sends the items of the content one after another, in their order, until it is to stop.
+QCoro::Task<std::vector<SentItem>> sendItems(ClipContent content, Sending sending,
+                                             std::stop_token stop) {
     std::vector<SentItem> items;
     if (auto* text = std::get_if<ClipText>(&content)) {
         items.push_back(co_await sendText(std::move(*text), sending));
     } else if (auto* image = std::get_if<ClipImage>(&content)) {
         items.push_back(co_await sendImage(std::move(*image), sending));
     } else if (const auto* files = std::get_if<ClipFiles>(&content)) {
-        for (const std::filesystem::path& path : files->paths)
+        for (const std::filesystem::path& path : files->paths) {
+            if (stop.stop_requested()) break;
             items.push_back(co_await sendFile(path, sending));
+        }
     }
     co_return items;
 }
 
 } // namespace
 
-QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress) {
+QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress, std::stop_token stop) {
     if (busy_ || preparing_) co_return;
     preparing_ = true;
     const auto prepared = qScopeGuard([this] { preparing_ = false; });
@@ -46,6 +49,7 @@ QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress) {
     std::optional<Recipient> to = co_await recipient();
     if (!to) co_return refuseToSend();
     ClipContent content = co_await Clipboard::read(platform_.pasteboard);
+    if (stop.stop_requested()) co_return;
     if (std::holds_alternative<ClipEmpty>(content)) {
         const Clipboard::Summary empty = Clipboard::summary(content);
         co_return show({.text = empty.line, .symbol = empty.symbol, .ok = false});
@@ -60,7 +64,8 @@ QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress) {
     });
     Sending sending{
         .platform = platform_, .recipient = *std::move(to), .progress = std::move(progress)};
-    const std::vector<SentItem> items = co_await sendItems(std::move(content), std::move(sending));
+    const std::vector<SentItem> items =
+        co_await sendItems(std::move(content), std::move(sending), stop);
     slow.reset();
 
     std::vector<SendInfo> infos;

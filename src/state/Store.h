@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -80,7 +81,9 @@ public:
 
     /// Sends what is on the clipboard. Reports by banner, sound and history; never throws. Ignored
     /// while another send runs. `progress` is told on the main thread how far an upload has come.
-    [[nodiscard]] QCoro::Task<> sendClipboard(Trigger via, SendProgress progress = {});
+    /// After a request to stop, no further item is sent.
+    [[nodiscard]] QCoro::Task<> sendClipboard(Trigger via, SendProgress progress = {},
+                                              std::stop_token stop = {});
 
     // The actions of the setup. One works at a time, the others wait for it in their order.
 
