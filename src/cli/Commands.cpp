@@ -12,8 +12,10 @@
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
 #include "platform/linux/desktop/LinuxBundle.h"
+#include "update/Installation.h"
 
 #include <QCoroFuture>
+#include <QtConcurrentRun>
 
 #include <algorithm>
 #include <array>
@@ -151,12 +153,26 @@ public:
     }
 };
 
+QCoro::Task<> removeWhatUpdatesLeft(Platform& platform) {
+    const QFuture<void> removing =
+        QtConcurrent::run(removeLeftovers, platform.bundle, platform.folders);
+    co_await removing;
+}
+
 QCoro::Task<int> uninstall(CommandContext context, Arguments /*arguments*/) {
     TerminalAlerts alerts;
-    Uninstaller uninstaller{context.platform, context.core.store, context.core.analytics, alerts};
-    const std::function<void()> tell = [console = context.console] {
-        console->print(translate(
-            "Command", "Quillon and all it has stored are gone; the app is in the Trash"));
+    Uninstaller uninstaller{
+        context.platform, context.core.store, context.core.analytics, alerts,
+        [&platform = context.platform] { return removeWhatUpdatesLeft(platform); }};
+    const std::function<void(bool)> tell = [console = context.console](bool tokenRemoved) {
+        if (tokenRemoved) {
+            console->print(translate(
+                "Command", "Quillon and all it has stored are gone; the app is in the Trash"));
+            return;
+        }
+        console->print(translate("Command", "The app is in the Trash"));
+        console->printError(
+            translate("Command", "The keyring still holds the bot's token, for it is locked."));
     };
     co_await uninstaller.run(tell);
     // Not reached: run() ends the process.

@@ -4,16 +4,20 @@
 #include "maintenance/AppMover.h"
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
+#include "platform/Sleep.h"
 #include "platform/Workspace.h"
 #include "ui/panel/PanelView.h"
 #include "ui/settings/SettingsView.h"
 #include "update/BundleUpdater.h"
 
+#include "update/Installation.h"
 #include <QApplication>
 #include <QFontMetrics>
+#include <QCoroFuture>
 #include <QTimer>
 
 #include <chrono>
+#include <QtConcurrentRun>
 #include <iostream>
 #include <tuple>
 #include <utility>
@@ -63,7 +67,8 @@ Resident::Resident(Platform& platform, Compositor& compositor, Alerts& alerts, A
       lock_{std::move(lock)},
       core_{platform, &compositor},
       updater_{platform, core_.analytics, hooks(platform, mover, updateWindows_)},
-      uninstaller_{platform, core_.store, core_.analytics, alerts},
+      uninstaller_{platform, core_.store, core_.analytics, alerts,
+                   [this] { return dropUpdates(); }},
       settingsWindow_{platform.workspace,
                       [this](const SettingsWindow::Fit& fit) { return makeSettings(fit); }},
       panelWindow_{compositor, platform.workspace, [this] { return makePanel(); }},
@@ -104,7 +109,22 @@ TrayActions Resident::trayActions() {
 DesktopActions Resident::desktopActions() {
     return {.showSettings = [this] { settingsWindow_.show(); },
             .showPanel = [this] { panelWindow_.open(trayIcon_.place()); },
-            .send = [this] { std::ignore = core_.store.sendClipboard(Trigger::button); }};
+            .send = [this] { std::ignore = core_.store.sendClipboard(Trigger::button); },
+            .dropUpdate =
+                [this] {
+                    if (updater_.controller()) std::ignore = updater_.controller()->abandon();
+                }};
+}
+
+QCoro::Task<> Resident::dropUpdates() {
+    constexpr std::chrono::milliseconds interval{50};
+    UpdateFramework* const framework = updater_.controller();
+    while (framework && !framework->abandon()) {
+        co_await sleep(platform_.clock, interval);
+    }
+    const QFuture<void> removing =
+        QtConcurrent::run(removeLeftovers, platform_.bundle, platform_.folders);
+    co_await removing;
 }
 
 void Resident::start(std::string_view wanted) {
@@ -121,7 +141,8 @@ void Resident::start(std::string_view wanted) {
     if (core_.store.shortcutTaken())
         std::cerr << PanelView::takenText(core_.store.config().shortcut).toStdString() << std::endl;
     if (!core_.store.isReady()) settingsWindow_.show();
-    service_->serve({platform_, core_, nullptr}, desktopActions());
+    service_->serve({.platform = platform_, .core = core_, .console = nullptr, .stays = true},
+                    desktopActions());
     if (!wanted.empty()) service_->wishByName(QString::fromStdString(std::string{wanted}), {});
     QTimer::singleShot(quietMoment, &core_.store, loadFont);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &core_.store,

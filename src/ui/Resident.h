@@ -44,6 +44,8 @@ private:
     [[nodiscard]] TrayActions trayActions();
     [[nodiscard]] DesktopActions desktopActions();
 
+    /// Forgets an update that waits, and removes what updates have left on the disk.
+    [[nodiscard]] QCoro::Task<> dropUpdates();
     Platform& platform_;
     FolderLock lock_;
     Core core_;
