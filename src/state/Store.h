@@ -49,6 +49,11 @@ public:
     /// Changes the settings in place, as setConfig does.
     void changeConfig(const std::function<void(Config&)>& change);
 
+    /// Takes over the settings that somebody else has written to config.json; what cannot be read
+    /// changes nothing. False while an action is at work, which they would change under its hands:
+    /// ask again later.
+    bool rereadConfig();
+
     /// Newest first.
     [[nodiscard]] const std::vector<Sent>& history() const { return history_; }
     /// True while a send runs.

@@ -6,18 +6,20 @@
 #include "platform/Platform.h"
 #include "platform/Sleep.h"
 #include "platform/Workspace.h"
+#include "ui/controls/MessageWindow.h"
 #include "ui/panel/PanelView.h"
 #include "ui/settings/SettingsView.h"
 #include "update/BundleUpdater.h"
-
 #include "update/Installation.h"
+
 #include <QApplication>
-#include <QFontMetrics>
 #include <QCoroFuture>
+#include <QFontMetrics>
+#include <QPointer>
 #include <QTimer>
+#include <QtConcurrentRun>
 
 #include <chrono>
-#include <QtConcurrentRun>
 #include <iostream>
 #include <tuple>
 #include <utility>
@@ -25,6 +27,9 @@
 namespace quillon {
 
 namespace {
+
+/// Most commands are done with the data within this.
+constexpr std::chrono::milliseconds quietWait{700};
 
 /// The icon is in its place this long after the start.
 constexpr std::chrono::milliseconds quietMoment{100};
@@ -34,6 +39,22 @@ constexpr std::chrono::milliseconds quietMoment{100};
 void loadFont() {
     [[maybe_unused]] const int width =
         QFontMetrics{QApplication::font()}.horizontalAdvance(QLatin1Char('Q'));
+}
+
+/// Tells what the start waits for. Its button ends the program.
+QWidget* showWaiting(Platform& platform) {
+    auto* const window = new MessageWindow{
+        QCoreApplication::translate("Resident", "Quillon is waiting"),
+        QCoreApplication::translate("Resident",
+                                    "Another Quillon is at work, such as a command that sends. "
+                                    "This one starts as soon as it is done.")};
+    window->setWindowTitle(QStringLiteral("Quillon"));
+    window->setEscape(window->addButton(QCoreApplication::translate("Resident", "Quit"),
+                                        MessageWindow::Place::secondary,
+                                        [&platform] { platform.workspace.terminate(); }));
+    window->show();
+    platform.workspace.bringToFront(*window->windowHandle());
+    return window;
 }
 
 UpdaterHooks hooks(Platform& platform, AppMover& mover, UpdateWindows& windows) {
@@ -55,8 +76,12 @@ QCoro::Task<std::unique_ptr<Resident>> Resident::claim(Platform& platform, Compo
         std::make_unique<CommandService>([&platform] { platform.workspace.terminate(); });
     if (service->publish() == CommandService::Publication::takenByAnother)
         co_return std::unique_ptr<Resident>{};
-    std::optional<FolderLock> lock = co_await takeDataLock(platform, dataLockPatience);
-    if (!lock) co_return std::unique_ptr<Resident>{};
+    std::optional<FolderLock> lock = co_await takeDataLock(platform, quietWait);
+    if (!lock) {
+        const QPointer<QWidget> notice = showWaiting(platform);
+        lock = co_await takeDataLock(platform, std::chrono::milliseconds::max());
+        delete notice;
+    }
     co_return std::unique_ptr<Resident>{
         new Resident{platform, compositor, alerts, mover, std::move(service), *std::move(lock)}};
 }
@@ -66,6 +91,7 @@ Resident::Resident(Platform& platform, Compositor& compositor, Alerts& alerts, A
     : platform_{platform},
       lock_{std::move(lock)},
       core_{platform, &compositor},
+      configWatch_{platform, core_.store},
       updater_{platform, core_.analytics, hooks(platform, mover, updateWindows_)},
       uninstaller_{platform, core_.store, core_.analytics, alerts,
                    [this] { return dropUpdates(); }},
