@@ -195,8 +195,9 @@ TEST_F(BundleUpdaterTest, InstallsOnQuitAndUntilThenOffersToDoSoNow) {
 TEST_F(BundleUpdaterTest, OffersNothingThatAnotherProcessHasInstalled) {
     user.choice = UpdateChoice::install;
     checkNow();
-    const auto folder = computer.platform.bundle.url.parent_path();
-    place(application("1.1"), folder); // while the same version waits here
+    // As another process does, while the same version waits here.
+    std::filesystem::remove_all(computer.platform.bundle.url);
+    place(application("1.1"), computer.platform.bundle.url.parent_path());
     EXPECT_THAT(checkNow(), ElementsAre("checking", "installed 1.1"));
     source.publish("1.2");
     EXPECT_THAT(checkNow(), ElementsAre("checking", "update 1.1 1.2 What is new", "preparing 1.2",
