@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
     switch (invocation->command->where) {
     case Where::here:
         Terminal::printText(textOf(*invocation));
-        return exitDone;
+        return Terminal::settled(exitDone);
     case Where::residentOnly:
         if (const auto code = RemoteProgram::run(*invocation)) return *code;
         runByAbsolutePath(argv);

@@ -50,7 +50,8 @@ struct Command {
     Where where = Where::dataHolder;
     bool onlyReads = false;
     DesktopNeeds needs = DesktopNeeds::nothing;
-    /// Whether it waits for another process that is at work on the data, or fails at once.
+    /// Whether it waits for another process that is at work on the data, or for another command in
+    /// the program that stays; else it fails at once.
     bool waitsItsTurn = true;
     /// Works on the program's objects and gives the exit code; throws a TelegramError whose message
     /// is for the user. Null for what the program that stays does in its own way, and for texts.

@@ -11,9 +11,11 @@
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
 #include "platform/linux/desktop/LinuxBundle.h"
+#include "update/Installation.h"
 
 #include <QCoroFuture>
 #include <QScopeGuard>
+#include <QtConcurrentRun>
 
 #include <algorithm>
 #include <array>
@@ -35,7 +37,7 @@ QCoro::Task<int> send(CommandContext context, Arguments /*arguments*/) {
     SendProgress progress = [console = context.console](qint64 sent, qint64 total) {
         console->progress(translate("Send", "Sending…"), sent, total);
     };
-    co_await context.core.store.sendClipboard(Trigger::command, std::move(progress));
+    co_await context.core.store.sendClipboard(Trigger::command, std::move(progress), context.stop);
     context.console->endProgress();
 
     const std::vector<Sent>& history = context.core.store.history();
@@ -159,12 +161,26 @@ public:
     }
 };
 
+QCoro::Task<> removeWhatUpdatesLeft(Platform& platform) {
+    const QFuture<void> removing =
+        QtConcurrent::run(removeLeftovers, platform.bundle, platform.folders);
+    co_await removing;
+}
+
 QCoro::Task<int> uninstall(CommandContext context, Arguments /*arguments*/) {
     TerminalAlerts alerts;
-    Uninstaller uninstaller{context.platform, context.core.store, context.core.analytics, alerts};
-    const std::function<void()> tell = [console = context.console] {
-        console->print(translate(
-            "Command", "Quillon and all it has stored are gone; the app is in the Trash"));
+    Uninstaller uninstaller{
+        context.platform, context.core.store, context.core.analytics, alerts,
+        [&platform = context.platform] { return removeWhatUpdatesLeft(platform); }};
+    const std::function<void(bool)> tell = [console = context.console](bool tokenRemoved) {
+        if (tokenRemoved) {
+            console->print(translate(
+                "Command", "Quillon and all it has stored are gone; the app is in the Trash"));
+            return;
+        }
+        console->print(translate("Command", "The app is in the Trash"));
+        console->printError(
+            translate("Command", "The keyring still holds the bot's token, for it is locked."));
     };
     co_await uninstaller.run(tell);
     // Not reached: run() ends the process.

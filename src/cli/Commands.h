@@ -3,6 +3,7 @@
 #include "cli/CommandLine.h"
 
 #include <memory>
+#include <stop_token>
 
 namespace quillon {
 
@@ -15,6 +16,10 @@ struct CommandContext {
     Platform& platform;
     Core& core;
     std::shared_ptr<Console> console;
+    /// Asks the command to leave what it has not begun; whoever gave it does not wait any more.
+    std::stop_token stop{};
+    /// Whether this is the program that stays.
+    bool stays = false;
 };
 
 /// Carries out a command that has an action, and gives the exit code. A failure is printed as error

@@ -1,5 +1,11 @@
 #include "cli/Detach.h"
 
+#include "cli/RemoteProgram.h"
+#include "cli/Terminal.h"
+#include "platform/linux/Application.h"
+
+#include <QCoreApplication>
+
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -13,8 +19,6 @@
 namespace quillon {
 
 namespace {
-
-constexpr int killedBySignal = 128;
 
 /// Reads the code that the child sends; false when the child ended without sending one.
 bool readExitCode(int pipe, int& exitCode) {
@@ -31,7 +35,11 @@ int waitFor(pid_t child) {
     int status = 0;
     while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
     }
-    return WIFEXITED(status) ? WEXITSTATUS(status) : killedBySignal + WTERMSIG(status);
+    if (WIFEXITED(status)) return WEXITSTATUS(status);
+    // Something has killed it, such as the system for want of memory.
+    const auto speaker = makeApplication<QCoreApplication>();
+    Terminal::printError(RemoteProgram::endedEarlyMessage());
+    return EXIT_FAILURE;
 }
 
 } // namespace

@@ -9,8 +9,8 @@ namespace quillon {
 class Detach {
 public:
     /// Runs `work` in a child process. Returns its exit code as soon as the child has called
-    /// release() or ended; a child that is killed gives 128 plus the signal's number. The child is
-    /// killed when this process is killed before that. Call it while the process has one thread.
+    /// release() or ended; for a child that is killed it prints a sentence and gives 1. The child
+    /// is killed when this process is killed before that. Call it while the process has one thread.
     static int run(const std::function<int(Detach&)>& work);
 
     /// Called by the child: its work is done, and the caller may go on with this exit code. The

@@ -13,9 +13,13 @@
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
 #include <QEventLoop>
+#include <QTimer>
 
+#include <chrono>
+#include <functional>
 #include <limits>
 #include <string_view>
+#include <thread>
 #include <utility>
 
 #include <sys/mman.h>
@@ -25,11 +29,35 @@ namespace quillon::RemoteProgram {
 
 namespace {
 
+using namespace std::chrono_literals;
+
 /// The running program may have to wait for the user's keyring, or for a slow network.
 constexpr int noTimeout = std::numeric_limits<int>::max();
 
 /// In milliseconds. A program that does not hang answers at once.
 constexpr int activationTimeout = 4000;
+
+/// The same for a command, which is told that the program hangs; and how often it asks.
+constexpr std::chrono::milliseconds silenceLimit = 5s;
+
+/// How often to look whether the program has ended.
+constexpr std::chrono::milliseconds quitInterval = 20ms;
+
+/// A connection to the session bus for one command. Over the connection that Qt shares, nothing
+/// comes in until the event loop has turned under the application object that opened it: after a
+/// short-lived one like a command's, the program that stays would be deaf for good.
+class Line {
+public:
+    Line() : bus{QDBusConnection::connectToBus(QDBusConnection::SessionBus, name())} {}
+    Line(const Line&) = delete;
+    Line& operator=(const Line&) = delete;
+    ~Line() { QDBusConnection::disconnectFromBus(name()); }
+
+    QDBusConnection bus;
+
+private:
+    static QString name() { return QStringLiteral("command"); }
+};
 
 QDBusMessage message(const char* method, const char* interface = interfaceName) {
     QDBusMessage call =
@@ -55,13 +83,12 @@ class ProgressListener : public QObject {
     Q_OBJECT
 
 public:
-    explicit ProgressListener(TerminalConsole& console) : console_{console} {
-        QDBusConnection::sessionBus().connect(
-            QLatin1String{busName}, QLatin1String{objectPath}, QLatin1String{interfaceName},
-            QStringLiteral("Progress"), this, SLOT(progress(QString, qlonglong, qlonglong)));
-        QDBusConnection::sessionBus().connect(
-            QLatin1String{busName}, QLatin1String{objectPath}, QLatin1String{interfaceName},
-            QStringLiteral("Notice"), this, SLOT(notice(QString)));
+    ProgressListener(QDBusConnection bus, TerminalConsole& console) : console_{console} {
+        bus.connect(QLatin1String{busName}, QLatin1String{objectPath}, QLatin1String{interfaceName},
+                    QStringLiteral("Progress"), this,
+                    SLOT(progress(QString, qlonglong, qlonglong)));
+        bus.connect(QLatin1String{busName}, QLatin1String{objectPath}, QLatin1String{interfaceName},
+                    QStringLiteral("Notice"), this, SLOT(notice(QString)));
     }
 
     Q_SLOT void progress(const QString& activity, qlonglong done, qlonglong total) {
@@ -74,27 +101,64 @@ private:
     TerminalConsole& console_;
 };
 
-/// Calls the running program, however long it takes; the event loop turns meanwhile.
-QDBusMessage answerTo(const QDBusMessage& call) {
-    const QDBusPendingCallWatcher watcher{QDBusConnection::sessionBus().asyncCall(call, noTimeout)};
+/// Asks the running program again and again whether it still answers.
+class Pulse : public QObject {
+public:
+    /// Calls `stopped` when it does not.
+    Pulse(QDBusConnection bus, const std::function<void()>& stopped) : bus_{std::move(bus)} {
+        silence_.setSingleShot(true);
+        silence_.setInterval(silenceLimit);
+        connect(&silence_, &QTimer::timeout, this, stopped);
+        feel();
+    }
+
+private:
+    void feel() {
+        silence_.start();
+        auto* const asked =
+            new QDBusPendingCallWatcher{bus_.asyncCall(message("Ping"), noTimeout), this};
+        connect(asked, &QDBusPendingCallWatcher::finished, this, [this, asked] {
+            // An error, such as that of a version without this method, is an answer, too.
+            asked->deleteLater();
+            silence_.stop();
+            QTimer::singleShot(silenceLimit, this, [this] { feel(); });
+        });
+    }
+
+    QDBusConnection bus_;
+    QTimer silence_;
+};
+
+/// Calls the running program, however long it takes, while the event loop turns. When the program
+/// gives no sign of life meanwhile, the answer is the error TimedOut.
+QDBusMessage answerTo(const QDBusConnection& bus, const QDBusMessage& call) {
+    const QDBusPendingCallWatcher watcher{bus.asyncCall(call, noTimeout)};
     QEventLoop loop;
     QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+    const Pulse pulse{bus, [&loop] { loop.quit(); }};
     if (!watcher.isFinished()) loop.exec();
-    return watcher.reply();
+    return watcher.isFinished() ? watcher.reply()
+                                : call.createErrorReply(QDBusError::TimedOut, QString{});
 }
 
-QDBusMessage handOver(const Invocation& invocation, const QDBusUnixFileDescriptor& input) {
+QDBusMessage handOver(const QDBusConnection& bus, const Invocation& invocation,
+                      const QDBusUnixFileDescriptor& input) {
     QStringList words{QString::fromStdString(std::string{invocation.command->name})};
     for (const std::string& argument : invocation.arguments)
         words << QString::fromStdString(argument);
     QDBusMessage call = message("RunCommand");
     call << words << QVariant::fromValue(input);
-    const QDBusMessage answer = answerTo(call);
+    const QDBusMessage answer = answerTo(bus, call);
     if (QDBusError{answer}.type() != QDBusError::UnknownMethod) return answer;
     // A program from before the last update still runs, and takes one argument at the most.
     QDBusMessage older = message("Run");
     older << words.value(0) << words.value(1) << QVariant::fromValue(input);
-    return answerTo(older);
+    return answerTo(bus, older);
+}
+
+std::string silentMessage() {
+    return translate("Command",
+                     "The Quillon that is running does not answer. End it and try again.");
 }
 
 /// Prints what the command said and gives its exit code. None when the program was gone before the
@@ -104,29 +168,57 @@ std::optional<int> passOn(const QDBusPendingReply<int, QString, QString>& reply,
     if (!reply.isError()) {
         console.printText(reply.argumentAt<1>().toStdString());
         Terminal::printErrorText(reply.argumentAt<2>().toStdString());
-        return reply.argumentAt<0>();
+        return Terminal::settled(reply.argumentAt<0>());
     }
     if (canRepeat && reply.error().type() == QDBusError::ServiceUnknown) return std::nullopt;
-    console.printError(translate("Command", "Quillon ended before it was done."));
+    const bool silent = reply.error().type() == QDBusError::TimedOut;
+    console.printError(silent ? silentMessage() : endedEarlyMessage());
     return exitFailed;
 }
 
-std::optional<int> carryOut(const Invocation& invocation) {
+std::optional<int> carryOut(const QDBusConnection& bus, const Invocation& invocation) {
     TerminalConsole console;
-    const ProgressListener listener{console};
+    const ProgressListener listener{bus, console};
     std::string secret;
     if (const char* const prompt = invocation.command->secretPrompt)
         secret = console.readSecret(translate("Command", prompt)).value_or("");
-    const QDBusMessage answer = handOver(invocation, inMemory(secret));
+    const QDBusMessage answer = handOver(bus, invocation, inMemory(secret));
     console.endProgress();
     // A secret cannot be read from standard input a second time.
     return passOn(answer, console, secret.empty());
 }
 
-int show(const Command& wanted) {
-    if (activate(wanted.name, activationData())) return exitDone;
+bool activateOver(const QDBusConnection& bus, std::string_view wanted,
+                  const QVariantMap& activationData) {
+    QDBusMessage call = message("ActivateAction", "org.freedesktop.Application");
+    call << QString::fromStdString(std::string{wanted}) << QVariantList{} << activationData;
+    return bus.call(call, QDBus::Block, activationTimeout).type() == QDBusMessage::ReplyMessage;
+}
+
+int show(const QDBusConnection& bus, const Command& wanted) {
+    if (activateOver(bus, wanted.name, activationData())) return exitDone;
     Terminal::printError(FolderLock::heldMessage());
     return exitFailed;
+}
+
+bool isRunning(const QDBusConnection& bus) {
+    return bus.interface()->isServiceRegistered(QLatin1String{busName});
+}
+
+/// Has the running program end, and not install the update that it may have. None when it has
+/// ended, or at least answered.
+std::optional<int> quit(const QDBusConnection& bus) {
+    QDBusMessage answer = answerTo(bus, message("QuitWithoutUpdate"));
+    if (QDBusError{answer}.type() == QDBusError::UnknownMethod)
+        answer = answerTo(bus, message("Quit"));
+    if (QDBusError{answer}.type() == QDBusError::TimedOut) {
+        Terminal::printError(silentMessage());
+        return exitFailed;
+    }
+    // It keeps its name to the very end, when what it was preparing is nobody's any more.
+    for (auto waited = 0ms; isRunning(bus) && waited < silenceLimit; waited += quitInterval)
+        std::this_thread::sleep_for(quitInterval);
+    return std::nullopt;
 }
 
 } // namespace
@@ -142,26 +234,26 @@ QVariantMap activationData() {
 }
 
 bool activate(std::string_view wanted, const QVariantMap& activationData) {
-    QDBusMessage call = message("ActivateAction", "org.freedesktop.Application");
-    call << QString::fromStdString(std::string{wanted}) << QVariantList{} << activationData;
-    return QDBusConnection::sessionBus().call(call, QDBus::Block, activationTimeout).type() ==
-           QDBusMessage::ReplyMessage;
+    return activateOver(QDBusConnection::sessionBus(), wanted, activationData);
+}
+
+std::string endedEarlyMessage() {
+    return translate("Command", "Quillon ended before it was done.");
 }
 
 std::optional<int> run(const Invocation& invocation) {
     const auto application = makeApplication<QCoreApplication>();
-    const QDBusConnection bus = QDBusConnection::sessionBus();
+    const Line line;
+    const QDBusConnection& bus = line.bus;
     if (!bus.isConnected()) return std::nullopt;
-    if (!bus.interface()->isServiceRegistered(QLatin1String{busName})) return std::nullopt;
+    if (!isRunning(bus)) return std::nullopt;
     switch (invocation.command->where) {
     case Where::dataHolder:
-        return carryOut(invocation);
+        return carryOut(bus, invocation);
     case Where::residentOnly:
-        return show(*invocation.command);
+        return show(bus, *invocation.command);
     case Where::hereAfterQuit:
-        // The running program still holds the data for a moment.
-        bus.call(message("Quit"));
-        return std::nullopt;
+        return quit(bus);
     case Where::here:
         return std::nullopt;
     }

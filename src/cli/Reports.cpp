@@ -8,6 +8,9 @@
 
 #include <QDateTime>
 
+#include <algorithm>
+#include <utility>
+
 namespace quillon {
 
 namespace {
@@ -37,10 +40,24 @@ std::string botText(const Store& store) {
     return known || !name ? translate("Status", "not connected") : *name;
 }
 
+/// The texts with tabs between, each a column: a tab in one of them would begin another.
+std::string columns(std::vector<std::string> texts) {
+    std::string line;
+    for (std::string& text : texts) {
+        std::ranges::replace(text, '\t', ' ');
+        line += (line.empty() ? "" : "\t") + text;
+    }
+    return line;
+}
+
+std::vector<std::string> sendColumns(const Sent& entry) {
+    return {entry.error ? "failed" : "sent", entry.topic, entry.title};
+}
+
 } // namespace
 
 std::string sendLine(const Sent& entry) {
-    return std::string{entry.error ? "failed" : "sent"} + "\t" + entry.topic + "\t" + entry.title;
+    return columns(sendColumns(entry));
 }
 
 std::string statusText(const Store& store) {
@@ -81,9 +98,10 @@ std::string historyText(const std::vector<Sent>& history) {
     std::string text;
     for (const Sent& entry : history) {
         const QString when = dateTime(entry.date).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-        std::string line = when.toStdString() + "\t" + sendLine(entry);
-        if (entry.error) line += "\t" + *entry.error;
-        text += Terminal::harmless(line) + "\n";
+        std::vector<std::string> line = sendColumns(entry);
+        line.insert(line.begin(), when.toStdString());
+        if (entry.error) line.push_back(*entry.error);
+        text += Terminal::harmless(columns(std::move(line))) + "\n";
     }
     return text;
 }

@@ -9,7 +9,7 @@ namespace quillon {
 
 class Store;
 
-/// "sent" or "failed", topic and title, with tabs between.
+/// "sent" or "failed", topic and title, with tabs between; those within are shown as spaces.
 [[nodiscard]] std::string sendLine(const Sent& entry);
 
 /// What is set up, for people, and as one JSON object: "ready", "tokenSaved", "botName", "chatId",

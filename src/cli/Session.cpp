@@ -51,7 +51,8 @@ QCoro::Task<int> carryOut(Invocation invocation, Platform& platform, const Compo
     }
     Core core{platform, compositor};
     const CommandContext context{platform, core, std::make_shared<TerminalConsole>()};
-    const int code = co_await runCommand(invocation, context);
+    int code = co_await runCommand(invocation, context);
+    code = Terminal::settled(code);
     lock.reset();
     if (detach == nullptr) co_return code;
     if (showsBanner(core) || core.store.config().playSound) detach->release(code);

@@ -6,6 +6,7 @@
 #include <array>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <iostream>
 
 #include <termios.h>
@@ -90,6 +91,12 @@ void printText(std::string_view text) {
 
 void printErrorText(std::string_view text) {
     std::cerr << text << std::flush;
+}
+
+int settled(int exitCode) {
+    if (std::cout.flush()) return exitCode;
+    printError(translate("Terminal", "The output could not be written."));
+    return EXIT_FAILURE;
 }
 
 std::optional<std::string> readSecret(std::string_view prompt) {

@@ -20,6 +20,10 @@ void printError(std::string_view line);
 void printText(std::string_view text);
 void printErrorText(std::string_view text);
 
+/// The exit code of a command that ended with this one: 1, after a sentence, when something of what
+/// it printed to standard output could not be written.
+[[nodiscard]] int settled(int exitCode);
+
 /// Reads the first line of standard input; on a terminal it shows `prompt` and hides what is typed.
 /// None when nothing comes.
 [[nodiscard]] std::optional<std::string> readSecret(std::string_view prompt);

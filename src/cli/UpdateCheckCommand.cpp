@@ -8,7 +8,11 @@
 #include "update/BundleUpdater.h"
 #include "update/UpdateUserDriver.h"
 
+#include <functional>
 #include <memory>
+#include <optional>
+#include <stop_token>
+#include <string>
 #include <utility>
 
 namespace quillon {
@@ -18,9 +22,14 @@ namespace {
 /// Prints how an update comes along, and answers in place of the user.
 class ConsoleUpdateDriver final : public UpdateUserDriver {
 public:
-    ConsoleUpdateDriver(std::shared_ptr<Console> console, bool install)
+    /// `running` is the version of the program that stays and carries this out; empty where none
+    /// does.
+    ConsoleUpdateDriver(std::shared_ptr<Console> console, std::stop_token stop, bool install,
+                        std::string running)
         : console_{std::move(console)},
-          install_{install} {}
+          stop_{std::move(stop)},
+          install_{install},
+          running_{std::move(running)} {}
 
     [[nodiscard]] int exitCode() const { return exitCode_; }
 
@@ -36,7 +45,9 @@ public:
         console_->print(filled(translate("Command", "Quillon %1 is available."), {offer.version}));
         return QtFuture::makeReadyFuture(UpdateChoice::later);
     }
-    void showPreparing(std::string /*version*/, std::stop_source /*cancel*/) override {}
+    void showPreparing(std::string /*version*/, std::stop_source cancel) override {
+        stopping_.emplace(stop_, [cancel]() mutable { cancel.request_stop(); });
+    }
     void showProgress(UpdateProgress progress) override {
         console_->progress(translate("Command", "Downloading…"), progress.received, progress.total);
     }
@@ -46,6 +57,11 @@ public:
     }
     void showInstalled(std::string version) override {
         console_->print(filled(translate("Command", "Quillon %1 is installed."), {version}));
+        if (running_.empty()) return;
+        console_->print(filled(
+            translate("Command",
+                      "The one that runs is still %1, until you quit it and start it again."),
+            {running_}));
     }
     void showError(UpdateError error) override {
         dismiss();
@@ -57,7 +73,10 @@ public:
 
 private:
     std::shared_ptr<Console> console_;
+    std::stop_token stop_;
     bool install_;
+    std::string running_;
+    std::optional<std::stop_callback<std::function<void()>>> stopping_;
     int exitCode_ = exitDone;
 };
 
@@ -85,7 +104,8 @@ QCoro::Task<int> runUpdateCheck(CommandContext context, bool install) {
     const Bundle& bundle = context.platform.bundle;
     if (!bundle.isApplication() || !bundle.text("SUFeedURL"))
         throw TelegramError{translate("Command", "This copy of Quillon does not update itself.")};
-    ConsoleUpdateDriver driver{context.console, install};
+    ConsoleUpdateDriver driver{context.console, context.stop, install,
+                               context.stays ? bundle.shortVersion() : std::string{}};
     CheckRecorder recorder{context.core.analytics};
     BundleUpdater updater{context.platform, driver, BundleUpdater::Schedule::none};
     if (const auto error = updater.start(recorder)) throw TelegramError{error->description};

@@ -7,17 +7,26 @@
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
 #include "platform/SecretStore.h"
+#include "platform/Sleep.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 #include "state/Store.h"
 
 #include <QCoroFuture>
 
+#include <chrono>
+
 namespace quillon {
 
 namespace {
 
+using namespace std::chrono_literals;
 using std::filesystem::path;
+
+/// A user who is asked to unlock the keyring has this long. The question may be where nobody sees
+/// it, and must not keep everything else from being removed.
+constexpr std::chrono::milliseconds keyringPatience = 30s;
+constexpr std::chrono::milliseconds keyringInterval = 50ms;
 
 /// Tells the user how to finish: by moving the application folder to the trash, or by removing the
 /// package that holds the executable.
@@ -49,11 +58,20 @@ std::array<path, 6> Uninstaller::folders() const {
             folders.state / (id + ".savedState")};
 }
 
-QCoro::Task<> Uninstaller::run(std::function<void()> onTrashed) {
+QCoro::Task<bool> Uninstaller::removeToken() {
+    const QFuture<SecretAnswer> removing = platform_.secrets.remove(botTokenItem());
+    for (auto waited = 0ms; !removing.isFinished(); waited += keyringInterval) {
+        if (waited >= keyringPatience) co_return false;
+        co_await sleep(platform_.clock, keyringInterval);
+    }
+    co_return removing.result() == SecretAnswer::absent;
+}
+
+QCoro::Task<> Uninstaller::run(std::function<void(bool tokenRemoved)> onTrashed) {
     store_.stopPersisting();
     analytics_.stopPersisting();
-    KeychainItem token = botTokenItem();
-    co_await platform_.secrets.remove(std::move(token));
+    co_await dropUpdates_();
+    const bool tokenRemoved = co_await removeToken();
     platform_.loginItem.unregisterItem();
     for (const path& folder : folders()) {
         co_await platform_.trees.remove(folder);
@@ -66,7 +84,7 @@ QCoro::Task<> Uninstaller::run(std::function<void()> onTrashed) {
         trashed = co_await platform_.workspace.trash(platform_.bundle.url);
     }
     if (trashed) {
-        if (onTrashed) onTrashed();
+        if (onTrashed) onTrashed(tokenRemoved);
     } else {
         platform_.workspace.activate();
         Alert alert = applicationStays(platform_.bundle);

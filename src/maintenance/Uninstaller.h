@@ -5,6 +5,7 @@
 #include <array>
 #include <filesystem>
 #include <functional>
+#include <utility>
 
 namespace quillon {
 
@@ -17,25 +18,32 @@ struct Platform;
 /// touched. Outlives its task.
 class Uninstaller {
 public:
-    Uninstaller(Platform& platform, Store& store, Analytics& analytics, Alerts& alerts)
+    /// `dropUpdates` forgets an update that waits, and removes what updates have left on the disk.
+    Uninstaller(Platform& platform, Store& store, Analytics& analytics, Alerts& alerts,
+                std::function<QCoro::Task<>()> dropUpdates)
         : platform_{platform},
           store_{store},
           analytics_{analytics},
-          alerts_{alerts} {}
+          alerts_{alerts},
+          dropUpdates_{std::move(dropUpdates)} {}
 
     /// The places that are removed, in this order. Each lies in this user's data, cache or state
     /// folder, or one level deeper.
     [[nodiscard]] std::array<std::filesystem::path, 6> folders() const;
 
     /// Removes everything, whatever of it fails, and ends the process at once with status 0. Before
-    /// that, calls `onTrashed` if the application went to the trash, and else tells the user.
-    [[nodiscard]] QCoro::Task<> run(std::function<void()> onTrashed = {});
+    /// that, calls `onTrashed` if the application went to the trash, with whether the keyring has
+    /// removed the token, and else tells the user. It waits for the keyring for half a minute.
+    [[nodiscard]] QCoro::Task<> run(std::function<void(bool tokenRemoved)> onTrashed = {});
 
 private:
+    [[nodiscard]] QCoro::Task<bool> removeToken();
+
     Platform& platform_;
     Store& store_;
     Analytics& analytics_;
     Alerts& alerts_;
+    std::function<QCoro::Task<>()> dropUpdates_;
 };
 
 } // namespace quillon

@@ -26,6 +26,9 @@ public:
     /// Lets an existing item start the program from this executable, without changing anything else
     /// of it. Does nothing if there is no item.
     virtual void follow(const std::filesystem::path& executable) = 0;
+    /// The same, but only where the item's own program is gone: a command that still starts
+    /// something is the user's.
+    virtual void followIfLost(const std::filesystem::path& executable) = 0;
 };
 
 } // namespace quillon

@@ -66,6 +66,11 @@ public:
     /// Whether it checks by itself, once a day. Kept from one start to the next.
     [[nodiscard]] virtual bool automaticallyChecksForUpdates() const = 0;
     virtual void setAutomaticallyChecksForUpdates(bool automatically) = 0;
+
+    /// Drops the update that is being prepared or waits to be installed, and does nothing more, for
+    /// the application is about to be removed. False while some of that update still lies on the
+    /// disk; ask again a little later.
+    [[nodiscard]] virtual bool abandon() = 0;
 };
 
 } // namespace quillon

@@ -80,15 +80,17 @@ void Store::abandonAtExit(Store* store) {
     latest = store;
 }
 
-QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress) {
+QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress, std::stop_token stop) {
     if (busy_ || preparing_ || sendingEnded_) co_return;
     preparing_ = true;
     const auto prepared = qScopeGuard([this] { preparing_ = false; });
     sendStop_ = {};
+    const std::stop_callback forward{stop, [this] { stopSending(); }};
 
     std::optional<Recipient> to = co_await recipient();
     if (!to) co_return refuseToSend();
     ClipContent content = co_await Clipboard::read(platform_.pasteboard);
+    if (stop.stop_requested()) co_return;
     if (std::holds_alternative<ClipEmpty>(content)) {
         const Clipboard::Summary empty = Clipboard::summary(content);
         co_return show({.text = empty.line, .symbol = empty.symbol, .ok = false});

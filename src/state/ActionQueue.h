@@ -41,6 +41,9 @@ public:
         return Awaiter{*this};
     }
 
+    /// Whether an action works.
+    [[nodiscard]] bool isTaken() const { return taken_; }
+
 private:
     void next() {
         if (waiting_.empty()) {

@@ -100,6 +100,17 @@ void Store::setConfig(Config config) {
     Q_EMIT configChanged(previous, config_);
 }
 
+bool Store::rereadConfig() {
+    if (busy_ || preparing_ || setupActions_.isTaken()) return false;
+    const auto bytes = readDataFile(platform_, configFile);
+    std::optional<Config> read = bytes ? decodeConfig(asText(*bytes)) : std::nullopt;
+    if (!persist_ || !read || *read == config_) return true;
+    const Config previous = config_;
+    publish(config_, *std::move(read));
+    Q_EMIT configChanged(previous, config_);
+    return true;
+}
+
 void Store::changeConfig(const std::function<void(Config&)>& change) {
     Config changed = config_;
     change(changed);

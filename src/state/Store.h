@@ -69,6 +69,11 @@ public:
     /// full disk: config.json then holds the settings of before.
     [[nodiscard]] bool configSaved() const { return configSaved_; }
 
+    /// Takes over the settings that somebody else has written to config.json; what cannot be read
+    /// changes nothing. False while an action is at work, which they would change under its hands:
+    /// ask again later.
+    bool rereadConfig();
+
     /// Newest first.
     [[nodiscard]] const std::vector<Sent>& history() const { return history_; }
     /// True while a send runs.
@@ -111,7 +116,9 @@ public:
 
     /// Sends what is on the clipboard. Reports by banner, sound and history; never throws. Ignored
     /// while another send runs. `progress` is told on the main thread how far an upload has come.
-    [[nodiscard]] QCoro::Task<> sendClipboard(Trigger via, SendProgress progress = {});
+    /// After a request to stop, no further item is sent.
+    [[nodiscard]] QCoro::Task<> sendClipboard(Trigger via, SendProgress progress = {},
+                                              std::stop_token stop = {});
 
     /// Has the send that runs, if any, send nothing more than what is on its way; the rest goes
     /// into the history as not sent.

@@ -69,6 +69,11 @@ QCoro::Task<Json> Telegram::call(std::string method, Json params, std::optional<
     // The coroutine may outlive this value: it keeps what it needs in its own frame.
     HttpTransport& http = *http_;
     Clock& clock = *clock_;
+    if (!isServerAddress(api_)) {
+        throw TelegramError{translate(
+            "Telegram",
+            "QUILLON_BOT_API is not the address of a server. It looks like http://127.0.0.1:8081")};
+    }
     const std::string url = api_ + "/bot" + token_ + "/" + method;
     if (!isUrlText(url) || token_.find_first_not_of(tokenCharacters) != token_.npos)
         throw TelegramError{translate("Telegram", "That bot token doesn't look right.")};

@@ -1,5 +1,7 @@
 #include "telegram/Url.h"
 
+#include <QUrl>
+
 namespace quillon {
 
 namespace {
@@ -21,6 +23,14 @@ bool isUrlText(std::string_view text) {
         if (digits.size() < 2 || digits.find_first_not_of(hexDigits) != digits.npos) return false;
     }
     return true;
+}
+
+bool isServerAddress(std::string_view text) {
+    const QUrl url{QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
+                   QUrl::StrictMode};
+    const bool web = url.scheme() == u"http" || url.scheme() == u"https";
+    return isUrlText(text) && url.isValid() && web && !url.host().isEmpty() && !url.hasQuery() &&
+           !url.hasFragment();
 }
 
 } // namespace quillon

@@ -8,4 +8,8 @@ namespace quillon {
 /// characters, and percent signs with two hexadecimal digits behind them.
 [[nodiscard]] bool isUrlText(std::string_view text);
 
+/// Whether requests can be sent below this address: http or https with a host, and with neither a
+/// query nor a fragment behind it.
+[[nodiscard]] bool isServerAddress(std::string_view text);
+
 } // namespace quillon

@@ -7,6 +7,8 @@
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 
 #include <array>
 #include <map>
@@ -159,7 +161,20 @@ int CommandService::RunCommand(const QStringList& arguments, const QDBusUnixFile
         return exitUsage;
     }
     setDelayedReply(true);
-    take({.invocation = *invocation, .input = input, .message = message()});
+    Call call{.invocation = *invocation, .input = input, .message = message()};
+    call.caller = std::make_shared<QDBusServiceWatcher>(
+        call.message.service(), connection(), QDBusServiceWatcher::WatchForUnregistration);
+    QObject::connect(call.caller.get(), &QDBusServiceWatcher::serviceUnregistered, this,
+                     [stop = call.stop]() mutable { stop.request_stop(); });
+    // The caller may have given up before this program came to read the call.
+    auto* const asked = new QDBusPendingCallWatcher{
+        connection().interface()->asyncCall(QStringLiteral("NameHasOwner"), call.message.service()),
+        this};
+    QObject::connect(asked, &QDBusPendingCallWatcher::finished, this, [this, asked, call] {
+        asked->deleteLater();
+        const QDBusPendingReply<bool> waits = *asked;
+        if (waits.isError() || waits.value()) take(call);
+    });
     return exitDone;
 }
 
@@ -174,9 +189,14 @@ void CommandService::Quit() {
     quit_();
 }
 
+void CommandService::QuitWithoutUpdate() {
+    if (actions_.dropUpdate) actions_.dropUpdate();
+    quit_();
+}
+
 void CommandService::take(Call call) {
     if (!context_) return early_.push_back(std::move(call));
-    if (call.invocation.onlyReads()) {
+    if (call.invocation.onlyReads() || !call.invocation.command->waitsItsTurn) {
         carryOut(std::move(call));
         return;
     }
@@ -189,6 +209,7 @@ QCoro::Task<> CommandService::work() {
     while (!queue_.empty()) {
         Call call = std::move(queue_.front());
         queue_.pop_front();
+        if (call.stop.stop_requested()) continue;
         co_await carryOut(std::move(call));
     }
     working_ = false;
@@ -198,6 +219,7 @@ QCoro::Task<> CommandService::carryOut(Call call) {
     const auto console = std::make_shared<DistantConsole>(call.input, call.message.service());
     CommandContext context = *context_;
     context.console = console;
+    context.stop = call.stop.get_token();
     const int code = co_await runCommand(call.invocation, context);
     QDBusConnection::sessionBus().send(call.message.createReply(
         {code, QString::fromStdString(console->output), QString::fromStdString(console->errors)}));

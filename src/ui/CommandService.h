@@ -4,13 +4,16 @@
 
 #include <QDBusContext>
 #include <QDBusMessage>
+#include <QDBusServiceWatcher>
 #include <QDBusUnixFileDescriptor>
 #include <QObject>
 #include <QVariantMap>
 
 #include <deque>
 #include <functional>
+#include <memory>
 #include <optional>
+#include <stop_token>
 #include <vector>
 
 namespace quillon {
@@ -20,11 +23,15 @@ struct DesktopActions {
     std::function<void()> showSettings;
     std::function<void()> showPanel;
     std::function<void()> send;
+    /// Forgets the update that waits to be installed. May be empty.
+    std::function<void()> dropUpdate{};
 };
 
 /// Carries out the commands that other processes of the program hand over on the session bus: one
-/// after another those that change something, and at once those that only read. The name on the bus
-/// also makes this program the session's only one.
+/// after another those that change something, and at once those that only read, and those that are
+/// turned away while something is at work. When whoever handed a command over goes away, as after
+/// Ctrl-C, the command is asked to stop. The name on the bus also makes this program the session's
+/// only one.
 class CommandService : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "dev.vostrel.quillon")
@@ -63,12 +70,19 @@ public Q_SLOTS:
     Q_SCRIPTABLE int Run(const QString& command, const QString& argument,
                          const QDBusUnixFileDescriptor& input, QString& output, QString& errors);
     Q_SCRIPTABLE void Quit();
+    /// The same without installing the update that waits: what is removed must not come back.
+    Q_SCRIPTABLE void QuitWithoutUpdate();
+    /// Does nothing; an answer is a sign of life.
+    Q_SCRIPTABLE void Ping() {}
 
 private:
     struct Call {
         Invocation invocation;
         QDBusUnixFileDescriptor input;
         QDBusMessage message;
+        std::stop_source stop{};
+        /// Sees whoever called go away.
+        std::shared_ptr<QDBusServiceWatcher> caller{};
     };
 
     void take(Call call);

@@ -4,14 +4,20 @@
 #include "maintenance/AppMover.h"
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
+#include "platform/Sleep.h"
 #include "platform/Workspace.h"
+#include "ui/controls/MessageWindow.h"
 #include "ui/panel/PanelView.h"
 #include "ui/settings/SettingsView.h"
 #include "update/BundleUpdater.h"
+#include "update/Installation.h"
 
 #include <QApplication>
+#include <QCoroFuture>
 #include <QFontMetrics>
+#include <QPointer>
 #include <QTimer>
+#include <QtConcurrentRun>
 
 #include <chrono>
 #include <iostream>
@@ -21,6 +27,9 @@
 namespace quillon {
 
 namespace {
+
+/// Most commands are done with the data within this.
+constexpr std::chrono::milliseconds quietWait{700};
 
 /// The icon is in its place this long after the start.
 constexpr std::chrono::milliseconds quietMoment{100};
@@ -33,6 +42,22 @@ constexpr std::chrono::milliseconds sendPatience{700};
 void loadFont() {
     [[maybe_unused]] const int width =
         QFontMetrics{QApplication::font()}.horizontalAdvance(QLatin1Char('Q'));
+}
+
+/// Tells what the start waits for. Its button ends the program.
+QWidget* showWaiting(Platform& platform) {
+    auto* const window = new MessageWindow{
+        QCoreApplication::translate("Resident", "Quillon is waiting"),
+        QCoreApplication::translate("Resident",
+                                    "Another Quillon is at work, such as a command that sends. "
+                                    "This one starts as soon as it is done.")};
+    window->setWindowTitle(QStringLiteral("Quillon"));
+    window->setEscape(window->addButton(QCoreApplication::translate("Resident", "Quit"),
+                                        MessageWindow::Place::secondary,
+                                        [&platform] { platform.workspace.terminate(); }));
+    window->show();
+    platform.workspace.bringToFront(*window->windowHandle());
+    return window;
 }
 
 UpdaterHooks hooks(Platform& platform, AppMover& mover, UpdateWindows& windows) {
@@ -54,8 +79,12 @@ QCoro::Task<std::unique_ptr<Resident>> Resident::claim(Platform& platform, Compo
         std::make_unique<CommandService>([&platform] { platform.workspace.terminate(); });
     if (service->publish() == CommandService::Publication::takenByAnother)
         co_return std::unique_ptr<Resident>{};
-    std::optional<FolderLock> lock = co_await takeDataLock(platform, dataLockPatience);
-    if (!lock) co_return std::unique_ptr<Resident>{};
+    std::optional<FolderLock> lock = co_await takeDataLock(platform, quietWait);
+    if (!lock) {
+        const QPointer<QWidget> notice = showWaiting(platform);
+        lock = co_await takeDataLock(platform, std::chrono::milliseconds::max());
+        delete notice;
+    }
     co_return std::unique_ptr<Resident>{
         new Resident{platform, compositor, alerts, mover, std::move(service), *std::move(lock)}};
 }
@@ -65,8 +94,10 @@ Resident::Resident(Platform& platform, Compositor& compositor, Alerts& alerts, A
     : platform_{platform},
       lock_{std::move(lock)},
       core_{platform, &compositor},
+      configWatch_{platform, core_.store},
       updater_{platform, core_.analytics, hooks(platform, mover, updateWindows_)},
-      uninstaller_{platform, core_.store, core_.analytics, alerts},
+      uninstaller_{platform, core_.store, core_.analytics, alerts,
+                   [this] { return dropUpdates(); }},
       settingsWindow_{platform.workspace,
                       [this](const SettingsWindow::Fit& fit) { return makeSettings(fit); }},
       panelWindow_{compositor, platform.workspace, [this] { return makePanel(); }},
@@ -107,11 +138,26 @@ TrayActions Resident::trayActions() {
 DesktopActions Resident::desktopActions() {
     return {.showSettings = [this] { settingsWindow_.show(); },
             .showPanel = [this] { panelWindow_.open(trayIcon_.place()); },
-            .send = [this] { std::ignore = core_.store.sendClipboard(Trigger::button); }};
+            .send = [this] { std::ignore = core_.store.sendClipboard(Trigger::button); },
+            .dropUpdate =
+                [this] {
+                    if (updater_.controller()) std::ignore = updater_.controller()->abandon();
+                }};
+}
+
+QCoro::Task<> Resident::dropUpdates() {
+    constexpr std::chrono::milliseconds interval{50};
+    UpdateFramework* const framework = updater_.controller();
+    while (framework && !framework->abandon()) {
+        co_await sleep(platform_.clock, interval);
+    }
+    const QFuture<void> removing =
+        QtConcurrent::run(removeLeftovers, platform_.bundle, platform_.folders);
+    co_await removing;
 }
 
 void Resident::start(std::string_view wanted) {
-    platform_.loginItem.follow(platform_.bundle.executable);
+    platform_.loginItem.followIfLost(platform_.bundle.executable);
     core_.analytics.start();
     updater_.start();
     QObject::connect(&core_.store, &Store::shortcutPressed, &core_.store,
@@ -124,7 +170,8 @@ void Resident::start(std::string_view wanted) {
     if (core_.store.shortcutTaken())
         std::cerr << PanelView::takenText(core_.store.config().shortcut).toStdString() << std::endl;
     offerSetup();
-    service_->serve({platform_, core_, nullptr}, desktopActions());
+    service_->serve({.platform = platform_, .core = core_, .console = nullptr, .stays = true},
+                    desktopActions());
     if (!wanted.empty()) service_->wishByName(QString::fromStdString(std::string{wanted}), {});
     QTimer::singleShot(quietMoment, &core_.store, loadFont);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &core_.store, [this] {

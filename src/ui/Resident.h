@@ -5,6 +5,7 @@
 #include "maintenance/Uninstaller.h"
 #include "maintenance/Updater.h"
 #include "ui/CommandService.h"
+#include "ui/ConfigWatch.h"
 #include "ui/SettingsWindow.h"
 #include "ui/panel/PanelWindow.h"
 #include "ui/tray/TrayIcon.h"
@@ -21,8 +22,8 @@ class AppMover;
 /// The session's one running program, from its start to its end.
 class Resident {
 public:
-    /// Takes the name on the bus and the data, for which it waits up to dataLockPatience. Null when
-    /// another process keeps either.
+    /// Takes the name on the bus, and the data: while another process has those, it waits, and
+    /// after a moment says so in a window. Null when another program has the name.
     [[nodiscard]] static QCoro::Task<std::unique_ptr<Resident>>
     claim(Platform& platform, Compositor& compositor, Alerts& alerts, AppMover& mover);
 
@@ -45,10 +46,13 @@ private:
     /// Shows the settings window while the setup is not finished.
     QCoro::Task<> offerSetup();
     [[nodiscard]] DesktopActions desktopActions();
+    /// Forgets an update that waits, and removes what updates have left on the disk.
+    [[nodiscard]] QCoro::Task<> dropUpdates();
 
     Platform& platform_;
     FolderLock lock_;
     Core core_;
+    ConfigWatch configWatch_;
     UpdateWindows updateWindows_;
     Updater updater_;
     Uninstaller uninstaller_;

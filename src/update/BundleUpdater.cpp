@@ -3,9 +3,11 @@
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
+#include "platform/linux/desktop/LinuxBundle.h"
 #include "update/Errors.h"
 #include "update/Preparation.h"
 #include "update/UpdateUserDriver.h"
+#include "update/Version.h"
 
 #include <QCoreApplication>
 #include <QCoro/QCoroFuture>
@@ -49,6 +51,11 @@ std::optional<seconds> parseSeconds(const std::string& text) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
     return seconds{value};
+}
+
+/// Whether the version, in the form in which versions are compared, is newer than the bundle.
+bool isNewer(const std::string& version, const Bundle& bundle) {
+    return std::is_gt(compareVersions(version, comparedVersion(bundle)));
 }
 
 } // namespace
@@ -142,11 +149,12 @@ void BundleUpdater::checkForUpdates() {
 }
 
 QCoro::Task<> BundleUpdater::check(UpdateCheck check) {
-    if (!delegate_ || phase_ == Phase::working) co_return;
+    if (!delegate_ || abandoned_ || phase_ == Phase::working) co_return;
     if (phase_ == Phase::waiting) {
         driver_.comeForward();
         co_return;
     }
+    if (prepared_ && !isNewer(prepared_->item.version, present())) dropPrepared();
     if (prepared_) {
         co_await offerInstallation();
     } else if (delegate_->mayPerformUpdateCheck(check)) {
@@ -173,20 +181,22 @@ QCoro::Task<> BundleUpdater::lookForUpdate(UpdateCheck check) {
     // A user who asks is also told of a skipped version.
     const std::string skipped =
         background ? platform_.defaults.text(skippedKey).value_or("") : std::string{};
-    const Bundle& bundle = platform_.bundle;
+    const Bundle bundle = present();
     const FeedItem* newest =
         newestUpdate(std::get<std::vector<FeedItem>>(feed), comparedVersion(bundle),
                      platform_.system.version, skipped);
     if (newest) {
         FeedItem item = *newest;
         co_await offer(std::move(item), background);
+    } else if (!background && isNewer(comparedVersion(bundle), platform_.bundle)) {
+        driver_.showInstalled(bundle.shortVersion());
     } else if (!background) {
         driver_.showUpToDate(bundle.shortVersion());
     }
 }
 
 QCoro::Task<> BundleUpdater::offer(FeedItem item, bool gently) {
-    UpdateOffer offered{.installedVersion = platform_.bundle.shortVersion(),
+    UpdateOffer offered{.installedVersion = present().shortVersion(),
                         .version = item.shortVersion,
                         .notes = item.notes,
                         .gently = gently && delegate_->supportsGentleScheduledUpdateReminders()};
@@ -202,6 +212,7 @@ QCoro::Task<> BundleUpdater::offer(FeedItem item, bool gently) {
 }
 
 QCoro::Task<> BundleUpdater::prepare(FeedItem item) {
+    if (abandoned_) co_return;
     enter(Phase::working);
     stop_ = std::stop_source{};
     driver_.showPreparing(item.shortVersion, stop_);
@@ -217,13 +228,17 @@ QCoro::Task<> BundleUpdater::prepare(FeedItem item) {
     }
     prepared_ = std::get<PreparedUpdate>(std::move(outcome));
     installsOnQuit_ = !delegate_->willInstallUpdateOnQuit();
+    if (abandoned_) {
+        dropPrepared();
+        co_return;
+    }
     co_await offerInstallation();
 }
 
 QCoro::Task<> BundleUpdater::offerInstallation() {
     enter(Phase::waiting);
     const InstallTime time = co_await driver_.showReady(prepared_->item.shortVersion);
-    if (time == InstallTime::onQuit) co_return;
+    if (time == InstallTime::onQuit || !prepared_) co_return;
     enter(Phase::working);
     installNow(time == InstallTime::nowAndRelaunch);
 }
@@ -256,7 +271,20 @@ void BundleUpdater::fail(const UpdateError& error) {
 
 void BundleUpdater::dropPrepared() {
     // Destroying the last copy removes a folder that may hold much.
-    std::ignore = QtConcurrent::run([update = std::exchange(prepared_, std::nullopt)] {});
+    dropping_ = QtConcurrent::run(
+        [update = std::exchange(prepared_, std::nullopt)]() mutable { update.reset(); });
+}
+
+bool BundleUpdater::abandon() {
+    abandoned_ = true;
+    stop_.request_stop();
+    if (prepared_) dropPrepared();
+    return phase_ != Phase::working && dropping_.isFinished();
+}
+
+Bundle BundleUpdater::present() const {
+    Bundle found = bundleAt(platform_.bundle.url);
+    return isNewer(comparedVersion(found), platform_.bundle) ? found : platform_.bundle;
 }
 
 } // namespace quillon

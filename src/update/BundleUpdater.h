@@ -6,6 +6,7 @@
 #include "update/Installation.h"
 
 #include <QCoro/QCoroTask>
+#include <QFuture>
 #include <QObject>
 
 #include <chrono>
@@ -22,7 +23,8 @@ class UpdateUserDriver;
 
 /// Keeps a running application folder up to date, from the feed that its "SUFeedURL" names and with
 /// archives that the owner of its "SUPublicEDKey" has signed. Checks when told to, and once a day
-/// if the user has agreed; it asks for that at the second launch. Must outlive its tasks.
+/// if the user has agreed; it asks for that at the second launch. What another process has
+/// installed meanwhile is not offered again. Must outlive its tasks.
 class BundleUpdater final : public UpdateFramework {
 public:
     enum class Schedule {
@@ -41,6 +43,7 @@ public:
     void checkForUpdates() override;
     [[nodiscard]] bool automaticallyChecksForUpdates() const override;
     void setAutomaticallyChecksForUpdates(bool automatically) override;
+    [[nodiscard]] bool abandon() override;
 
     /// Checks and carries out the user driver's answers to the end. If a question to the user is
     /// open, only brings that to the front; does nothing while a check cannot start.
@@ -70,6 +73,9 @@ private:
     void finishOnQuit();
     void fail(const UpdateError& error);
     void dropPrepared();
+    /// What lies at the running bundle's place now, where another process may have installed a
+    /// newer version.
+    [[nodiscard]] Bundle present() const;
 
     Platform& platform_;
     UpdateUserDriver& driver_;
@@ -83,6 +89,9 @@ private:
     std::stop_source stop_;
     std::optional<PreparedUpdate> prepared_;
     bool installsOnQuit_ = false;
+    bool abandoned_ = false;
+    /// The removal of an update that was dropped.
+    QFuture<void> dropping_;
     /// Destroying this disconnects from the application's signal.
     QObject context_;
 };

@@ -86,16 +86,67 @@ TEST_F(Commands, DoTheSameInTheProgramThatRuns) {
     EXPECT_THAT(quillon.run({"history"}).out, HasSubstr("\tfirst <line>\n")) << "what it did stays";
 }
 
+TEST_F(Commands, FailWhenWhatTheyPrintCannotBeWritten) {
+    const auto expectFailure = [this](const QString& command) {
+        QProcess shell;
+        shell.setProcessEnvironment(quillon.environment);
+        shell.start(QStringLiteral("sh"),
+                    {QStringLiteral("-c"), QStringLiteral("\"$0\" %1 > /dev/full").arg(command),
+                     QString::fromStdString(quillon.executable)});
+        const Finished run = Program::finish(shell);
+        EXPECT_EQ(run.code, 1) << command.toStdString();
+        EXPECT_EQ(run.err, "The output could not be written.\n");
+    };
+    expectFailure(QStringLiteral("--help"));
+    expectFailure(QStringLiteral("status"));
+    const auto program = quillon.start({});
+    EXPECT_TRUE(waitUntil(Program::hasName));
+    expectFailure(QStringLiteral("status"));
+    setUp();
+    clipboard.copyText("a");
+    expectFailure(QStringLiteral("send"));
+    program->terminate();
+    EXPECT_EQ(Program::finish(*program).code, 0);
+    clipboard.copyText("a");
+    expectFailure(QStringLiteral("send"));
+}
+
+TEST_F(Commands, FollowWhatIsWrittenIntoTheSettings) {
+    setUp();
+    const auto program = quillon.start({});
+    ASSERT_TRUE(waitUntil(Program::hasName));
+    const std::string settings = data.path().toStdString() + "/Quillon/config.json";
+    std::string text = content(settings);
+    const std::string name = "Notes & text";
+    text.replace(text.find(name), name.size(), "Scraps");
+    write(settings, text);
+    EXPECT_TRUE(waitUntil(
+        [this] { return quillon.run({"status"}).out.find("📝 Scraps\n") != std::string::npos; }));
+    EXPECT_EQ(quillon.run({"rename-topics"}).code, 0);
+    EXPECT_THAT(sandbox::dumped(phone.view()), HasSubstr("📝 Scraps"));
+    program->terminate();
+    EXPECT_EQ(Program::finish(*program).code, 0);
+    EXPECT_EQ(content(settings), text);
+}
+
+TEST_F(Commands, NameAnAddressOfTheBotApiThatIsNone) {
+    quillon.environment.insert(QStringLiteral("QUILLON_BOT_API"), QStringLiteral("localhost:8081"));
+    expectRun({"connect"}, 1, "",
+              "QUILLON_BOT_API is not the address of a server. It looks like "
+              "http://127.0.0.1:8081\n",
+              token);
+}
+
 TEST_F(Commands, TellOfEachFileWhatBecameOfIt) {
     setUp();
-    clipboard.copyFiles({"# a comment", file("a"), "file:///nowhere/b", file("two\nlines.txt")});
+    clipboard.copyFiles({"# a comment", file("a"), "file:///nowhere/b", file("two\nlines\t.txt")});
     phone.failNext(refusal("sendDocument", 400, "Bad Request: \x1b[31mTOPIC_CLOSED"));
     expectRun({"send"}, 1,
-              "failed\t📎 Files\ta\nfailed\t📎 Files\tb\nsent\t📎 Files\ttwo\uFFFDlines.txt\n",
+              "failed\t📎 Files\ta\nfailed\t📎 Files\tb\nsent\t📎 Files\ttwo\uFFFDlines .txt\n",
               "Bad Request: \uFFFD[31mTOPIC_CLOSED\nCouldn't read b\n");
     const Json history = Json::parse(quillon.run({"history", "--json"}).out);
     ASSERT_THAT(history, SizeIs(3));
-    EXPECT_EQ(history[0]["title"], "two\nlines.txt") << "the newest stands first";
+    EXPECT_EQ(history[0]["title"], "two\nlines\t.txt") << "the newest stands first";
     EXPECT_EQ(history[1]["error"], "Couldn't read b");
     EXPECT_THAT(history[0]["date"].get<std::string>(),
                 MatchesRegex("20..-..-..T..:..:..\\.[0-9]+Z"));

@@ -43,12 +43,20 @@ TEST_F(Failures, AKillLosesNothingThatWasSaved) {
     const std::string status = quillon.run({"status"}).out;
     const std::string history = quillon.run({"history"}).out;
 
-    phone.clearRequests();
-    phone.failNext(fault(sandbox::FaultKind::hang));
-    const auto sending = quillon.start({"send"});
-    EXPECT_TRUE(waitUntil([this] { return !phone.requests().empty(); }));
-    ASSERT_EQ(::kill(static_cast<pid_t>(sending->processId()), SIGKILL), 0);
-    sending->waitForFinished();
+    for (const bool child : {true, false}) {
+        phone.clearRequests();
+        phone.failNext(fault(sandbox::FaultKind::hang));
+        const auto sending = quillon.start({"send"});
+        EXPECT_TRUE(waitUntil([this] { return !phone.requests().empty(); }));
+        const int parent = static_cast<int>(sending->processId());
+        for (const int process : quillon.processes()) {
+            if ((process != parent) == child) ::kill(process, SIGKILL);
+        }
+        const Finished killed = Program::finish(*sending);
+        if (!child) continue;
+        EXPECT_EQ(killed.code, 1) << "as for want of memory";
+        EXPECT_EQ(killed.err, "Quillon ended before it was done.\n");
+    }
     EXPECT_TRUE(waitUntil([this] { return quillon.processes().empty(); }))
         << "its child goes with it";
     EXPECT_EQ(quillon.run({"status"}).out, status);

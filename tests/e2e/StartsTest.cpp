@@ -13,10 +13,50 @@ using namespace std::chrono_literals;
 using testing::SizeIs;
 
 constexpr const char* busyText = "Another Quillon is at work. Quit it, or wait until it is done.\n";
+constexpr const char* silentText =
+    "The Quillon that is running does not answer. End it and try again.\n";
 
-using Starts = EndToEnd;
+using Words = std::vector<std::string>;
+
+class Starts : public EndToEnd {
+protected:
+    /// Copies three files, the first of which meets the fault.
+    void prepareSend(const sandbox::Fault& fault) {
+        setUp();
+        clipboard.copyFiles({file("a"), file("b"), file("c")});
+        phone.failNext(fault);
+    }
+    [[nodiscard]] std::unique_ptr<QProcess> startSend() const {
+        auto sending = quillon.start({"send"});
+        EXPECT_TRUE(waitUntil([this] { return !phone.requests().empty(); }));
+        return sending;
+    }
+};
+
+/// Whether a window of the program, one with a title, is on the screen.
+bool showsWindow() {
+    return QProcess::execute(QStringLiteral("xdotool"),
+                             {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                              QStringLiteral("--name"), QStringLiteral("^Quillon$")}) == 0;
+}
 
 } // namespace
+
+TEST_F(Starts, EachWayGivesAProgramThatAnswers) {
+    setUp();
+    clipboard.copyText("a");
+    for (const Words& way : std::vector<Words>{{}, {"settings"}, {"panel"}}) {
+        SCOPED_TRACE(testing::PrintToString(way));
+        const auto program = quillon.start(way);
+        ASSERT_TRUE(waitUntil(Program::hasName));
+        for (const Words& command :
+             std::vector<Words>{{"status"}, {"history"}, {"send"}, {"panel"}, {}})
+            EXPECT_EQ(quillon.run(command).code, 0) << testing::PrintToString(command);
+        EXPECT_THAT(quillon.processes(), SizeIs(1)) << "it did all of that";
+        program->terminate();
+        EXPECT_EQ(Program::finish(*program).code, 0);
+    }
+}
 
 TEST_F(Starts, TwoAtTheSameMomentLeaveOneProgram) {
     for (int round = 1; round <= 10; ++round) {
@@ -36,29 +76,75 @@ TEST_F(Starts, OneBesideAProgramThatHangsSaysSo) {
     const auto hanging = quillon.start({});
     ASSERT_TRUE(waitUntil(Program::hasName));
     ::kill(static_cast<pid_t>(hanging->processId()), SIGSTOP);
-    const Finished run = quillon.run({});
+    const std::pair<Words, const char*> ways[]{{{}, busyText},
+                                               {{"settings"}, busyText},
+                                               {{"status"}, silentText},
+                                               {{"send"}, silentText},
+                                               {{"uninstall", "--yes"}, silentText}};
+    std::vector<std::unique_ptr<QProcess>> starts;
+    for (const auto& [words, text] : ways)
+        starts.push_back(quillon.start(words));
+    for (std::size_t index = 0; index < starts.size(); ++index) {
+        EXPECT_TRUE(starts[index]->waitForFinished(7000)) << index;
+        const Finished run = Program::finish(*starts[index]);
+        EXPECT_EQ(run.code, 1) << index;
+        EXPECT_EQ(run.err, ways[index].second) << index;
+    }
     ::kill(static_cast<pid_t>(hanging->processId()), SIGCONT);
-    EXPECT_EQ(run.code, 1);
-    EXPECT_EQ(run.err, busyText);
-    EXPECT_LE(run.took, 5s);
     hanging->terminate();
     EXPECT_EQ(Program::finish(*hanging).code, 0);
 }
 
 TEST_F(Starts, OfTwoSendsOneIsTurnedAway) {
-    setUp();
-    clipboard.copyFiles({file("a.txt")});
     sandbox::Fault slow = fault(sandbox::FaultKind::delay);
     slow.delay = 2s;
-    phone.failNext(slow);
+    prepareSend(slow);
     const auto first = quillon.start({"send"});
     const auto second = quillon.start({"send"});
     const auto one = Program::finish(*first);
     const auto other = Program::finish(*second);
     EXPECT_EQ(one.code + other.code, 1);
     EXPECT_EQ(one.err + other.err, busyText);
-    EXPECT_THAT(messages("📎 Files"), SizeIs(1));
-    EXPECT_THAT(Json::parse(quillon.run({"history", "--json"}).out), SizeIs(1));
+    EXPECT_THAT(messages("📎 Files"), SizeIs(3));
+    EXPECT_THAT(Json::parse(quillon.run({"history", "--json"}).out), SizeIs(3));
+}
+
+TEST_F(Starts, ASendInTheProgramThatStaysKeepsNobodyWaitingAndEndsWithWhoGaveIt) {
+    prepareSend(fault(sandbox::FaultKind::hang));
+    const auto program = quillon.start({});
+    ASSERT_TRUE(waitUntil(Program::hasName));
+    const auto sending = startSend();
+    for (const char* command : {"status", "history"})
+        EXPECT_EQ(quillon.run({command}).code, 0) << command;
+    const Finished other = quillon.run({"send"});
+    EXPECT_EQ(other.code, 1);
+    EXPECT_EQ(other.err, "Another send is still running.\n");
+    ::kill(static_cast<pid_t>(sending->processId()), SIGINT);
+    EXPECT_EQ(Program::finish(*sending).code, 128 + SIGINT);
+    // The bus has told the program by the time that it answers this.
+    EXPECT_EQ(quillon.run({"status"}).code, 0);
+    phone.stop();
+    const auto history = [this] { return Json::parse(quillon.run({"history", "--json"}).out); };
+    EXPECT_TRUE(waitUntil([&] { return !history().empty(); }));
+    phone.start();
+    EXPECT_EQ(quillon.run({"send"}).code, 0);
+    EXPECT_THAT(messages("📎 Files"), SizeIs(3));
+    EXPECT_THAT(history(), SizeIs(1 + 3)) << "it went on after the first file";
+    program->terminate();
+    EXPECT_EQ(Program::finish(*program).code, 0);
+}
+
+TEST_F(Starts, OneDuringALongSendSaysOnTheScreenThatItWaits) {
+    prepareSend(fault(sandbox::FaultKind::hang));
+    const auto sending = startSend();
+    const auto program = quillon.start({});
+    EXPECT_TRUE(waitUntil(showsWindow));
+    phone.stop();
+    EXPECT_EQ(Program::finish(*sending).code, 1);
+    EXPECT_TRUE(waitUntil([] { return !showsWindow(); }));
+    EXPECT_EQ(quillon.run({"status"}).code, 0);
+    program->terminate();
+    EXPECT_EQ(Program::finish(*program).code, 0);
 }
 
 } // namespace quillon::test

@@ -210,7 +210,9 @@ TEST_F(WholeLife, FromTheDownloadToTheTrash) {
     EXPECT_EQ(told("updated"), 1);
     EXPECT_THAT(phone.events().back().body, HasSubstr(R"({"from_version":"1.0"})"));
 
-    // It removes itself, with all it has stored.
+    // It removes itself, with all it has stored and what an update that was killed has left.
+    std::filesystem::create_directory(home / "Applications/.Quillon-update-abcdef");
+    write(home / "Applications/.Quillon-update-abcdef/half");
     EXPECT_EQ(quillon.run({"uninstall", "--yes"}).code, 0);
     EXPECT_EQ(Program::finish(*resident).code, 0);
     EXPECT_THAT(residents(), IsEmpty());

@@ -24,12 +24,18 @@ protected:
         write(folder / "inner/file");
     }
     void run() {
-        await(uninstaller.run([&] { computer.workspace.log.emplace_back("trashed"); }));
+        await(uninstaller.run(
+            [&](bool /*tokenRemoved*/) { computer.workspace.log.emplace_back("trashed"); }));
+    }
+    QCoro::Task<> dropUpdates() {
+        computer.workspace.log.emplace_back("drop updates");
+        co_return;
     }
 
     TestComputer computer;
     FakeAlerts alerts;
-    Uninstaller uninstaller{computer.platform, *computer.store, *computer.analytics, alerts};
+    Uninstaller uninstaller{computer.platform, *computer.store, *computer.analytics, alerts,
+                            [this] { return dropUpdates(); }};
     const path bundle = computer.platform.bundle.url;
     const path home = computer.home();
 };
@@ -66,7 +72,7 @@ TEST_F(UninstallerTest, RemovesAllThatIsOursAndNothingElse) {
     EXPECT_TRUE(computer.defaults.values.empty());
     EXPECT_TRUE(alerts.shown.empty());
     EXPECT_EQ(computer.workspace.log,
-              (Log{"unlist", "trash " + bundle.native(), "trashed", "exit 0"}));
+              (Log{"drop updates", "unlist", "trash " + bundle.native(), "trashed", "exit 0"}));
 }
 
 TEST_F(UninstallerTest, LeavesNothingThatWritesAFileAgain) {
@@ -100,7 +106,7 @@ TEST_F(UninstallerTest, GoesOnWhateverFailsAndTellsOnlyWhatIsLeftToTheUser) {
     run();
     EXPECT_FALSE(fs::exists(computer.platform.dataFolder));
     EXPECT_EQ(computer.workspace.log,
-              (Log{"unlist", "trash " + bundle.native(), "activate", "exit 0"}));
+              (Log{"drop updates", "unlist", "trash " + bundle.native(), "activate", "exit 0"}));
     ASSERT_EQ(alerts.shown.size(), 1U);
     EXPECT_THAT(alerts.shown[0].informativeText, testing::HasSubstr("Drag Quillon from"));
 
@@ -109,9 +115,21 @@ TEST_F(UninstallerTest, GoesOnWhateverFailsAndTellsOnlyWhatIsLeftToTheUser) {
     computer.workspace.log.clear();
     computer.platform.bundle.url = "/usr/bin/quillon";
     run();
-    EXPECT_EQ(computer.workspace.log, (Log{"unlist", "activate", "exit 0"}));
+    EXPECT_EQ(computer.workspace.log, (Log{"drop updates", "unlist", "activate", "exit 0"}));
     ASSERT_EQ(alerts.shown.size(), 2U);
     EXPECT_THAT(alerts.shown[1].informativeText, testing::HasSubstr("with your package manager"));
+}
+
+TEST_F(UninstallerTest, DoesNotWaitForEverAtALockedKeyring) {
+    computer.secrets.late = true;
+    std::optional<bool> removed;
+    auto running = uninstaller.run([&](bool tokenRemoved) { removed = tokenRemoved; });
+    computer.clock.advance(std::chrono::seconds{29});
+    EXPECT_EQ(computer.workspace.log, Log{"drop updates"});
+    computer.clock.advance(std::chrono::seconds{2});
+    await(std::move(running));
+    EXPECT_EQ(computer.workspace.log.back(), "exit 0");
+    EXPECT_EQ(removed, false);
 }
 
 } // namespace

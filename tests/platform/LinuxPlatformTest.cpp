@@ -4,6 +4,10 @@
 #include "support/Await.h"
 #include "support/RawServer.h"
 
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
 namespace quillon::test {
 namespace {
 
@@ -52,6 +56,28 @@ TEST(LinuxPlatformTest, SpeaksPlainHttpOnlyToAServerOfTheUsersChoice) {
         EXPECT_EQ(await(platform.platform().http.post(std::move(request))).has_value(), chosen);
     }
     qunsetenv("QUILLON_BOT_API");
+}
+
+TEST(QtUserDefaultsTest, KeepsToItselfAndDoesNotWaitForAPipe) {
+    const QTemporaryDir folder;
+    const std::filesystem::path file = folder.path().toStdString() + "/new/prefs.ini";
+    const auto mode = [&] { return std::filesystem::status(file).permissions(); };
+    constexpr auto own = std::filesystem::perms{0600};
+    QtUserDefaults{file}.setText("a", "1");
+    EXPECT_EQ(mode(), own);
+    std::filesystem::permissions(file, std::filesystem::perms{0644});
+    QtUserDefaults again{file};
+    EXPECT_EQ(mode(), own) << "one of a version before";
+    again.setFlag("b", true);
+    EXPECT_EQ(mode(), own);
+    EXPECT_EQ(QtUserDefaults{file}.text("a"), "1");
+    again.removeAll();
+    ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0);
+    QtUserDefaults piped{file};
+    piped.setText("a", "2");
+    EXPECT_EQ(piped.text("a"), "2");
+    piped.removeAll();
+    EXPECT_TRUE(std::filesystem::is_fifo(file));
 }
 
 } // namespace

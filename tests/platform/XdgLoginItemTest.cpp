@@ -133,6 +133,17 @@ TEST_F(XdgLoginItemTest, ChangesAnEntryNoMoreThanItMust) {
     write("[Desktop Entry]\nName=Q\n\n[Other]\n");
     item.follow(executable);
     EXPECT_EQ(content(), "[Desktop Entry]\nName=Q\nExec=\"" + name + "\"\n\n[Other]\n");
+    // A start changes it only when what it names is gone.
+    for (const std::string& kept : {"sh -c 'sleep 5; quillon'", (home / "other").native()}) {
+        program("other");
+        const std::string own = "[Desktop Entry]\nExec=" + kept + "\nHidden=true\n";
+        write(own);
+        item.followIfLost(executable);
+        EXPECT_EQ(content(), own);
+    }
+    std::filesystem::remove(home / "other");
+    item.followIfLost(executable);
+    EXPECT_THAT(content(), HasSubstr("\nExec=\"" + name + "\"\nHidden=true\n"));
     for (const char* unusable : {"", "Hidden=true\n", "[Desktop Entry]\n"}) {
         write(unusable);
         EXPECT_TRUE(item.registerItem());

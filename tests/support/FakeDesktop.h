@@ -164,6 +164,7 @@ public:
         return !refuses;
     }
     void follow(const std::filesystem::path& executable) override { followed = executable; }
+    void followIfLost(const std::filesystem::path& /*executable*/) override {}
 };
 
 /// A desktop that does as it is told and remembers it.

@@ -25,6 +25,7 @@ public:
     void setAutomaticallyChecksForUpdates(bool automatically) override {
         automatic = automatically;
     }
+    [[nodiscard]] bool abandon() override { return true; }
 };
 
 /// What an updater needs to run on a fake framework, which `framework` leads to once it has

@@ -192,6 +192,37 @@ TEST_F(BundleUpdaterTest, InstallsOnQuitAndUntilThenOffersToDoSoNow) {
     EXPECT_EQ(checks(), 1U);
 }
 
+TEST_F(BundleUpdaterTest, OffersNothingThatAnotherProcessHasInstalled) {
+    user.choice = UpdateChoice::install;
+    checkNow();
+    // As another process does, while the same version waits here.
+    std::filesystem::remove_all(computer.platform.bundle.url);
+    place(application("1.1"), computer.platform.bundle.url.parent_path());
+    EXPECT_THAT(checkNow(), ElementsAre("checking", "installed 1.1"));
+    source.publish("1.2");
+    EXPECT_THAT(checkNow(), ElementsAre("checking", "update 1.1 1.2 What is new", "preparing 1.2",
+                                        "ready 1.2"));
+}
+
+TEST_F(BundleUpdaterTest, LeavesNothingOnceItIsAbandoned) {
+    user.choice = UpdateChoice::install;
+    for (const bool stalls : {false, true}) {
+        source.stalls = stalls;
+        launch();
+        updater->checkForUpdates();
+        const char* const last = stalls ? "preparing 1.1" : "ready 1.1";
+        ASSERT_TRUE(waitUntil([&] { return !user.seen.empty() && user.seen.back() == last; }));
+        EXPECT_TRUE(waitUntil([this] { return updater->abandon(); }));
+        EXPECT_THAT(namesIn(computer.platform.bundle.url.parent_path()),
+                    ElementsAre("Quillon.app"));
+        EXPECT_THAT(namesIn(computer.home() / "cache/dev.vostrel.quillon"), IsEmpty());
+        user.news();
+        quit();
+        EXPECT_THAT(checkNow(), IsEmpty());
+        EXPECT_EQ(installed(), "1.0");
+    }
+}
+
 TEST_F(BundleUpdaterTest, AsksOnceAtTheSecondLaunchAndThenChecksDaily) {
     EXPECT_THAT(pass(72h), IsEmpty()); // the first launch
     launch();

@@ -1,19 +1,41 @@
 #include "platform/linux/QtUserDefaults.h"
 
+#include "platform/linux/files/PosixFileSystem.h"
+
 #include <QFile>
+
+#include <system_error>
 
 namespace quillon {
 
 namespace {
 
+namespace fs = std::filesystem;
+using fs::path;
+
+constexpr fs::perms ownersFile = fs::perms::owner_read | fs::perms::owner_write;
+
 QString toKey(std::string_view key) {
     return QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
 }
 
+/// The file for QSettings, which waits for ever to open a pipe: in the place of what is no file,
+/// one that there cannot be, so that the preferences are in memory alone.
+path usable(const path& file) {
+    std::error_code ignored;
+    const fs::file_type type = fs::status(file, ignored).type();
+    const bool waits = type != fs::file_type::regular && type != fs::file_type::not_found;
+    return waits ? file / "none" : file;
+}
+
 } // namespace
 
-QtUserDefaults::QtUserDefaults(const std::filesystem::path& file)
-    : settings_{QFile::decodeName(file.c_str()), QSettings::IniFormat} {}
+QtUserDefaults::QtUserDefaults(const path& file)
+    : file_{usable(file)},
+      settings_{QFile::decodeName(file_.c_str()), QSettings::IniFormat} {
+    std::error_code ignored;
+    fs::permissions(file_, ownersFile, ignored);
+}
 
 std::optional<std::string> QtUserDefaults::text(std::string_view key) const {
     const QVariant value = settings_.value(toKey(key));
@@ -47,6 +69,13 @@ void QtUserDefaults::removeAll() {
 }
 
 void QtUserDefaults::set(std::string_view key, const QVariant& value) {
+    // QSettings keeps the permissions of a file, and gives a new one those of the user's mask.
+    std::error_code ignored;
+    if (!fs::exists(file_, ignored)) {
+        const PosixFileSystem files;
+        files.createFolder(file_.parent_path());
+        files.write(file_, {});
+    }
     settings_.setValue(toKey(key), value);
     settings_.sync();
 }

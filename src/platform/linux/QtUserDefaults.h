@@ -8,7 +8,8 @@
 
 namespace quillon {
 
-/// Preferences in one INI file, shared with other processes of the program.
+/// Preferences in one INI file, shared with other processes of the program and readable by this
+/// user alone.
 class QtUserDefaults final : public UserDefaults {
 public:
     explicit QtUserDefaults(const std::filesystem::path& file);
@@ -23,6 +24,7 @@ public:
 private:
     void set(std::string_view key, const QVariant& value);
 
+    std::filesystem::path file_;
     QSettings settings_;
 };
 

@@ -97,4 +97,9 @@ void XdgLoginItem::follow(const path& executable) {
     if (entry->text() != before) write(file_, *entry);
 }
 
+void XdgLoginItem::followIfLost(const path& executable) {
+    const auto entry = readEntry(file_);
+    if (entry && !findsProgram(*entry)) follow(executable);
+}
+
 } // namespace quillon

@@ -18,6 +18,7 @@ public:
     bool registerItem() override;
     bool unregisterItem() override;
     void follow(const std::filesystem::path& executable) override;
+    void followIfLost(const std::filesystem::path& executable) override;
 
 private:
     std::filesystem::path file_;
