@@ -13,39 +13,26 @@ TEST(Analytics, WritesEachEventAtOnce) {
     EXPECT_EQ(
         computer.content("events.json"),
         R"([{"name":"probe","at":1700000000000,"props":{"text":"ü","number":-5,"flag":true}}])");
+    computer.setContent("events.json.new-a1B2c3", "[");
+    computer.setContent("events.json.backup", "mine");
     computer.restart();
     computer.analytics->track("second");
+    EXPECT_FALSE(std::filesystem::exists(computer.path("events.json.new-a1B2c3")));
+    EXPECT_TRUE(std::filesystem::exists(computer.path("events.json.backup")));
     EXPECT_THAT(computer.events(),
                 ElementsAre(R"(probe {"text":"ü","number":-5,"flag":true})", "second {}"));
 }
 
-TEST(Analytics, DropsTheOldestBeyondItsLimit) {
-    TestComputer computer;
-    for (std::int64_t number = 0; number < 2005; ++number) {
-        computer.analytics->track("n", {{"number", number}});
-    }
-    const std::vector<std::string> events = computer.events();
-    ASSERT_EQ(events.size(), 2000U);
-    EXPECT_EQ(events.front(), R"(n {"number":5})");
-    EXPECT_EQ(events.back(), R"(n {"number":2004})");
-}
-
-TEST(Analytics, WritesTheEventsOfOneSendAtOnce) {
+TEST(Analytics, WritesTheEventsOfOneSendAtOnceAndDropsTheOldestBeyondItsLimit) {
     TestComputer computer;
     const SendInfo failure{.reason = SendFailure::folder};
-    computer.store->sent(std::vector<SendInfo>(1500, failure), Trigger::button);
-    EXPECT_EQ(computer.events().size(), 1501U);
+    computer.store->sent(std::vector<SendInfo>(2004, failure), Trigger::button);
     EXPECT_EQ(computer.files.writes, 1);
-}
-
-TEST(Analytics, RemovesWhatAKilledProcessLeft) {
-    TestComputer computer;
-    computer.setContent("events.json.new-a1B2c3", "[");
-    computer.setContent("events.json.backup", "mine");
-    computer.restart();
-    computer.analytics->track("next");
-    EXPECT_FALSE(std::filesystem::exists(computer.path("events.json.new-a1B2c3")));
-    EXPECT_TRUE(std::filesystem::exists(computer.path("events.json.backup")));
+    computer.analytics->track("last");
+    const std::vector<std::string> events = computer.events();
+    ASSERT_EQ(events.size(), 2000U);
+    EXPECT_EQ(events.front(), R"(send_failed {"kind":"file","reason":"folder"})");
+    EXPECT_EQ(events.back(), "last {}");
 }
 
 TEST(Analytics, StartsEmptyFromAnUnusableFile) {

@@ -1,5 +1,8 @@
 // What the program does when something that it needs is missing, or when it is killed.
 #include "EndToEnd.h"
+#include "support/Unprivileged.h"
+
+#include <QElapsedTimer>
 
 namespace quillon::test {
 
@@ -63,6 +66,49 @@ TEST_F(Failures, AKillLosesNothingThatWasSaved) {
     EXPECT_EQ(quillon.run({"history"}).out, history);
     EXPECT_EQ(quillon.run({"send"}).code, 0);
     EXPECT_THAT(Json::parse(quillon.run({"history", "--json"}).out), SizeIs(2));
+}
+
+TEST_F(Failures, AFullDiskKeepsTheSetupThatWas) {
+    const std::filesystem::path folder = data.path().toStdString() + "/Quillon";
+    const std::filesystem::path config = folder / "config.json";
+    const Mount disk = Mount::memory(folder, "size=8k");
+    if (!disk) GTEST_SKIP() << "this user may mount nothing";
+    ASSERT_EQ(quillon.run({"connect"}, token).code, 0);
+    phone.userSays(group, "hi");
+    // What the group adds must need another page of the disk.
+    Json settings = Json::parse(content(config));
+    settings["topics"][0]["name"] = std::string(4100 - settings.dump().size(), 'n');
+    const std::string before = settings.dump();
+    ASSERT_LT(before.size(), 4096U);
+    write(config, before);
+    write(folder / "filler", std::string(100'000, 'x'));
+    const Finished run = quillon.run({"find-group"});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.err, "The setup could not be saved. Is there room on the disk?\n");
+    EXPECT_EQ(content(config), before);
+}
+
+TEST_F(Failures, AFileThatHangsDoesNotHoldUpTheEnd) {
+    setUp();
+    const Mount mount = Mount::hanging(documents.path().toStdString());
+    if (!mount) GTEST_SKIP() << "this user may mount nothing";
+    const auto program = quillon.start({});
+    EXPECT_TRUE(waitUntil(Program::hasName));
+    clipboard.copyFiles({"file://" + documents.path().toStdString() + "/a"});
+    const auto sending = quillon.start({"send"});
+    const auto threads =
+        std::filesystem::path{"/proc"} / std::to_string(program->processId()) / "task";
+    EXPECT_TRUE(waitUntil([&] {
+        return std::ranges::any_of(
+            std::filesystem::directory_iterator{threads},
+            [](const auto& thread) { return content(thread.path() / "comm") == "quillon-file\n"; });
+    })) << "nothing reads the file";
+    QElapsedTimer timer;
+    timer.start();
+    program->terminate();
+    EXPECT_EQ(Program::finish(*program).code, 0);
+    EXPECT_LT(timer.elapsed(), 3000) << "a second, and twice that for a machine at work";
+    sending->waitForFinished();
 }
 
 } // namespace quillon::test

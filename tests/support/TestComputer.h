@@ -41,10 +41,9 @@ public:
     void play(Sound sound) override { played.push_back(sound); }
 };
 
-/// The real files, on a disk that counts what is written and can be full.
+/// The real files, with a count of what is replaced.
 class FakeDisk : public PosixFileSystem {
 public:
-    bool full = false;
     mutable int writes = 0;
     /// Stands for every file that is loaded, where there is one.
     std::optional<FileLoading> loading;
@@ -52,14 +51,10 @@ public:
     [[nodiscard]] FileLoading load(std::filesystem::path path, qint64 limit) const override {
         return loading ? *loading : PosixFileSystem::load(std::move(path), limit);
     }
-    bool write(const std::filesystem::path& path, const QByteArray& bytes) const override {
-        ++writes;
-        return !full && PosixFileSystem::write(path, bytes);
-    }
     bool writeAtomically(const std::filesystem::path& path,
                          const QByteArray& bytes) const override {
         ++writes;
-        return !full && PosixFileSystem::writeAtomically(path, bytes);
+        return PosixFileSystem::writeAtomically(path, bytes);
     }
 };
 
