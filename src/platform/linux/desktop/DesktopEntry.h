@@ -10,7 +10,7 @@ namespace quillon {
 
 /// The main group of a desktop entry file, in the format of freedesktop.org's Desktop Entry
 /// standard 1.5. Everything else in the file, such as comments, translations and other groups,
-/// stays as it is.
+/// stays as it is. (GLib's key files refuse a whole file for one line that they do not know.)
 class DesktopEntry {
 public:
     /// Takes any bytes; text that is no entry has no values.

@@ -8,7 +8,8 @@ namespace quillon {
 /// times, extended attributes, symbolic links and hard links. The copy belongs to this process's
 /// user; a set-user or set-group bit that would thereby name somebody else is dropped. Sockets and
 /// devices make it fail. If false, nothing is at `to`: the copy grows beside it and is renamed only
-/// when it is complete and on disk.
+/// when it is complete and on disk. (std::filesystem::copy keeps neither times nor attributes nor
+/// hard links, and would follow a link that takes a folder's place meanwhile.)
 [[nodiscard]] bool copyTree(const std::filesystem::path& from, const std::filesystem::path& to);
 
 /// Renames within one file system to a path where nothing is yet. If false, errno tells why.
