@@ -104,7 +104,8 @@ bool Store::rereadConfig() {
     if (busy_ || preparing_ || setupActions_.isTaken()) return false;
     const auto bytes = readDataFile(platform_, configFile);
     std::optional<Config> read = bytes ? decodeConfig(asText(*bytes)) : std::nullopt;
-    if (!persist_ || !read || *read == config_) return true;
+    // What could not be saved is newer than the file.
+    if (!persist_ || !configSaved_ || !read || *read == config_) return true;
     const Config previous = config_;
     publish(config_, *std::move(read));
     Q_EMIT configChanged(previous, config_);

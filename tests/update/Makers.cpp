@@ -64,7 +64,7 @@ std::vector<Entry> application(const std::string& version, const std::string& id
         {"CFBundleVersion", version},
         {"CFBundleShortVersionString", version},
     };
-    std::string list = "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>";
+    std::string list = R"(<?xml version="1.0"?><plist version="1.0"><dict>)";
     for (const auto& [key, value] : values)
         list += std::string{"<key>"} + key + "</key><string>" + value + "</string>";
     list += "</dict></plist>";

@@ -88,8 +88,10 @@ TEST(FeedTest, LeavesOutWhatCannotBeUsed) {
 TEST(FeedTest, RefusesABrokenFeedWhole) {
     std::string bomb = "<!DOCTYPE rss [<!ENTITY a 'aaaaaaaaaa'>";
     for (char name = 'b'; name < 'k'; ++name) {
-        const std::string before = std::string{"&"} + static_cast<char>(name - 1) + ";";
-        bomb += std::string{"<!ENTITY "} + name + " '" + before + before + before + before + "'>";
+        bomb.append("<!ENTITY ").append(1, name).append(" '");
+        for (int time = 0; time < 4; ++time)
+            bomb.append("&").append(1, static_cast<char>(name - 1)).append(";");
+        bomb.append("'>");
     }
     const std::string whole = feedXml(itemXml(usable("2")));
     std::string deep;

@@ -24,7 +24,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 using Prepared = std::variant<PreparedUpdate, UpdateError>;

@@ -174,10 +174,10 @@ TEST_F(ReadyPanel, NamesTheGroupItIsConnectedTo) {
         {std::nullopt, "Connected · your group"},
         {endless, "Connected · " + endless},
     };
-    for (const auto& [title, status] : cases) {
-        computer.store->changeConfig([&](Config& config) { config.chatTitle = title; });
+    for (const auto& each : cases) {
+        computer.store->changeConfig([&](Config& config) { config.chatTitle = each.first; });
         turn();
-        EXPECT_THAT(seen(), Contains(status));
+        EXPECT_THAT(seen(), Contains(each.second));
     }
     computer.pasteboard.copy({{"UTF8_STRING", QByteArray(20'000'000, 'W')}});
     computer.clock.advance(1s);
