@@ -24,7 +24,7 @@ std::string words(const char* text) {
 const std::string& longReason() {
     static const std::string reason = [] {
         std::string text;
-        while (text.size() < 2'000)
+        while (text.size() < 900)
             text += "The folder /home/anna/Applications/Quillon.app could not be written to. ";
         return text;
     }();

@@ -6,6 +6,7 @@
 #include "support/Await.h"
 #include "support/FakeClock.h"
 #include "support/FakeCompositor.h"
+#include "support/FakeDesktop.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -225,9 +225,11 @@ QPixmap take(const Scene& scene) {
     view.resize(SettingsView::fittingWidth(), std::max(200, view.fittingHeight()));
     QWidget* sheet = view.findChild<UninstallSheet*>();
     const QPixmap picture = pictureOf(sheet ? *sheet : static_cast<QWidget&>(view));
-    // An action that still waits comes to its end, and then forgetting has its turn.
+    // An action that still waits comes to its end, and then the next one has its turn, which has
+    // nothing to rename.
     stage->computer.clock.advance(std::chrono::seconds{3});
     await(stage->computer.store->forgetBot());
+    await(stage->computer.store->renameTopics());
     return picture;
 }
 

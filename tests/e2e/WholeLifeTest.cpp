@@ -185,9 +185,12 @@ TEST_F(WholeLife, FromTheDownloadToTheTrash) {
                   std::filesystem::file_size(shop / second));
     startInstalled();
     const std::vector<int> old = residents();
-    ASSERT_TRUE(waitUntil([&] { return answer("Software Update") && feed.asked(); }, 30s));
-    // The offer takes no Return that may have been meant for another program.
+    // Neither window takes a Return that may have been meant for another program.
     const QString tab = QStringLiteral("Tab");
+    ASSERT_TRUE(waitUntil([&] {
+        return answer("Software Update", {tab, QStringLiteral("Return")});
+    }));
+    ASSERT_TRUE(waitUntil([&] { return feed.asked(); }));
     ASSERT_TRUE(waitUntil([&] {
         return answer("Software Update", {tab, tab, QStringLiteral("Return")});
     }));

@@ -134,9 +134,10 @@ TEST_F(XdgLoginItemTest, ChangesAnEntryNoMoreThanItMust) {
     item.follow(executable);
     EXPECT_EQ(content(), "[Desktop Entry]\nName=Q\nExec=\"" + name + "\"\n\n[Other]\n");
     // A start changes it only when what it names is gone.
-    for (const std::string& kept : {"sh -c 'sleep 5; quillon'", (home / "other").native()}) {
-        program("other");
-        const std::string own = "[Desktop Entry]\nExec=" + kept + "\nHidden=true\n";
+    const std::string other = program("other").native();
+    for (const std::string& kept : {std::string{"sh -c 'sleep 5; quillon'"}, other}) {
+        std::string own = "[Desktop Entry]\nExec=";
+        own.append(kept).append("\nHidden=true\n");
         write(own);
         item.followIfLost(executable);
         EXPECT_EQ(content(), own);

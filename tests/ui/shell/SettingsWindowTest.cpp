@@ -74,7 +74,8 @@ TEST_F(SettingsWindowTest, IsNeverLowerThanAtFirst) {
 TEST_F(SettingsWindowTest, FollowsItsContentsHeightFromItsTopEdge) {
     settings.show();
     window().move(30, 40);
-    const int below = window().screen()->availableGeometry().bottom() + 1;
+    const int frame = window().frameGeometry().height() - window().height();
+    const int below = window().screen()->availableGeometry().bottom() + 1 - frame;
     struct Case {
         double height;
         int becomes;
