@@ -120,10 +120,10 @@ TEST(SetupActions, LeaveASendThatHasBegunItsGroup) {
     computer.sandbox.failNext(flood(1));
     computer.pasteboard.copy({{"text/uri-list", list.c_str()}});
     auto sending = computer.store->sendClipboard(Trigger::button);
-    // What is pending is the banner that tells of a long send, and the wait that the server asks for.
-    ASSERT_TRUE(waitUntil([&] {
-        return !computer.sandbox.requests().empty() && computer.clock.pending() == 2;
-    }));
+    // What is pending is the banner that tells of a long send, and the wait that the server asks
+    // for.
+    ASSERT_TRUE(waitUntil(
+        [&] { return !computer.sandbox.requests().empty() && computer.clock.pending() == 2; }));
     computer.sandbox.userSays(computer.sandbox.addGroup(), "hi");
     await(computer.store->findGroup());
     await(computer.store->createTopics());
