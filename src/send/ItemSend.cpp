@@ -101,7 +101,7 @@ QCoro::Task<SentItem> delivered(SentItem item, Request request, Sending sending)
         item = failedForMemory(std::move(item));
     }
     // The system takes milliseconds to have a big file's memory back.
-    QThreadPool::globalInstance()->start([file = std::move(file)] {});
+    if (!file.isEmpty()) QThreadPool::globalInstance()->start([file = std::move(file)] {});
     co_return item;
 }
 
@@ -226,22 +226,22 @@ QCoro::Task<SentItem> sendFile(std::filesystem::path path, Sending sending) {
     co_return co_await delivered(std::move(item), std::move(request), sending);
 }
 
-SentItem unsent(const ClipText& text, const Sending& sending, std::string error) {
+SentItem unsent(const ClipText& text, const Sending& sending, const std::string& error) {
     const auto size = static_cast<std::int64_t>(text.text.size());
     return failed(makeItem(sending, TopicKind::notes, textTitle(text.text), size), endedReason,
-                  std::move(error));
+                  error);
 }
 
-SentItem unsent(const ClipImage& image, const Sending& sending, std::string error) {
+SentItem unsent(const ClipImage& image, const Sending& sending, const std::string& error) {
     return failed(makeItem(sending, TopicKind::images, Clipboard::summary(ClipContent{image}).line,
                            image.png.size()),
-                  endedReason, std::move(error));
+                  endedReason, error);
 }
 
-SentItem unsent(const std::filesystem::path& file, const Sending& sending, std::string error) {
+SentItem unsent(const std::filesystem::path& file, const Sending& sending,
+                const std::string& error) {
     std::string name = validUtf8(lastComponent(file).native());
-    return failed(makeItem(sending, fileKind(file), std::move(name), 0), endedReason,
-                  std::move(error));
+    return failed(makeItem(sending, fileKind(file), std::move(name), 0), endedReason, error);
 }
 
 std::string stoppedText() {

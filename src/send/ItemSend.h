@@ -42,10 +42,12 @@ struct Sending {
 [[nodiscard]] QCoro::Task<SentItem> sendFile(std::filesystem::path path, Sending sending);
 
 // Each item as it stands in the history when it has not arrived because the send was ended.
-[[nodiscard]] SentItem unsent(const ClipText& text, const Sending& sending, std::string error);
-[[nodiscard]] SentItem unsent(const ClipImage& image, const Sending& sending, std::string error);
+[[nodiscard]] SentItem unsent(const ClipText& text, const Sending& sending,
+                              const std::string& error);
+[[nodiscard]] SentItem unsent(const ClipImage& image, const Sending& sending,
+                              const std::string& error);
 [[nodiscard]] SentItem unsent(const std::filesystem::path& file, const Sending& sending,
-                              std::string error);
+                              const std::string& error);
 
 /// The error of an item that was not on its way yet.
 [[nodiscard]] std::string stoppedText();
