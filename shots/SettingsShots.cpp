@@ -228,7 +228,7 @@ QPixmap take(const Scene& scene) {
     // An action that still waits comes to its end, and then the next one has its turn, which has
     // nothing to rename.
     stage->computer.clock.advance(std::chrono::seconds{3});
-    await(stage->computer.store->forgetBot());
+    stage->computer.store->forgetBot();
     await(stage->computer.store->renameTopics());
     return picture;
 }

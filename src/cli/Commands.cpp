@@ -105,7 +105,7 @@ QCoro::Task<int> renameTopics(CommandContext context, Arguments /*arguments*/) {
 }
 
 QCoro::Task<int> forget(CommandContext context, Arguments /*arguments*/) {
-    co_await context.core.store.forgetBot();
+    co_await context.core.store.forgetBotAndToken();
     expectSaved(context.core.store);
     co_return exitDone;
 }

@@ -12,6 +12,7 @@
 #include <QSysInfo>
 #include <QtConcurrentRun>
 
+#include <functional>
 #include <utility>
 
 namespace quillon::Clipboard {
@@ -21,9 +22,9 @@ namespace {
 using Names = std::vector<std::string>;
 using Paths = std::vector<std::filesystem::path>;
 
-/// A text of this size in bytes takes about a millisecond to decode; a longer one is decoded on the
-/// thread pool.
-constexpr qsizetype longText = 100'000;
+/// A content of this size in bytes takes about a millisecond to look through; a longer one goes to
+/// the thread pool.
+constexpr qsizetype longContent = 100'000;
 
 /// How often a clipboard is read that changes each time while it is being read.
 constexpr int maximumLooks = 3;
@@ -38,19 +39,34 @@ QFuture<std::optional<Paths>> decodeFiles(QByteArray list, std::string /*format*
                                                    : std::optional{std::move(paths)});
 }
 
+/// The decoding's result, from another thread if the bytes are many.
+template <typename T>
+QFuture<std::optional<T>> decoded(QByteArray bytes,
+                                  std::function<std::optional<T>(const QByteArray&)> decode) {
+    if (bytes.size() < longContent) return QtFuture::makeReadyFuture(decode(bytes));
+    return QtConcurrent::run(std::move(decode), std::move(bytes));
+}
+
 QFuture<std::optional<std::string>> decodeText(QByteArray text, std::string format) {
-    const auto decode = [](const QByteArray& bytes, const std::string& name) {
-        return std::optional{ClipboardFormats::decodedText(bytes, name)};
-    };
-    if (text.size() < longText) return QtFuture::makeReadyFuture(decode(text, format));
-    return QtConcurrent::run(decode, std::move(text), std::move(format));
+    return decoded<std::string>(std::move(text), [format](const QByteArray& bytes) {
+        return std::optional{ClipboardFormats::decodedText(bytes, format)};
+    });
+}
+
+QFuture<bool> isBlank(const std::string& text) {
+    const auto nothingIn = [](std::string_view part) { return trimmed(part).empty(); };
+    const auto start = std::string_view{text}.substr(0, longContent);
+    if (start.size() == text.size() || !nothingIn(start))
+        return QtFuture::makeReadyFuture(nothingIn(start));
+    return QtConcurrent::run(nothingIn, text);
 }
 
 /// As PNG.
 QFuture<std::optional<QByteArray>> decodeImage(QByteArray bitmap, std::string format) {
     if (!ClipboardFormats::isPng(format)) return convertToPng(std::move(bitmap));
-    return QtFuture::makeReadyFuture(
-        bitmap.isEmpty() || isCutPng(bitmap) ? std::nullopt : std::optional{std::move(bitmap)});
+    return decoded<QByteArray>(std::move(bitmap), [](const QByteArray& png) {
+        return png.isEmpty() || isCutPng(png) ? std::nullopt : std::optional{png};
+    });
 }
 
 /// Asks for the content in one format of the kind after another until one can be used: an owner may
@@ -80,8 +96,11 @@ QCoro::Task<ClipContent> look(Pasteboard& pasteboard) {
     auto text = co_await readFirst(pasteboard, formatsOf(Kind::text, offered), decodeText);
     auto png = co_await readFirst(pasteboard, formatsOf(Kind::image, offered), decodeImage);
     if (png) co_return ClipImage{*std::move(png), std::move(text)};
-    if (text && !trimmed(*text).empty()) co_return ClipText{*std::move(text)};
-    co_return ClipEmpty{};
+    if (!text) co_return ClipEmpty{};
+    const QFuture<bool> looking = isBlank(*text);
+    const bool blank = co_await looking;
+    if (blank) co_return ClipEmpty{};
+    co_return ClipText{*std::move(text)};
 }
 
 Summary summaryOf(const ClipFiles& files) {

@@ -61,8 +61,7 @@ SentItem failed(SentItem item, SendFailure reason, const std::string& error) {
 /// Only the want of memory throws anything but TelegramErrors here. It may come from another thread
 /// and in the clothes of a QUnhandledException.
 SentItem failedForMemory(SentItem item) {
-    return failed(std::move(item), SendFailure::unreadable,
-                  translate("Send", "There is not enough memory to send this."));
+    return failed(std::move(item), SendFailure::unreadable, shortOfMemoryText());
 }
 
 /// How the usage events, which have no word of their own for it, name a send that was ended: like a
@@ -134,9 +133,10 @@ private:
     std::unique_ptr<Clock::Timer> timer_;
 };
 
-QCoro::Task<FileReading> loaded(std::filesystem::path path, Platform& platform) {
-    const FileLoading loading = platform.files.load(std::move(path), maximumFileSize);
-    const Watch watch{platform.clock, loading};
+QCoro::Task<FileReading> loaded(std::filesystem::path path, Sending sending) {
+    const FileLoading loading = sending.platform.files.load(std::move(path), maximumFileSize);
+    const Watch watch{sending.platform.clock, loading};
+    const std::stop_callback stopped{sending.stop, [&loading] { loading.giveUp(); }};
     const QFuture<FileReading> result = loading.result();
     co_return co_await result;
 }
@@ -213,8 +213,10 @@ QCoro::Task<SentItem> sendImage(ClipImage image, Sending sending) {
 QCoro::Task<SentItem> sendFile(std::filesystem::path path, Sending sending) {
     const TopicKind kind = fileKind(path);
     const std::string name = lastComponent(path).native();
-    FileReading reading = co_await loaded(path, sending.platform);
+    FileReading reading = co_await loaded(path, sending);
     SentItem item = makeItem(sending, kind, validUtf8(name), reading.size);
+    if (sending.stop.stop_requested())
+        co_return failed(std::move(item), endedReason, stoppedText());
     if (auto problem = unsendable(item, reading.outcome)) co_return *std::move(problem);
     Request request{.method = "sendDocument",
                     .params = addressed(sending.recipient, kind),
@@ -242,6 +244,10 @@ SentItem unsent(const std::filesystem::path& file, const Sending& sending,
                 const std::string& error) {
     std::string name = validUtf8(lastComponent(file).native());
     return failed(makeItem(sending, fileKind(file), std::move(name), 0), endedReason, error);
+}
+
+std::string shortOfMemoryText() {
+    return translate("Send", "There is not enough memory to send this.");
 }
 
 std::string stoppedText() {

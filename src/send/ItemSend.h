@@ -49,6 +49,9 @@ struct Sending {
 [[nodiscard]] SentItem unsent(const std::filesystem::path& file, const Sending& sending,
                               const std::string& error);
 
+/// The error of an item that does not fit into the memory.
+[[nodiscard]] std::string shortOfMemoryText();
+
 /// The error of an item that was not on its way yet.
 [[nodiscard]] std::string stoppedText();
 

@@ -69,6 +69,17 @@ SentItem unsentItem(const RunningSend& send, std::size_t number, const std::stri
     return withItem(send.content, number, make, make, make);
 }
 
+/// None for want of memory, which may come from another thread and in the clothes of a
+/// QUnhandledException.
+QCoro::Task<std::optional<ClipContent>> readClipboard(Pasteboard& pasteboard) {
+    try {
+        ClipContent content = co_await Clipboard::read(pasteboard);
+        co_return content;
+    } catch (const std::exception&) {
+        co_return std::nullopt;
+    }
+}
+
 } // namespace
 
 /// If the X server goes away, Qt ends the program by exit(), and no event loop turns again.
@@ -89,7 +100,12 @@ QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress, std::stop
 
     std::optional<Recipient> to = co_await recipient();
     if (!to) co_return refuseToSend();
-    ClipContent content = co_await Clipboard::read(platform_.pasteboard);
+    std::optional<ClipContent> read = co_await readClipboard(platform_.pasteboard);
+    if (!read) {
+        co_return show(
+            {.text = shortOfMemoryText(), .symbol = "exclamationmark.triangle", .ok = false});
+    }
+    ClipContent content = *std::move(read);
     if (stop.stop_requested()) co_return;
     if (std::holds_alternative<ClipEmpty>(content)) {
         const Clipboard::Summary empty = Clipboard::summary(content);

@@ -8,6 +8,16 @@
 
 namespace quillon {
 
+namespace {
+
+void clearGroup(Config& config) {
+    config.chatId.reset();
+    config.chatTitle.reset();
+    config.topics = Topic::defaults();
+}
+
+} // namespace
+
 QCoro::Task<std::string> Store::connectBot(std::string pasted) {
     const auto turn = co_await setupActions_.turn();
     const std::string token{trimmed(pasted)};
@@ -25,6 +35,7 @@ QCoro::Task<std::string> Store::connectBot(std::string pasted) {
     // refuses, the token stays in memory for this run.
     const QFuture<bool> saved = platform_.secrets.save(botTokenItem(), token);
     cachedToken_ = token;
+    tokenForgotten_ = false;
     changes = ++tokenChanges_;
     publish(tokenSaved_, true);
     setKeyring(KeyringState::answers);
@@ -36,7 +47,13 @@ QCoro::Task<std::string> Store::connectBot(std::string pasted) {
     co_return name;
 }
 
-QCoro::Task<> Store::forgetBot() {
+void Store::forgetBot() {
+    clearBot();
+    tokenForgotten_ = true;
+    removeForgottenToken();
+}
+
+QCoro::Task<> Store::forgetBotAndToken() {
     const int changes = tokenChanges_;
     const auto patience = keyringPatience();
     const SecretAnswer left = co_await platform_.secrets.remove(botTokenItem());
@@ -47,19 +64,23 @@ QCoro::Task<> Store::forgetBot() {
         throw TelegramError{keyringSentence(left)};
     }
     // A bot that was connected meanwhile stays, but not the group of the one before.
-    const bool same = changes == tokenChanges_;
-    ++tokenChanges_;
-    if (same) {
-        cachedToken_.reset();
-        tokenKept_ = false;
-        publish(tokenSaved_, false);
-        setKeyring(KeyringState::answers);
+    if (changes == tokenChanges_) {
+        clearBot();
+        co_return;
     }
-    changeConfig([same](Config& config) {
-        config.chatId.reset();
-        config.chatTitle.reset();
-        if (same) config.botName.reset();
-        config.topics = Topic::defaults();
+    ++tokenChanges_;
+    changeConfig(clearGroup);
+}
+
+void Store::clearBot() {
+    ++tokenChanges_;
+    cachedToken_.reset();
+    tokenKept_ = false;
+    publish(tokenSaved_, false);
+    setKeyring(KeyringState::answers);
+    changeConfig([](Config& config) {
+        clearGroup(config);
+        config.botName.reset();
     });
 }
 

@@ -139,6 +139,11 @@ QCoro::Task<> Store::askKeyring() {
     const SecretAnswer answer = co_await platform_.secrets.find(botTokenItem());
     // A token in memory needs no keyring, which may not even have it.
     if (!self || cachedToken_ || changes != tokenChanges_) co_return;
+    if (tokenForgotten_) {
+        // It goes as soon as that takes no password.
+        if (answer == SecretAnswer::found) removeForgottenToken();
+        co_return;
+    }
     // That the keyring is locked stands in nobody's way until it was not unlocked for a use.
     if (answer == SecretAnswer::locked && keyring_ != KeyringState::locked) {
         publish(tokenSaved_, true);
@@ -146,6 +151,13 @@ QCoro::Task<> Store::askKeyring() {
     } else {
         learn(answer);
     }
+}
+
+QCoro::Task<> Store::removeForgottenToken() {
+    const QPointer<Store> self{this};
+    const int changes = tokenChanges_;
+    const SecretAnswer left = co_await platform_.secrets.remove(botTokenItem());
+    if (self && changes == tokenChanges_ && left == SecretAnswer::absent) tokenForgotten_ = false;
 }
 
 void Store::learn(SecretAnswer answer) {
@@ -186,7 +198,7 @@ std::unique_ptr<Clock::Timer> Store::keyringPatience() {
 }
 
 QCoro::Task<std::optional<Telegram>> Store::telegram() {
-    if (!cachedToken_) {
+    if (!cachedToken_ && !tokenForgotten_) {
         const int changes = tokenChanges_;
         const auto patience = keyringPatience();
         SecretReading stored = co_await platform_.secrets.read(botTokenItem());

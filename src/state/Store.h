@@ -128,14 +128,18 @@ public:
     /// sent.
     void endSending(std::chrono::milliseconds patience);
 
-    // The actions of the setup. One works at a time, the others wait for it in their order; only
-    // forgetBot() waits for none, and ends those that work for the bot. All throw TelegramError.
+    /// Forgets the bot and everything learnt about the group, at once; actions that work for the
+    /// bot end. Never fails: a keyring that is locked loses the token when it is unlocked.
+    void forgetBot();
+    /// Does the same once the keyring has given up the token; else throws TelegramError, and
+    /// nothing is forgotten.
+    [[nodiscard]] QCoro::Task<> forgetBotAndToken();
+
+    // The actions of the setup. One works at a time, the others wait for it in their order. All
+    // throw TelegramError.
 
     /// Checks the token with Telegram, stores it and gives the bot's name.
     [[nodiscard]] QCoro::Task<std::string> connectBot(std::string token);
-    /// Removes the token, and with it everything learnt about the group: all of it, or nothing
-    /// where the keyring does not give up the token.
-    [[nodiscard]] QCoro::Task<> forgetBot();
     /// Finds the group in the bot's recent updates.
     [[nodiscard]] QCoro::Task<> findGroup();
     /// Gives every topic its thread: one found in the group again, or a new one. After a failure,
@@ -191,6 +195,9 @@ private:
     /// The sentence for an action that has no client: what is wrong with the keyring, or
     /// `otherwise`.
     [[nodiscard]] TelegramError noClient(std::string otherwise) const;
+    /// Forgets the bot, but not what the keyring holds.
+    void clearBot();
+    QCoro::Task<> removeForgottenToken();
     /// Throws when the user has forgotten the bot since `change`, a value of tokenChanges_.
     void expectSameBot(int change, std::string sentence) const;
 
@@ -228,6 +235,8 @@ private:
     /// The program quits, and no send may begin.
     bool sendingEnded_ = false;
     std::optional<std::string> cachedToken_;
+    /// The user has forgotten the bot, but the keyring may still hold its token.
+    bool tokenForgotten_ = false;
     /// Grows whenever the user connects or forgets a bot.
     int tokenChanges_ = 0;
     ActionQueue setupActions_;

@@ -119,7 +119,7 @@ TEST_F(SendFiles, GivesUpFilesThatHangAndStillSendsText) {
     EXPECT_THAT(computer.messages("notes"), SizeIs(1)) << "though both are still being read";
 }
 
-TEST_F(SendFiles, WaitsForAFileThatComesSlowly) {
+TEST_F(SendFiles, WaitsForAFileThatComesSlowlyUnlessItIsStopped) {
     const FileLoading slow = *(computer.files.loading = FileLoading{});
     computer.pasteboard.copy(files({file("a")}));
     auto sending = computer.store->sendClipboard(Trigger::button);
@@ -131,6 +131,12 @@ TEST_F(SendFiles, WaitsForAFileThatComesSlowly) {
     slow.finish({.outcome = FileReading::Outcome::read, .size = 3, .bytes = "abc"});
     await(std::move(sending));
     EXPECT_THAT(banners().back(), "Sent to 📎 Files");
+    computer.files.loading = FileLoading{};
+    sending = computer.store->sendClipboard(Trigger::button);
+    ASSERT_TRUE(waitUntil([&] { return computer.store->busy(); }));
+    computer.store->stopSending();
+    await(std::move(sending));
+    EXPECT_EQ(computer.store->history().front().error, "Not sent: the send was stopped.");
 }
 
 TEST_F(SendFiles, SendsFilesOfAnyName) {

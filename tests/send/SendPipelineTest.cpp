@@ -244,7 +244,10 @@ TEST_F(SendPipeline, TellsApartWhatWentWrong) {
     computer.clear();
     computer.http.memoryIsShort = true;
     computer.send(text("a"));
-    EXPECT_THAT(banners(), ElementsAre("There is not enough memory to send this."));
+    computer.pasteboard.beforeData = [](const std::string& /*format*/) { throw std::bad_alloc{}; };
+    computer.send(text("a"));
+    const std::string memoryText = "There is not enough memory to send this.";
+    EXPECT_THAT(banners(), ElementsAre(memoryText, memoryText));
 }
 
 } // namespace

@@ -86,9 +86,9 @@ TEST_F(LateKeyring, GivesUpTheTokenWithAllTheRestOrNothing) {
     for (const bool known : {true, false}) {
         secrets.locked = true;
         if (!known) computer.restart();
-        EXPECT_EQ(computer.failure(store->forgetBot()), lockedText);
+        EXPECT_EQ(computer.failure(store->forgetBotAndToken()), lockedText);
         secrets.available = false;
-        EXPECT_EQ(computer.failure(store->forgetBot()), silentText);
+        EXPECT_EQ(computer.failure(store->forgetBotAndToken()), silentText);
         secrets.available = true;
         EXPECT_EQ(store->config(), before);
         EXPECT_TRUE(store->tokenSaved());
@@ -97,9 +97,24 @@ TEST_F(LateKeyring, GivesUpTheTokenWithAllTheRestOrNothing) {
     secrets.available = false;
     await(store->connectBot(BotComputer::token));
     EXPECT_FALSE(store->tokenKept());
-    EXPECT_EQ(computer.failure(store->forgetBot()), "");
+    EXPECT_EQ(computer.failure(store->forgetBotAndToken()), "");
     EXPECT_FALSE(store->tokenSaved());
     EXPECT_EQ(store->config(), Config{});
+}
+
+TEST_F(LateKeyring, LosesAForgottenTokenWhenItCan) {
+    secrets.locked = true;
+    store->forgetBot();
+    secrets.changed();
+    EXPECT_FALSE(store->tokenSaved());
+    EXPECT_EQ(store->config(), Config{});
+    EXPECT_EQ(computer.failure(store->findGroup()), "Connect your bot first.");
+    secrets.locked = false;
+    secrets.changed();
+    EXPECT_TRUE(secrets.values.empty());
+    await(store->connectBot(BotComputer::token));
+    secrets.changed();
+    EXPECT_FALSE(secrets.values.empty());
 }
 
 } // namespace quillon::test

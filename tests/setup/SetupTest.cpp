@@ -123,7 +123,7 @@ TEST(BotConnection, ForgetsEverythingButTheUsersChoices) {
     });
     computer.send({{"UTF8_STRING", "a"}});
     computer.clear();
-    await(computer.store->forgetBot());
+    computer.store->forgetBot();
 
     Config expected;
     expected.shortcut = ShortcutChoice::ctrlOptC;

@@ -101,7 +101,7 @@ TEST(SetupActions, EndWhenTheirBotIsForgotten) {
         computer.sandbox.failNext(held);
         auto acting = each.action(*computer.store);
         ASSERT_TRUE(waitUntil([&] { return computer.clock.pending() == 1; }));
-        await(computer.store->forgetBot());
+        computer.store->forgetBot();
         computer.clock.advance(std::chrono::seconds{2});
         EXPECT_EQ(computer.failure(std::move(acting)), each.message);
         EXPECT_EQ(computer.store->config(), Config{});
@@ -127,7 +127,7 @@ TEST(SetupActions, LeaveASendThatHasBegunItsGroup) {
     computer.sandbox.userSays(computer.sandbox.addGroup(), "hi");
     await(computer.store->findGroup());
     await(computer.store->createTopics());
-    await(computer.store->forgetBot());
+    computer.store->forgetBot();
     computer.clock.advance(std::chrono::seconds{2});
     await(std::move(sending));
     const Json topics = computer.sandbox.view()["groups"][0]["topics"]; // "General" is the first

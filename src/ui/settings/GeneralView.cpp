@@ -120,7 +120,7 @@ Card* GeneralView::buildTelegram() {
     card->body()->addLayout(settingRow(bot, bot_));
     card->body()->addLayout(settingRow(group, group_));
     card->body()->addWidget(disconnect_, 0, Qt::AlignLeading);
-    connect(disconnect_, &TextButton::clicked, this, [this] { std::ignore = store_.forgetBot(); });
+    connect(disconnect_, &TextButton::clicked, this, [this] { store_.forgetBot(); });
     return card;
 }
 

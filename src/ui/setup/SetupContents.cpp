@@ -119,8 +119,7 @@ QWidget* SetupView::buildBotStep() {
 QWidget* SetupView::buildTokenStep() {
     token_ = new TokenStep;
     connect(token_, &TokenStep::connectWanted, this, &SetupView::connectBot);
-    connect(token_, &TokenStep::anotherBotWanted, this,
-            [this] { run([&store = store_] { return store.forgetBot(); }); });
+    connect(token_, &TokenStep::anotherBotWanted, this, [this] { store_.forgetBot(); });
     return token_;
 }
 

@@ -123,7 +123,7 @@ TEST_F(TrayIconTest, HasAMenuForHostsThatOpenNothingElse) {
     send.trigger();
     EXPECT_TRUE(waitUntil([this] { return computer.messages("notes").size() == 1; }));
     ASSERT_TRUE(waitUntil([&] { return send.isEnabled(); }));
-    await(computer.store->forgetBot());
+    computer.store->forgetBot();
     EXPECT_TRUE(waitUntil([&] { return !send.isEnabled(); }));
 }
 
