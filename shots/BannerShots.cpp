@@ -15,7 +15,6 @@ namespace {
 
 using namespace quillon;
 using namespace quillon::test;
-using namespace std::chrono_literals;
 
 struct Scene {
     const char* name;
@@ -64,7 +63,6 @@ QPixmap take(const Scene& scene) {
     FakeWorkspace workspace;
     HUD hud{clock, compositor, workspace};
     hud.show({.text = shown(scene.text).toStdString(), .symbol = scene.symbol, .ok = scene.ok});
-    clock.advance(200ms);
     QWidget& window = onlyWindow();
     const QPixmap banner = pictureOf(window);
     if (scene.blended) return overDesktop(banner);

@@ -4,7 +4,6 @@
 #include "desktop/HUDView.h"
 #include "platform/Compositor.h"
 #include "platform/Workspace.h"
-#include "ui/theme/Motion.h"
 
 #include <QScreen>
 
@@ -18,13 +17,21 @@ constexpr auto badNewsStays = 3500ms;
 constexpr auto fadeInTime = 180ms;
 constexpr auto fadeOutTime = 350ms;
 
+/// Maps 0 to 1 onto 0 to 1, slow at both ends.
+double eased(double part) {
+    return part * part * (3 - 2 * part);
+}
+
 } // namespace
 
 HUD::HUD(Clock& clock, const Compositor& compositor, const Workspace& workspace)
     : clock_{clock},
       compositor_{compositor},
       workspace_{workspace},
-      fade_{clock, [this](double alpha) { panel_->setAlpha(alpha); }} {}
+      alpha_{0, [this](double alpha) {
+                 panel_->setAlpha(alpha);
+                 if (alpha == 0 && alpha_.target() == 0) panel_->hide();
+             }} {}
 
 HUD::~HUD() = default;
 
@@ -34,7 +41,8 @@ void HUD::show(BannerMessage message) {
     fadeIn();
     hide_.reset();
     if (message.sticky) return;
-    hide_ = clock_.after(message.ok ? goodNewsStays : badNewsStays, [this] { fadeOut(); });
+    hide_ =
+        clock_.after(message.ok ? goodNewsStays : badNewsStays, [this] { fadeTo(0, fadeOutTime); });
 }
 
 void HUD::place(const BannerMessage& message) {
@@ -48,21 +56,16 @@ void HUD::place(const BannerMessage& message) {
     if (panel_->isVisible()) panel_->repaint();
 }
 
-bool HUD::fades() const {
-    return blended_ && animationsEnabled();
-}
-
 void HUD::fadeIn() {
-    if (!panel_->isVisible()) {
-        fade_.run(0, 0ms);
-        panel_->show();
-    }
+    panel_->show();
     panel_->raise();
-    fade_.run(1, fades() ? fadeInTime : 0ms);
+    fadeTo(1, fadeInTime);
 }
 
-void HUD::fadeOut() {
-    fade_.run(0, fades() ? fadeOutTime : 0ms, [this] { panel_->hide(); });
+void HUD::fadeTo(double alpha, std::chrono::milliseconds duration) {
+    QEasingCurve curve;
+    curve.setCustomType(eased);
+    alpha_.run(alpha, blended_ ? duration : 0ms, curve);
 }
 
 } // namespace quillon

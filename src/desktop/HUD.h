@@ -1,8 +1,8 @@
 #pragma once
 
 #include "desktop/Banner.h"
-#include "desktop/Fade.h"
 #include "platform/Clock.h"
+#include "ui/theme/Animation.h"
 
 #include <memory>
 
@@ -26,15 +26,14 @@ public:
 
 private:
     void place(const BannerMessage& message);
-    [[nodiscard]] bool fades() const;
     void fadeIn();
-    void fadeOut();
+    void fadeTo(double alpha, std::chrono::milliseconds duration);
 
     Clock& clock_;
     const Compositor& compositor_;
     const Workspace& workspace_;
     std::unique_ptr<HUDPanel> panel_;
-    Fade fade_;
+    Animation alpha_;
     bool blended_ = true;
     std::unique_ptr<Clock::Timer> hide_;
 };

@@ -1,7 +1,5 @@
 #include "ui/controls/ProgressBar.h"
 
-#include "ui/theme/Motion.h"
-
 #include <QPainter>
 
 #include <algorithm>
@@ -24,16 +22,11 @@ constexpr double standing = 0.5;
 
 } // namespace
 
-ProgressBar::ProgressBar(const QString& name) {
+ProgressBar::ProgressBar(const QString& name) : way_{0, [this](double) { update(); }} {
     setTextVisible(false);
     setRange(0, 0);
     setAccessibleName(name);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    way_.setStartValue(0.0);
-    way_.setEndValue(1.0);
-    way_.setDuration(static_cast<int>(wayTime.count()));
-    way_.setLoopCount(-1);
-    connect(&way_, &QVariantAnimation::valueChanged, this, [this] { update(); });
 }
 
 QSize ProgressBar::sizeHint() const {
@@ -42,20 +35,19 @@ QSize ProgressBar::sizeHint() const {
 
 void ProgressBar::showEvent(QShowEvent* event) {
     Themed::showEvent(event);
-    if (animationsEnabled()) way_.start();
+    way_.turn(1, wayTime);
 }
 
 void ProgressBar::hideEvent(QHideEvent* event) {
     Themed::hideEvent(event);
-    way_.stop();
+    way_.arrive();
 }
 
 ProgressBar::Part ProgressBar::filledPart() const {
     if (maximum() > minimum())
         return {0, static_cast<double>(value() - minimum()) / (maximum() - minimum())};
-    const bool moves = way_.state() == QAbstractAnimation::Running;
-    const double angle = 2 * std::numbers::pi * way_.currentValue().toDouble();
-    const double place = moves ? (1 - std::cos(angle)) / 2 : standing; // to and fro
+    const double angle = 2 * std::numbers::pi * way_.value();
+    const double place = way_.running() ? (1 - std::cos(angle)) / 2 : standing; // to and fro
     const double from = place * (1 - piece);
     return {from, from + piece};
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "ui/theme/Animation.h"
 #include "ui/theme/Themed.h"
 
 #include <QProgressBar>
-#include <QVariantAnimation>
 
 namespace quillon {
 
@@ -32,7 +32,7 @@ private:
     };
     [[nodiscard]] Part filledPart() const;
 
-    QVariantAnimation way_;
+    Animation way_; // from 0 to 1 for each time to and fro
 };
 
 } // namespace quillon

@@ -2,18 +2,17 @@
 
 #include "artwork/Colors.h"
 #include "ui/accessibility/Accessibility.h"
-#include "ui/theme/Motion.h"
 
 #include <QPainter>
-#include <QTimerEvent>
 
 #include <chrono>
+#include <utility>
 
 namespace quillon {
 namespace {
 
 constexpr int spokes = 8;
-constexpr std::chrono::milliseconds stepTime{100};
+constexpr std::chrono::milliseconds turnTime{800};
 constexpr double faintest = 0.18;
 // Shares of the radius.
 constexpr double spokeStart = 0.48;
@@ -21,20 +20,25 @@ constexpr double spokeWidth = 0.20;
 
 } // namespace
 
-Spinner::Spinner(double size) : SquareView{size} {
+Spinner::Spinner(double size)
+    : SquareView{size},
+      turn_{0, [this](double turned) {
+                const int step = static_cast<int>(turned) % spokes;
+                if (std::exchange(step_, step) != step) update();
+            }} {
     setAccessibleRole(QAccessible::ProgressBar);
     setAccessibleName(tr("Working"));
 }
 
 void Spinner::showEvent(QShowEvent* event) {
     SquareView::showEvent(event);
-    if (animationsEnabled()) timer_.start(static_cast<int>(stepTime.count()), this);
+    turn_.turn(spokes, turnTime);
     announceBusy();
 }
 
 void Spinner::hideEvent(QHideEvent* event) {
     SquareView::hideEvent(event);
-    timer_.stop();
+    turn_.arrive();
     announceBusy();
 }
 
@@ -42,12 +46,6 @@ void Spinner::announceBusy() {
     QAccessible::State changed;
     changed.busy = true;
     announce(*this, changed);
-}
-
-void Spinner::timerEvent(QTimerEvent* event) {
-    if (event->timerId() != timer_.timerId()) return SquareView::timerEvent(event);
-    step_ = (step_ + 1) % spokes;
-    update();
 }
 
 void Spinner::paintEvent(QPaintEvent* /*event*/) {

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "ui/controls/SquareView.h"
-
-#include <QBasicTimer>
+#include "ui/theme/Animation.h"
 
 namespace quillon {
 
@@ -16,13 +15,12 @@ public:
     explicit Spinner(double size = 16);
 
     /// Whether it is turning now.
-    [[nodiscard]] bool turning() const { return timer_.isActive(); }
+    [[nodiscard]] bool turning() const { return turn_.running(); }
 
     [[nodiscard]] bool accessibleBusy() const override { return isVisible(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
@@ -30,7 +28,7 @@ private:
     void announceBusy();
 
     int step_ = 0;
-    QBasicTimer timer_;
+    Animation turn_; // in steps
 };
 
 } // namespace quillon

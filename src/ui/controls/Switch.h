@@ -2,7 +2,7 @@
 
 #include "ui/controls/PressedByReturn.h"
 #include "ui/text/TextBlock.h"
-#include "ui/theme/Transition.h"
+#include "ui/theme/Animation.h"
 
 #include <QCheckBox>
 
@@ -47,7 +47,7 @@ private:
 
     std::string symbol_;
     QColor color_;
-    Transition position_; // of the knob: 0 is off, 1 is on
+    Animation position_; // of the knob: 0 is off, 1 is on
     bool showing_ = false;
 };
 

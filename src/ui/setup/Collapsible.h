@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/accessibility/View.h"
-#include "ui/theme/Transition.h"
+#include "ui/theme/Animation.h"
 
 namespace quillon {
 
@@ -33,7 +33,7 @@ private:
     void layOut();
 
     QWidget* content_;
-    Transition openness_;
+    Animation openness_;
 };
 
 } // namespace quillon

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/controls/Card.h"
-#include "ui/theme/Transition.h"
+#include "ui/theme/Animation.h"
 
 #include <string>
 
@@ -58,7 +58,7 @@ private:
     ContentButton* header_;
     QWidget* inset_;
     Collapsible* body_;
-    Transition opacity_;
+    Animation opacity_;
 };
 
 } // namespace quillon
