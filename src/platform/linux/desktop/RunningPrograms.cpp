@@ -4,11 +4,11 @@
 #include "platform/linux/files/PosixFileSystem.h"
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -17,31 +17,19 @@ namespace {
 
 using std::filesystem::path;
 
-/// No path or status is longer, in bytes.
+/// No path is longer, in bytes.
 constexpr qint64 maximumSize = 1'000'000;
 
 /// The system adds this to the path of an executable that was removed or replaced.
 constexpr std::string_view deletedSuffix = " (deleted)";
 
-bool isProcess(const path& folder) {
+/// Whether a folder of /proc is one of this user's processes. The folder belongs to the user of the
+/// process, and only what lies in it to root while the process keeps out of core dumps.
+bool isOwnProcess(const path& folder) {
     const std::string name = folder.filename();
-    return !name.empty() && std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
-}
-
-/// The process's effective user, from the line "Uid: real effective saved file". The folder's owner
-/// does not tell, because the folder of a process that keeps out of core dumps belongs to root.
-std::optional<uid_t> userOf(const path& process) {
-    constexpr std::string_view label = "\nUid:\t";
-    const std::string bytes =
-        PosixFileSystem{}.read(process / "status", maximumSize).bytes.toStdString();
-    std::string_view text = bytes;
-    const auto start = text.find(label);
-    if (start == text.npos) return std::nullopt;
-    text.remove_prefix(start + label.size());
-    text.remove_prefix(std::min(text.find('\t') + 1, text.size()));
-    uid_t user = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), user);
-    return read.ec == std::errc{} ? std::optional{user} : std::nullopt;
+    struct stat about {};
+    return std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; }) &&
+           ::stat(folder.c_str(), &about) == 0 && about.st_uid == ::geteuid();
 }
 
 /// The process's executable; none for a kernel thread, or if the process is gone.
@@ -68,9 +56,8 @@ std::vector<path> runningPrograms() {
     std::error_code error;
     std::filesystem::directory_iterator each{"/proc", error};
     for (; !error && each != std::filesystem::directory_iterator{}; each.increment(error)) {
-        const path& process = each->path();
-        if (!isProcess(process) || userOf(process) != ::geteuid()) continue;
-        if (const auto program = programOf(process)) programs.push_back(*program);
+        if (!isOwnProcess(*each)) continue;
+        if (const auto program = programOf(*each)) programs.push_back(*program);
     }
     return programs;
 }
