@@ -15,6 +15,7 @@
 #include "ui/theme/ApplicationTheme.h"
 
 #include <QApplication>
+#include <QDBusConnection>
 #include <QThreadPool>
 #include <QTimer>
 
@@ -53,8 +54,7 @@ QCoro::Task<> launch(Platform& platform, Compositor& compositor, Alerts& alerts,
     if (resident) {
         // The icon takes its place before windows are made, which takes longer. A bus that hangs
         // does not hold up the start.
-        co_await resident->iconSettled(busPatience);
-        resident->start(wanted);
+        resident->whenIconSettled(busPatience, [&resident, wanted] { resident->start(wanted); });
         co_return;
     }
     if (wanted.empty()) wanted = "settings";
@@ -92,6 +92,8 @@ int App::run(std::string_view wanted) {
     // The application's destructor would wait for work that may never end, as on a mount that
     // hangs.
     if (!QThreadPool::globalInstance()->waitForDone(poolPatience)) platform.workspace.exitNow(code);
+    // What comes over the bus from here on would find Qt's register of types destroyed.
+    QDBusConnection::disconnectFromBus(QDBusConnection::sessionBus().name());
     return code;
 }
 

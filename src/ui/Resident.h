@@ -12,6 +12,7 @@
 #include "ui/updates/UpdateWindows.h"
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 namespace quillon {
@@ -27,9 +28,10 @@ public:
     [[nodiscard]] static QCoro::Task<std::unique_ptr<Resident>>
     claim(Platform& platform, Compositor& compositor, Alerts& alerts, AppMover& mover);
 
-    /// Waits until the icon has its place, or it is known to have none; at most for `patience`.
-    [[nodiscard]] QCoro::Task<> iconSettled(std::chrono::milliseconds patience) {
-        return trayIcon_.settled(patience);
+    /// Calls `then` once the icon has its place, or is known to have none; after `patience` at the
+    /// latest.
+    void whenIconSettled(std::chrono::milliseconds patience, std::function<void()> then) {
+        trayIcon_.whenSettled(patience, std::move(then));
     }
 
     /// Begins the work, in the order that its parts need each other, and shows the "panel" or the

@@ -92,7 +92,8 @@ TEST_F(Starts, OneBesideAProgramThatHangsSaysSo) {
     }
     ::kill(static_cast<pid_t>(hanging->processId()), SIGCONT);
     hanging->terminate();
-    EXPECT_EQ(Program::finish(*hanging).code, 0);
+    const Finished ended = Program::finish(*hanging);
+    EXPECT_EQ(ended.code, 0) << ended.err;
 }
 
 TEST_F(Starts, OfTwoSendsOneIsTurnedAway) {

@@ -3,7 +3,6 @@
 #include "state/Store.h"
 #include "ui/controls/MenuBarIcon.h"
 
-#include <QCoroSignal>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QIcon>
@@ -11,6 +10,7 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QScreen>
+#include <QTimer>
 
 #include <chrono>
 #include <cmath>
@@ -70,10 +70,16 @@ TrayIcon::TrayIcon(Store& store, Clock& clock, TrayActions actions, QDBusConnect
 
 TrayIcon::~TrayIcon() = default;
 
-QCoro::Task<> TrayIcon::settled(std::chrono::milliseconds patience) {
-    if (!watch_.known()) {
-        co_await qCoro(&watch_, &TrayWatch::answered, patience);
-    }
+void TrayIcon::whenSettled(std::chrono::milliseconds patience, std::function<void()> then) {
+    if (watch_.known()) return then();
+    auto* const limit = new QTimer{this};
+    limit->setSingleShot(true);
+    connect(&watch_, &TrayWatch::answered, limit, [limit] { limit->start(0); });
+    connect(limit, &QTimer::timeout, this, [limit, then = std::move(then)] {
+        delete limit;
+        then();
+    });
+    limit->start(patience);
 }
 
 void TrayIcon::buildMenu() {

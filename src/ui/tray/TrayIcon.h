@@ -4,7 +4,6 @@
 #include "ui/controls/Refresher.h"
 #include "ui/tray/TrayWatch.h"
 
-#include <QCoroTask>
 #include <QMenu>
 #include <QObject>
 #include <QRect>
@@ -38,9 +37,9 @@ public:
              QDBusConnection bus = QDBusConnection::sessionBus());
     ~TrayIcon() override;
 
-    /// Waits until the desktop has answered which places for icons there are, at most for
-    /// `patience`. From then on the icon is in its place, if there is one.
-    [[nodiscard]] QCoro::Task<> settled(std::chrono::milliseconds patience);
+    /// Calls `then` once the desktop has answered which places for icons there are, after
+    /// `patience` at the latest. The icon is in its place by then, if there is one.
+    void whenSettled(std::chrono::milliseconds patience, std::function<void()> then);
     /// Whether there has been no place for the icon for longer than a panel takes to restart.
     [[nodiscard]] bool missing() const { return missing_; }
     /// The icon's place on the screen. It is empty if there is no icon or its place is unknown.
