@@ -10,6 +10,7 @@ import re
 import signal
 import subprocess
 
+import commands
 import sending
 import staying
 from harness import WORK, Telegram, print_table
@@ -58,6 +59,7 @@ def main():
         rows += staying.start(plain)
         rows += staying.panel(plain, text)
         rows += staying.quitting(plain)
+        rows += commands.command_line(plain)
     finally:
         for telegram in telegrams:
             telegram.stop()

@@ -12,6 +12,10 @@ import urllib.request
 from dataclasses import dataclass
 from pathlib import Path
 
+# The certificates are then those of the system, as for its users.
+for name in "SSL_CERT_FILE", "SSL_CERT_DIR":
+    os.environ.pop(name, None)
+
 BUILD = Path(sys.argv[1])
 WORK = Path(os.environ["HOME"]) / "bench"
 MB = 1e6
@@ -149,7 +153,6 @@ class Telegram:
         }
         if tls:
             self.env["SSL_CERT_DIR"] = str(certificates(self.facts["ca_file"]))
-            self.env.pop("SSL_CERT_FILE", None)  # would stand in for the system's
         self.set_up()
 
     def set_up(self):

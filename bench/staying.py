@@ -65,7 +65,22 @@ def start(telegram):
                 end(process, status)
     ours, peer = (statistics.median(times) for times in took.values())
     yield Row("start to the icon in the tray", f"{ours:.0f} ms", f"empty {peer:.0f} ms",
-              ours / peer, 2)
+              ours / peer, 1.5)
+
+
+def linked_libraries(program):
+    """How many libraries the dynamic linker maps before the program's own code runs."""
+    listed = subprocess.run(["ldd", program], check=True, capture_output=True, text=True).stdout
+    return len(listed.splitlines())
+
+
+def mapped_libraries(process):
+    maps = Path(f"/proc/{process.pid}/maps").read_text()
+    return len(set(re.findall(r"/\S+\.so(?:\.\S+)?$", maps, re.MULTILINE)))
+
+
+def threads(process):
+    return len(list(Path(f"/proc/{process.pid}/task").iterdir()))
 
 
 def memory(process):
@@ -107,13 +122,15 @@ def idling(telegram):
         peer = subprocess.Popen([BUILD / "bench/bench_EmptyTray"])
         tray.await_icon()
         time.sleep(2)
-        empty = memory(peer)
+        empty, empty_libraries, empty_threads = (
+            look(peer) for look in (memory, mapped_libraries, threads))
         end(peer, -signal.SIGTERM)
 
         process = subprocess.Popen([BUILD / "src/quillon"], env=telegram.env)
         tray.await_icon()
         time.sleep(SETTLING)
-        closed = memory(process)
+        closed, libraries, idle_threads = (
+            look(process) for look in (memory, mapped_libraries, threads))
         switches, busy = activity(process)
         time.sleep(WATCHING)
         switches, busy = (now - before for now, before in zip(activity(process), (switches, busy)))
@@ -124,9 +141,15 @@ def idling(telegram):
             time.sleep(2)
         used = memory(process)
         end(process)
-    peer = f"empty {empty / MB:.1f} MB"
-    yield Row("idle memory (PSS)", f"{closed / MB:.1f} MB", peer, closed / MB, 30, unit="MB")
-    yield Row("  after the panel was open", f"{used / MB:.1f} MB", peer, used / MB, 36, unit="MB")
+    beside = f"empty {empty / MB:.1f} MB"
+    yield Row("idle memory (PSS)", f"{closed / MB:.1f} MB", beside, closed / MB, 25, unit="MB")
+    yield Row("  after the panel was open", f"{used / MB:.1f} MB", beside, used / MB, 36, unit="MB")
+    linked, empty_linked = map(linked_libraries, (process.args[0], peer.args[0]))
+    yield Row("libraries mapped at the start", str(linked), f"empty {empty_linked}", linked, 60,
+              unit="")
+    yield Row("  when idle", str(libraries), f"empty {empty_libraries}")
+    yield Row("threads when idle", str(idle_threads), f"empty {empty_threads}", idle_threads, 4,
+              unit="")
     yield Row("context switches in an idle minute", str(switches), "", switches, 3, unit="")
     yield Row("processor time in it", f"{busy:.2f} ms", "", round(busy, 2), 0, unit="ms")
 

@@ -24,7 +24,9 @@ constexpr std::array buckets{Bucket{100'000, "lt100k"}, Bucket{1'000'000, "lt1m"
 
 } // namespace
 
-Analytics::Analytics(const Platform& platform) : platform_{platform} {}
+Analytics::Analytics(const Platform& platform, std::chrono::milliseconds quitLimit)
+    : platform_{platform},
+      quitLimit_{quitLimit} {}
 
 void Analytics::track(std::string_view name, Props props) {
     std::vector<std::pair<std::string_view, Props>> event;

@@ -23,7 +23,9 @@ struct Platform;
 /// and a coarse size. Errors are dropped. Main thread only.
 class Analytics {
 public:
-    explicit Analytics(const Platform& platform);
+    /// `quitLimit` is how long the last delivery may hold up the program's end.
+    explicit Analytics(const Platform& platform,
+                       std::chrono::milliseconds quitLimit = std::chrono::seconds{3});
 
     /// Records one event; it is on disk when this returns.
     void track(std::string_view name, Props props = {});
@@ -47,7 +49,7 @@ public:
     /// nothing while a delivery is under way. The task need not be kept.
     QCoro::Task<> flushNow();
 
-    /// Delivers one last batch, and blocks for at most 3 seconds. First waits, within these, for a
+    /// Delivers one last batch, and blocks for the limit at most. First waits, within these, for a
     /// delivery under way, so that its events are not sent twice.
     void flushBeforeQuit();
 
@@ -64,11 +66,12 @@ private:
     void tick();
     [[nodiscard]] bool canDeliver();
     /// Sends the front of the queue. An empty `accept` leaves that header out.
-    [[nodiscard]] Batch post(std::string accept, std::chrono::seconds timeout);
+    [[nodiscard]] Batch post(std::string accept, std::chrono::milliseconds timeout);
     /// Takes a batch that was answered out of the queue, if it was delivered; tells whether it was.
     bool settle(const Batch& batch);
 
     const Platform& platform_;
+    std::chrono::milliseconds quitLimit_;
     std::optional<EventQueue> queue_;
     bool persist_ = true;
     std::unique_ptr<Clock::Timer> timer_;

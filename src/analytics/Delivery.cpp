@@ -28,7 +28,6 @@ constexpr std::size_t batchSize = 200;
 constexpr std::chrono::seconds tickInterval = 60s;
 constexpr std::chrono::seconds flushInterval = 900s;
 constexpr std::chrono::seconds deliveryTimeout = 20s;
-constexpr std::chrono::seconds quitTimeout = 3s;
 
 /// The date as "yyyy-MM-dd" in the user's time zone, which Qt looks up at each call.
 std::string localDay(Clock::Time now) {
@@ -100,7 +99,7 @@ bool Analytics::canDeliver() {
     return persist_ && !platform_.server.empty() && !loadedQueue().empty();
 }
 
-Analytics::Batch Analytics::post(std::string accept, std::chrono::seconds timeout) {
+Analytics::Batch Analytics::post(std::string accept, std::chrono::milliseconds timeout) {
     const EventQueue& events = loadedQueue();
     HttpRequest request;
     request.url = platform_.server;
@@ -139,7 +138,7 @@ QCoro::Task<> Analytics::flushNow() {
 }
 
 void Analytics::flushBeforeQuit() {
-    const QDeadlineTimer deadline{quitTimeout};
+    const QDeadlineTimer deadline{quitLimit_};
     if (inFlight_) {
         // The events under way would arrive twice if they were sent again now.
         if (!arrives(inFlight_->reply, deadline)) return;
@@ -147,7 +146,7 @@ void Analytics::flushBeforeQuit() {
         settle(*batch);
     }
     if (!canDeliver()) return;
-    const Batch last = post({}, quitTimeout);
+    const Batch last = post({}, quitLimit_);
     if (arrives(last.reply, deadline)) settle(last);
 }
 

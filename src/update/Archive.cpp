@@ -1,10 +1,9 @@
 #include "update/Archive.h"
 
 #include "update/Errors.h"
+#include "update/LibArchive.h"
 #include "update/Utf8Locale.h"
 
-#include <archive.h>
-#include <archive_entry.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 
@@ -214,6 +213,7 @@ private:
 
 std::optional<UpdateError> unpack(std::string_view archive, const path& folder, UnpackLimits limits,
                                   const std::stop_token& stop) {
+    if (!libarchive.load()) return updateError(updateArchiveDamaged);
     return Unpacking{folder, limits, stop}.run(archive);
 }
 

@@ -1,33 +1,17 @@
 #include "ui/controls/MenuBarIcon.h"
 
 #include "artwork/Mark.h"
-
-#include <QPainter>
-#include <QPixmap>
-
-#include <array>
+#include "ui/controls/PaintedIcon.h"
 
 namespace quillon::MenuBarIcon {
-namespace {
 
-/// The sides, in pixels, that panels show at scale factors from 1 to 3.
-constexpr std::array sides{16, 22, 24, 32, 44, 48, 64};
-
-} // namespace
-
-QIcon image(QColor tint) {
-    QIcon icon;
-    for (const int side : sides) {
-        QPixmap pixmap{side, side};
-        pixmap.fill(Qt::transparent);
-        QPainter painter{&pixmap};
-        const double margin = side / 16.0;
-        paintPlainMark(painter, QRectF{pixmap.rect()}.adjusted(margin, margin, -margin, -margin),
-                       tint);
-        painter.end();
-        icon.addPixmap(pixmap);
-    }
-    return icon;
+QIcon image(QColor tint, const QString& name) {
+    const auto paint = [tint](QPainter& painter, const QRectF& frame) {
+        const double margin = frame.width() / 16.0;
+        paintPlainMark(painter, frame.adjusted(margin, margin, -margin, -margin), tint);
+    };
+    // The sizes that panels show at scale factors from 1 to 3.
+    return QIcon{new PaintedIcon{paint, {16, 22, 24, 32, 44, 48, 64}, name}};
 }
 
 } // namespace quillon::MenuBarIcon

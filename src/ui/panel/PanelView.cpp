@@ -184,7 +184,7 @@ QCoro::Task<> PanelView::readClipboard() {
     const bool empty = std::holds_alternative<ClipEmpty>(content);
     if (isLarge(content)) {
         const QFuture<Clipboard::Summary> work =
-            QtConcurrent::run([large = std::move(content)] { return shownSummary(large); });
+            QtConcurrent::run(shownSummary, std::move(content));
         Clipboard::Summary summary = co_await work;
         if (!self) co_return;
         clip_ = std::move(summary);

@@ -10,6 +10,7 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include <chrono>
@@ -23,6 +24,12 @@ namespace {
 
 /// The icon's name in the icon theme, for hosts that paint icons in a colour of their own.
 const QString themeIcon = QStringLiteral("dev.vostrel.quillon-symbolic");
+
+/// Whether the icon is installed. Qt would read the theme's whole index for this.
+bool hasThemeIcon() {
+    const QString file = QStringLiteral("icons/hicolor/symbolic/apps/%1.svg").arg(themeIcon);
+    return !QStandardPaths::locate(QStandardPaths::GenericDataLocation, file).isEmpty();
+}
 
 /// The time after which an X11 tray has painted the icon.
 constexpr std::chrono::milliseconds drawn{500};
@@ -159,8 +166,8 @@ void TrayIcon::refresh() {
 QIcon TrayIcon::image() const {
     // The best colour is that of the icons around it, if the tray tells.
     if (const auto told = watch_.foreground()) return MenuBarIcon::image(*told);
-    if (watch_.hosted() && QIcon::hasThemeIcon(themeIcon)) return QIcon::fromTheme(themeIcon);
-    return MenuBarIcon::image(inkOn(ground_));
+    const bool named = watch_.hosted() && hasThemeIcon();
+    return MenuBarIcon::image(inkOn(ground_), named ? themeIcon : QString{});
 }
 
 bool TrayIcon::eventFilter(QObject* watched, QEvent* event) {

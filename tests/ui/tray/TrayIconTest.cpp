@@ -5,10 +5,17 @@
 
 #include <QApplication>
 #include <QDBusVariant>
+#include <QTemporaryDir>
+
+#include <filesystem>
+#include <fstream>
 
 namespace quillon::test {
 
 namespace {
+
+/// The icon's name where it is installed.
+const QString installed = QStringLiteral("dev.vostrel.quillon-symbolic");
 
 /// A desktop's panel that shows icons given over the bus: a watcher, with a host or without.
 class FakeHost : public BusService {
@@ -30,6 +37,13 @@ public:
     void click() const {
         (void)call(item(), "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate",
                    {10, 10});
+    }
+    /// The file or the name in the icon theme that the host should paint.
+    [[nodiscard]] QString iconName() const {
+        const auto answer =
+            call(item(), "/StatusNotifierItem", "org.freedesktop.DBus.Properties", "Get",
+                 {QStringLiteral("org.kde.StatusNotifierItem"), QStringLiteral("IconName")});
+        return answer.arguments().value(0).value<QDBusVariant>().variant().toString();
     }
     /// Whether that icon comes with a menu.
     [[nodiscard]] bool getsMenu() const {
@@ -114,6 +128,7 @@ TEST_F(TrayIconTest, HasAMenuForHostsThatOpenNothingElse) {
     FakeHost host{true};
     ASSERT_TRUE(waitUntil([&] { return host.items() == 1; }));
     EXPECT_TRUE(host.getsMenu());
+    EXPECT_NE(host.iconName(), installed) << "it is not";
     for (const char* label : {"Open panel", "Settings…", "Quit"})
         entry(label).trigger();
     EXPECT_TRUE(panels == 1 && settings == 1 && quits == 1);
@@ -125,6 +140,19 @@ TEST_F(TrayIconTest, HasAMenuForHostsThatOpenNothingElse) {
     ASSERT_TRUE(waitUntil([&] { return send.isEnabled(); }));
     computer.store->forgetBot();
     EXPECT_TRUE(waitUntil([&] { return !send.isEnabled(); }));
+}
+
+TEST_F(TrayIconTest, IsTheDesktopsToPaintWhereItIsInstalled) {
+    const QTemporaryDir data;
+    const auto folder =
+        std::filesystem::path{data.path().toStdString()} / "icons/hicolor/symbolic/apps";
+    std::filesystem::create_directories(folder);
+    std::ofstream{folder / (installed.toStdString() + ".svg")} << "<svg/>";
+    qputenv("XDG_DATA_HOME", data.path().toUtf8());
+    const FakeHost host{true};
+    ASSERT_TRUE(waitUntil([&] { return host.items() == 1; }));
+    EXPECT_EQ(host.iconName(), installed);
+    qunsetenv("XDG_DATA_HOME");
 }
 
 } // namespace quillon::test

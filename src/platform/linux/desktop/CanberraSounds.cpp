@@ -1,5 +1,7 @@
 #include "platform/linux/desktop/CanberraSounds.h"
 
+#include "base/LateLibrary.h"
+
 #include <canberra.h>
 #include <dlfcn.h>
 
@@ -15,6 +17,18 @@ namespace quillon {
 namespace {
 
 using Clock = std::chrono::steady_clock;
+
+/// Needed from the first sound on. It depends on six libraries.
+constinit const LateLibrary libcanberra{QUILLON_CANBERRA};
+
+QUILLON_LATE(libcanberra, ca_context_change_props);
+QUILLON_LATE(libcanberra, ca_context_create);
+QUILLON_LATE(libcanberra, ca_context_destroy);
+QUILLON_LATE(libcanberra, ca_context_open);
+QUILLON_LATE(libcanberra, ca_context_play_full);
+QUILLON_LATE(libcanberra, ca_proplist_create);
+QUILLON_LATE(libcanberra, ca_proplist_destroy);
+QUILLON_LATE(libcanberra, ca_proplist_sets);
 
 /// Quitting waits this long for the connection to the sound server, and again for the end of it.
 constexpr std::chrono::milliseconds closingLimit{200};
@@ -46,7 +60,7 @@ void silenceAlsa() {
 
 ca_context* connect() {
     ca_context* context = nullptr;
-    if (ca_context_create(&context) != CA_SUCCESS) return nullptr;
+    if (!libcanberra.load() || ca_context_create(&context) != CA_SUCCESS) return nullptr;
     ca_context_change_props(context, CA_PROP_APPLICATION_NAME, "Quillon", CA_PROP_MEDIA_ROLE,
                             "event", CA_PROP_CANBERRA_CACHE_CONTROL, "permanent", nullptr);
     ca_context_open(context);

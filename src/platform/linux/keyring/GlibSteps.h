@@ -1,6 +1,6 @@
 #pragma once
 
-#include <gio/gio.h>
+#include "platform/linux/keyring/LibSecret.h"
 
 #include <atomic>
 #include <chrono>

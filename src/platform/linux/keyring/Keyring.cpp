@@ -28,7 +28,7 @@ Attributes attributesOf(const KeychainItem& item) {
             &g_hash_table_unref};
 }
 
-using Value = std::unique_ptr<SecretValue, decltype(&secret_value_unref)>;
+using Value = std::unique_ptr<SecretValue, decltype(&::secret_value_unref)>;
 
 } // namespace
 
@@ -49,7 +49,7 @@ GlibPointer<GAsyncResult> Keyring::askUser(const GlibSteps::Start& start) {
 }
 
 bool Keyring::open() {
-    if (!hasSessionBus()) return false;
+    if (!hasSessionBus() || !libsecret.load()) return false;
     auto answer = ask([](auto... end) { g_bus_get(G_BUS_TYPE_SESSION, end...); });
     if (!answer) return false;
     const GlibPointer<GDBusConnection> bus{g_bus_get_finish(answer.get(), nullptr)};
@@ -99,7 +99,7 @@ SecretReading Keyring::read(const KeychainItem& item) {
     if (secret_item_get_locked(first) && !unlock(first))
         return {.answer = SecretAnswer::locked, .secret = {}};
     if (!load(first)) return {};
-    const Value value{secret_item_get_secret(first), &secret_value_unref};
+    const Value value{secret_item_get_secret(first), secret_value_unref};
     if (!value) return {};
     gsize length = 0;
     const char* bytes = secret_value_get(value.get(), &length);
@@ -158,7 +158,7 @@ bool Keyring::save(const KeychainItem& item, const std::string& value) {
     const Attributes attributes = attributesOf(item);
     const Value secret{
         secret_value_new(value.data(), static_cast<gssize>(value.size()), "text/plain"),
-        &secret_value_unref};
+        secret_value_unref};
     const auto store = [&](auto... end) {
         secret_service_store(service_.get(), &schema(), attributes.get(), SECRET_COLLECTION_DEFAULT,
                              item.label.c_str(), secret.get(), end...);

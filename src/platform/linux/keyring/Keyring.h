@@ -3,8 +3,6 @@
 #include "platform/SecretStore.h"
 #include "platform/linux/keyring/GlibSteps.h"
 
-#include <libsecret/secret.h>
-
 namespace quillon {
 
 /// One visit to the Secret Service, which gives up after a limit. Only the steps that ask the user
