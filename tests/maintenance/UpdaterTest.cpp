@@ -2,16 +2,11 @@
 
 #include "support/FakeFramework.h"
 #include "support/TestComputer.h"
-
-#include <gmock/gmock.h>
+#include "support/Testing.h"
 
 namespace quillon::test {
 
 namespace {
-
-using namespace std::chrono_literals;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// A program whose launch the test repeats.
 struct UpdaterTest : testing::Test {
