@@ -6,8 +6,6 @@
 #include "support/TestComputer.h"
 #include "ui/panel/PanelView.h"
 
-#include <gmock/gmock.h>
-
 namespace quillon::test {
 
 namespace {
