@@ -4,7 +4,6 @@
 #include <QElapsedTimer>
 
 namespace quillon::test {
-namespace {
 
 using std::chrono::milliseconds;
 
@@ -206,5 +205,4 @@ TEST_F(Delivery, HoldsUpQuittingForThreeSecondsAtMost) {
     EXPECT_EQ(timeouts.size(), 2U) << "what is under way is not sent again";
 }
 
-} // namespace
 } // namespace quillon::test
