@@ -3,8 +3,6 @@
 
 namespace quillon::test {
 
-namespace {
-
 constexpr const char* notSetUp = "Bot:      not connected\n"
                                  "Group:    not found yet\n"
                                  "Topic:    📝 Notes & text (not created yet)\n"
@@ -54,8 +52,6 @@ struct Commands : EndToEnd {
         expectRun({"history"}, 0, history.out, "");
     }
 };
-
-} // namespace
 
 TEST_F(Commands, AreUnderstoodOrExplained) {
     const Finished help = quillon.run({"--help"});

@@ -5,8 +5,6 @@
 
 namespace quillon::test {
 
-namespace {
-
 struct FirstPicture : EndToEnd {
     void SetUp() override {
         EndToEnd::SetUp();
@@ -85,8 +83,6 @@ struct FirstPicture : EndToEnd {
     ScreenReader reader;
     std::unique_ptr<QProcess> program;
 };
-
-} // namespace
 
 TEST_F(FirstPicture, WithTheKeyboardAlone) {
     Desk::goToOtherWindow();
