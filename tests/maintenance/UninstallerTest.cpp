@@ -5,7 +5,6 @@
 #include "support/TestComputer.h"
 
 namespace quillon::test {
-namespace {
 
 using fs::path;
 using Log = std::vector<std::string>;
@@ -128,5 +127,4 @@ TEST_F(UninstallerTest, DoesNotWaitForEverAtALockedKeyring) {
     EXPECT_EQ(removed, false);
 }
 
-} // namespace
 } // namespace quillon::test

@@ -6,8 +6,6 @@
 
 namespace quillon::test {
 
-namespace {
-
 /// A program whose launch the test repeats.
 struct UpdaterTest : testing::Test {
     UpdaterTest() {
@@ -36,8 +34,6 @@ struct UpdaterTest : testing::Test {
     bool declinedWhenAsked = false;
     std::optional<Updater> updater;
 };
-
-} // namespace
 
 TEST_F(UpdaterTest, StaysOffWithoutAnApplicationFolderOrAFeed) {
     computer.platform.bundle.url = "/usr/bin/quillon";
