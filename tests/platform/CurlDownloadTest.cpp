@@ -8,7 +8,6 @@
 #include <future>
 
 namespace quillon::test {
-namespace {
 
 using enum DownloadOutcome;
 using Connection = RawServer::Connection;
@@ -118,5 +117,4 @@ TEST_F(CurlDownloadTest, FollowsARedirectToHttps) {
     EXPECT_EQ(hello.get_future().get(), "\x16\x03\x01") << "the first bytes of a TLS greeting";
 }
 
-} // namespace
 } // namespace quillon::test

@@ -12,7 +12,6 @@
 #include <csignal>
 
 namespace quillon::test {
-namespace {
 
 using Outcome = FileReading::Outcome;
 using std::filesystem::path;
@@ -145,5 +144,4 @@ TEST_F(PosixFileSystemTest, CreatesFoldersForTheirOwnerAlone) {
     EXPECT_FALSE(files.createFolder(at("file/below")));
 }
 
-} // namespace
 } // namespace quillon::test

@@ -10,8 +10,6 @@
 
 namespace quillon::test {
 
-namespace {
-
 constexpr qint64 promptly = 800; // ms: sooner than the reader's patience
 
 struct X11PasteboardTest : testing::Test {
@@ -20,8 +18,6 @@ struct X11PasteboardTest : testing::Test {
     XServer server;
     std::unique_ptr<X11Pasteboard> pasteboard = X11Pasteboard::open(server.display());
 };
-
-} // namespace
 
 TEST_F(X11PasteboardTest, CountsCopiesAndTheOwnersEnd) {
     EXPECT_THAT(await(pasteboard->formats()), IsEmpty());

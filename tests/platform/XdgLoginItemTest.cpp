@@ -9,8 +9,6 @@
 
 namespace quillon::test {
 
-namespace {
-
 using std::filesystem::path;
 
 struct XdgLoginItemTest : testing::Test {
@@ -40,8 +38,6 @@ struct XdgLoginItemTest : testing::Test {
                           .config = home / "config"};
     const path file = home / "config/autostart/dev.vostrel.quillon.desktop";
 };
-
-} // namespace
 
 TEST_F(XdgLoginItemTest, StartsAProgramOfAnyNameThatAnEntryCanHold) {
     // The second stands behind the home folder, and is null where the first is refused.
