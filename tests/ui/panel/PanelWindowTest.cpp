@@ -8,8 +8,6 @@
 
 namespace quillon::test {
 
-namespace {
-
 struct PanelWindowTest : testing::Test {
     TestComputer computer;
     Updater updater{computer.platform, *computer.analytics, {}};
@@ -20,8 +18,6 @@ struct PanelWindowTest : testing::Test {
                        }};
     const QRect icon{100, 0, 24, 24};
 };
-
-} // namespace
 
 TEST_F(PanelWindowTest, ClosesWithItsIconAndWhenSomethingElseTakesTheFocus) {
     window.toggle(icon);

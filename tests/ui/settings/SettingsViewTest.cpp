@@ -14,8 +14,6 @@
 
 namespace quillon::test {
 
-namespace {
-
 /// The settings in a window, over a store that has gone through its setup.
 struct SettingsTest : testing::Test {
     SettingsTest() { setAnimationsEnabled(false); }
@@ -50,8 +48,6 @@ struct SettingsTest : testing::Test {
                       QStringLiteral("setup")};
     Controls controls{view};
 };
-
-} // namespace
 
 TEST_F(SettingsTest, ReportsTheHeightOfEachTab) {
     std::vector<int> reported;
