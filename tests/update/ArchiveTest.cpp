@@ -9,7 +9,6 @@
 #include <QTemporaryDir>
 
 namespace quillon::test {
-namespace {
 
 struct ArchiveTest : testing::Test {
     ArchiveTest() {
@@ -122,5 +121,4 @@ TEST_F(ArchiveTest, StopsAtItsLimits) {
     EXPECT_EQ(unpacked(archiveOf(three), {.entries = 3}), std::nullopt);
 }
 
-} // namespace
 } // namespace quillon::test

@@ -13,7 +13,6 @@
 #include <csignal>
 
 namespace quillon::test {
-namespace {
 
 using Prepared = std::variant<PreparedUpdate, UpdateError>;
 
@@ -234,5 +233,4 @@ TEST_F(UpdateTest, LeavesOneWorkingVersionWhenKilled) {
     EXPECT_EQ(versionOf(bundle), "1.1") << "it was never given the time";
 }
 
-} // namespace
 } // namespace quillon::test
