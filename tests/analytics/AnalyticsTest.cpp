@@ -1,10 +1,8 @@
 #include "support/TestComputer.h"
-
-#include <gmock/gmock.h>
+#include "support/Testing.h"
 
 using namespace quillon;
 using namespace quillon::test;
-using testing::ElementsAre;
 
 TEST(Analytics, WritesEachEventAtOnce) {
     TestComputer computer;

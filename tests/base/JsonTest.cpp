@@ -21,18 +21,16 @@ TEST(Json, RefusesDeepNestingWithoutBuildingIt) {
     EXPECT_TRUE(parseJson(std::string(100, '[') + std::string(100, ']')));
     EXPECT_EQ(parseJson(std::string(10'000'000, '[')), std::nullopt);
     std::string objects;
-    for (int depth = 0; depth < 100'000; ++depth) {
+    for (int depth = 0; depth < 100'000; ++depth)
         objects += "{\"a\":";
-    }
     EXPECT_EQ(parseJson(objects), std::nullopt);
 }
 
 TEST(Json, RefusesObjectsOfTooManyKeys) {
     const auto objectOf = [](int keys) {
         std::string object = "{";
-        for (int key = 0; key < keys; ++key) {
+        for (int key = 0; key < keys; ++key)
             object += (key > 0 ? ",\"" : "\"") + std::to_string(key) + R"(":{"a":[{}]})";
-        }
         return object + "}";
     };
     EXPECT_TRUE(parseJson("[" + objectOf(1000) + "," + objectOf(1000) + "]"));

@@ -1,5 +1,7 @@
 #include "base/Text.h"
 #include "base/ShownText.h"
+#include "base/ThisMachine.h"
+#include "base/Translate.h"
 
 #include <gtest/gtest.h>
 
@@ -60,18 +62,31 @@ TEST(ShownText, LosesItsMiddleBetweenCharactersWhenItIsEndless) {
     const QString family =
         QStringLiteral("👨‍👩‍👧‍👦"); // one character, eleven units
     const QString wave = QStringLiteral("🌊");
-    struct Case {
-        QString text;
-        QString shown;
+    const std::pair<QString, QString> cases[]{
+        {QStringLiteral("0123456789"), QStringLiteral("0123456789")},
+        {QStringLiteral("012345678901"), QStringLiteral("01234…78901")},
+        {QStringLiteral("012") + family + QStringLiteral("789"), QStringLiteral("012…789")},
+        {QStringLiteral("a") + wave.repeated(9), QStringLiteral("a🌊🌊…🌊🌊")},
+        // Longer than all that is kept.
+        {family.repeated(2), family.left(5) + QStringLiteral("…")},
     };
-    for (const Case& each : {
-             Case{QStringLiteral("0123456789"), QStringLiteral("0123456789")},
-             Case{QStringLiteral("012345678901"), QStringLiteral("01234…78901")},
-             Case{QStringLiteral("012") + family + QStringLiteral("789"),
-                  QStringLiteral("012…789")},
-             Case{QStringLiteral("a") + wave.repeated(9), QStringLiteral("a🌊🌊…🌊🌊")},
-             // Longer than all that is kept.
-             Case{family.repeated(2), family.left(5) + QStringLiteral("…")},
-         })
-        EXPECT_EQ(shortened(each.text, 10).toStdString(), each.shown.toStdString());
+    for (const auto& [text, shown] : cases)
+        EXPECT_EQ(shortened(text, 10).toStdString(), shown.toStdString());
+}
+
+TEST(Translate, FillsPlacesOnceWhateverTheValuesHold) {
+    EXPECT_EQ(filled("Couldn't read %1", {"100%2 sure.txt"}), "Couldn't read 100%2 sure.txt");
+    EXPECT_EQ(filled("%2 of %1, %1", {"%2", "b"}), "b of %2, %2");
+    EXPECT_EQ(filled("50 % of %1, %3 %", {"x", "y"}), "50 % of x, %3 %");
+    EXPECT_EQ(filled("no place", {"x"}), "no place");
+}
+
+TEST(ThisMachineTest, IsLocalhostAndTheLoopbackAddressesAlone) {
+    for (const char* host : {"localhost", "127.0.0.1", "127.255.0.3", "::1", "[::1]"})
+        EXPECT_TRUE(isThisMachine(host)) << host;
+    for (const char* host :
+         {"", "128.0.0.1", "126.255.255.255", "0.0.0.0", "192.0.2.1", "localhost.",
+          "localhost.evil.example", "127.0.0.1.", "127.0.0.1.evil.example", "127.1",
+          "::", "::ffff:127.0.0.1", "[::ffff:127.0.0.1]", "[127.0.0.1]", "[::1", "127.0.0.1:80"})
+        EXPECT_FALSE(isThisMachine(host)) << host;
 }

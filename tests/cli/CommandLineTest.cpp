@@ -35,9 +35,8 @@ TEST(CommandLine, UnderstandsOneCommandAndItsOption) {
                                                               {"launch-at-login", "--yes"},
                                                               {"send", "--complete"},
                                                               {"uninstall"}};
-    for (const auto& arguments : misunderstood) {
+    for (const auto& arguments : misunderstood)
         EXPECT_EQ(understood(arguments), "") << testing::PrintToString(arguments);
-    }
 }
 
 TEST(Terminal, IsNotDrivenByWhatIsPrinted) {

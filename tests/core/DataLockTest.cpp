@@ -1,31 +1,25 @@
 #include "core/DataLock.h"
 
 #include "support/TestComputer.h"
-
-#include <gtest/gtest.h>
+#include "support/Testing.h"
 
 namespace quillon::test {
 
-namespace {
-
-using namespace std::chrono_literals;
-
 /// A command that wants the data while another process holds them.
-struct DataLockTest : testing::Test {
+TEST(DataLockTest, IsWaitedForUntilPatienceIsOver) {
     TestComputer computer;
     std::optional<FolderLock> other = FolderLock::take(computer.platform.dataFolder);
     bool ended = false;
     std::optional<FolderLock> taken;
-
-    QCoro::Task<> want() {
+    const auto want = [&]() -> QCoro::Task<> {
+        ended = false;
         taken = co_await takeDataLock(computer.platform, dataLockPatience);
         ended = true;
-    }
-};
-
-} // namespace
-
-TEST_F(DataLockTest, WaitsUntilTheOtherIsDone) {
+    };
+    want();
+    computer.clock.advance(dataLockPatience + 100ms);
+    EXPECT_TRUE(ended);
+    EXPECT_FALSE(taken);
     want();
     computer.clock.advance(4s);
     EXPECT_FALSE(ended);
@@ -34,13 +28,6 @@ TEST_F(DataLockTest, WaitsUntilTheOtherIsDone) {
     EXPECT_TRUE(ended);
     EXPECT_TRUE(taken);
     EXPECT_FALSE(FolderLock::take(computer.platform.dataFolder));
-}
-
-TEST_F(DataLockTest, GivesUpWhenItsPatienceIsOver) {
-    want();
-    computer.clock.advance(dataLockPatience + 100ms);
-    EXPECT_TRUE(ended);
-    EXPECT_FALSE(taken);
 }
 
 } // namespace quillon::test

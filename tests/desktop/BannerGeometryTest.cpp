@@ -9,18 +9,14 @@ namespace {
 
 TEST(BannerFrame, IsCentredInWhatPanelsLeaveOfTheScreen) {
     const QRect visible{100, 30, 1000, 700}; // a panel above, a dock at the left
-    struct Case {
-        BannerPosition position;
-        QSize window;
-        QRect frame;
+    const std::tuple<BannerPosition, QSize, QRect> cases[]{
+        {BannerPosition::top, {300, 74}, {450, 42, 300, 74}},
+        {BannerPosition::middle, {300, 74}, {450, 343, 300, 74}},
+        {BannerPosition::bottom, {300, 74}, {450, 632, 300, 74}},
+        {BannerPosition::top, {1200, 74}, {0, 42, 1200, 74}},
     };
-    for (const Case& c : {
-             Case{BannerPosition::top, {300, 74}, {450, 42, 300, 74}},
-             Case{BannerPosition::middle, {300, 74}, {450, 343, 300, 74}},
-             Case{BannerPosition::bottom, {300, 74}, {450, 632, 300, 74}},
-             Case{BannerPosition::top, {1200, 74}, {0, 42, 1200, 74}},
-         })
-        EXPECT_EQ(bannerFrame(visible, c.window, c.position), c.frame) << c.frame.y();
+    for (const auto& [position, window, frame] : cases)
+        EXPECT_EQ(bannerFrame(visible, window, position), frame) << frame.y();
 }
 
 QStringList wrap(const QString& text) {

@@ -6,7 +6,6 @@
 #include "ui/theme/Motion.h"
 
 #include <QAnimationDriver>
-#include <QGuiApplication>
 #include <QScreen>
 
 #include <gtest/gtest.h>
@@ -47,8 +46,7 @@ private:
     qint64 elapsed_ = 0;
 };
 
-class HUDTest : public testing::Test {
-protected:
+struct HUDTest : testing::Test {
     [[nodiscard]] bool visible() const { return hud.panel() && hud.panel()->isVisible(); }
     [[nodiscard]] double alpha() const { return hud.panel()->alpha(); }
     void good(bool sticky = false) {

@@ -3,17 +3,9 @@
 #include "support/Await.h"
 #include "support/TestComputer.h"
 
-#include <gmock/gmock.h>
-
 namespace quillon::test {
 
-namespace {
-
 using enum ShortcutChoice;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-} // namespace
 
 TEST(StoreShortcut, IsAnnouncedFromTheEventLoopWhileThereIsAStore) {
     TestComputer computer;

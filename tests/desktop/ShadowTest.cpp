@@ -17,10 +17,7 @@ struct Picture {
 };
 
 TEST(CapsuleShadow, IsAnotherPictureForEachThingThatItDependsOn) {
-    const struct {
-        const char* name;
-        Picture picture;
-    } cases[]{
+    const std::pair<const char*, Picture> cases[]{
         {"wider picture", {.size = {130, 60}}},
         {"higher picture", {.size = {120, 70}}},
         {"capsule further along", {.capsule = {30, 20, 80, 20}}},
@@ -34,8 +31,8 @@ TEST(CapsuleShadow, IsAnotherPictureForEachThingThatItDependsOn) {
         {"scale", {.devicePixelRatio = 2}},
     };
     const QImage usual = Picture{}.image();
-    for (const auto& each : cases)
-        EXPECT_TRUE(each.picture.image() != usual) << each.name;
+    for (const auto& [name, picture] : cases)
+        EXPECT_TRUE(picture.image() != usual) << name;
     EXPECT_TRUE(Picture{}.image() == usual);
 }
 

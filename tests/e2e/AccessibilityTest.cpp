@@ -2,14 +2,9 @@
 #include "Desk.h"
 #include "EndToEnd.h"
 
-#include <map>
-#include <set>
-
 namespace quillon::test {
 
 namespace {
-
-using testing::IsEmpty;
 
 const std::set<std::string> controlRoles{"push button",   "check box", "radio button", "text",
                                          "password text", "page tab",  "list item"};
@@ -35,8 +30,7 @@ void collectFaults(const Control& control, std::map<std::string, int>& seen,
         collectFaults(child, seen, faults);
 }
 
-class Accessibility : public EndToEnd {
-protected:
+struct Accessibility : EndToEnd {
     void SetUp() override {
         EndToEnd::SetUp();
         setUp();
@@ -48,8 +42,7 @@ protected:
     }
 
     void TearDown() override {
-        program->terminate();
-        EXPECT_EQ(Program::finish(*program).code, 0);
+        endProgram(*program);
         EndToEnd::TearDown();
     }
 

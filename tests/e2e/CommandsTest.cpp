@@ -3,12 +3,6 @@
 
 namespace quillon::test {
 
-namespace {
-
-using testing::HasSubstr;
-using testing::MatchesRegex;
-using testing::SizeIs;
-
 constexpr const char* notSetUp = "Bot:      not connected\n"
                                  "Group:    not found yet\n"
                                  "Topic:    📝 Notes & text (not created yet)\n"
@@ -18,8 +12,7 @@ constexpr const char* notSetUp = "Bot:      not connected\n"
                                  "Shortcut: ⌃⌥V\n"
                                  "Ready:    no\n";
 
-class Commands : public EndToEnd {
-protected:
+struct Commands : EndToEnd {
     void expectRun(const std::vector<std::string>& arguments, int code, const std::string& out,
                    const std::string& err, const std::string& input = {}) {
         const Finished run = quillon.run(arguments, input);
@@ -60,8 +53,6 @@ protected:
     }
 };
 
-} // namespace
-
 TEST_F(Commands, AreUnderstoodOrExplained) {
     const Finished help = quillon.run({"--help"});
     EXPECT_THAT(help.out, HasSubstr("Usage: quillon [COMMAND]\n"));
@@ -75,14 +66,12 @@ TEST_F(Commands, GoFromConnectingToForgetting) {
 }
 
 TEST_F(Commands, DoTheSameInTheProgramThatRuns) {
-    const auto program = quillon.start({});
-    EXPECT_TRUE(waitUntil(Program::hasName));
+    const auto program = startProgram();
     EXPECT_EQ(quillon.run({}).code, 0) << "one is enough, which comes to the front";
     // Each would wait for the data folder, and then fail, if it were to do its work itself.
     goFromConnectingToForgetting();
     EXPECT_THAT(quillon.processes(), SizeIs(1)) << "no other shows the banner";
-    program->terminate();
-    EXPECT_EQ(Program::finish(*program).code, 0);
+    endProgram(*program);
     EXPECT_THAT(quillon.run({"history"}).out, HasSubstr("\tfirst <line>\n")) << "what it did stays";
 }
 
@@ -99,22 +88,19 @@ TEST_F(Commands, FailWhenWhatTheyPrintCannotBeWritten) {
     };
     expectFailure(QStringLiteral("--help"));
     expectFailure(QStringLiteral("status"));
-    const auto program = quillon.start({});
-    EXPECT_TRUE(waitUntil(Program::hasName));
+    const auto program = startProgram();
     expectFailure(QStringLiteral("status"));
     setUp();
     clipboard.copyText("a");
     expectFailure(QStringLiteral("send"));
-    program->terminate();
-    EXPECT_EQ(Program::finish(*program).code, 0);
+    endProgram(*program);
     clipboard.copyText("a");
     expectFailure(QStringLiteral("send"));
 }
 
 TEST_F(Commands, FollowWhatIsWrittenIntoTheSettings) {
     setUp();
-    const auto program = quillon.start({});
-    ASSERT_TRUE(waitUntil(Program::hasName));
+    const auto program = startProgram();
     const std::string settings = data.path().toStdString() + "/Quillon/config.json";
     std::string text = content(settings);
     const std::string name = "Notes & text";
@@ -124,8 +110,7 @@ TEST_F(Commands, FollowWhatIsWrittenIntoTheSettings) {
         [this] { return quillon.run({"status"}).out.find("📝 Scraps\n") != std::string::npos; }));
     EXPECT_EQ(quillon.run({"rename-topics"}).code, 0);
     EXPECT_THAT(sandbox::dumped(phone.view()), HasSubstr("📝 Scraps"));
-    program->terminate();
-    EXPECT_EQ(Program::finish(*program).code, 0);
+    endProgram(*program);
     EXPECT_EQ(content(settings), text);
 }
 
@@ -166,13 +151,11 @@ TEST_F(Commands, ReadTheTokenFromATerminalUnseen) {
 TEST_F(Commands, ShowProgressOnATerminal) {
     setUp();
     clipboard.copyFiles({file("big.bin", std::string(40'000'000, 'x'))});
-    sandbox::Fault slow = fault(sandbox::FaultKind::delay);
-    slow.delay = std::chrono::seconds{3};
-    phone.failNext(slow);
+    phone.failNext(fault(sandbox::FaultKind::delay, 3s));
     const Finished run = quillon.runOnTerminal({"send"});
     EXPECT_EQ(run.code, 0);
     EXPECT_THAT(run.out, HasSubstr("\r\x1b[KSending… 40.0 of 40.0 MB"));
-    EXPECT_THAT(run.out, testing::EndsWith("\r\x1b[Ksent\t📎 Files\tbig.bin\r\n"))
+    EXPECT_THAT(run.out, EndsWith("\r\x1b[Ksent\t📎 Files\tbig.bin\r\n"))
         << "and takes it away again";
 }
 

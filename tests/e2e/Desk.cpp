@@ -1,5 +1,6 @@
 #include "Desk.h"
 
+#include "Program.h"
 #include "support/Await.h"
 #include "support/Files.h"
 
@@ -15,10 +16,6 @@ constexpr const char* panelSettings = "panel_items = S\n"
                                       "systray_icon_size = 22\n";
 
 const QString pointerTool = QStringLiteral("xdotool");
-
-QStringList words(const std::string& line) {
-    return QString::fromStdString(line).split(QLatin1Char{' '});
-}
 
 QString answer(const QString& tool, const char* question) {
     QProcess asking;

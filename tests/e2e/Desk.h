@@ -5,8 +5,6 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <string>
-
 namespace quillon::test {
 
 /// What a person has in front of them: a desktop panel with room for icons, the window of another

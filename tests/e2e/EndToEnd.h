@@ -8,10 +8,7 @@
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
-#include <QProcess>
 #include <QTemporaryDir>
-
-#include <gmock/gmock.h>
 
 #include <csignal>
 
@@ -20,8 +17,7 @@ namespace quillon::test {
 using sandbox::Json;
 
 /// A user with a desktop, a phone and the program.
-class EndToEnd : public testing::Test {
-protected:
+struct EndToEnd : testing::Test {
     static constexpr const char* token = sandbox::Sandbox::demoToken;
 
     void SetUp() override {
@@ -30,8 +26,7 @@ protected:
             FAIL() << "to be run through tools/private-desktop";
         const QStringList startable =
             QDBusConnection::sessionBus().interface()->activatableServiceNames();
-        EXPECT_THAT(startable,
-                    testing::UnorderedElementsAre(u"org.freedesktop.DBus", u"org.a11y.Bus"))
+        EXPECT_THAT(startable, UnorderedElementsAre(u"org.freedesktop.DBus", u"org.a11y.Bus"))
             << "the machine's services come to the tests";
         ASSERT_EQ(quillon.run({"forget"}).code, 0);
         phone.addBot(token, "quillon_demo_bot");
@@ -46,6 +41,19 @@ protected:
             << "the program stays on";
     }
 
+    /// Starts the program that stays.
+    [[nodiscard]] std::unique_ptr<QProcess>
+    startProgram(const std::vector<std::string>& arguments = {}) const {
+        auto program = quillon.start(arguments);
+        EXPECT_TRUE(waitUntil(Program::hasName));
+        return program;
+    }
+    /// Ends it as the session does.
+    static void endProgram(QProcess& program) {
+        program.terminate();
+        const Finished ended = Program::finish(program);
+        EXPECT_EQ(ended.code, 0) << ended.err;
+    }
     /// Goes through the setup.
     void setUp() {
         phone.userSays(group, "hi");

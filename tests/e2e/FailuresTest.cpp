@@ -6,14 +6,7 @@
 
 namespace quillon::test {
 
-namespace {
-
-using namespace std::chrono_literals;
-using testing::SizeIs;
-
 using Failures = EndToEnd;
-
-} // namespace
 
 TEST_F(Failures, WithoutAKeyringAreClear) {
     Program bare = quillon;
@@ -94,8 +87,7 @@ TEST_F(Failures, AFileThatHangsDoesNotHoldUpTheEnd) {
     if (!mount) GTEST_SKIP() << "this user may mount nothing";
     // A sanitizer that looks for leaks at the end waits for every thread.
     quillon.environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
-    const auto program = quillon.start({});
-    EXPECT_TRUE(waitUntil(Program::hasName));
+    const auto program = startProgram();
     clipboard.copyFiles({"file://" + documents.path().toStdString() + "/a"});
     const auto sending = quillon.start({"send"});
     const auto threads =
@@ -107,8 +99,7 @@ TEST_F(Failures, AFileThatHangsDoesNotHoldUpTheEnd) {
     })) << "nothing reads the file";
     QElapsedTimer timer;
     timer.start();
-    program->terminate();
-    EXPECT_EQ(Program::finish(*program).code, 0);
+    endProgram(*program);
     EXPECT_LT(timer.elapsed(), 3000) << "a second, and twice that for a machine at work";
     sending->waitForFinished();
 }

@@ -5,14 +5,7 @@
 
 namespace quillon::test {
 
-namespace {
-
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::Not;
-
-class FirstPicture : public EndToEnd {
-protected:
+struct FirstPicture : EndToEnd {
     void SetUp() override {
         EndToEnd::SetUp();
         write(browser, "#!/bin/sh\n{ echo \"$1\"; env; } > $0.new && mv $0.new $0.seen\n");
@@ -44,9 +37,7 @@ protected:
     /// A picture of 40 by 30 pixels, made by another program.
     static QByteArray picture() {
         QProcess convert;
-        convert.start(QStringLiteral("convert"),
-                      {QStringLiteral("-size"), QStringLiteral("40x30"),
-                       QStringLiteral("xc:orange"), QStringLiteral("png:-")});
+        convert.start(QStringLiteral("convert"), words("-size 40x30 xc:orange png:-"));
         EXPECT_TRUE(convert.waitForFinished());
         return convert.readAllStandardOutput();
     }
@@ -92,8 +83,6 @@ protected:
     ScreenReader reader;
     std::unique_ptr<QProcess> program;
 };
-
-} // namespace
 
 TEST_F(FirstPicture, WithTheKeyboardAlone) {
     Desk::goToOtherWindow();

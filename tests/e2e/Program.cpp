@@ -8,8 +8,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 
-#include <gtest/gtest.h>
-
 #include <array>
 
 #include <pty.h>
@@ -18,8 +16,6 @@
 #include <utmp.h>
 
 namespace quillon::test {
-
-namespace {
 
 constexpr int longestRun = 60'000; // ms, on a machine that is busy with other things
 
@@ -30,7 +26,9 @@ QStringList toList(const std::vector<std::string>& arguments) {
     return list;
 }
 
-} // namespace
+QStringList words(const std::string& line) {
+    return QString::fromStdString(line).split(QLatin1Char{' '});
+}
 
 Program::Program(const std::string& botApi, const std::filesystem::path& data)
     : environment{QProcessEnvironment::systemEnvironment()},
@@ -126,20 +124,16 @@ void Copier::copy(const std::string& format, const QByteArray& content) {
     process_ = std::make_unique<QProcess>();
     process_->setStandardOutputFile(QProcess::nullDevice());
     process_->setStandardErrorFile(QProcess::nullDevice());
-    const QString target = QString::fromStdString(format);
     // Quiet means that it stays in the foreground.
-    process_->start(QStringLiteral("xclip"),
-                    {QStringLiteral("-quiet"), QStringLiteral("-selection"),
-                     QStringLiteral("clipboard"), QStringLiteral("-t"), target});
+    const QString xclip = QStringLiteral("xclip");
+    process_->start(xclip, words("-quiet -selection clipboard -t " + format));
     process_->write(content);
     process_->closeWriteChannel();
     const auto offered = [&] {
         QProcess asking;
-        asking.start(QStringLiteral("xclip"), {QStringLiteral("-o"), QStringLiteral("-selection"),
-                                               QStringLiteral("clipboard"), QStringLiteral("-t"),
-                                               QStringLiteral("TARGETS")});
+        asking.start(xclip, words("-o -selection clipboard -t TARGETS"));
         asking.waitForFinished();
-        return asking.readAllStandardOutput().split('\n').contains(target.toUtf8());
+        return asking.readAllStandardOutput().split('\n').contains(format.c_str());
     };
     EXPECT_TRUE(waitUntil(offered)) << "xclip does not offer " << format;
 }

@@ -21,6 +21,10 @@ struct Finished {
     bool echoes = false; ///< whether the terminal shows what is typed, now that the run is over
 };
 
+/// Arguments for a process, and those that a line holds, between single blanks.
+QStringList toList(const std::vector<std::string>& arguments);
+QStringList words(const std::string& line);
+
 /// The program's command line, in an environment of the test's choosing.
 class Program {
 public:

@@ -5,11 +5,6 @@ namespace quillon::test {
 
 namespace {
 
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
-using testing::SizeIs;
-
 /// The regular files below the folder that hold the text.
 std::vector<std::string> holders(const std::filesystem::path& folder, const std::string& text) {
     std::vector<std::string> found;
@@ -47,8 +42,7 @@ TEST_F(Secrets, AreShownToNobody) {
     for (const int id : ids) {
         const std::string folder = "/proc/" + std::to_string(id) + "/";
         for (const char* name : {"cmdline", "environ", "comm"}) {
-            EXPECT_THAT(content(folder + name),
-                        testing::AllOf(Not(IsEmpty()), Not(HasSubstr(secret))))
+            EXPECT_THAT(content(folder + name), AllOf(Not(IsEmpty()), Not(HasSubstr(secret))))
                 << name;
         }
     }

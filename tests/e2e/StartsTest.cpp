@@ -3,14 +3,10 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace quillon::test {
 
 namespace {
-
-using namespace std::chrono_literals;
-using testing::SizeIs;
 
 constexpr const char* busyText = "Another Quillon is at work. Quit it, or wait until it is done.\n";
 constexpr const char* silentText =
@@ -18,8 +14,7 @@ constexpr const char* silentText =
 
 using Words = std::vector<std::string>;
 
-class Starts : public EndToEnd {
-protected:
+struct Starts : EndToEnd {
     /// Copies three files, the first of which meets the fault.
     void prepareSend(const sandbox::Fault& fault) {
         setUp();
@@ -36,8 +31,7 @@ protected:
 /// Whether a window of the program, one with a title, is on the screen.
 bool showsWindow() {
     return QProcess::execute(QStringLiteral("xdotool"),
-                             {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                              QStringLiteral("--name"), QStringLiteral("^Quillon$")}) == 0;
+                             words("search --onlyvisible --name ^Quillon$")) == 0;
 }
 
 } // namespace
@@ -47,34 +41,31 @@ TEST_F(Starts, EachWayGivesAProgramThatAnswers) {
     clipboard.copyText("a");
     for (const Words& way : std::vector<Words>{{}, {"settings"}, {"panel"}}) {
         SCOPED_TRACE(testing::PrintToString(way));
-        const auto program = quillon.start(way);
-        ASSERT_TRUE(waitUntil(Program::hasName));
+        const auto program = startProgram(way);
         for (const Words& command :
              std::vector<Words>{{"status"}, {"history"}, {"send"}, {"panel"}, {}})
             EXPECT_EQ(quillon.run(command).code, 0) << testing::PrintToString(command);
         EXPECT_THAT(quillon.processes(), SizeIs(1)) << "it did all of that";
-        program->terminate();
-        EXPECT_EQ(Program::finish(*program).code, 0);
+        endProgram(*program);
     }
 }
 
 TEST_F(Starts, TwoAtTheSameMomentLeaveOneProgram) {
     for (int round = 1; round <= 10; ++round) {
+        SCOPED_TRACE(round);
         std::array<std::unique_ptr<QProcess>, 2> starts{quillon.start({}), quillon.start({})};
         const auto ended = [](const auto& start) { return start->state() == QProcess::NotRunning; };
         ASSERT_TRUE(waitUntil([&] { return std::ranges::any_of(starts, ended); }));
         EXPECT_TRUE(Program::hasName());
         if (!ended(starts[0])) std::swap(starts[0], starts[1]);
-        EXPECT_EQ(Program::finish(*starts[0]).code, 0) << "round " << round;
-        EXPECT_THAT(quillon.processes(), SizeIs(1)) << "round " << round;
-        starts[1]->terminate();
-        EXPECT_EQ(Program::finish(*starts[1]).code, 0) << "round " << round;
+        EXPECT_EQ(Program::finish(*starts[0]).code, 0);
+        EXPECT_THAT(quillon.processes(), SizeIs(1));
+        endProgram(*starts[1]);
     }
 }
 
 TEST_F(Starts, OneBesideAProgramThatHangsSaysSo) {
-    const auto hanging = quillon.start({});
-    ASSERT_TRUE(waitUntil(Program::hasName));
+    const auto hanging = startProgram();
     ::kill(static_cast<pid_t>(hanging->processId()), SIGSTOP);
     const std::pair<Words, const char*> ways[]{{{}, busyText},
                                                {{"settings"}, busyText},
@@ -91,15 +82,11 @@ TEST_F(Starts, OneBesideAProgramThatHangsSaysSo) {
         EXPECT_EQ(run.err, ways[index].second) << index;
     }
     ::kill(static_cast<pid_t>(hanging->processId()), SIGCONT);
-    hanging->terminate();
-    const Finished ended = Program::finish(*hanging);
-    EXPECT_EQ(ended.code, 0) << ended.err;
+    endProgram(*hanging);
 }
 
 TEST_F(Starts, OfTwoSendsOneIsTurnedAway) {
-    sandbox::Fault slow = fault(sandbox::FaultKind::delay);
-    slow.delay = 2s;
-    prepareSend(slow);
+    prepareSend(fault(sandbox::FaultKind::delay, 2s));
     const auto first = quillon.start({"send"});
     const auto second = quillon.start({"send"});
     const auto one = Program::finish(*first);
@@ -112,8 +99,7 @@ TEST_F(Starts, OfTwoSendsOneIsTurnedAway) {
 
 TEST_F(Starts, ASendInTheProgramThatStaysKeepsNobodyWaitingAndEndsWithWhoGaveIt) {
     prepareSend(fault(sandbox::FaultKind::hang));
-    const auto program = quillon.start({});
-    ASSERT_TRUE(waitUntil(Program::hasName));
+    const auto program = startProgram();
     const auto sending = startSend();
     for (const char* command : {"status", "history"})
         EXPECT_EQ(quillon.run({command}).code, 0) << command;
@@ -131,8 +117,7 @@ TEST_F(Starts, ASendInTheProgramThatStaysKeepsNobodyWaitingAndEndsWithWhoGaveIt)
     EXPECT_EQ(quillon.run({"send"}).code, 0);
     EXPECT_THAT(messages("📎 Files"), SizeIs(3));
     EXPECT_THAT(history(), SizeIs(3 + 3)) << "what was not sent is there, too";
-    program->terminate();
-    EXPECT_EQ(Program::finish(*program).code, 0);
+    endProgram(*program);
 }
 
 TEST_F(Starts, OneDuringALongSendSaysOnTheScreenThatItWaits) {
@@ -144,8 +129,7 @@ TEST_F(Starts, OneDuringALongSendSaysOnTheScreenThatItWaits) {
     EXPECT_EQ(Program::finish(*sending).code, 1);
     EXPECT_TRUE(waitUntil([] { return !showsWindow(); }));
     EXPECT_EQ(quillon.run({"status"}).code, 0);
-    program->terminate();
-    EXPECT_EQ(Program::finish(*program).code, 0);
+    endProgram(*program);
 }
 
 } // namespace quillon::test

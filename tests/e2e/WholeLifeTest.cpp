@@ -8,18 +8,12 @@ namespace quillon::test {
 
 namespace {
 
-using namespace std::chrono_literals;
 using std::filesystem::path;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 /// Runs to the end and gives standard output, without the last line break.
 std::string output(const std::string& tool, const std::vector<std::string>& arguments) {
     QProcess process;
-    QStringList list;
-    for (const std::string& argument : arguments)
-        list << QString::fromStdString(argument);
-    process.start(QString::fromStdString(tool), list);
+    process.start(QString::fromStdString(tool), toList(arguments));
     EXPECT_TRUE(process.waitForFinished(60'000));
     EXPECT_EQ(process.exitCode(), 0) << tool << process.readAllStandardError().toStdString();
     return process.readAllStandardOutput().trimmed().toStdString();
@@ -37,15 +31,12 @@ std::vector<int> running(const path& executable) {
 }
 
 /// Whether such a window is there; if so, gives it the focus and presses the keys.
-bool answer(const std::string& title, const QStringList& keys = {QStringLiteral("Return")}) {
+bool answer(const std::string& title, const QStringList& keys = words("key Return")) {
     const QString tool = QStringLiteral("xdotool");
-    const QStringList focus{
-        QStringLiteral("search"),      QStringLiteral("--onlyvisible"),
-        QStringLiteral("--name"),      QString::fromStdString("^" + title + "$"),
-        QStringLiteral("windowfocus"), QStringLiteral("--sync")};
+    const QStringList focus =
+        toList({"search", "--onlyvisible", "--name", "^" + title + "$", "windowfocus", "--sync"});
     // Two runs, for a key that is pressed in the first would be sent to the window itself.
-    return QProcess::execute(tool, focus) == 0 &&
-           QProcess::execute(tool, QStringList{QStringLiteral("key")} + keys) == 0;
+    return QProcess::execute(tool, focus) == 0 && QProcess::execute(tool, keys) == 0;
 }
 
 /// The makers' web server, with a feed that announces one archive.
@@ -79,8 +70,7 @@ private:
     RawServer server_{[this](RawServer::Connection& connection) { serve(connection); }};
 };
 
-class WholeLife : public EndToEnd {
-protected:
+struct WholeLife : EndToEnd {
     WholeLife() {
         for (const char* variable :
              {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"})
@@ -125,10 +115,7 @@ protected:
         EXPECT_TRUE(waitUntil([&] { return residents().empty(); }));
     }
 
-    void startInstalled() {
-        resident = quillon.start({});
-        EXPECT_TRUE(waitUntil(Program::hasName));
-    }
+    void startInstalled() { resident = startProgram(); }
 
     /// How often the makers have been told of such an event.
     [[nodiscard]] std::ptrdiff_t told(const std::string& event) const {
@@ -186,16 +173,14 @@ TEST_F(WholeLife, FromTheDownloadToTheTrash) {
     startInstalled();
     const std::vector<int> old = residents();
     // Neither window takes a Return that may have been meant for another program.
-    const QString tab = QStringLiteral("Tab");
+    const QStringList tabAndReturn = words("key Tab Return");
     ASSERT_TRUE(waitUntil(
         [&] {
-            return answer("Software Update", {tab, QStringLiteral("Return")}) &&
+            return answer("Software Update", tabAndReturn) &&
                    waitUntil([&] { return feed.asked(); }, 2s);
         },
         30s));
-    ASSERT_TRUE(waitUntil([&] {
-        return answer("Software Update", {tab, QStringLiteral("Return")});
-    }));
+    ASSERT_TRUE(waitUntil([&] { return answer("Software Update", tabAndReturn); }));
     ASSERT_TRUE(waitUntil(
         [&] {
             answer("Software Update");
@@ -232,8 +217,7 @@ TEST_F(WholeLife, FromTheDownloadToTheTrash) {
     EXPECT_THAT(left, IsEmpty());
     EXPECT_TRUE(std::filesystem::exists(home / ".local/share/Trash/files/Quillon.app" / inside));
     EXPECT_NE(QProcess::execute(QStringLiteral("secret-tool"),
-                                {QStringLiteral("lookup"), QStringLiteral("service"),
-                                 QStringLiteral("quillon-telegram-token")}),
+                                words("lookup service quillon-telegram-token")),
               0);
 }
 

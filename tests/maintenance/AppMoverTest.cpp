@@ -5,14 +5,11 @@
 #include "support/TestComputer.h"
 #include "support/Unprivileged.h"
 
-#include <gmock/gmock.h>
-
 #include <sys/xattr.h>
 
 namespace quillon::test {
 namespace {
 
-namespace fs = std::filesystem;
 using fs::path;
 using Log = std::vector<std::string>;
 
@@ -27,8 +24,7 @@ std::string program(const path& app) {
     return content(app / "Contents/Linux/quillon");
 }
 
-class AppMoverTest : public testing::Test {
-protected:
+struct AppMoverTest : testing::Test {
     AppMoverTest() { makeApplication(source, "new"); }
 
     TestComputer computer;
@@ -44,11 +40,7 @@ TEST_F(AppMoverTest, AsksOnlyAnApplicationOutsideOfBothFolders) {
     fs::create_directories(computer.home() / "Volumes/Big");
     fs::create_directory_symlink(computer.home() / "Volumes/Big", own);
     fs::create_directory_symlink(shared, computer.home() / "Apps");
-    struct Case {
-        path url;
-        bool asks;
-    };
-    const Case cases[]{
+    const std::pair<path, bool> cases[]{
         {source, true},
         {shared / "Quillon.app", false},
         {own / "Quillon.app", false},
@@ -57,9 +49,9 @@ TEST_F(AppMoverTest, AsksOnlyAnApplicationOutsideOfBothFolders) {
         {shared / "Utilities/Quillon.app", true},
         {computer.home() / "build/quillon", false},
     };
-    for (const Case& each : cases) {
-        computer.platform.bundle.url = each.url;
-        EXPECT_EQ(mover.shouldAsk(), each.asks) << each.url;
+    for (const auto& [url, asks] : cases) {
+        computer.platform.bundle.url = url;
+        EXPECT_EQ(mover.shouldAsk(), asks) << url;
     }
 }
 
@@ -144,7 +136,7 @@ TEST_F(AppMoverTest, TellsWhyItCouldNotMove) {
         alerts.shown.clear();
         EXPECT_FALSE(await(mover.ask()));
         ASSERT_EQ(alerts.shown.size(), 2U);
-        EXPECT_THAT(alerts.shown[1].informativeText, testing::HasSubstr(each.told));
+        EXPECT_THAT(alerts.shown[1].informativeText, HasSubstr(each.told));
         EXPECT_FALSE(computer.defaults.flag("qln.moveDeclined"));
         EXPECT_EQ(program(source), "new");
         EXPECT_EQ(program(own / "Quillon.app"), each.older ? "old" : "");

@@ -4,19 +4,14 @@
 #include "support/Files.h"
 #include "support/TestComputer.h"
 
-#include <gmock/gmock.h>
-
 namespace quillon::test {
-namespace {
 
-namespace fs = std::filesystem;
 using fs::path;
 using Log = std::vector<std::string>;
 
 constexpr const char* identifier = "dev.vostrel.quillon";
 
-class UninstallerTest : public testing::Test {
-protected:
+struct UninstallerTest : testing::Test {
     UninstallerTest() { fs::create_directories(bundle); }
 
     static void fill(const path& folder) {
@@ -108,7 +103,7 @@ TEST_F(UninstallerTest, GoesOnWhateverFailsAndTellsOnlyWhatIsLeftToTheUser) {
     EXPECT_EQ(computer.workspace.log,
               (Log{"drop updates", "unlist", "trash " + bundle.native(), "activate", "exit 0"}));
     ASSERT_EQ(alerts.shown.size(), 1U);
-    EXPECT_THAT(alerts.shown[0].informativeText, testing::HasSubstr("Drag Quillon from"));
+    EXPECT_THAT(alerts.shown[0].informativeText, HasSubstr("Drag Quillon from"));
 
     // What is no application folder is never thrown away.
     computer.workspace.trashWorks = true;
@@ -117,20 +112,19 @@ TEST_F(UninstallerTest, GoesOnWhateverFailsAndTellsOnlyWhatIsLeftToTheUser) {
     run();
     EXPECT_EQ(computer.workspace.log, (Log{"drop updates", "unlist", "activate", "exit 0"}));
     ASSERT_EQ(alerts.shown.size(), 2U);
-    EXPECT_THAT(alerts.shown[1].informativeText, testing::HasSubstr("with your package manager"));
+    EXPECT_THAT(alerts.shown[1].informativeText, HasSubstr("with your package manager"));
 }
 
 TEST_F(UninstallerTest, DoesNotWaitForEverAtALockedKeyring) {
     computer.secrets.late = true;
     std::optional<bool> removed;
     auto running = uninstaller.run([&](bool tokenRemoved) { removed = tokenRemoved; });
-    computer.clock.advance(std::chrono::seconds{29});
+    computer.clock.advance(29s);
     EXPECT_EQ(computer.workspace.log, Log{"drop updates"});
-    computer.clock.advance(std::chrono::seconds{2});
+    computer.clock.advance(2s);
     await(std::move(running));
     EXPECT_EQ(computer.workspace.log.back(), "exit 0");
     EXPECT_EQ(removed, false);
 }
 
-} // namespace
 } // namespace quillon::test

@@ -2,16 +2,9 @@
 
 #include "support/FakeFramework.h"
 #include "support/TestComputer.h"
-
-#include <gmock/gmock.h>
+#include "support/Testing.h"
 
 namespace quillon::test {
-
-namespace {
-
-using namespace std::chrono_literals;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// A program whose launch the test repeats.
 struct UpdaterTest : testing::Test {
@@ -41,8 +34,6 @@ struct UpdaterTest : testing::Test {
     bool declinedWhenAsked = false;
     std::optional<Updater> updater;
 };
-
-} // namespace
 
 TEST_F(UpdaterTest, StaysOffWithoutAnApplicationFolderOrAFeed) {
     computer.platform.bundle.url = "/usr/bin/quillon";

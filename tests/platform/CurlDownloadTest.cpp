@@ -3,23 +3,16 @@
 #include "support/Files.h"
 #include "support/RawServer.h"
 
-#include <gmock/gmock.h>
-
 #include <QTemporaryDir>
-
-#include <sys/stat.h>
 
 #include <future>
 
 namespace quillon::test {
-namespace {
 
-using namespace std::chrono_literals;
+using enum DownloadOutcome;
 using Connection = RawServer::Connection;
-using testing::StartsWith;
 
-class CurlDownloadTest : public testing::Test {
-protected:
+struct CurlDownloadTest : testing::Test {
     HttpDownload downloadOf(std::string url) const {
         HttpDownload download;
         download.url = std::move(url);
@@ -57,66 +50,41 @@ TEST_F(CurlDownloadTest, FetchesFromThisMachineAndTellsProgress) {
         last = received;
     };
     ::umask(0);
-    EXPECT_EQ(await(transport.download(std::move(download))), DownloadOutcome::done);
+    EXPECT_EQ(await(transport.download(std::move(download))), done);
     ::umask(022);
     EXPECT_TRUE(content(file) == bytes);
     EXPECT_TRUE(waitUntil([&] { return last == 1'000'000; }));
     EXPECT_THAT(request.get_future().get(), StartsWith("GET /a?b HTTP/1.1\r\n"));
     EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms(0600));
 
-    EXPECT_EQ(outcome(server.url()), DownloadOutcome::unwritable) << "the file is there";
+    EXPECT_EQ(outcome(server.url()), unwritable) << "the file is there";
     EXPECT_TRUE(content(file) == bytes);
 }
 
 TEST_F(CurlDownloadTest, LeavesNothingBehindAFailure) {
+    const std::string found = "HTTP/1.1 200 OK\r\n";
+    const std::string moved = "HTTP/1.1 302 Found\r\nContent-Length: 1\r\nLocation: ";
     struct Case {
         const char* what;
-        std::function<void(Connection&)> serve;
+        std::string reply;
+        bool waits; ///< until the client goes away
         DownloadOutcome outcome;
     };
-    const std::string tooLarge(1'000'001, 'x');
     const Case cases[]{
-        {"announced too large",
-         [](Connection& connection) {
-             connection.send("HTTP/1.1 200 OK\r\nContent-Length: 1000001\r\n\r\n");
-             connection.awaitEnd();
-         },
-         DownloadOutcome::tooLarge},
-        {"grown too large",
-         [&](Connection& connection) {
-             connection.send("HTTP/1.1 200 OK\r\n\r\n" + tooLarge);
-             connection.awaitEnd();
-         },
-         DownloadOutcome::tooLarge},
-        {"truncated",
-         [](Connection& connection) {
-             connection.send("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nxx");
-         },
-         DownloadOutcome::failed},
-        {"stalled",
-         [](Connection& connection) {
-             connection.send("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nxx");
-             connection.awaitEnd();
-         },
-         DownloadOutcome::failed},
-        {"not found", [](Connection& connection) { connection.reply(404, "x"); },
-         DownloadOutcome::failed},
-        {"redirect to plain http",
-         [](Connection& connection) {
-             connection.reply(302, "x", "Location: http://127.0.0.1:9/\r\n");
-         },
-         DownloadOutcome::failed},
-        {"redirect to a file",
-         [](Connection& connection) {
-             connection.reply(302, "x", "Location: file:///etc/passwd\r\n");
-         },
-         DownloadOutcome::failed},
+        {"announced too large", found + "Content-Length: 1000001\r\n\r\n", true, tooLarge},
+        {"grown too large", found + "\r\n" + std::string(1'000'001, 'x'), true, tooLarge},
+        {"truncated", found + "Content-Length: 9\r\n\r\nxx", false, failed},
+        {"stalled", found + "Content-Length: 9\r\n\r\nxx", true, failed},
+        {"not found", "HTTP/1.1 404 Not Found\r\nContent-Length: 1\r\n\r\nx", false, failed},
+        {"redirect to plain http", moved + "http://127.0.0.1:9/\r\n\r\nx", false, failed},
+        {"redirect to a file", moved + "file:///etc/passwd\r\n\r\nx", false, failed},
     };
     for (const Case& each : cases) {
         SCOPED_TRACE(each.what);
         RawServer server{[&](Connection& connection) {
             connection.request();
-            each.serve(connection);
+            connection.send(each.reply);
+            if (each.waits) connection.awaitEnd();
         }};
         EXPECT_EQ(outcome(server.url()), each.outcome);
         EXPECT_FALSE(std::filesystem::exists(file));
@@ -149,5 +117,4 @@ TEST_F(CurlDownloadTest, FollowsARedirectToHttps) {
     EXPECT_EQ(hello.get_future().get(), "\x16\x03\x01") << "the first bytes of a TLS greeting";
 }
 
-} // namespace
 } // namespace quillon::test

@@ -5,20 +5,14 @@
 #include "support/Await.h"
 #include "support/RawServer.h"
 
-#include <gmock/gmock.h>
-
 #include <QTemporaryDir>
 
 #include <fstream>
-#include <future>
 
 namespace quillon::test {
 namespace {
 
-using namespace std::chrono_literals;
 using Connection = RawServer::Connection;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 HttpRequest requestTo(std::string url, std::vector<QByteArray> body = {"{}"}) {
     HttpRequest request;
@@ -28,8 +22,7 @@ HttpRequest requestTo(std::string url, std::vector<QByteArray> body = {"{}"}) {
     return request;
 }
 
-class CurlTransportTest : public testing::Test {
-protected:
+struct CurlTransportTest : testing::Test {
     std::optional<HttpReply> post(const std::string& url) {
         return await(transport->post(requestTo(url)));
     }

@@ -2,15 +2,11 @@
 #include "support/Await.h"
 #include "support/SessionBus.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusObjectPath>
 #include <QDBusVariant>
 
 namespace quillon::test {
 namespace {
 
-using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
 const KeychainItem token{"quillon-test-service", "quillon", "Quillon bot token"};
@@ -47,8 +43,7 @@ QDBusConnection ownConnection() {
                                          QStringLiteral("keyring test %1").arg(++count));
 }
 
-class KeyringTest : public testing::Test {
-protected:
+struct KeyringTest : testing::Test {
     KeyringTest() { bus.startKeyring(); }
 
     /// The labels and secrets of the items with the token's attributes, as the tool lists them.

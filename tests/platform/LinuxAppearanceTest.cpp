@@ -4,7 +4,6 @@
 #include "support/SessionBus.h"
 
 #include <QDBusMetaType>
-#include <QDBusVariant>
 #include <QDataStream>
 
 #include <cmath>
@@ -19,12 +18,6 @@ const QString common = QStringLiteral("org.freedesktop.appearance");
 const QString gnome = QStringLiteral("org.gnome.desktop.interface");
 const QString kde = QStringLiteral("org.kde.kdeglobals.KDE");
 
-struct AppearanceCase {
-    const char* name;
-    std::vector<std::pair<AppearanceSettings::Key, QVariant>> settings;
-    Appearance appearance;
-};
-
 TEST(AppearanceSettings, HaveASenseWhateverTheValuesAre) {
     const AppearanceSettings::Key scheme{"org.freedesktop.appearance", "color-scheme"};
     const AppearanceSettings::Key reduced{"org.freedesktop.appearance", "reduced-motion"};
@@ -32,7 +25,8 @@ TEST(AppearanceSettings, HaveASenseWhateverTheValuesAre) {
     const AppearanceSettings::Key text{"org.gnome.desktop.interface", "text-scaling-factor"};
     const AppearanceSettings::Key factor{"org.kde.kdeglobals.KDE", "AnimationDurationFactor"};
     const AppearanceSettings::Key theme{"", "Net/ThemeName"};
-    const AppearanceCase cases[]{
+    using Values = std::vector<std::pair<AppearanceSettings::Key, QVariant>>;
+    const std::tuple<const char*, Values, Appearance> cases[]{
         {"a scheme of the future", {{scheme, 3U}}, {}},
         {"dark in the theme alone",
          {{scheme, 0U}, {theme, QStringLiteral("Yaru-Dark")}},
@@ -48,11 +42,11 @@ TEST(AppearanceSettings, HaveASenseWhateverTheValuesAre) {
         {"no number", {{text, std::nan("")}}, {}},
         {"text in words", {{text, QStringLiteral("1.25")}}, {}},
     };
-    for (const AppearanceCase& each : cases) {
+    for (const auto& [name, values, appearance] : cases) {
         AppearanceSettings settings;
-        for (const auto& [key, value] : each.settings)
+        for (const auto& [key, value] : values)
             settings.set(key, value);
-        EXPECT_EQ(settings.appearance(), each.appearance) << each.name;
+        EXPECT_EQ(settings.appearance(), appearance) << name;
     }
 }
 

@@ -1,6 +1,5 @@
 #include "platform/linux/LinuxPlatform.h"
 
-#include "platform/Pasteboard.h"
 #include "support/Await.h"
 #include "support/RawServer.h"
 

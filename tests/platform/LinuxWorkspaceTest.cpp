@@ -8,20 +8,12 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <gmock/gmock.h>
-
 #include <algorithm>
-#include <fstream>
-
-#include <sys/stat.h>
 
 namespace quillon::test {
 namespace {
 
-namespace fs = std::filesystem;
 using fs::path;
-using testing::HasSubstr;
-using testing::Not;
 
 constexpr const char* identifier = "dev.vostrel.quillon";
 
@@ -49,8 +41,7 @@ struct Running : QProcess {
     }
 };
 
-class LinuxWorkspaceTest : public testing::Test {
-protected:
+struct LinuxWorkspaceTest : testing::Test {
     LinuxWorkspaceTest() { fs::permissions(root, fs::perms{0755}); }
     // Qt's folder cannot remove every name.
     ~LinuxWorkspaceTest() override { fs::remove_all(root); }
@@ -137,9 +128,9 @@ TEST_F(LinuxWorkspaceTest, TrashesSoThatItCanBePutBack) {
     EXPECT_EQ(content(trash / "files/a b\n%\xff.2.app/file"), "second");
     EXPECT_EQ(fs::read_symlink(trash / "files/link"), "/nowhere");
     EXPECT_THAT(content(trash / "info/a b\n%\xff.2.app.trashinfo"),
-                testing::MatchesRegex("\\[Trash Info\\]\nPath=" + root.native() +
-                                      "/a%20b%0A%25%FF\\.app\n"
-                                      "DeletionDate=[0-9]+-[0-9]+-[0-9]+T[0-9:]+\n"));
+                MatchesRegex("\\[Trash Info\\]\nPath=" + root.native() +
+                             "/a%20b%0A%25%FF\\.app\n"
+                             "DeletionDate=[0-9]+-[0-9]+-[0-9]+T[0-9:]+\n"));
     EXPECT_EQ(fs::status(trash).permissions(), fs::perms{0700});
     const auto notes = std::distance(fs::directory_iterator{trash / "info"}, {});
     EXPECT_EQ(notes, 3) << "one for each, none for what failed";
@@ -211,7 +202,7 @@ TEST_F(LinuxWorkspaceTest, OpensTheApplicationOnlyWhenTheProcessHasEnded) {
     EXPECT_EQ(status, 0) << "the shell does not wait";
     ASSERT_TRUE(waitUntil([&] { return fs::exists(report); }));
     const std::string told = content(report);
-    EXPECT_THAT(told, testing::StartsWith(app.native() + "/Contents/Linux/quillon\n/\n"));
+    EXPECT_THAT(told, StartsWith(app.native() + "/Contents/Linux/quillon\n/\n"));
     EXPECT_THAT(told, Not(HasSubstr("leak")));
 }
 

@@ -1,41 +1,26 @@
 #include "platform/linux/files/PosixFileSystem.h"
 
 #include "support/Await.h"
+#include "support/Files.h"
 #include "support/Unprivileged.h"
 
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <csignal>
 
 namespace quillon::test {
-namespace {
 
 using Outcome = FileReading::Outcome;
 using std::filesystem::path;
 
-class PosixFileSystemTest : public testing::Test {
-protected:
+struct PosixFileSystemTest : testing::Test {
     // Qt leaves files behind whose names are not UTF-8.
     ~PosixFileSystemTest() override { std::filesystem::remove_all(root); }
 
     [[nodiscard]] path at(const char* name) const { return root / name; }
-
-    [[nodiscard]] static mode_t modeOf(const path& where) {
-        struct stat status {};
-        EXPECT_EQ(::stat(where.c_str(), &status), 0) << where;
-        return status.st_mode & 07777;
-    }
-
-    [[nodiscard]] QByteArray content(const path& where) const {
-        return files.read(where, 2'000'000).bytes;
-    }
 
     [[nodiscard]] size_t entries() const {
         return static_cast<size_t>(std::distance(std::filesystem::directory_iterator{root}, {}));
@@ -83,7 +68,7 @@ TEST_F(PosixFileSystemTest, TellsWhatLiesAtAPath) {
         EXPECT_EQ(reading.size, each.size);
         EXPECT_EQ(reading.bytes.size(), each.outcome == Outcome::read ? each.size : 0);
     }
-    EXPECT_EQ(content(at("ten")), QByteArray("0123\x00\xff\n789", 10));
+    EXPECT_EQ(content(at("ten")), std::string("0123\x00\xff\n789", 10));
 
     std::filesystem::permissions(root, std::filesystem::perms::all);
     std::filesystem::permissions(at("ten"), std::filesystem::perms::none);
@@ -105,7 +90,7 @@ TEST_F(PosixFileSystemTest, ReplacesContentForItsOwnerAlone) {
             return atomically ? files.writeAtomically(where, bytes) : files.write(where, bytes);
         };
         ASSERT_TRUE(write("a long first content"));
-        EXPECT_EQ(modeOf(where), 0600U);
+        EXPECT_EQ(modeOf(where), fs::perms{0600});
         ASSERT_TRUE(write("short"));
         EXPECT_EQ(content(where), "short");
     }
@@ -127,9 +112,9 @@ TEST_F(PosixFileSystemTest, WritesNothingButFiles) {
 }
 
 TEST_F(PosixFileSystemTest, ReportsAFullDisk) {
-    const QByteArray longer = QByteArray{1'299'999, 'o'} + "p"; // read in pieces
+    const std::string longer = std::string(1'299'999, 'o') + "p"; // read in pieces
     ASSERT_TRUE(files.write(at("old"), "old"));
-    ASSERT_TRUE(files.write(at("longer"), longer));
+    ASSERT_TRUE(files.write(at("longer"), QByteArray::fromStdString(longer)));
     rlimit before{};
     ::getrlimit(RLIMIT_FSIZE, &before);
     const rlimit small{100'000, before.rlim_max};
@@ -151,13 +136,12 @@ TEST_F(PosixFileSystemTest, ReportsAFullDisk) {
 
 TEST_F(PosixFileSystemTest, CreatesFoldersForTheirOwnerAlone) {
     ASSERT_TRUE(files.createFolder(at("one/two/three/")));
-    EXPECT_EQ(modeOf(at("one")), 0700U);
-    EXPECT_EQ(modeOf(at("one/two/three")), 0700U);
+    EXPECT_EQ(modeOf(at("one")), fs::perms{0700});
+    EXPECT_EQ(modeOf(at("one/two/three")), fs::perms{0700});
     EXPECT_TRUE(files.createFolder(at("one/two")));
     ASSERT_TRUE(files.write(at("file"), {}));
     EXPECT_FALSE(files.createFolder(at("file")));
     EXPECT_FALSE(files.createFolder(at("file/below")));
 }
 
-} // namespace
 } // namespace quillon::test

@@ -11,7 +11,6 @@
 namespace quillon::test {
 namespace {
 
-namespace fs = std::filesystem;
 using fs::path;
 
 constexpr const char* mark = "user.com.apple.quarantine";
@@ -31,8 +30,7 @@ bool setAttribute(const path& item, const std::string& value = "0083", const cha
     return ::lsetxattr(item.c_str(), name, value.data(), value.size(), 0) == 0;
 }
 
-class PosixFileTreeTest : public testing::Test {
-protected:
+struct PosixFileTreeTest : testing::Test {
     PosixFileTreeTest() {
         fs::permissions(root, fs::perms{0755});
         write(root / "outside");

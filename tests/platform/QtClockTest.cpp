@@ -2,10 +2,6 @@
 #include "support/Await.h"
 
 namespace quillon::test {
-namespace {
-
-using namespace std::chrono_literals;
-
 TEST(QtClockTest, ForgetsWhatIsDestroyedAndIsNeverEarly) {
     QtClock clock;
     int calls = 0;
@@ -24,5 +20,4 @@ TEST(QtClockTest, ForgetsWhatIsDestroyedAndIsNeverEarly) {
     EXPECT_EQ(held.use_count(), 1);
 }
 
-} // namespace
 } // namespace quillon::test

@@ -1,8 +1,6 @@
 #include "platform/linux/QuitSignals.h"
 #include "support/Await.h"
 
-#include <gtest/gtest.h>
-
 #include <csignal>
 
 namespace quillon::test {

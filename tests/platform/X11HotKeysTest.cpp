@@ -8,15 +8,11 @@
 
 #include <xcb/xtest.h>
 
-#include <gtest/gtest.h>
-
 #include <set>
 
 namespace quillon::test {
 
 namespace {
-
-using namespace std::chrono_literals;
 
 // Key codes.
 constexpr xcb_keycode_t control = 37;
@@ -84,8 +80,7 @@ private:
     std::unique_ptr<X11Connection> connection_;
 };
 
-class X11HotKeysTest : public testing::Test {
-protected:
+struct X11HotKeysTest : testing::Test {
     void SetUp() override {
         hotKeys->installHandler([this] { ++presses; });
     }

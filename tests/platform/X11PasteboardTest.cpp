@@ -6,30 +6,18 @@
 
 #include <QElapsedTimer>
 
-#include <gmock/gmock.h>
-
 #include <array>
-#include <utility>
 
 namespace quillon::test {
 
-namespace {
-
-using namespace std::chrono_literals;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 constexpr qint64 promptly = 800; // ms: sooner than the reader's patience
 
-class X11PasteboardTest : public testing::Test {
-protected:
+struct X11PasteboardTest : testing::Test {
     std::optional<QByteArray> data(const char* format) { return await(pasteboard->data(format)); }
 
     XServer server;
     std::unique_ptr<X11Pasteboard> pasteboard = X11Pasteboard::open(server.display());
 };
-
-} // namespace
 
 TEST_F(X11PasteboardTest, CountsCopiesAndTheOwnersEnd) {
     EXPECT_THAT(await(pasteboard->formats()), IsEmpty());
@@ -120,37 +108,29 @@ TEST_F(X11PasteboardTest, TakesNoAnswerOfAWrongType) {
                                 {"image/bmp", huge},
                                 {"text/plain", whole("text", "STRING")}}};
     EXPECT_THAT(await(pasteboard->formats()), IsEmpty());
-    for (const char* format : {"UTF8_STRING", "STRING", "image/bmp"}) {
+    for (const char* format : {"UTF8_STRING", "STRING", "image/bmp"})
         EXPECT_EQ(data(format), std::nullopt) << format;
-    }
     EXPECT_EQ(data("text/plain"), "text");
 }
 
-TEST_F(X11PasteboardTest, FinishesWhatIsOutstandingWhenDestroyed) {
+TEST_F(X11PasteboardTest, FinishesWhatIsOutstandingWhenItOrItsServerEnds) {
     const SelectionOwner owner{server.display(), {{"UTF8_STRING", silence()}}};
-    const auto first = pasteboard->data("UTF8_STRING");
-    const auto second = pasteboard->formats();
-    ASSERT_TRUE(waitUntil([&] { return owner.requests() == 1; }));
-    QElapsedTimer clock;
-    clock.start();
-    pasteboard.reset();
-    EXPECT_LT(clock.elapsed(), promptly);
-    EXPECT_EQ(await(first), std::nullopt);
-    EXPECT_THAT(await(second), IsEmpty());
-}
-
-TEST_F(X11PasteboardTest, SurvivesItsServer) {
-    const SelectionOwner owner{server.display(), {{"UTF8_STRING", silence()}}};
-    const auto before = pasteboard->data("UTF8_STRING");
-    ASSERT_TRUE(waitUntil([&] { return owner.requests() == 1; }));
+    const auto expectEnd = [&](int asked, const std::function<void()>& end) {
+        const auto first = pasteboard->data("UTF8_STRING");
+        const auto second = pasteboard->formats();
+        ASSERT_TRUE(waitUntil([&] { return owner.requests() == asked; }));
+        QElapsedTimer clock;
+        clock.start();
+        end();
+        EXPECT_EQ(await(first), std::nullopt);
+        EXPECT_THAT(await(second), IsEmpty());
+        EXPECT_LT(clock.elapsed(), promptly);
+    };
+    expectEnd(1, [this] { pasteboard.reset(); });
+    pasteboard = X11Pasteboard::open(server.display());
     const auto changes = pasteboard->changeCount();
-    QElapsedTimer clock;
-    clock.start();
-    server.stop();
-    EXPECT_EQ(await(before), std::nullopt);
-    EXPECT_THAT(await(pasteboard->formats()), IsEmpty());
+    expectEnd(2, [this] { server.stop(); });
     EXPECT_EQ(data("UTF8_STRING"), std::nullopt);
-    EXPECT_LT(clock.elapsed(), promptly);
     EXPECT_GT(pasteboard->changeCount(), changes);
 }
 

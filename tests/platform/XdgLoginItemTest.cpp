@@ -1,22 +1,17 @@
 #include "platform/linux/desktop/XdgLoginItem.h"
 
 #include "platform/linux/files/PosixFileSystem.h"
+#include "support/Testing.h"
 
 #include <QTemporaryDir>
-
-#include <gmock/gmock.h>
 
 #include <sys/stat.h>
 
 namespace quillon::test {
 
-namespace {
-
 using std::filesystem::path;
-using testing::HasSubstr;
 
-class XdgLoginItemTest : public testing::Test {
-protected:
+struct XdgLoginItemTest : testing::Test {
     [[nodiscard]] std::string content() const {
         return files.read(file, 1'000'000).bytes.toStdString();
     }
@@ -44,14 +39,9 @@ protected:
     const path file = home / "config/autostart/dev.vostrel.quillon.desktop";
 };
 
-} // namespace
-
 TEST_F(XdgLoginItemTest, StartsAProgramOfAnyNameThatAnEntryCanHold) {
-    struct Case {
-        const char* name;
-        const char* exec; ///< behind the home folder; null when refused
-    };
-    constexpr Case cases[]{
+    // The second stands behind the home folder, and is null where the first is refused.
+    const std::pair<const char*, const char*> cases[]{
         {"quillon", "quillon"},
         {"my apps/100 %u", R"(my apps/100 %%u")"},
         {R"(a"b`c$d)", R"(a\\"b\\`c\\$d")"},
@@ -61,17 +51,17 @@ TEST_F(XdgLoginItemTest, StartsAProgramOfAnyNameThatAnEntryCanHold) {
         {"two\nlines", nullptr},
         {"a=b", nullptr},
     };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.name);
-        const path executable = program(each.name);
+    for (const auto& [name, exec] : cases) {
+        SCOPED_TRACE(name);
+        const path executable = program(name);
         XdgLoginItem item{folders, executable};
-        EXPECT_EQ(item.registerItem(), each.exec != nullptr);
-        if (each.exec) {
+        EXPECT_EQ(item.registerItem(), exec != nullptr);
+        if (exec) {
             std::string start =
-                std::string_view{each.name}.find('%') != std::string_view::npos ? "env " : "";
-            if (std::string_view{each.exec}.ends_with('"')) start += '"';
+                std::string_view{name}.find('%') != std::string_view::npos ? "env " : "";
+            if (std::string_view{exec}.ends_with('"')) start += '"';
             EXPECT_THAT(content(),
-                        HasSubstr("\nExec=" + start + home.native() + "/" + each.exec + "\n"));
+                        HasSubstr("\nExec=" + start + home.native() + "/" + exec + "\n"));
             EXPECT_EQ(item.status(), LoginItem::Status::enabled);
             std::filesystem::remove(executable);
             EXPECT_EQ(item.status(), LoginItem::Status::notFound);

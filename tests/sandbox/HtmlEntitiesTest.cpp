@@ -5,22 +5,17 @@
 namespace quillon::sandbox {
 
 TEST(HtmlEntities, giveTextAndStretches) {
-    struct Case {
-        std::string html;
-        std::string text;
-        std::vector<Entity> entities;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<std::string, std::string, std::vector<Entity>> cases[]{
         {"<pre>a &lt;b&gt; &amp;amp;</pre>", "a <b> &amp;", {{"pre", 0, 11, {}}}},
         {"&#128512;&#x41;&quot;&nbsp;&", "😀A\"&nbsp;&", {}},
         {"&lt no semicolon, &#0; &#55296; stay", "< no semicolon, &#0; &#55296; stay", {}},
         {"<b>x<i>y</i></b>z", "xyz", {{"bold", 0, 2, {}}, {"italic", 1, 2, {}}}},
         {"<pre>1<b>2</b>3</pre>", "123", {{"pre", 0, 3, {}}}},
     };
-    for (const Case& expected : cases) {
-        const FormattedText actual = parseHtml(expected.html);
-        EXPECT_EQ(actual.text, expected.text) << expected.html;
-        EXPECT_EQ(actual.entities, expected.entities) << expected.html;
+    for (const auto& [html, text, entities] : cases) {
+        const FormattedText actual = parseHtml(html);
+        EXPECT_EQ(actual.text, text) << html;
+        EXPECT_EQ(actual.entities, entities) << html;
     }
 }
 

@@ -4,8 +4,6 @@
 
 #include <QTimer>
 
-#include <gtest/gtest.h>
-
 namespace quillon::sandbox {
 
 namespace {
@@ -24,8 +22,7 @@ struct Reply {
     [[nodiscard]] std::string error() const { return json().value("description", std::string{}); }
 };
 
-class Methods : public testing::Test {
-protected:
+struct Methods : testing::Test {
     Methods() {
         sandbox.addBot(Sandbox::demoToken, "demo_bot");
         group = sandbox.addGroup();
@@ -66,12 +63,8 @@ TEST_F(Methods, takeTheChatAsNumberOrTextAndNothingElse) {
 }
 
 TEST_F(Methods, holdTextsToTheirLimits) {
-    struct Case {
-        std::string mode;
-        std::string text;
-        std::string error; ///< empty when the text is accepted
-    };
-    const std::vector<Case> cases{
+    // A text without an error is accepted.
+    const std::tuple<std::string, std::string, std::string> cases[]{
         {"", "", "Bad Request: message text is empty"},
         {"", " \n\u200B\u3000", "Bad Request: text must be non-empty"},
         {"", std::string(4097, 'x'), "Bad Request: message is too long"},
@@ -82,11 +75,10 @@ TEST_F(Methods, holdTextsToTheirLimits) {
          "Bad Request: can't parse entities: Unsupported start tag \"x\" at byte "
          "offset 1"},
     };
-    for (const Case& expected : cases) {
+    for (const auto& [mode, text, error] : cases) {
         const Reply reply =
-            call("sendMessage",
-                 {{"chat_id", group}, {"parse_mode", expected.mode}, {"text", expected.text}});
-        EXPECT_EQ(reply.error(), expected.error);
+            call("sendMessage", {{"chat_id", group}, {"parse_mode", mode}, {"text", text}});
+        EXPECT_EQ(reply.error(), error);
     }
 }
 

@@ -8,8 +8,6 @@ namespace quillon::test {
 namespace {
 
 using namespace std::string_literals;
-using testing::ElementsAre;
-using testing::Pair;
 
 QByteArray bytes(const std::string& text) {
     return QByteArray::fromStdString(text);
@@ -28,8 +26,7 @@ QByteArray unusualTiff() {
     return picture("TIFF").replace("\x28\x01\x03", "\xe8\xfd\x03");
 }
 
-class ClipboardRead : public testing::Test {
-protected:
+struct ClipboardRead : testing::Test {
     ClipContent read(FakePasteboard::Content content) {
         pasteboard.copy(std::move(content));
         return await(Clipboard::read(pasteboard));
@@ -45,7 +42,7 @@ TEST_F(ClipboardRead, TakesFilesBeforeEverythingAndLeavesTheRestUnread) {
                                {"UTF8_STRING", "b a.txt"},
                                {"text/uri-list", "file:///tmp/b%20a.txt\r\nfile:///tmp/a\r\n"}});
     EXPECT_EQ(content, ClipContent{(ClipFiles{{"/tmp/b a.txt", "/tmp/a"}})});
-    EXPECT_THAT(pasteboard.reads, ElementsAre(Pair("text/uri-list", 1)));
+    EXPECT_THAT(pasteboard.reads, ElementsAre(testing::Pair("text/uri-list", 1)));
 }
 
 TEST_F(ClipboardRead, TakesPngUntouchedWithTheTextBesideIt) {
@@ -101,9 +98,8 @@ TEST_F(ClipboardRead, GoesOnWhereAFormatCannotBeRead) {
 
 TEST_F(ClipboardRead, KeepsTextAsCopiedButCountsBlankTextAsNothing) {
     EXPECT_EQ(read({{"UTF8_STRING", "  hello  \r\n"}}), ClipContent{ClipText{"  hello  \r\n"}});
-    for (const char* blank : {"", " \t\r\n\v\f", "\u00a0\u2003\u2028\u3000\u0085"}) {
+    for (const char* blank : {"", " \t\r\n\v\f", "\u00a0\u2003\u2028\u3000\u0085"})
         EXPECT_EQ(read({{"UTF8_STRING", blank}}), ClipContent{ClipEmpty{}}) << blank;
-    }
     EXPECT_EQ(read({}), ClipContent{ClipEmpty{}});
 }
 
@@ -182,9 +178,8 @@ TEST(ClipboardSummary, SaysWhatTheClipboardHolds) {
         {ClipText{"   \nsecond"}, {"text.alignleft", "“”"}},
         {ClipEmpty{}, {"clipboard", "The clipboard is empty"}},
     };
-    for (const auto& [content, summary] : cases) {
+    for (const auto& [content, summary] : cases)
         EXPECT_EQ(Clipboard::summary(content), summary) << summary.line;
-    }
 }
 
 } // namespace quillon::test

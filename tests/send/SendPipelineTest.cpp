@@ -6,14 +6,7 @@ namespace quillon::test {
 
 namespace {
 
-using namespace std::chrono_literals;
-using sandbox::Fault;
 using sandbox::FaultKind;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
-using Content = FakePasteboard::Content;
-using Path = std::filesystem::path;
 
 constexpr const char* unreachableText = "Couldn't reach Telegram. Check your internet connection.";
 
@@ -21,7 +14,7 @@ class SendPipeline : public SendTest {};
 
 /// What becomes of one item that is sent.
 struct Kind {
-    Content content;
+    FakePasteboard::Content content;
     std::string topic;
     std::string method;
     std::string rest; ///< of the request, after the chat and the topic
@@ -131,11 +124,8 @@ TEST_F(SendPipeline, GivesAnImageTheTextBesideItAsCaption) {
 
 TEST_F(SendPipeline, CutsTextBetweenCharactersAndLosesNone) {
     const std::string family = "👨‍👩‍👧‍👦"; // one character of seven code points
-    struct Case {
-        std::string text;
-        std::vector<std::string> shown; ///< on the phone, where blanks at the ends do not show
-    };
-    const Case cases[] = {
+    // Blanks at the ends do not show on the phone.
+    const std::pair<std::string, std::vector<std::string>> cases[]{
         {repeated("<&>é", 975), {repeated("<&>é", 975)}},
         {"<pre>&amp;</pre>&#65;", {"<pre>&amp;</pre>&#65;"}},
         {std::string(3900, 'a') + "\n", {std::string(3900, 'a')}},
@@ -143,22 +133,20 @@ TEST_F(SendPipeline, CutsTextBetweenCharactersAndLosesNone) {
         {repeated(family, 1200),
          {repeated(family, 585), repeated(family, 585), repeated(family, 30)}},
     };
-    for (const Case& each : cases) {
+    for (const auto& [copied, expected] : cases) {
         const auto before = static_cast<std::ptrdiff_t>(computer.messages("notes").size());
-        computer.send(text(each.text));
+        computer.send(text(copied));
         EXPECT_EQ(computer.store->history().front().error, std::nullopt);
         std::vector<std::string> shown;
         for (const Json& message : computer.messages("notes"))
             shown.push_back(message["pre"].at(0).get<std::string>());
         shown.erase(shown.begin(), shown.begin() + before);
-        EXPECT_EQ(shown, each.shown);
+        EXPECT_EQ(shown, expected);
     }
 }
 
 TEST_F(SendPipeline, StopsATextAtTheFirstMessageThatFails) {
-    Fault none = fault(FaultKind::delay);
-    none.delay = 0ms;
-    computer.sandbox.failNext(none);
+    computer.sandbox.failNext(fault(FaultKind::delay, 0ms));
     computer.sandbox.failNext(fault(FaultKind::jsonList));
     computer.send(text(std::string(12'000, 'a')));
     EXPECT_THAT(computer.sandbox.requests(), SizeIs(2));
@@ -222,24 +210,19 @@ TEST_F(SendPipeline, IgnoresATriggerWhileASendRuns) {
 }
 
 TEST_F(SendPipeline, TellsApartWhatWentWrong) {
-    struct Case {
-        Fault fault;
-        std::string message;
-        std::string reason;
-    };
-    const Case cases[] = {
+    const std::tuple<sandbox::Fault, std::string, std::string> cases[]{
         {fault(FaultKind::cutReply), unreachableText, "no_internet"},
         {refusal("", 400, "Bad Request: <b>no</b>"), "Bad Request: <b>no</b>", "telegram_error"},
         {refusal("", 400, repeated("é", 2'000'000)), repeated("é", 500), "telegram_error"},
     };
-    for (const Case& each : cases) {
+    for (const auto& [met, message, reason] : cases) {
         computer.clear();
-        computer.sandbox.failNext(each.fault);
+        computer.sandbox.failNext(met);
         computer.send({{"image/png", pngOf(2'000'000)}});
-        EXPECT_THAT(banners(), ElementsAre(each.message));
-        EXPECT_EQ(computer.store->history().front().error, each.message);
+        EXPECT_THAT(banners(), ElementsAre(message));
+        EXPECT_EQ(computer.store->history().front().error, message);
         EXPECT_EQ(computer.newEvents().back(),
-                  R"(send_failed {"kind":"image","reason":")" + each.reason + "\"}");
+                  R"(send_failed {"kind":"image","reason":")" + reason + "\"}");
     }
     computer.clear();
     computer.http.memoryIsShort = true;

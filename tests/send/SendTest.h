@@ -6,8 +6,6 @@
 #include <QBuffer>
 #include <QImage>
 
-#include <gmock/gmock.h>
-
 namespace quillon::test {
 
 inline QByteArray picture(const char* format, QSize size = {3, 2}) {
@@ -43,8 +41,7 @@ inline std::string repeated(std::string_view part, int count) {
 }
 
 /// A store that is set up, and files to send.
-class SendTest : public testing::Test {
-protected:
+struct SendTest : testing::Test {
     // Qt does not remove files whose names it cannot decode.
     ~SendTest() override { std::filesystem::remove_all(documents); }
 

@@ -1,20 +1,9 @@
 #include "support/ConnectedComputer.h"
 #include "support/Faults.h"
 
-#include <gmock/gmock.h>
-
 namespace quillon::test {
 
 namespace {
-
-using sandbox::BotRole;
-using sandbox::ChatKind;
-using sandbox::Fault;
-using sandbox::GroupOptions;
-using testing::Each;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 constexpr const char* refusedText = "Telegram didn't accept that bot token.";
 constexpr const char* malformedText = "That bot token doesn't look right.";
@@ -45,12 +34,7 @@ TEST(BotConnection, KeepsATokenThatTelegramAccepts) {
 }
 
 TEST(BotConnection, RefusesWhatIsNoTokenAndKeepsTheOldOne) {
-    struct Case {
-        std::string pasted;
-        std::string message;
-        std::size_t requests;
-    };
-    const Case cases[] = {
+    const std::tuple<std::string, std::string, std::size_t> cases[]{
         {"", noTokenText, 0},
         {"123456 ABC", noTokenText, 0},
         {"1:a b", malformedText, 0},
@@ -64,15 +48,14 @@ TEST(BotConnection, RefusesWhatIsNoTokenAndKeepsTheOldOne) {
     };
     ConnectedComputer computer;
     const Config before = computer.store->config();
-    for (const Case& each : cases) {
+    for (const auto& [pasted, message, requests] : cases) {
         computer.clear();
-        EXPECT_EQ(computer.failure(computer.store->connectBot(each.pasted)), each.message)
-            << each.pasted;
-        EXPECT_THAT(computer.sandbox.requests(), SizeIs(each.requests)) << each.pasted;
+        EXPECT_EQ(computer.failure(computer.store->connectBot(pasted)), message) << pasted;
+        EXPECT_THAT(computer.sandbox.requests(), SizeIs(requests)) << pasted;
     }
     computer.sandbox.stop();
     EXPECT_THAT(computer.failure(computer.store->connectBot("8:another")),
-                testing::StartsWith("Couldn't reach Telegram."));
+                StartsWith("Couldn't reach Telegram."));
     EXPECT_EQ(storedToken(computer), BotComputer::token);
     EXPECT_TRUE(computer.store->tokenSaved());
     EXPECT_EQ(computer.store->config(), before);
@@ -91,11 +74,8 @@ TEST(BotConnection, NamesABotThatHasNoName) {
 TEST(BotConnection, AsksOnceMoreWhereAKeptConnectionBreaks) {
     ConnectedComputer computer;
     computer.sandbox.userSays(computer.group, "hi");
-    for (const char* method : {"getMe", "getUpdates", "getChat"}) {
-        Fault broken = fault(sandbox::FaultKind::cutAfterBody);
-        broken.method = method;
-        computer.sandbox.failNext(broken);
-    }
+    for (const char* method : {"getMe", "getUpdates", "getChat"})
+        computer.sandbox.failNext(onlyFor(method, fault(sandbox::FaultKind::cutAfterBody)));
     EXPECT_EQ(computer.failure(computer.store->connectBot(BotComputer::token)), "");
     EXPECT_EQ(computer.failure(computer.store->findGroup()), "");
     EXPECT_THAT(computer.methods(),
@@ -146,7 +126,7 @@ TEST(GroupDiscovery, FindsTheGroupThatSpokeLast) {
     BotComputer computer;
     sandbox::Sandbox& phone = computer.sandbox;
     await(computer.store->connectBot(BotComputer::token));
-    const auto group = [&](const std::string& title, GroupOptions options = {}) {
+    const auto group = [&](const std::string& title, sandbox::GroupOptions options = {}) {
         options.title = title;
         return phone.addGroup(options);
     };
@@ -166,12 +146,12 @@ TEST(GroupDiscovery, FindsTheGroupThatSpokeLast) {
     phone.userSays(first, "hi");
     expectFound(first, "First");
 
-    const auto basic = group("Converted", {.kind = ChatKind::group});
+    const auto basic = group("Converted", {.kind = sandbox::ChatKind::group});
     phone.userSays(basic, "hi");
     expectFound(phone.migrateGroup(basic), "Converted");
 
     // A membership alone, without a message.
-    const auto silent = group("Silent", {.bot = BotRole::absent});
+    const auto silent = group("Silent", {.bot = sandbox::BotRole::absent});
     phone.addBotToGroup(silent);
     phone.failNext(answer(
         "getUpdates",
@@ -186,7 +166,7 @@ TEST(GroupDiscovery, SaysWhatIsMissing) {
     const auto chat = [](const Json& reply) { return answer("getChat", reply); };
     const auto message = [](const Json& content) { return Json::array({{{"message", content}}}); };
     const std::string topicsOff = ", but Topics are off. Turn on Topics in the group settings.";
-    const std::pair<Fault, std::string> cases[] = {
+    const std::pair<sandbox::Fault, std::string> cases[] = {
         {updates(Json::array()), noGroupText},
         {updates(true), noGroupText},
         {updates(Json::array({1, "x", {{"message", 7}}})), noGroupText},
@@ -219,7 +199,7 @@ TEST(GroupDiscovery, ClearsThreadsForAnotherGroupAlone) {
 
     computer.sandbox.userSays(computer.sandbox.addGroup(), "hi");
     await(computer.store->findGroup());
-    EXPECT_THAT(computer.threads(), Each(std::nullopt));
+    EXPECT_THAT(computer.threads(), testing::Each(std::nullopt));
     EXPECT_EQ(computer.store->config().topics[1].name, "Pictures");
 }
 

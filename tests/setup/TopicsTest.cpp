@@ -1,22 +1,10 @@
 #include "support/ConnectedComputer.h"
 #include "support/Faults.h"
 
-#include <gmock/gmock.h>
-
 namespace quillon::test {
-
-namespace {
-
-using sandbox::BotRole;
-using sandbox::Fault;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 constexpr const char* cannotCreateText =
     "Couldn't create topics. Make the bot an admin with “Manage Topics” and try again.";
-
-} // namespace
 
 TEST(Topics, AreMadeInOrderAndWelcomed) {
     BotComputer computer;
@@ -64,11 +52,6 @@ TEST(SetupActions, WorkOneAfterTheOther) {
 }
 
 TEST(SetupActions, EndWhenTheirBotIsForgotten) {
-    struct Case {
-        std::string heldUp; ///< the request during which the bot is forgotten
-        std::function<QCoro::Task<>(Store&)> action;
-        std::string message;
-    };
     const auto connect = [](Store& store) -> QCoro::Task<> {
         auto connecting = store.connectBot("8:second");
         co_await connecting;
@@ -78,7 +61,8 @@ TEST(SetupActions, EndWhenTheirBotIsForgotten) {
     const auto rename = std::mem_fn(&Store::renameTopics);
     const std::string noBot = "Connect your bot first.";
     const std::string noGroup = "Find your group first.";
-    const Case cases[] = {
+    // The bot is forgotten while the request is held up.
+    const std::tuple<std::string, std::function<QCoro::Task<>(Store&)>, std::string> cases[]{
         {"getMe", connect, "The bot was forgotten meanwhile."},
         {"getUpdates", find, noBot},
         {"getChat", find, noBot},
@@ -87,26 +71,24 @@ TEST(SetupActions, EndWhenTheirBotIsForgotten) {
         {"createForumTopic", create, noGroup},
         {"editForumTopic", rename, ""},
     };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.heldUp + each.message);
+    for (const auto& [heldUp, action, message] : cases) {
+        SCOPED_TRACE(heldUp + message);
         ConnectedComputer computer;
         computer.sandbox.addBot("8:second", "second_bot");
-        if (each.message == noGroup) {
+        if (message == noGroup) {
             computer.forgetThreads();
             computer.store->changeConfig(
                 [](Config& config) { config.topics.back().name = "Another"; });
         }
-        Fault held = flood(1);
-        held.method = each.heldUp;
-        computer.sandbox.failNext(held);
-        auto acting = each.action(*computer.store);
+        computer.sandbox.failNext(onlyFor(heldUp, flood(1)));
+        auto acting = action(*computer.store);
         ASSERT_TRUE(waitUntil([&] { return computer.clock.pending() == 1; }));
         computer.store->forgetBot();
-        computer.clock.advance(std::chrono::seconds{2});
-        EXPECT_EQ(computer.failure(std::move(acting)), each.message);
+        computer.clock.advance(2s);
+        EXPECT_EQ(computer.failure(std::move(acting)), message);
         EXPECT_EQ(computer.store->config(), Config{});
         EXPECT_TRUE(computer.secrets.values.empty());
-        EXPECT_EQ(std::ranges::count(computer.methods(), each.heldUp), 2) << "and no further one";
+        EXPECT_EQ(std::ranges::count(computer.methods(), heldUp), 2) << "and no further one";
     }
 }
 
@@ -128,7 +110,7 @@ TEST(SetupActions, LeaveASendThatHasBegunItsGroup) {
     await(computer.store->findGroup());
     await(computer.store->createTopics());
     computer.store->forgetBot();
-    computer.clock.advance(std::chrono::seconds{2});
+    computer.clock.advance(2s);
     await(std::move(sending));
     const Json topics = computer.sandbox.view()["groups"][0]["topics"]; // "General" is the first
     EXPECT_THAT(topics[3]["messages"], SizeIs(3)) << "its creation and both files";
@@ -189,7 +171,7 @@ TEST(Topics, AreMadeAnewWhereTheOldOnesAreGone) {
 TEST(Topics, AreMadeThoughTheUpdatesCannotBeHad) {
     ConnectedComputer computer;
     computer.forgetThreads();
-    for (const Fault& fault : {answer("getUpdates", 502, "<html>"), answer("getUpdates", Json(7))})
+    for (const auto& fault : {answer("getUpdates", 502, "<html>"), answer("getUpdates", Json(7))})
         computer.sandbox.failNext(fault);
     await(computer.store->createTopics());
     EXPECT_TRUE(computer.store->isReady());
@@ -200,7 +182,7 @@ TEST(Topics, NeedTheRightToManageThem) {
     const auto before = computer.threads();
     computer.forgetThreads();
     computer.store->changeConfig([](Config& config) { config.topics[2].name = "Papers"; });
-    computer.sandbox.addBotToGroup(computer.group, BotRole::admin);
+    computer.sandbox.addBotToGroup(computer.group, sandbox::BotRole::admin);
     computer.clear();
     EXPECT_EQ(computer.failure(computer.store->createTopics()), cannotCreateText);
     EXPECT_THAT(computer.threads(), ElementsAre(before[0], before[1], std::nullopt, std::nullopt));
@@ -233,7 +215,7 @@ TEST(Topics, AreRenamedUntilOneFails) {
     EXPECT_EQ(computer.failure(computer.store->renameTopics()), "");
     const auto requests = computer.sandbox.requests();
     ASSERT_THAT(requests, SizeIs(3)) << "none for the topic without a thread";
-    EXPECT_THAT(requests[0].error, testing::HasSubstr("NOT_MODIFIED"));
+    EXPECT_THAT(requests[0].error, HasSubstr("NOT_MODIFIED"));
     EXPECT_EQ(computer.calls()[1], R"(editForumTopic {"chat_id":)" +
                                        std::to_string(computer.group) + R"(,"message_thread_id":)" +
                                        std::to_string(*before.topics[1].threadId) +
@@ -243,8 +225,7 @@ TEST(Topics, AreRenamedUntilOneFails) {
 
     computer.sandbox.deleteTopic(computer.group, *before.topics[0].threadId);
     computer.clear();
-    EXPECT_THAT(computer.failure(computer.store->renameTopics()),
-                testing::HasSubstr("TOPIC_ID_INVALID"));
+    EXPECT_THAT(computer.failure(computer.store->renameTopics()), HasSubstr("TOPIC_ID_INVALID"));
     EXPECT_THAT(computer.methods(), ElementsAre("editForumTopic"));
 }
 

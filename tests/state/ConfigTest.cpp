@@ -1,11 +1,10 @@
 #include "state/Config.h"
 #include "state/Sent.h"
+#include "state/Topic.h"
 
 #include <gmock/gmock.h>
 
 using namespace quillon;
-
-namespace {
 
 constexpr const char* defaultRecord =
     R"({"topics":[{"key":"notes","name":"📝 Notes & text","color":13338331},)"
@@ -13,8 +12,6 @@ constexpr const char* defaultRecord =
     R"({"key":"files","name":"📎 Files","color":9367192},)"
     R"({"key":"videos","name":"🎬 Videos","color":7322096}],)"
     R"("shortcut":"ctrlOptV","playSound":true,"showBanner":true,"bannerPosition":"top"})";
-
-} // namespace
 
 TEST(Config, IsWrittenInItsOrderWithoutWhatIsAbsent) {
     EXPECT_EQ(encodeConfig({}), defaultRecord);
@@ -103,4 +100,15 @@ TEST(Sent, IsReadAllOrNothing) {
         bad.replace(bad.find(from), std::string_view{from}.size(), to);
         EXPECT_TRUE(decodeHistory(before + bad + "]").empty()) << bad;
     }
+}
+
+TEST(Topic, OfAKindIsTheFirstOneElseTheListsFirst) {
+    const Topic files{.key = "files", .name = "Papers", .color = 1, .threadId = 5};
+    const Topic others{.key = "files", .name = "Others", .color = 1, .threadId = 6};
+    const Topic strange{.key = "strange", .name = "Strange", .color = 1, .threadId = 7};
+    EXPECT_EQ(topicFor({strange, files, others}, TopicKind::files), files);
+    EXPECT_EQ(topicFor({strange, files}, TopicKind::images), strange);
+    // Without any topic, what is sent goes to the group's general one.
+    EXPECT_EQ(topicFor({}, TopicKind::videos).name, "🎬 Videos");
+    EXPECT_EQ(topicFor({}, TopicKind::videos).threadId, std::nullopt);
 }

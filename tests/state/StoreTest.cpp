@@ -1,29 +1,17 @@
+#include "support/Files.h"
 #include "support/TestComputer.h"
-
-#include <gmock/gmock.h>
-
-#include <sys/stat.h>
+#include "support/Testing.h"
 
 using namespace quillon;
 using namespace quillon::test;
-using testing::IsEmpty;
-
-namespace {
-
-mode_t permissions(const std::filesystem::path& path) {
-    struct stat status {};
-    return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
-}
-
-} // namespace
 
 TEST(Store, WritesNothingBeforeTheFirstChange) {
     TestComputer computer;
-    EXPECT_EQ(permissions(computer.platform.dataFolder), 0700);
+    EXPECT_EQ(modeOf(computer.platform.dataFolder), fs::perms{0700});
     EXPECT_TRUE(std::filesystem::is_empty(computer.platform.dataFolder));
 
     computer.store->changeConfig([](Config& config) { config.chatTitle = "Family"; });
-    EXPECT_EQ(permissions(computer.path("config.json")), 0600);
+    EXPECT_EQ(modeOf(computer.path("config.json")), fs::perms{0600});
     EXPECT_FALSE(std::filesystem::exists(computer.path("history.json")));
     computer.restart();
     EXPECT_EQ(computer.store->config().chatTitle, "Family");
@@ -67,9 +55,8 @@ TEST(Store, IsReadyWithTokenGroupAndAllThreads) {
         return computer.store->isConnected();
     };
     const auto allThreads = [](Config& config) {
-        for (Topic& topic : config.topics) {
+        for (Topic& topic : config.topics)
             topic.threadId = 5;
-        }
     };
     EXPECT_FALSE(connected(allThreads)) << "no chat";
     EXPECT_TRUE(connected([](Config& config) { config.chatId = -5; }));

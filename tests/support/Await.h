@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Testing.h"
+
 #include <QCoreApplication>
 #include <QCoro/QCoroTask>
 #include <QDeadlineTimer>
@@ -8,11 +10,7 @@
 #include <QPromise>
 #include <QThread>
 
-#include <gtest/gtest.h>
-
-#include <chrono>
 #include <exception>
-#include <functional>
 #include <type_traits>
 #include <utility>
 

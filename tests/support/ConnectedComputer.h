@@ -4,8 +4,6 @@
 #include "support/Await.h"
 #include "support/TestComputer.h"
 
-#include <algorithm>
-
 namespace quillon::test {
 
 /// Telegram, as a test commands it. Comes before the computer, whose platform needs its address.

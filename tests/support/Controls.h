@@ -3,17 +3,13 @@
 #include "ui/text/IconLabel.h"
 
 #include <QAbstractButton>
-#include <QAccessible>
 #include <QApplication>
 #include <QGraphicsOpacityEffect>
 #include <QTest>
-#include <QWidget>
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
-#include <string>
-#include <vector>
 
 namespace quillon::test {
 

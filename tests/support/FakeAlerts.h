@@ -2,8 +2,6 @@
 
 #include "maintenance/Alerts.h"
 
-#include <vector>
-
 namespace quillon::test {
 
 /// A user who answers every alert with the same button.

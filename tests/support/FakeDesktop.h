@@ -10,13 +10,9 @@
 #include <QPromise>
 #include <QWindow>
 
-#include <functional>
 #include <map>
-#include <memory>
 #include <set>
-#include <string>
 #include <utility>
-#include <vector>
 
 namespace quillon::test {
 

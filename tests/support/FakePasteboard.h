@@ -5,13 +5,9 @@
 #include <QPromise>
 
 #include <algorithm>
-#include <cstdint>
 #include <functional>
 #include <map>
-#include <optional>
-#include <string>
 #include <utility>
-#include <vector>
 
 namespace quillon::test {
 

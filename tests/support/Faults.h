@@ -2,16 +2,20 @@
 
 #include "sandbox/Fault.h"
 
-#include <string>
-
 namespace quillon::test {
 
-/// A fault that meets the next calls: `count` of them, since libcurl tries a connection anew that
-/// was kept open and breaks.
-inline sandbox::Fault fault(sandbox::FaultKind kind, int count = 1) {
+/// A fault that meets the next call; `delay` counts for the kinds that are late.
+inline sandbox::Fault fault(sandbox::FaultKind kind,
+                            std::chrono::milliseconds delay = sandbox::Fault{}.delay) {
     sandbox::Fault fault;
     fault.kind = kind;
-    fault.count = count;
+    fault.delay = delay;
+    return fault;
+}
+
+/// The same fault, which waits for a call of the method.
+inline sandbox::Fault onlyFor(const std::string& method, sandbox::Fault fault) {
+    fault.method = method;
     return fault;
 }
 

@@ -17,11 +17,7 @@
 
 #include <QTemporaryDir>
 
-#include <memory>
 #include <new>
-#include <optional>
-#include <string>
-#include <vector>
 
 namespace quillon::test {
 
@@ -144,9 +140,8 @@ struct TestComputer {
     [[nodiscard]] std::vector<std::string> events() const {
         std::vector<std::string> events;
         const Json stored = parseJson(content("events.json")).value_or(Json::array());
-        for (const Json& event : stored) {
+        for (const Json& event : stored)
             events.push_back(event["name"].get<std::string>() + " " + event["props"].dump());
-        }
         return events;
     }
 

@@ -8,9 +8,8 @@ namespace {
 
 std::string whole(const MultipartBody& body) {
     std::string bytes;
-    for (const QByteArray& piece : body.pieces) {
+    for (const QByteArray& piece : body.pieces)
         bytes += piece.toStdString();
-    }
     return bytes;
 }
 

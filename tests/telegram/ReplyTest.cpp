@@ -3,16 +3,14 @@
 #include <gtest/gtest.h>
 
 using namespace quillon;
-using namespace std::chrono_literals;
 
 namespace {
 
 /// A verdict as one comparable text.
 std::string told(const Verdict& verdict) {
     if (const auto* success = std::get_if<Success>(&verdict)) return "= " + success->result.dump();
-    if (const auto* wait = std::get_if<Wait>(&verdict)) {
+    if (const auto* wait = std::get_if<Wait>(&verdict))
         return "wait " + std::to_string(wait->duration.count());
-    }
     return std::get<Refusal>(verdict).message;
 }
 
@@ -21,12 +19,7 @@ constexpr const char* badToken = "Telegram didn't accept that bot token.";
 } // namespace
 
 TEST(Reply, MeansWhatItsEnvelopeSays) {
-    struct Case {
-        int status;
-        const char* body;
-        std::string verdict;
-    };
-    const Case cases[] = {
+    const std::tuple<int, const char*, std::string> cases[]{
         {200, R"({"ok":true,"result":true})", "= true"},
         {200, R"({"ok":true})", "= null"},
         {200, R"({"ok":1,"result":1})", "Telegram said no."},
@@ -50,7 +43,6 @@ TEST(Reply, MeansWhatItsEnvelopeSays) {
         {200, "[]", "Telegram sent an empty reply (error 200). Try again in a moment."},
         {404, "", badToken},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(told(judge({.status = c.status, .body = c.body})), c.verdict) << c.body;
-    }
+    for (const auto& [status, body, verdict] : cases)
+        EXPECT_EQ(told(judge({.status = status, .body = body})), verdict) << body;
 }

@@ -1,23 +1,16 @@
 #include "update/Archive.h"
 #include "platform/linux/files/TreeCopy.h"
 #include "support/Files.h"
+#include "support/Testing.h"
 #include "update/Errors.h"
 #include "update/Makers.h"
 #include "update/PrivateFolder.h"
 
-#include <gmock/gmock.h>
-
 #include <QTemporaryDir>
 
-#include <sys/stat.h>
-
 namespace quillon::test {
-namespace {
 
-namespace fs = std::filesystem;
-
-class ArchiveTest : public testing::Test {
-protected:
+struct ArchiveTest : testing::Test {
     ArchiveTest() {
         fs::create_directories(folder);
         write(root / "victim", "untouched");
@@ -29,11 +22,6 @@ protected:
     void empty() const {
         discardTree(folder);
         fs::create_directory(folder);
-    }
-    static mode_t mode(const fs::path& file) {
-        struct stat status {};
-        EXPECT_EQ(::lstat(file.c_str(), &status), 0) << file;
-        return status.st_mode & 07777;
     }
 
     QTemporaryDir temporary;
@@ -55,10 +43,10 @@ TEST_F(ArchiveTest, KeepsModesTimesAndLinks) {
     };
     ASSERT_EQ(unpacked(archiveOf(entries)), std::nullopt);
     const fs::path app = folder / "a.app";
-    EXPECT_EQ(mode(folder), 0700U);
-    EXPECT_EQ(mode(app), 0555U);
-    EXPECT_EQ(mode(app / "über/program"), 0755U);
-    EXPECT_EQ(mode(app / "empty"), 0604U);
+    EXPECT_EQ(modeOf(folder), fs::perms{0700});
+    EXPECT_EQ(modeOf(app), fs::perms{0555});
+    EXPECT_EQ(modeOf(app / "über/program"), fs::perms{0755});
+    EXPECT_EQ(modeOf(app / "empty"), fs::perms{0604});
     EXPECT_EQ(fs::read_symlink(app / "chain"), "über/up");
     EXPECT_TRUE(fs::equivalent(app / "second", app / "über/program"));
     EXPECT_EQ(fs::file_size(app / "second"), 7U);
@@ -73,13 +61,8 @@ TEST_F(ArchiveTest, RefusesWhatDoesNotBelong) {
     const auto file = [](const std::string& path, mode_t mode = 0644, mode_t type = AE_IFREG) {
         return Entry{.path = path, .mode = mode, .type = type};
     };
-    struct Case {
-        const char* what;
-        std::vector<Entry> entries;
-        int code;
-    };
     const std::string victim = root / "victim";
-    const Case cases[]{
+    const std::tuple<const char*, std::vector<Entry>, int> cases[]{
         {"absolute path", {file(victim)}, updateArchiveAbsolutePath},
         {"parent", {file("../../victim")}, updateArchiveParentPath},
         {"parent further down", {file("a/b/../../../../victim")}, updateArchiveParentPath},
@@ -105,12 +88,12 @@ TEST_F(ArchiveTest, RefusesWhatDoesNotBelong) {
          updateArchivePrivileges},
         {"the same file twice", {file("a"), file("./a")}, updateArchiveDamaged},
     };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.what);
+    for (const auto& [what, entries, code] : cases) {
+        SCOPED_TRACE(what);
         empty();
-        EXPECT_EQ(unpacked(archiveOf(each.entries)), updateError(each.code));
-        EXPECT_THAT(namesIn(root), testing::UnorderedElementsAre("outer", "victim"));
-        EXPECT_THAT(namesIn(root / "outer"), testing::ElementsAre("folder"));
+        EXPECT_EQ(unpacked(archiveOf(entries)), updateError(code));
+        EXPECT_THAT(namesIn(root), UnorderedElementsAre("outer", "victim"));
+        EXPECT_THAT(namesIn(root / "outer"), ElementsAre("folder"));
         EXPECT_EQ(fs::file_size(victim), 9U);
         EXPECT_EQ(fs::hard_link_count(victim), 1U);
     }
@@ -138,5 +121,4 @@ TEST_F(ArchiveTest, StopsAtItsLimits) {
     EXPECT_EQ(unpacked(archiveOf(three), {.entries = 3}), std::nullopt);
 }
 
-} // namespace
 } // namespace quillon::test

@@ -8,15 +8,9 @@
 
 #include <QThreadPool>
 
-#include <gmock/gmock.h>
-
 namespace quillon::test {
 
 namespace {
-
-using namespace std::chrono_literals;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// A user who has made up their mind, or takes their time.
 class FakeUser : public UpdateUserDriver {

@@ -1,5 +1,6 @@
 #include "update/Makers.h"
 
+#include "support/Files.h"
 #include "update/Archive.h"
 #include "update/ProgramOutput.h"
 #include "update/Utf8Locale.h"
@@ -11,8 +12,6 @@
 #include <algorithm>
 
 namespace quillon::test {
-
-namespace fs = std::filesystem;
 
 namespace {
 

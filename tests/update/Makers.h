@@ -7,8 +7,6 @@
 
 #include <filesystem>
 #include <ostream>
-#include <string>
-#include <vector>
 
 namespace quillon {
 

@@ -3,9 +3,7 @@
 #include "support/RawServer.h"
 #include "update/Makers.h"
 
-#include <atomic>
 #include <mutex>
-#include <string>
 
 namespace quillon::test {
 

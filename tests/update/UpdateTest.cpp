@@ -8,29 +8,16 @@
 #include "update/Preparation.h"
 #include "update/UpdateSource.h"
 
-#include <gmock/gmock.h>
-
-#include <fcntl.h>
 #include <sys/file.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <csignal>
-#include <thread>
 
 namespace quillon::test {
-namespace {
-
-namespace fs = std::filesystem;
-using namespace std::chrono_literals;
-using testing::IsEmpty;
 
 using Prepared = std::variant<PreparedUpdate, UpdateError>;
 
 /// Version 1.0 on a disk, and its makers, who offer what the test wants.
-class UpdateTest : public testing::Test {
-protected:
+struct UpdateTest : testing::Test {
     UpdateTest() {
         placeOld();
         computer.platform.bundle = bundleAt(bundle);
@@ -203,8 +190,8 @@ TEST_F(UpdateTest, RemovesNothingButItsOwnLeftovers) {
     fs::create_directories(computer.home() / "cache/dev.vostrel.quillon/update-123456/x");
     tidy();
     EXPECT_THAT(leftovers(),
-                testing::UnorderedElementsAre(".Quillon-update-link00", ".Quillon-update-longer00",
-                                              ".Quillon-update-afile0"));
+                UnorderedElementsAre(".Quillon-update-link00", ".Quillon-update-longer00",
+                                     ".Quillon-update-afile0"));
     EXPECT_TRUE(fs::exists(outside));
 }
 
@@ -246,5 +233,4 @@ TEST_F(UpdateTest, LeavesOneWorkingVersionWhenKilled) {
     EXPECT_EQ(versionOf(bundle), "1.1") << "it was never given the time";
 }
 
-} // namespace
 } // namespace quillon::test

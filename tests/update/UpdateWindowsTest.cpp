@@ -7,14 +7,9 @@
 
 #include <QTextBrowser>
 
-#include <gmock/gmock.h>
-
 namespace quillon::test {
 
 namespace {
-
-using testing::Contains;
-using testing::HasSubstr;
 
 void press(const char* caption) {
     Controls{*shownWindow()}.click(caption);

@@ -10,8 +10,6 @@
 #include <QWidget>
 #include <QWindow>
 
-#include <gtest/gtest.h>
-
 namespace quillon::test {
 
 namespace {

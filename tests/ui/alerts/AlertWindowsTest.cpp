@@ -15,28 +15,23 @@ const Alert question{.warning = true,
                      .buttons = {"Move", "Later", "Not now"}};
 
 TEST(AlertWindowsTest, AnswersWithTheButtonHoweverItWasPressed) {
-    struct Case {
-        const char* how;
-        std::function<void(QWidget& window)> answer;
-        std::size_t expected;
-    };
     const auto key = [](Qt::Key each) {
         return [each](QWidget& window) { QTest::keyClick(&window, each); };
     };
     const auto click = [](const char* name) {
         return [name](QWidget& window) { Controls{window}.click(name); };
     };
-    const Case cases[]{
+    const std::tuple<const char*, std::function<void(QWidget & window)>, std::size_t> cases[]{
         {"Return", key(Qt::Key_Return), 0}, {"Enter", key(Qt::Key_Enter), 0},
         {"Escape", key(Qt::Key_Escape), 2}, {"closed", [](QWidget& window) { window.close(); }, 2},
         {"first", click("Move"), 0},        {"second", click("Later"), 1},
     };
-    for (const Case& each : cases) {
+    for (const auto& [how, leave, expected] : cases) {
         QFuture<std::size_t> answer = AlertWindows{workspace}.show(question);
         ASSERT_TRUE(shownWindow()) << "it is shown without a turn of the event loop";
         EXPECT_FALSE(answer.isFinished());
-        each.answer(*shownWindow());
-        EXPECT_EQ(await(answer), each.expected) << each.how;
+        leave(*shownWindow());
+        EXPECT_EQ(await(answer), expected) << how;
         EXPECT_FALSE(shownWindow());
     }
 }

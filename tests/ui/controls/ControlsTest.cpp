@@ -4,12 +4,10 @@
 #include "ui/controls/SegmentedPicker.h"
 #include "ui/controls/Spinner.h"
 #include "ui/controls/Switch.h"
-#include "ui/text/IconLabel.h"
 #include "ui/theme/Motion.h"
 
 #include <QRadioButton>
 #include <QSignalSpy>
-#include <QTest>
 #include <QVBoxLayout>
 
 namespace quillon::test {

@@ -11,15 +11,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include <gmock/gmock.h>
-
 namespace quillon::test {
-namespace {
-
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::StartsWith;
-
 TEST(IconLabel, ShowsAPlainTextAsItIs) {
     for (const char* const text : {"**", "a **b** c", "*****", "no stars"}) {
         IconLabel label{QString::fromUtf8(text)};
@@ -125,5 +117,4 @@ TEST(Theme, TextKeepsItsContrastOnEveryGround) {
     }
 }
 
-} // namespace
 } // namespace quillon::test

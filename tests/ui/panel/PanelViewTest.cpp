@@ -1,6 +1,5 @@
 #include "ui/panel/PanelView.h"
 
-#include "maintenance/Updater.h"
 #include "support/ConnectedComputer.h"
 #include "support/Controls.h"
 #include "support/FakeFramework.h"
@@ -10,17 +9,9 @@
 
 #include <QElapsedTimer>
 
-#include <gmock/gmock.h>
-
 namespace quillon::test {
 
 namespace {
-
-using namespace std::chrono_literals;
-using testing::AllOf;
-using testing::Contains;
-using testing::ElementsAre;
-using testing::Not;
 
 constexpr const char* sendName = "Send clipboard to phone";
 
@@ -113,7 +104,7 @@ TEST_F(ReadyPanel, ShowsTheShortcutAndWarnsWhileAnotherProgramHasIt) {
         [](Config& config) { config.shortcut = ShortcutChoice::ctrlOptP; });
     computer.store->registerShortcut();
     turn();
-    EXPECT_THAT(seen(), Not(Contains(testing::HasSubstr("already used"))));
+    EXPECT_THAT(seen(), Not(Contains(HasSubstr("already used"))));
     EXPECT_EQ(keys(), "⌃⌥P");
 }
 
@@ -145,7 +136,7 @@ TEST_F(ReadyPanel, SendsTheClipboardAndSaysSo) {
     turn();
     EXPECT_THAT(seen(), Contains("Send clipboard"));
     EXPECT_EQ(clipSymbol(), "text.alignleft");
-    EXPECT_THAT(computer.messages("notes"), testing::SizeIs(1));
+    EXPECT_THAT(computer.messages("notes"), SizeIs(1));
     EXPECT_TRUE(button(sendName)->isEnabled());
 }
 
@@ -162,7 +153,7 @@ TEST_F(ReadyPanel, FollowsAKeyringThatIsNotThereOrLocked) {
     computer.secrets.locked = false;
     computer.secrets.changed();
     turn();
-    EXPECT_THAT(seen(), Not(Contains(testing::HasSubstr("keyring"))));
+    EXPECT_THAT(seen(), Not(Contains(HasSubstr("keyring"))));
 }
 
 TEST_F(ReadyPanel, NamesTheGroupItIsConnectedTo) {

@@ -6,11 +6,7 @@
 #include "support/TestComputer.h"
 #include "ui/panel/PanelView.h"
 
-#include <gmock/gmock.h>
-
 namespace quillon::test {
-
-namespace {
 
 struct PanelWindowTest : testing::Test {
     TestComputer computer;
@@ -22,8 +18,6 @@ struct PanelWindowTest : testing::Test {
                        }};
     const QRect icon{100, 0, 24, 24};
 };
-
-} // namespace
 
 TEST_F(PanelWindowTest, ClosesWithItsIconAndWhenSomethingElseTakesTheFocus) {
     window.toggle(icon);

@@ -1,18 +1,12 @@
+#include "support/Testing.h"
 #include "ui/panel/Age.h"
 #include "ui/panel/PanelPlacement.h"
-
-#include <gmock/gmock.h>
 
 namespace quillon::test {
 
 TEST(Age, IsTheLargestWholeUnitInTheUsersLanguage) {
-    using namespace std::chrono_literals;
     const Date now{std::chrono::seconds{1'700'000'000}};
-    const struct {
-        std::chrono::duration<double> elapsed;
-        std::string locale;
-        std::string text;
-    } cases[] = {
+    const std::tuple<std::chrono::duration<double>, std::string, std::string> cases[] = {
         {-3600s, "en_US", "just now"}, // the clock was set back
         {59.9s, "en_US", "just now"},      {60s, "en_US", "1 min. ago"},
         {119s, "en_US", "1 min. ago"},     {3599s, "en_US", "59 min. ago"},
@@ -22,8 +16,8 @@ TEST(Age, IsTheLargestWholeUnitInTheUsersLanguage) {
         {24h * 800, "en_US", "2 yr. ago"}, {300s, "de_AT", "vor 5 Min."},
         {300s, "ja_JP", "5 分前"},
     };
-    for (const auto& each : cases)
-        EXPECT_EQ(age(now - each.elapsed, now, each.locale).toStdString(), each.text);
+    for (const auto& [elapsed, locale, text] : cases)
+        EXPECT_EQ(age(now - elapsed, now, locale).toStdString(), text);
 }
 
 TEST(PanelPlacement, HangsFromTheIconAndStaysOnItsScreen) {

@@ -1,6 +1,5 @@
 #include "ui/settings/SettingsView.h"
 
-#include "maintenance/Updater.h"
 #include "support/ConnectedComputer.h"
 #include "support/Controls.h"
 #include "support/FakeFramework.h"
@@ -13,13 +12,7 @@
 #include <QLineEdit>
 #include <QTabBar>
 
-#include <gmock/gmock.h>
-
 namespace quillon::test {
-
-namespace {
-
-using testing::ElementsAre;
 
 /// The settings in a window, over a store that has gone through its setup.
 struct SettingsTest : testing::Test {
@@ -56,8 +49,6 @@ struct SettingsTest : testing::Test {
     Controls controls{view};
 };
 
-} // namespace
-
 TEST_F(SettingsTest, ReportsTheHeightOfEachTab) {
     std::vector<int> reported;
     QObject::connect(&view, &SettingsView::fittingHeightChanged, &view,
@@ -69,7 +60,7 @@ TEST_F(SettingsTest, ReportsTheHeightOfEachTab) {
     turn();
     EXPECT_EQ(view.tab(), QStringLiteral("topics"));
     EXPECT_FALSE(shows("Step 1: Create your bot"));
-    ASSERT_THAT(reported, testing::SizeIs(1));
+    ASSERT_THAT(reported, SizeIs(1));
     EXPECT_EQ(reported.back(), view.fittingHeight());
     // One more topic makes the tab higher, without anybody's asking.
     change([](Config& config) { config.topics.push_back({"links", "Links", 0xFFD67E, 9}); });
@@ -102,7 +93,7 @@ TEST_F(SettingsTest, SwitchesWhatItSays) {
         change([field = field](Config& config) { config.*field = true; });
         EXPECT_TRUE(on(name)) << name;
     }
-    EXPECT_THAT(computer.newEvents(), testing::SizeIs(4));
+    EXPECT_THAT(computer.newEvents(), SizeIs(4));
 
     const char* login = "Open Quillon when I log in";
     controls.click(login);

@@ -5,21 +5,15 @@
 #include "support/Faults.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Spinner.h"
-#include "ui/text/IconLabel.h"
 #include "ui/theme/Motion.h"
 
 #include <QLineEdit>
-
-#include <gmock/gmock.h>
 
 namespace quillon::test {
 
 namespace {
 
-using namespace std::chrono_literals;
 using sandbox::FaultKind;
-using testing::ElementsAre;
-using testing::UnorderedElementsAre;
 
 /// The guide in a window, over a store that the test leads through the setup.
 template <typename Computer>
@@ -62,9 +56,8 @@ TEST(StepTest, FollowsFromWhatTheStoreKnows) {
         {{false, false, false}, 1}, {{false, true, true}, 1}, {{true, false, false}, 3},
         {{true, true, false}, 4},   {{true, true, true}, 5},
     };
-    for (const auto& [progress, position] : table) {
+    for (const auto& [progress, position] : table)
         EXPECT_EQ(step(progress), position);
-    }
 }
 
 TEST_F(NewUser, SeesTheFirstTwoStepsAndTheOthersDimmed) {
@@ -87,9 +80,7 @@ TEST_F(NewUser, SeesTheFirstTwoStepsAndTheOthersDimmed) {
 
 TEST_F(NewUser, KeepsATokenThatFailedAndEmptiesTheFieldAfterOneThatWorked) {
     // Else the answer may be there before the key press is over.
-    sandbox::Fault slow = fault(FaultKind::delay);
-    slow.delay = std::chrono::milliseconds{300};
-    computer.sandbox.failNext(slow);
+    computer.sandbox.failNext(fault(FaultKind::delay, 300ms));
     EXPECT_EQ(field().echoMode(), QLineEdit::Password);
     EXPECT_FALSE(controls.enabled("Connect")) << "the field is empty";
     type(QStringLiteral("7000000001:wrong"));

@@ -7,10 +7,7 @@
 #include "support/SessionBus.h"
 #include "support/TestComputer.h"
 
-#include <QDBusConnection>
 #include <QDBusPendingReply>
-
-#include <gmock/gmock.h>
 
 #include <semaphore>
 
@@ -19,10 +16,6 @@
 namespace quillon::test {
 
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::StartsWith;
 
 using Answer = QDBusPendingReply<int, QString, QString>;
 
@@ -35,7 +28,9 @@ QDBusUnixFileDescriptor noInput() {
 /// Another process of the session, as the bus sees it.
 class Caller {
 public:
-    Answer run(const QStringList& words) {
+    /// Of words between blanks.
+    Answer run(const char* command) {
+        const QStringList words = QString::fromLatin1(command).split(u' ', Qt::SkipEmptyParts);
         return call("RunCommand", {words, QVariant::fromValue(noInput())});
     }
     Answer call(const char* method, const QVariantList& arguments) {
@@ -91,18 +86,15 @@ TEST(CommandService, AnswersWhoOnlyReadsWhileAnotherCommandIsAtWork) {
     ASSERT_EQ(service.publish(), CommandService::Publication::done);
 
     Caller caller;
-    Answer finding = caller.run({QStringLiteral("find-group")});
-    Answer early = caller.run({QStringLiteral("status")});
-    waitUntil([] { return false; }, std::chrono::milliseconds{50});
+    Answer finding = caller.run("find-group");
+    Answer early = caller.run("status");
+    waitUntil([] { return false; }, 50ms);
     EXPECT_FALSE(early.isFinished()) << "nobody is answered before the program serves";
     service.serve({computer.platform, core, nullptr}, {});
-    Answer next = caller.run({QStringLiteral("launch-at-login"), QStringLiteral("on")});
+    Answer next = caller.run("launch-at-login on");
     EXPECT_THAT(Caller::output(early), StartsWith("Bot:      connected"));
-    EXPECT_EQ(Caller::output(caller.run({QStringLiteral("history"), QStringLiteral("--json")})),
-              "[]\n");
-    EXPECT_EQ(
-        Caller::output(caller.run({QStringLiteral("launch-at-login"), QStringLiteral("status")})),
-        "off\n");
+    EXPECT_EQ(Caller::output(caller.run("history --json")), "[]\n");
+    EXPECT_EQ(Caller::output(caller.run("launch-at-login status")), "off\n");
     EXPECT_FALSE(finding.isFinished());
     EXPECT_FALSE(next.isFinished()) << "what changes something keeps its turn";
     telegramAnswers.release();
@@ -120,8 +112,8 @@ TEST(CommandService, AnswersWhoOnlyReadsWhileAnotherCommandIsAtWork) {
     EXPECT_THAT(run("status", ""), StartsWith("Bot:"));
     const std::string refused = "org.freedesktop.DBus.Error.InvalidArgs";
     EXPECT_EQ(run("uninstall", "--yes"), refused);
-    EXPECT_EQ(Caller::output(caller.run({QStringLiteral("panel")})), refused);
-    EXPECT_EQ(Caller::output(caller.run({})), refused);
+    EXPECT_EQ(Caller::output(caller.run("panel")), refused);
+    EXPECT_EQ(Caller::output(caller.run("")), refused);
 }
 
 /// The real command line, which hands a command over to this process.
@@ -137,7 +129,7 @@ TEST(CommandService, TellsWhoWaitsForTheKeyring) {
     quillon.setReadChannel(QProcess::StandardError);
     quillon.start(QStringLiteral(QUILLON), {QStringLiteral("forget")});
     ASSERT_TRUE(waitUntil([&] { return computer.clock.pending() == 1; }));
-    computer.clock.advance(std::chrono::seconds{5});
+    computer.clock.advance(5s);
     EXPECT_TRUE(waitUntil([&] { return quillon.bytesAvailable() > 0; })) << "at once";
     computer.secrets.answer();
     EXPECT_TRUE(waitUntil([&] { return quillon.state() == QProcess::NotRunning; }));

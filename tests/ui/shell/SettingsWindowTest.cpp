@@ -6,8 +6,6 @@
 #include <QApplication>
 #include <QScreen>
 
-#include <gmock/gmock.h>
-
 #include <limits>
 
 namespace quillon::test {
@@ -59,7 +57,7 @@ TEST_F(SettingsWindowTest, ComesBackAsItWasWhereItWas) {
     EXPECT_TRUE(first->isVisible());
     EXPECT_EQ(first->pos(), QPoint(37, 41));
     EXPECT_EQ(made, 1);
-    EXPECT_THAT(workspace.log, testing::ElementsAre("activate", "front"));
+    EXPECT_THAT(workspace.log, ElementsAre("activate", "front"));
     first->showMinimized();
     settings.show();
     EXPECT_FALSE(first->isMinimized());
@@ -76,26 +74,22 @@ TEST_F(SettingsWindowTest, FollowsItsContentsHeightFromItsTopEdge) {
     window().move(30, 40);
     const int frame = window().frameGeometry().height() - window().height();
     const int below = window().screen()->availableGeometry().bottom() + 1 - frame;
-    struct Case {
-        double height;
-        int becomes;
-    };
-    const std::vector<Case> cases{{std::numeric_limits<double>::quiet_NaN(), 300},
-                                  {50, 300},
-                                  {-400, 300},
-                                  {300.5, 300},
-                                  {299.5, 300},
-                                  {301, 301},
-                                  {50.6, 51},
-                                  {420, 420},
-                                  {9'000, below - 40}}; // the content scrolls
-    for (const Case& each : cases) {
+    const std::pair<double, int> cases[]{{std::numeric_limits<double>::quiet_NaN(), 300},
+                                         {50, 300},
+                                         {-400, 300},
+                                         {300.5, 300},
+                                         {299.5, 300},
+                                         {301, 301},
+                                         {50.6, 51},
+                                         {420, 420},
+                                         {9'000, below - 40}}; // the content scrolls
+    for (const auto& [height, becomes] : cases) {
         const QSize before = window().size();
-        fit(each.height);
+        fit(height);
         EXPECT_EQ(window().size(), before) << "not in the middle of the content's layout";
         QCoreApplication::processEvents();
         EXPECT_EQ(window().pos(), QPoint(30, 40));
-        EXPECT_EQ(window().size(), QSize(540, each.becomes)) << each.height;
+        EXPECT_EQ(window().size(), QSize(540, becomes)) << height;
     }
     window().move(30, 140);
     EXPECT_TRUE(waitUntil([&] { return window().height() == below - 140; }));

@@ -85,7 +85,7 @@ struct TrayIconTest : testing::Test {
                               .quit = [this] { ++quits; }}};
 
     /// The desktop's panel has had all the time it needs.
-    void wait() { computer.clock.advance(std::chrono::seconds{10}); }
+    void wait() { computer.clock.advance(10s); }
     bool becomesMissing() {
         return waitUntil([this] {
             wait();
