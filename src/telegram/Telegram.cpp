@@ -44,8 +44,9 @@ HttpRequest makeRequest(const std::string& url, const Json& params,
 
 /// Sleeps for so long, and less when a stop is requested, which it looks for every second.
 QCoro::Task<> wait(Clock& clock, std::chrono::seconds duration, std::stop_token stop) {
-    for (; duration > 0s && !stop.stop_requested(); duration -= 1s)
+    for (; duration > 0s && !stop.stop_requested(); duration -= 1s) {
         co_await sleep(clock, 1s);
+    }
 }
 
 /// Reads a reply. Almost all are small; a large one is read off the main thread.

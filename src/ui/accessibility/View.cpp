@@ -22,7 +22,7 @@ public:
     }
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
-        const QString given = ContainerDescription::text(kind);
+        QString given = ContainerDescription::text(kind);
         if (kind != QAccessible::Name || !given.isEmpty()) return given;
         return shortened(view_->accessibleText());
     }

@@ -41,9 +41,10 @@ bool ScrollView::eventFilter(QObject* watched, QEvent* event) {
     const bool done = QScrollArea::eventFilter(watched, event);
     // After QScrollArea has taken the new size.
     const bool moved = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
-    if (watched == widget() && moved)
+    if (watched == widget() && moved) {
         QMetaObject::invokeMethod(
             this, [this] { showFocus(); }, Qt::QueuedConnection);
+    }
     return done;
 }
 

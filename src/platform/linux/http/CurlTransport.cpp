@@ -90,10 +90,12 @@ public:
         // make.
         if (!thread_.joinable()) thread_ = std::thread{[this] { run(); }};
         std::unique_lock lock{mutex_};
-        const bool broken = broken_;
-        if (!broken) waiting_.push_back(std::move(transfer));
+        if (broken_) {
+            lock.unlock();
+            return transfer->finish(CURLE_FAILED_INIT);
+        }
+        waiting_.push_back(std::move(transfer));
         lock.unlock();
-        if (broken) return transfer->finish(CURLE_FAILED_INIT);
         wake();
     }
 
