@@ -15,7 +15,6 @@
 #include "ui/theme/ApplicationTheme.h"
 
 #include <QApplication>
-#include <QDBusConnection>
 #include <QThreadPool>
 #include <QTimer>
 
@@ -60,7 +59,9 @@ QCoro::Task<> launch(Platform& platform, Compositor& compositor, Alerts& alerts,
     if (wanted.empty()) wanted = "settings";
     const bool shown = RemoteProgram::activate(wanted, activationData);
     if (!shown) std::cerr << FolderLock::heldMessage() << std::endl;
-    QCoreApplication::exit(shown ? exitDone : exitFailed);
+    // There is nothing to clear up, and what comes over the bus during a longer end would find Qt's
+    // register of types destroyed.
+    platform.workspace.exitNow(shown ? exitDone : exitFailed);
 }
 
 } // namespace
@@ -92,8 +93,6 @@ int App::run(std::string_view wanted) {
     // The application's destructor would wait for work that may never end, as on a mount that
     // hangs.
     if (!QThreadPool::globalInstance()->waitForDone(poolPatience)) platform.workspace.exitNow(code);
-    // What comes over the bus from here on would find Qt's register of types destroyed.
-    QDBusConnection::disconnectFromBus(QDBusConnection::sessionBus().name());
     return code;
 }
 
