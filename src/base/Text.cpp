@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <unicode/uchar.h>
 
+#include <algorithm>
+
 namespace quillon {
 
 namespace {
@@ -122,10 +124,12 @@ std::vector<std::string_view> chunks(std::string_view text, TextLimit limit) {
 }
 
 std::string escapedHtml(std::string_view text) {
+    // find_first_of() makes a call for each character, which takes twice as long.
+    const auto isSpecial = [](char c) { return c == '&' || c == '<' || c == '>'; };
     std::string escaped;
     escaped.reserve(text.size() + text.size() / 8);
     while (!text.empty()) {
-        const std::string_view plain = text.substr(0, text.find_first_of("&<>"));
+        const std::string_view plain{text.begin(), std::ranges::find_if(text, isSpecial)};
         escaped += plain;
         text.remove_prefix(plain.size());
         if (text.empty()) break;
