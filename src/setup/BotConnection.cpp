@@ -48,8 +48,9 @@ QCoro::Task<std::string> Store::connectBot(std::string pasted) {
 }
 
 void Store::forgetBot() {
-    clearBot();
+    // Before the change is announced, so that nobody asks the keyring for the token again.
     tokenForgotten_ = true;
+    clearBot();
     removeForgottenToken();
 }
 
