@@ -83,6 +83,8 @@ TEST_F(KeyringTest, KeepsOneItemAndGivesItBackUnchanged) {
 
     int changes = 0;
     store.watch([&changes] { ++changes; });
+    // Answered once the bus has what was asked of it before on this connection.
+    EXPECT_EQ(await(store.find(token)), SecretAnswer::found);
     QDBusMessage lock = QDBusMessage::createMethodCall(
         QLatin1String{serviceName}, QStringLiteral("/org/freedesktop/secrets"),
         QStringLiteral("org.freedesktop.Secret.Service"), QStringLiteral("Lock"));

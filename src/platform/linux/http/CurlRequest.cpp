@@ -107,7 +107,7 @@ size_t CurlRequest::readBody(char* target, size_t /*one*/, size_t count, void* s
     for (const QByteArray& piece : transfer.request_.body) {
         const QByteArrayView rest = QByteArrayView{piece}.sliced(std::min(skip, piece.size()));
         const auto part = rest.first(std::min(rest.size(), room - filled));
-        std::ranges::copy(part, target + filled);
+        std::copy_n(part.data(), part.size(), target + filled);
         filled += part.size();
         skip -= piece.size() - rest.size();
     }
