@@ -1,6 +1,7 @@
 #include "platform/linux/Desktop.h"
 
 #include "platform/linux/Application.h"
+#include "platform/linux/desktop/ActivationToken.h"
 #include "platform/linux/wayland/LayerOverlay.h"
 #include "platform/linux/x11/X11Compositor.h"
 #include "platform/linux/x11/X11HotKeys.h"
@@ -44,10 +45,10 @@ bool hasWaylandWindows() {
 }
 
 /// Where the windows are, by Qt's names: on the X server where one answers, which lets the panel
-/// choose its place, unless the user wants it otherwise ("", which has Qt look); else on Wayland.
+/// choose its place, unless the user wants it otherwise (null, which has Qt look); else on Wayland.
 /// None when there is neither.
-std::optional<std::string> windowPlatform(bool onX11, LayerShell* wayland) {
-    if (onX11) return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? "" : "xcb";
+std::optional<const char*> windowPlatform(bool onX11, LayerShell* wayland) {
+    if (onX11) return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? nullptr : "xcb";
     if (!wayland || !hasWaylandWindows() || !wayland->waitForOffers(displayPatience))
         return std::nullopt;
     return "wayland";
@@ -71,9 +72,7 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
     if (!platform) return std::nullopt;
     if (pasteboard) desktop.pasteboard = std::move(pasteboard);
     desktop.application = makeApplication<QApplication>(*platform);
-    // The permission to come to the front is this program's, not that of programs it will start.
-    for (const char* const permission : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
-        qunsetenv(permission);
+    ActivationToken::takeFromLauncher();
     QApplication::setQuitOnLastWindowClosed(false);
     if (shell) {
         shell->followEvents();
@@ -88,9 +87,12 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
 
 std::string noDesktopMessage() {
     const auto speaker = makeApplication<QCoreApplication>();
-    return translate("App",
-                     "There is no desktop to work on: neither an X server nor a Wayland compositor "
-                     "answers.");
+    const auto wayland = LayerShell::open();
+    if (wayland && wayland->waitForOffers(displayPatience))
+        return translate("App", "There is no X server, and Qt's part for Wayland is not installed. "
+                                "Debian's package is qt6-wayland.");
+    return translate("App", "There is no desktop to work on: neither an X server nor a Wayland "
+                            "compositor answers.");
 }
 
 } // namespace quillon
