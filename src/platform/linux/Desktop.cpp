@@ -9,7 +9,8 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QLibraryInfo>
+
+#include <algorithm>
 
 namespace quillon {
 namespace {
@@ -37,11 +38,15 @@ private:
     mutable LayerOverlay overlay_;
 };
 
-/// Whether Qt can have windows on Wayland, which is a package of its own.
+/// Whether Qt can have windows on Wayland, which is a package of its own. Call it while there is no
+/// application object.
 bool hasWaylandWindows() {
-    const QDir platforms{QLibraryInfo::path(QLibraryInfo::PluginsPath) +
-                         QStringLiteral("/platforms")};
-    return !platforms.entryList({QStringLiteral("libqwayland*.so")}).isEmpty();
+    // Only an application knows all the places of plugins.
+    const auto asking = makeApplication<QCoreApplication>();
+    return std::ranges::any_of(QCoreApplication::libraryPaths(), [](const QString& place) {
+        const QDir platforms{place + QStringLiteral("/platforms")};
+        return !platforms.entryList({QStringLiteral("libqwayland*.so")}).isEmpty();
+    });
 }
 
 /// Where the windows are, by Qt's names: on the X server where one answers, which lets the panel
@@ -86,11 +91,12 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
 }
 
 std::string noDesktopMessage() {
+    const auto wayland = hasWaylandWindows() ? nullptr : LayerShell::open();
     const auto speaker = makeApplication<QCoreApplication>();
-    const auto wayland = LayerShell::open();
-    if (wayland && wayland->waitForOffers(displayPatience))
+    if (wayland && wayland->waitForOffers(displayPatience)) {
         return translate("App", "There is no X server, and Qt's part for Wayland is not installed. "
                                 "Debian's package is qt6-wayland.");
+    }
     return translate("App", "There is no desktop to work on: neither an X server nor a Wayland "
                             "compositor answers.");
 }

@@ -30,7 +30,7 @@ constexpr std::uint32_t outputVersion = 2; // tells its scale
 
 /// The socket of the compositor; empty when there is none.
 std::filesystem::path compositorSocket() {
-    const std::filesystem::path display{qgetenv("WAYLAND_DISPLAY").toStdString()};
+    std::filesystem::path display{qgetenv("WAYLAND_DISPLAY").toStdString()};
     if (display.empty() || display.is_absolute()) return display;
     const std::filesystem::path folder{qgetenv("XDG_RUNTIME_DIR").toStdString()};
     return folder.empty() ? folder : folder / display;

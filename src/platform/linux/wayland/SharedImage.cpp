@@ -34,8 +34,10 @@ SharedImage::SharedImage(LayerShell& shell, QSize pixels, std::function<void()> 
                         QImage::Format_ARGB32_Premultiplied};
         buffer_ = shell.makeBuffer(file, pixels.width(), pixels.height());
         static constexpr wl_buffer_listener listener{.release = [](void* self, wl_buffer*) {
-            static_cast<SharedImage*>(self)->busy_ = false;
-            static_cast<SharedImage*>(self)->released_();
+            auto* const image = static_cast<SharedImage*>(self);
+            image->busy_ = false;
+            const auto then = image->released_; // it may end the image
+            then();
         }};
         listenTo(buffer_.get(), listener, this);
     }
