@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 
 #include <array>
+#include <semaphore>
 
 namespace quillon::test {
 
@@ -50,12 +51,12 @@ TEST_F(X11PasteboardTest, GivesUpOnceOnAnOwnerThatHangsAndHoldsUpNobody) {
     const auto formats = pasteboard->formats();
     const auto text = pasteboard->data("STRING");
     const auto bitmap = pasteboard->data("BITMAP");
-    EXPECT_LT(clock.elapsed(), 200);
+    EXPECT_LT(clock.elapsed(), promptly);
     EXPECT_THAT(await(formats), ElementsAre("STRING", "BITMAP"));
     EXPECT_EQ(await(text), std::nullopt);
     EXPECT_EQ(await(bitmap), std::nullopt);
     EXPECT_GE(clock.elapsed(), 990);
-    EXPECT_LT(clock.elapsed(), 1800);
+    EXPECT_LT(clock.elapsed(), 1950) << "one patience for all questions";
     clock.start();
     EXPECT_THAT(await(pasteboard->formats()), IsEmpty()) << "it counts as silent";
     EXPECT_LT(clock.elapsed(), promptly);
@@ -65,14 +66,16 @@ TEST_F(X11PasteboardTest, GivesUpOnceOnAnOwnerThatHangsAndHoldsUpNobody) {
 }
 
 TEST_F(X11PasteboardTest, TakesALateAnswerForNoLaterQuestionButAsASignOfLife) {
-    const auto hesitate = [first = true](SelectionOwner& owner,
-                                         const SelectionOwner::Request& request) mutable {
-        if (first) std::this_thread::sleep_for(1200ms);
+    std::binary_semaphore go{0};
+    const auto hesitate = [&go, first = true](SelectionOwner& owner,
+                                              const SelectionOwner::Request& request) mutable {
+        if (first) go.acquire();
         whole(std::exchange(first, false) ? "late" : "right", "UTF8_STRING")(owner, request);
     };
     const SelectionOwner owner{server.display(), {{"UTF8_STRING", hesitate}}};
     EXPECT_EQ(data("UTF8_STRING"), std::nullopt);
     const auto changes = pasteboard->changeCount();
+    go.release();
     ASSERT_TRUE(waitUntil([&] { return pasteboard->changeCount() > changes; }));
     EXPECT_EQ(data("UTF8_STRING"), "right");
 }
