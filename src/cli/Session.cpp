@@ -6,7 +6,6 @@
 #include "cli/TerminalConsole.h"
 #include "core/Core.h"
 #include "core/DataLock.h"
-#include "desktop/HUDPanel.h"
 #include "platform/Clock.h"
 #include "platform/Sleep.h"
 #include "platform/linux/Desktop.h"
@@ -33,7 +32,7 @@ struct Look {
 };
 
 bool showsBanner(const Core& core) {
-    return core.hud && core.hud->panel() != nullptr && core.hud->panel()->isVisible();
+    return core.hud && core.hud->visible();
 }
 
 /// Carries the command out and gives its exit code. `detach`, where not null, is told when the

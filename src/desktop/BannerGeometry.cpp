@@ -69,21 +69,26 @@ BannerLayout mirrored(BannerLayout layout) {
     return layout;
 }
 
-QRect bannerFrame(QRect visible, QSize window, BannerPosition position) {
-    const int x = visible.x() + (visible.width() - window.width()) / 2;
-    int y = visible.y();
+BannerAnchor bannerAnchor(BannerPosition position) {
     switch (position) {
     case BannerPosition::top:
-        y += fromTop;
-        break;
+        return {Overlay::Edge::top, fromTop};
     case BannerPosition::middle:
-        y += (visible.height() - window.height()) / 2;
-        break;
+        return {};
     case BannerPosition::bottom:
-        y += visible.height() - window.height() - fromBottom;
-        break;
+        return {Overlay::Edge::bottom, fromBottom};
     }
-    return {QPoint{x, y}, window};
+    return {};
+}
+
+QRect bannerFrame(QRect visible, QSize window, BannerPosition position) {
+    const auto [edge, distance] = bannerAnchor(position);
+    const int x = visible.x() + (visible.width() - window.width()) / 2;
+    const int room = visible.height() - window.height();
+    const int y = edge == Overlay::Edge::top      ? distance
+                  : edge == Overlay::Edge::bottom ? room - distance
+                                                  : room / 2;
+    return {QPoint{x, visible.y() + y}, window};
 }
 
 BannerText wrapBannerText(QString text, const QFont& font, double scale) {

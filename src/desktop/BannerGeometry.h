@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Overlay.h"
 #include "state/BannerPosition.h"
 
 #include <QFont>
@@ -26,6 +27,15 @@ BannerLayout layOutBanner(QSizeF text, double scale = 1);
 
 /// The same layout for writing that goes from right to left.
 BannerLayout mirrored(BannerLayout layout);
+
+/// Where on a screen the banner lies: at which edge of the part that no panel covers, and how far
+/// from it.
+struct BannerAnchor {
+    Overlay::Edge edge = Overlay::Edge::none;
+    int distance = 0;
+};
+
+BannerAnchor bannerAnchor(BannerPosition position);
 
 /// The window's frame on a screen. `visible` is the part of the screen that no panel covers.
 QRect bannerFrame(QRect visible, QSize window, BannerPosition position);

@@ -1,11 +1,7 @@
 #include "desktop/HUD.h"
 
-#include "desktop/HUDPanel.h"
+#include "desktop/BannerPanel.h"
 #include "desktop/HUDView.h"
-#include "platform/Compositor.h"
-#include "platform/Workspace.h"
-
-#include <QScreen>
 
 namespace quillon {
 namespace {
@@ -30,42 +26,37 @@ HUD::HUD(Clock& clock, const Compositor& compositor, const Workspace& workspace)
       workspace_{workspace},
       alpha_{0, [this](double alpha) {
                  panel_->setAlpha(alpha);
-                 if (alpha == 0 && alpha_.target() == 0) panel_->hide();
+                 if (alpha == 0 && alpha_.target() == 0) vanish();
              }} {}
 
 HUD::~HUD() = default;
 
 void HUD::show(BannerMessage message) {
-    if (!panel_) panel_ = std::make_unique<HUDPanel>();
-    place(message);
-    fadeIn();
+    if (!panel_ || !panel_->works()) makePanel();
+    panel_->setContent(HUDView{message.text, message.symbol, message.ok}, message);
+    visible_ = true;
+    panel_->appear();
+    fadeTo(1, fadeInTime);
     hide_.reset();
     if (message.sticky) return;
     hide_ =
         clock_.after(message.ok ? goodNewsStays : badNewsStays, [this] { fadeTo(0, fadeOutTime); });
 }
 
-void HUD::place(const BannerMessage& message) {
-    const HUDView view{message.text, message.symbol, message.ok};
-    const QScreen* const screen = workspace_.screenInUse();
-    blended_ = compositor_.active();
-    panel_->setContent(view, QString::fromStdString(message.text),
-                       screen ? screen->devicePixelRatio() : 1, blended_);
-    if (!screen) return;
-    panel_->setGeometry(bannerFrame(screen->availableGeometry(), view.size(), message.position));
-    if (panel_->isVisible()) panel_->repaint();
-}
-
-void HUD::fadeIn() {
-    panel_->show();
-    panel_->raise();
-    fadeTo(1, fadeInTime);
+void HUD::makePanel() {
+    panel_ = makeBannerPanel(compositor_, workspace_);
+    panel_->setAlpha(alpha_.value());
 }
 
 void HUD::fadeTo(double alpha, std::chrono::milliseconds duration) {
     QEasingCurve curve;
     curve.setCustomType(eased);
-    alpha_.run(alpha, blended_ ? duration : 0ms, curve);
+    alpha_.run(alpha, panel_->fades() ? duration : 0ms, curve);
+}
+
+void HUD::vanish() {
+    visible_ = false;
+    panel_->vanish();
 }
 
 } // namespace quillon

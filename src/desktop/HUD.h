@@ -8,33 +8,35 @@
 
 namespace quillon {
 
+class BannerPanel;
 class Compositor;
-class HUDPanel;
 class Workspace;
 
-/// The confirmation banner: one window, made for the first banner and used for all of them.
+/// The confirmation banner: one panel, made for the first banner and used for all of them.
 class HUD : public Banner {
 public:
-    /// `workspace` tells on which screen the banner is to come.
+    /// `compositor` tells what the banner is shown in, and `workspace` on which screen.
     HUD(Clock& clock, const Compositor& compositor, const Workspace& workspace);
     ~HUD() override;
 
     void show(BannerMessage message) override;
 
-    /// The banner's window, null before the first banner.
-    [[nodiscard]] const HUDPanel* panel() const { return panel_.get(); }
+    /// Whether a banner shows, however faint.
+    [[nodiscard]] bool visible() const { return visible_; }
+    /// What shows the banner, null before the first one.
+    [[nodiscard]] const BannerPanel* panel() const { return panel_.get(); }
 
 private:
-    void place(const BannerMessage& message);
-    void fadeIn();
+    void makePanel();
+    void vanish();
     void fadeTo(double alpha, std::chrono::milliseconds duration);
 
     Clock& clock_;
     const Compositor& compositor_;
     const Workspace& workspace_;
-    std::unique_ptr<HUDPanel> panel_;
+    std::unique_ptr<BannerPanel> panel_;
     Animation alpha_;
-    bool blended_ = true;
+    bool visible_ = false;
     std::unique_ptr<Clock::Timer> hide_;
 };
 

@@ -1,11 +1,15 @@
 #include "desktop/HUDPanel.h"
 
 #include "base/ShownText.h"
+#include "desktop/Banner.h"
 #include "desktop/HUDView.h"
+#include "platform/Compositor.h"
+#include "platform/Workspace.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QPainter>
+#include <QScreen>
 
 namespace quillon {
 namespace {
@@ -24,7 +28,10 @@ QAccessibleInterface* describe(const QString& className, QObject* object) {
 
 } // namespace
 
-HUDPanel::HUDPanel() : QWidget{nullptr, overlay} {
+HUDPanel::HUDPanel(const Compositor& compositor, const Workspace& workspace)
+    : QWidget{nullptr, overlay},
+      compositor_{compositor},
+      workspace_{workspace} {
     QAccessible::installFactory(describe); // Qt installs the same factory only once
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -35,20 +42,32 @@ HUDPanel::HUDPanel() : QWidget{nullptr, overlay} {
     setAttribute(Qt::WA_X11NetWmWindowTypeNotification);
 }
 
-void HUDPanel::setContent(const HUDView& view, const QString& text, double devicePixelRatio,
-                          bool blended) {
-    picture_ = view.render(devicePixelRatio, blended);
-    setMask(blended ? QRegion{} : view.outline());
-    setAccessibleName(shortened(text));
+void HUDPanel::setContent(const HUDView& view, const BannerMessage& message) {
+    const QScreen* const screen = workspace_.screenInUse();
+    blended_ = compositor_.active();
+    picture_ = view.render(screen ? screen->devicePixelRatio() : 1, blended_);
+    setMask(blended_ ? QRegion{} : view.outline());
+    announce(shortened(QString::fromStdString(message.text)));
+    update();
+    if (!screen) return;
+    setGeometry(bannerFrame(screen->availableGeometry(), view.size(), message.position));
+    if (isVisible()) repaint();
+}
+
+void HUDPanel::announce(const QString& text) {
+    setAccessibleName(text);
     QAccessibleEvent announcement{this, QAccessible::Alert};
     QAccessible::updateAccessibility(&announcement);
     // Qt does not pass alerts on to the accessibility bus. It does pass on that a notification
     // shows, so a banner that already shows says so again for its new text.
-    if (isVisible()) {
-        QAccessibleEvent shown{this, QAccessible::ObjectShow};
-        QAccessible::updateAccessibility(&shown);
-    }
-    update();
+    if (!isVisible()) return;
+    QAccessibleEvent shown{this, QAccessible::ObjectShow};
+    QAccessible::updateAccessibility(&shown);
+}
+
+void HUDPanel::appear() {
+    show();
+    raise();
 }
 
 void HUDPanel::setAlpha(double alpha) {

@@ -1,34 +1,38 @@
 #pragma once
 
+#include "desktop/BannerPanel.h"
+
 #include <QPixmap>
 #include <QWidget>
 
 namespace quillon {
 
-class HUDView;
-
-/// The banner's window. It lies over everything on every workspace, never becomes active and lets
-/// the mouse through.
-class HUDPanel : public QWidget {
+/// The banner as a window. It lies over everything on every workspace, never becomes active and
+/// lets the mouse through.
+class HUDPanel : public QWidget, public BannerPanel {
     Q_OBJECT
 
 public:
-    HUDPanel();
+    HUDPanel(const Compositor& compositor, const Workspace& workspace);
 
-    /// Replaces what the window shows, and announces `text` to assistive technology.
-    void setContent(const HUDView& view, const QString& text, double devicePixelRatio,
-                    bool blended);
-
-    /// The opacity of what it shows, from 0 to 1.
-    void setAlpha(double alpha);
+    void setContent(const HUDView& view, const BannerMessage& message) override;
+    [[nodiscard]] bool fades() const override { return blended_; }
+    void setAlpha(double alpha) override;
     [[nodiscard]] double alpha() const { return alpha_; }
+    void appear() override;
+    void vanish() override { hide(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void announce(const QString& text);
+
+    const Compositor& compositor_;
+    const Workspace& workspace_;
     QPixmap picture_;
     double alpha_ = 0;
+    bool blended_ = true;
 };
 
 } // namespace quillon

@@ -47,8 +47,15 @@ private:
 };
 
 struct HUDTest : testing::Test {
-    [[nodiscard]] bool visible() const { return hud.panel() && hud.panel()->isVisible(); }
-    [[nodiscard]] double alpha() const { return hud.panel()->alpha(); }
+    [[nodiscard]] const HUDPanel* panel() const {
+        return dynamic_cast<const HUDPanel*>(hud.panel());
+    }
+    [[nodiscard]] bool visible() const {
+        const bool shows = panel() && panel()->isVisible();
+        EXPECT_EQ(hud.visible(), shows);
+        return shows;
+    }
+    [[nodiscard]] double alpha() const { return panel()->alpha(); }
     void good(bool sticky = false) {
         hud.show({.text = "Sent",
                   .symbol = "checkmark.circle.fill",
@@ -119,28 +126,28 @@ TEST_F(HUDTest, ComesBackFromFadingOut) {
 
 TEST_F(HUDTest, AChangedPositionMovesTheNextBanner) {
     good();
-    const QRect top = hud.panel()->geometry();
+    const QRect top = panel()->geometry();
     EXPECT_EQ(top.y(), QGuiApplication::primaryScreen()->availableGeometry().y() + 12);
     position = BannerPosition::bottom;
     clock.advance(100ms);
-    EXPECT_EQ(hud.panel()->geometry(), top);
+    EXPECT_EQ(panel()->geometry(), top);
     good();
-    EXPECT_GT(hud.panel()->geometry().y(), top.y() + 100);
+    EXPECT_GT(panel()->geometry().y(), top.y() + 100);
 }
 
 TEST_F(HUDTest, IsASolidCapsuleThatComesAndGoesAtOnceWhereNothingBlends) {
     compositor.blending = false;
     good();
     EXPECT_EQ(alpha(), 1);
-    const QRect window = hud.panel()->rect();
-    const QRegion mask = hud.panel()->mask();
+    const QRect window = panel()->rect();
+    const QRegion mask = panel()->mask();
     EXPECT_EQ(mask.boundingRect(), window.adjusted(16, 16, -16, -16));
     EXPECT_FALSE(mask.contains(QPoint{17, 17}));
     clock.advance(1800ms);
     EXPECT_FALSE(visible());
     compositor.blending = true;
     good();
-    EXPECT_TRUE(hud.panel()->mask().isEmpty());
+    EXPECT_TRUE(panel()->mask().isEmpty());
     EXPECT_EQ(alpha(), 0);
     setAnimationsEnabled(false);
     good();
@@ -150,15 +157,15 @@ TEST_F(HUDTest, IsASolidCapsuleThatComesAndGoesAtOnceWhereNothingBlends) {
 
 TEST_F(HUDTest, GrowsWithTheTextsOfTheDesktop) {
     good();
-    const QSize before = hud.panel()->size();
+    const QSize before = panel()->size();
     const QFont font = QGuiApplication::font();
     QFont larger = font;
     larger.setPixelSize(26);
     QGuiApplication::setFont(larger);
     good();
     QGuiApplication::setFont(font);
-    EXPECT_GT(hud.panel()->width() - 32, (before.width() - 32) * 1.7);
-    EXPECT_GT(hud.panel()->height() - 32, (before.height() - 32) * 1.7);
+    EXPECT_GT(panel()->width() - 32, (before.width() - 32) * 1.7);
+    EXPECT_GT(panel()->height() - 32, (before.height() - 32) * 1.7);
 }
 
 } // namespace

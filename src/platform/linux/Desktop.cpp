@@ -1,13 +1,59 @@
 #include "platform/linux/Desktop.h"
 
 #include "platform/linux/Application.h"
+#include "platform/linux/wayland/LayerOverlay.h"
 #include "platform/linux/x11/X11Compositor.h"
 #include "platform/linux/x11/X11HotKeys.h"
 #include "platform/linux/x11/X11Pasteboard.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QLibraryInfo>
 
 namespace quillon {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Within this a compositor that is well has told what it offers, long before the first banner. It
+/// is a frame's time, for which the main thread may wait once.
+constexpr auto offersPatience = 16ms;
+/// How long one without an X server is waited for, before there is any window to hold up. Qt itself
+/// would wait for ever.
+constexpr auto displayPatience = 2s;
+
+/// The windows of a desktop with Wayland may be on an X server, and its banner is a layer over all
+/// of them where the compositor has that.
+class WaylandCompositor : public X11Compositor {
+public:
+    explicit WaylandCompositor(std::unique_ptr<LayerShell> shell) : overlay_{std::move(shell)} {}
+
+    [[nodiscard]] Overlay* overlay() const override {
+        return overlay_.usable(offersPatience) ? &overlay_ : nullptr;
+    }
+
+private:
+    mutable LayerOverlay overlay_;
+};
+
+/// Whether Qt can have windows on Wayland, which is a package of its own.
+bool hasWaylandWindows() {
+    const QDir platforms{QLibraryInfo::path(QLibraryInfo::PluginsPath) +
+                         QStringLiteral("/platforms")};
+    return !platforms.entryList({QStringLiteral("libqwayland*.so")}).isEmpty();
+}
+
+/// Where the windows are, by Qt's names: on the X server where one answers, which lets the panel
+/// choose its place, unless the user wants it otherwise ("", which has Qt look); else on Wayland.
+/// None when there is neither.
+std::optional<std::string> windowPlatform(bool onX11, LayerShell* wayland) {
+    if (onX11) return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? "" : "xcb";
+    if (!wayland || !hasWaylandWindows() || !wayland->waitForOffers(displayPatience))
+        return std::nullopt;
+    return "wayland";
+}
+
+} // namespace
 
 std::optional<Desktop> openDesktop(DesktopNeeds needs) {
     Desktop desktop{.application = {},
@@ -18,17 +64,23 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
         desktop.application = makeApplication<QCoreApplication>();
         return desktop;
     }
-    // Before the application, which would end the process where no X server answers.
-    desktop.pasteboard = X11Pasteboard::open(nullptr);
-    if (!desktop.pasteboard) return std::nullopt;
-    // The banner and the shortcut are on the X server. The user may want it otherwise.
-    desktop.application =
-        makeApplication<QApplication>(!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"));
+    // Before the application, which would end the process where nothing answers.
+    auto shell = LayerShell::open();
+    auto pasteboard = X11Pasteboard::open(nullptr);
+    const auto platform = windowPlatform(pasteboard != nullptr, shell.get());
+    if (!platform) return std::nullopt;
+    if (pasteboard) desktop.pasteboard = std::move(pasteboard);
+    desktop.application = makeApplication<QApplication>(*platform);
     // The permission to come to the front is this program's, not that of programs it will start.
     for (const char* const permission : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
         qunsetenv(permission);
     QApplication::setQuitOnLastWindowClosed(false);
-    desktop.compositor = std::make_unique<X11Compositor>();
+    if (shell) {
+        shell->followEvents();
+        desktop.compositor = std::make_unique<WaylandCompositor>(std::move(shell));
+    } else {
+        desktop.compositor = std::make_unique<X11Compositor>();
+    }
     if (needs == DesktopNeeds::clipboardAndBanner) return desktop;
     if (auto hotKeys = X11HotKeys::open(nullptr)) desktop.hotKeys = std::move(hotKeys);
     return desktop;
@@ -36,7 +88,9 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
 
 std::string noDesktopMessage() {
     const auto speaker = makeApplication<QCoreApplication>();
-    return translate("App", "There is no desktop to work on: no X server answers.");
+    return translate("App",
+                     "There is no desktop to work on: neither an X server nor a Wayland compositor "
+                     "answers.");
 }
 
 } // namespace quillon

@@ -1,0 +1,29 @@
+#include "platform/linux/wayland/LayerOverlay.h"
+
+#include <utility>
+
+namespace quillon {
+
+void LayerOverlay::show(Picture picture) {
+    // A surface stays on its screen, and the user may have gone to another, so each picture has a
+    // surface of its own.
+    if (present_) former_ = std::move(present_);
+    present_ = std::make_unique<OverlaySurface>(*shell_, std::move(picture), opacity_, [this] {
+        if (present_->shown()) former_.reset();
+    });
+}
+
+void LayerOverlay::setOpacity(double opacity) {
+    opacity_ = opacity;
+    for (const auto& surface : {present_.get(), former_.get()}) {
+        if (surface) surface->setOpacity(opacity);
+    }
+}
+
+void LayerOverlay::hide() {
+    present_.reset();
+    former_.reset();
+    shell_->flush();
+}
+
+} // namespace quillon
