@@ -1,13 +1,30 @@
 #include "platform/linux/Desktop.h"
 
 #include "platform/linux/Application.h"
+#include "platform/linux/OpenPasteboard.h"
 #include "platform/linux/x11/X11Compositor.h"
+#include "platform/linux/x11/X11Connection.h"
 #include "platform/linux/x11/X11HotKeys.h"
-#include "platform/linux/x11/X11Pasteboard.h"
 
 #include <QApplication>
 
 namespace quillon {
+
+namespace {
+
+/// Qt's way to the display; none where there is none that does for what is needed. It is chosen
+/// here because Qt would end the process where no X server answers.
+std::optional<const char*> qtPlatform(DesktopNeeds needs, ClipboardWay way) {
+    // The user may want it otherwise.
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return nullptr;
+    // The banner and the shortcut are on the X server.
+    if (way == ClipboardWay::x11 || X11Connection::open(nullptr)) return "xcb";
+    // What is on the clipboard can be sent without windows.
+    if (way != ClipboardWay::none && needs == DesktopNeeds::clipboardAndBanner) return "offscreen";
+    return std::nullopt;
+}
+
+} // namespace
 
 std::optional<Desktop> openDesktop(DesktopNeeds needs) {
     Desktop desktop{.application = {},
@@ -18,12 +35,10 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
         desktop.application = makeApplication<QCoreApplication>();
         return desktop;
     }
-    // Before the application, which would end the process where no X server answers.
-    desktop.pasteboard = X11Pasteboard::open(nullptr);
-    if (!desktop.pasteboard) return std::nullopt;
-    // The banner and the shortcut are on the X server. The user may want it otherwise.
-    desktop.application =
-        makeApplication<QApplication>(!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"));
+    desktop.pasteboard = openPasteboard();
+    const auto platform = qtPlatform(needs, desktop.pasteboard->way());
+    if (!platform) return std::nullopt;
+    desktop.application = makeApplication<QApplication>(*platform);
     // The permission to come to the front is this program's, not that of programs it will start.
     for (const char* const permission : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
         qunsetenv(permission);
