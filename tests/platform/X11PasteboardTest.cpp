@@ -1,4 +1,5 @@
-#include "platform/linux/x11/X11Pasteboard.h"
+#include "platform/linux/pasteboard/ThreadedPasteboard.h"
+#include "platform/linux/x11/SelectionReader.h"
 
 #include "platform/SelectionOwner.h"
 #include "support/Await.h"
@@ -16,8 +17,14 @@ constexpr qint64 promptly = 800; // ms: sooner than the reader's patience
 struct X11PasteboardTest : testing::Test {
     std::optional<QByteArray> data(const char* format) { return await(pasteboard->data(format)); }
 
+    std::unique_ptr<Pasteboard> open() {
+        return std::make_unique<ThreadedPasteboard>([this](const ReaderHost& host) {
+            return SelectionReader::open(server.display(), host);
+        });
+    }
+
     XServer server;
-    std::unique_ptr<X11Pasteboard> pasteboard = X11Pasteboard::open(server.display());
+    std::unique_ptr<Pasteboard> pasteboard = open();
 };
 
 TEST_F(X11PasteboardTest, CountsCopiesAndTheOwnersEnd) {
@@ -130,7 +137,7 @@ TEST_F(X11PasteboardTest, FinishesWhatIsOutstandingWhenItOrItsServerEnds) {
         EXPECT_LT(clock.elapsed(), promptly);
     };
     expectEnd(1, [this] { pasteboard.reset(); });
-    pasteboard = X11Pasteboard::open(server.display());
+    pasteboard = open();
     const auto changes = pasteboard->changeCount();
     expectEnd(2, [this] { server.stop(); });
     EXPECT_EQ(data("UTF8_STRING"), std::nullopt);

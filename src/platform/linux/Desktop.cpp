@@ -1,10 +1,11 @@
 #include "platform/linux/Desktop.h"
 
 #include "platform/linux/Application.h"
+#include "platform/linux/OpenPasteboard.h"
 #include "platform/linux/wayland/LayerOverlay.h"
 #include "platform/linux/x11/X11Compositor.h"
+#include "platform/linux/x11/X11Connection.h"
 #include "platform/linux/x11/X11HotKeys.h"
-#include "platform/linux/x11/X11Pasteboard.h"
 
 #include <QApplication>
 #include <QDir>
@@ -45,12 +46,14 @@ bool hasWaylandWindows() {
 
 /// Where the windows are, by Qt's names: on the X server where one answers, which lets the panel
 /// choose its place, unless the user wants it otherwise ("", which has Qt look); else on Wayland.
-/// None when there is neither.
-std::optional<std::string> windowPlatform(bool onX11, LayerShell* wayland) {
-    if (onX11) return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? "" : "xcb";
-    if (!wayland || !hasWaylandWindows() || !wayland->waitForOffers(displayPatience))
-        return std::nullopt;
-    return "wayland";
+/// What is on the clipboard can be sent without windows. None when there is neither.
+std::optional<std::string> windowPlatform(DesktopNeeds needs, ClipboardWay way,
+                                          LayerShell* wayland) {
+    if (way == ClipboardWay::x11 || X11Connection::open(nullptr))
+        return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? "" : "xcb";
+    if (wayland && hasWaylandWindows() && wayland->waitForOffers(displayPatience)) return "wayland";
+    if (way != ClipboardWay::none && needs == DesktopNeeds::clipboardAndBanner) return "offscreen";
+    return std::nullopt;
 }
 
 } // namespace
@@ -65,11 +68,10 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
         return desktop;
     }
     // Before the application, which would end the process where nothing answers.
+    desktop.pasteboard = openPasteboard();
     auto shell = LayerShell::open();
-    auto pasteboard = X11Pasteboard::open(nullptr);
-    const auto platform = windowPlatform(pasteboard != nullptr, shell.get());
+    const auto platform = windowPlatform(needs, desktop.pasteboard->way(), shell.get());
     if (!platform) return std::nullopt;
-    if (pasteboard) desktop.pasteboard = std::move(pasteboard);
     desktop.application = makeApplication<QApplication>(*platform);
     // The permission to come to the front is this program's, not that of programs it will start.
     for (const char* const permission : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
