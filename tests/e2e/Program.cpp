@@ -131,11 +131,15 @@ void Copier::copy(const std::string& format, const QByteArray& content) {
         tool,
         words((wayland ? "--foreground --type " : "-quiet -selection clipboard -t ") + format));
     process_->write(content);
+    while (process_->bytesToWrite() > 0 && process_->waitForBytesWritten()) {
+    }
     process_->closeWriteChannel();
     const auto offered = [&] {
         QProcess asking;
         wayland ? asking.start(QStringLiteral("wl-paste"), words("--list-types"))
                 : asking.start(tool, words("-o -selection clipboard -t TARGETS"));
+        // While nothing is copied KWin does not say so, and who asks waits.
+        if (!asking.waitForFinished(500)) asking.kill();
         asking.waitForFinished();
         return asking.readAllStandardOutput().split('\n').contains(format.c_str());
     };

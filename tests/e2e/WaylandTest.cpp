@@ -37,11 +37,11 @@ std::string focusedApplication(const Json& node) {
     return {};
 }
 std::string focusedApplication() {
-    return focusedApplication(Json::parse(output("swaymsg", {"-t", "get_tree"}).toStdString()));
+    return focusedApplication(Json::parse(output("swaymsg", words("-t get_tree")).toStdString()));
 }
 
 QImage screen() {
-    return QImage::fromData(output("grim", {"-"})).convertToFormat(QImage::Format_RGB32);
+    return QImage::fromData(output("grim", words("-"))).convertToFormat(QImage::Format_RGB32);
 }
 
 /// The smallest rectangle with all pixels in which the pictures differ.
@@ -84,7 +84,7 @@ TEST_F(Wayland, TakesWhatNativeProgramsCopy) {
     setUp();
     EXPECT_EQ(desktop()["session"], "wayland");
     EXPECT_EQ(desktop()["clipboard"], "wlr-data-control");
-    EXPECT_EQ(quillon.run({"send"}).err, "The clipboard is empty.\n");
+    EXPECT_EQ(quillon.run({"send"}).err, "The clipboard is empty\n");
     clipboard.copyText("Grüße");
     EXPECT_EQ(quillon.run({"send"}).out, "sent\t📝 Notes & text\tGrüße\n");
     clipboard.copy("image/png", output("convert", words("-size 40x30 xc:orange png:-")));
