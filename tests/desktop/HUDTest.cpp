@@ -168,5 +168,35 @@ TEST_F(HUDTest, GrowsWithTheTextsOfTheDesktop) {
     EXPECT_GT(panel()->height() - 32, (before.height() - 32) * 1.7);
 }
 
+TEST_F(HUDTest, IsALayerOfTheDesktopForAsLongAsThatWorks) {
+    test::FakeOverlay layer;
+    compositor.layer = &layer;
+    position = BannerPosition::bottom;
+    good();
+    ASSERT_TRUE(layer.shown);
+    EXPECT_EQ(panel(), nullptr) << "there is a window too";
+    EXPECT_EQ(layer.shown->edge, Overlay::Edge::bottom);
+    EXPECT_EQ(layer.shown->distance, 24);
+    const QImage picture = layer.shown->paint(1.5);
+    EXPECT_EQ(picture.size(), (QSizeF{layer.shown->size} * 1.5).toSize());
+    EXPECT_EQ(qAlpha(picture.pixel(0, 0)), 0);
+    EXPECT_GT(qAlpha(picture.pixel(picture.rect().center())), 230);
+    frames.advance(180ms);
+    EXPECT_EQ(layer.opacity, 1);
+    clock.advance(1800ms);
+    frames.advance(340ms);
+    EXPECT_TRUE(layer.shown);
+    frames.advance(10ms);
+    EXPECT_FALSE(layer.shown);
+    EXPECT_FALSE(hud.visible());
+
+    good();
+    frames.advance(180ms);
+    compositor.layer = nullptr;
+    bad();
+    EXPECT_TRUE(visible()) << "nothing shows where the layer was lost";
+    EXPECT_EQ(alpha(), 1);
+}
+
 } // namespace
 } // namespace quillon

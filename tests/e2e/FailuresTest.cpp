@@ -25,7 +25,8 @@ TEST_F(Failures, WithoutADisplayAreClear) {
         blind.environment.insert(QStringLiteral("DISPLAY"), display);
         const Finished run = blind.run({"send"});
         EXPECT_EQ(run.code, 1);
-        EXPECT_EQ(run.err, "There is no desktop to work on: no X server answers.\n");
+        EXPECT_EQ(run.err, "There is no desktop to work on: neither an X server nor a Wayland "
+                           "compositor answers.\n");
     }
     EXPECT_EQ(blind.run({"status"}).code, 0) << "needs no display";
 }

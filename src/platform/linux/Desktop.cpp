@@ -2,6 +2,7 @@
 
 #include "platform/linux/Application.h"
 #include "platform/linux/OpenPasteboard.h"
+#include "platform/linux/desktop/ActivationToken.h"
 #include "platform/linux/wayland/LayerOverlay.h"
 #include "platform/linux/x11/X11Compositor.h"
 #include "platform/linux/x11/X11Connection.h"
@@ -45,12 +46,12 @@ bool hasWaylandWindows() {
 }
 
 /// Where the windows are, by Qt's names: on the X server where one answers, which lets the panel
-/// choose its place, unless the user wants it otherwise ("", which has Qt look); else on Wayland.
+/// choose its place, unless the user wants it otherwise (null, which has Qt look); else on Wayland.
 /// What is on the clipboard can be sent without windows. None when there is neither.
-std::optional<std::string> windowPlatform(DesktopNeeds needs, ClipboardWay way,
+std::optional<const char*> windowPlatform(DesktopNeeds needs, ClipboardWay way,
                                           LayerShell* wayland) {
     if (way == ClipboardWay::x11 || X11Connection::open(nullptr))
-        return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? "" : "xcb";
+        return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? nullptr : "xcb";
     if (wayland && hasWaylandWindows() && wayland->waitForOffers(displayPatience)) return "wayland";
     if (way != ClipboardWay::none && needs == DesktopNeeds::clipboardAndBanner) return "offscreen";
     return std::nullopt;
@@ -73,9 +74,7 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
     const auto platform = windowPlatform(needs, desktop.pasteboard->way(), shell.get());
     if (!platform) return std::nullopt;
     desktop.application = makeApplication<QApplication>(*platform);
-    // The permission to come to the front is this program's, not that of programs it will start.
-    for (const char* const permission : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
-        qunsetenv(permission);
+    ActivationToken::takeFromLauncher();
     QApplication::setQuitOnLastWindowClosed(false);
     if (shell) {
         shell->followEvents();
@@ -90,9 +89,12 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
 
 std::string noDesktopMessage() {
     const auto speaker = makeApplication<QCoreApplication>();
-    return translate("App",
-                     "There is no desktop to work on: neither an X server nor a Wayland compositor "
-                     "answers.");
+    const auto wayland = LayerShell::open();
+    if (wayland && wayland->waitForOffers(displayPatience))
+        return translate("App", "There is no X server, and Qt's part for Wayland is not installed. "
+                                "Debian's package is qt6-wayland.");
+    return translate("App", "There is no desktop to work on: neither an X server nor a Wayland "
+                            "compositor answers.");
 }
 
 } // namespace quillon

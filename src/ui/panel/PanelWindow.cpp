@@ -80,6 +80,8 @@ void PanelWindow::place() {
     const int most = room.height() - 2 * panelGap;
     if (size.height() > most)
         size = {size.width() + scroll_->verticalScrollBar()->sizeHint().width(), most};
+    // Tiling desktops leave a window of one size alone.
+    setFixedSize(size);
     setGeometry(icon_.isEmpty() ? panelInCorner(size, pointer_, room)
                                 : panelBesideIcon(size, icon_, screen->geometry(), room));
 }

@@ -37,6 +37,13 @@ bool looksDisabled(const QWidget& widget) {
     return true;
 }
 
+/// The application's font for the resolution that everything is painted in. On Wayland, Qt makes it
+/// before it knows any screen, and measures by a guess.
+QFont applicationFont() {
+    static const QImage canvas{1, 1, QImage::Format_ARGB32_Premultiplied};
+    return {QGuiApplication::font(), &canvas};
+}
+
 } // namespace
 
 Theme::Theme(const QWidget& widget) : Theme{widget.palette(), !looksDisabled(widget)} {}
@@ -117,7 +124,7 @@ void Theme::paintFocusRing(QPainter& painter, const QRectF& box, double radius,
 }
 
 QFont Theme::font(const TextStyle& style) {
-    QFont font = QGuiApplication::font();
+    QFont font = applicationFont();
     const double factor = style.points / Text::body.points;
     if (font.pointSizeF() > 0) {
         font.setPointSizeF(font.pointSizeF() * factor);
@@ -129,7 +136,7 @@ QFont Theme::font(const TextStyle& style) {
 }
 
 double Theme::textScale() {
-    return QFontInfo{QGuiApplication::font()}.pixelSize() / Text::body.points;
+    return QFontInfo{applicationFont()}.pixelSize() / Text::body.points;
 }
 
 double Theme::length(double points) {

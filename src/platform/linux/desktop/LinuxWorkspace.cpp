@@ -1,5 +1,6 @@
 #include "platform/linux/desktop/LinuxWorkspace.h"
 
+#include "platform/linux/desktop/ActivationToken.h"
 #include "platform/linux/desktop/DesktopEntries.h"
 #include "platform/linux/desktop/LinuxBundle.h"
 #include "platform/linux/desktop/Relaunch.h"
@@ -60,12 +61,14 @@ void LinuxWorkspace::unlistApplication() {
 void LinuxWorkspace::activate() {
     if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return;
     for (QWindow* window : QGuiApplication::topLevelWindows()) {
-        if (window->isVisible() && takesFocus(*window)) quillon::bringToFront(*window);
+        if (window->isVisible() && takesFocus(*window)) bringToFront(*window);
     }
 }
 
 void LinuxWorkspace::bringToFront(QWindow& window) {
+    ActivationToken::offer();
     quillon::bringToFront(window);
+    ActivationToken::withdraw();
 }
 
 void LinuxWorkspace::keepOffTaskBar(QWindow& window) {

@@ -5,6 +5,7 @@
 namespace quillon {
 
 void LayerOverlay::show(Picture picture) {
+    if (!shell_->usable()) return hide();
     // A surface stays on its screen, and the user may have gone to another, so each picture has a
     // surface of its own.
     if (present_) former_ = std::move(present_);

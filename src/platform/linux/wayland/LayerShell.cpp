@@ -14,15 +14,18 @@ namespace {
 
 /// The lowest version that this program can use, and the highest that it knows.
 struct Wanted {
-    const wl_interface* interface;
+    const char* interface;
+    const wl_interface* extension; ///< null for what the core protocol has
     std::uint32_t least;
     std::uint32_t most;
 };
-constexpr std::array<Wanted, 5> wanted{{{&wl_compositor_interface, 4, 4},
-                                        {&wl_shm_interface, 1, 1},
-                                        {&layerShell::interface, 1, 4},
-                                        {&viewporter::interface, 1, 1},
-                                        {&fractionalScaleManager::interface, 1, 1}}};
+constexpr std::array<Wanted, 5> wanted{
+    {{"wl_compositor", nullptr, 4, 4},
+     {"wl_shm", nullptr, 1, 1},
+     {"zwlr_layer_shell_v1", &layerShell::interface, 1, 4},
+     {"wp_viewporter", &viewporter::interface, 1, 1},
+     {"wp_fractional_scale_manager_v1", &fractionalScaleManager::interface, 1, 1}}};
+constexpr const char* output = "wl_output";
 constexpr std::uint32_t outputVersion = 2; // tells its scale
 
 /// The socket of the compositor; empty when there is none.
@@ -46,9 +49,14 @@ int connectTo(const std::filesystem::path& path) {
     return -1;
 }
 
-template <typename Object>
-Object* as(wl_proxy* proxy) {
-    return reinterpret_cast<Object*>(proxy); // as libwayland's own functions do
+/// The interface of the core protocol that is called so there, as in "wl_output".
+const wl_interface& core(const std::string& name) {
+    return coreInterface((name + "_interface").c_str());
+}
+
+/// A display is an object like any other, for requests.
+wl_proxy* asObject(wl_display* display) {
+    return reinterpret_cast<wl_proxy*>(display);
 }
 
 } // namespace
@@ -56,14 +64,18 @@ Object* as(wl_proxy* proxy) {
 std::unique_ptr<LayerShell> LayerShell::open() {
     const int socket = connectTo(compositorSocket());
     if (socket < 0) return nullptr;
+    if (!libwayland.load()) {
+        ::close(socket);
+        return nullptr;
+    }
     wl_display* const display = wl_display_connect_to_fd(socket); // which closes it
     return display ? std::unique_ptr<LayerShell>{new LayerShell{display}} : nullptr;
 }
 
 LayerShell::LayerShell(wl_display* display)
     : display_{display},
-      registry_{wl_display_get_registry(display)},
-      asked_{wl_display_sync(display)} {
+      registry_{requestNew(core("wl_registry"), asObject(display), WL_DISPLAY_GET_REGISTRY)},
+      asked_{requestNew(core("wl_callback"), asObject(display), WL_DISPLAY_SYNC)} {
     static constexpr wl_registry_listener offers{
         .global =
             [](void* self, wl_registry*, std::uint32_t name, const char* interface,
@@ -73,30 +85,17 @@ LayerShell::LayerShell(wl_display* display)
         .global_remove = [](void* self, wl_registry*,
                             std::uint32_t name) { static_cast<LayerShell*>(self)->remove(name); }};
     static constexpr wl_callback_listener answer{
-        .done = [](void* self, wl_callback* asked, std::uint32_t) {
-            wl_callback_destroy(asked);
-            static_cast<LayerShell*>(self)->asked_ = nullptr;
+        .done = [](void* self, wl_callback*, std::uint32_t) {
+            static_cast<LayerShell*>(self)->asked_.reset();
         }};
-    wl_registry_add_listener(registry_, &offers, this);
-    wl_callback_add_listener(asked_, &answer, this);
+    quillon::listenTo(registry_.get(), offers, this);
+    quillon::listenTo(asked_.get(), answer, this);
     flush();
-}
-
-LayerShell::~LayerShell() {
-    notifier_.reset();
-    for (const auto& screen : screens_)
-        wl_output_destroy(screen->output);
-    for (wl_proxy* const global : globals_) {
-        if (global) wl_proxy_destroy(global);
-    }
-    if (asked_) wl_callback_destroy(asked_);
-    wl_registry_destroy(registry_);
-    wl_display_disconnect(display_);
 }
 
 void LayerShell::followEvents() {
     notifier_ =
-        std::make_unique<QSocketNotifier>(wl_display_get_fd(display_), QSocketNotifier::Read);
+        std::make_unique<QSocketNotifier>(wl_display_get_fd(display_.get()), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
                      [this] { takeEvents(); });
     if (!alive_) end();
@@ -108,7 +107,7 @@ bool LayerShell::waitForOffers(std::chrono::milliseconds patience) {
     while (alive_ && asked_) {
         const auto left =
             std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
-        pollfd socket{.fd = wl_display_get_fd(display_), .events = POLLIN, .revents = 0};
+        pollfd socket{.fd = wl_display_get_fd(display_.get()), .events = POLLIN, .revents = 0};
         if (left <= 0 || ::poll(&socket, 1, static_cast<int>(left)) == 0) return false;
         takeEvents();
     }
@@ -123,49 +122,48 @@ bool LayerShell::scalesByFractions() const {
     return globals_[viewports] && globals_[fractionalScales];
 }
 
-wl_surface* LayerShell::makeSurface() {
-    auto* const maker = as<wl_compositor>(globals_[compositor]);
-    wl_surface* const surface = wl_compositor_create_surface(maker);
-    wl_region* const nothing = wl_compositor_create_region(maker);
-    wl_surface_set_input_region(surface, nothing);
-    wl_region_destroy(nothing);
+SurfacePointer LayerShell::makeSurface() const {
+    wl_proxy* const maker = globals_[compositor].get();
+    SurfacePointer surface{requestNew(core("wl_surface"), maker, WL_COMPOSITOR_CREATE_SURFACE)};
+    const WaylandPointer<WL_REGION_DESTROY> nothing{
+        requestNew(core("wl_region"), maker, WL_COMPOSITOR_CREATE_REGION)};
+    request(surface.get(), WL_SURFACE_SET_INPUT_REGION, nothing.get());
     return surface;
 }
 
-layerSurface::Pointer LayerShell::makeLayer(wl_surface* surface) const {
-    wl_output* const focused = nullptr;
-    return layerSurface::Pointer{requestNew(layerSurface::interface, globals_[shell],
+layerSurface::Pointer LayerShell::makeLayer(wl_proxy* surface) const {
+    wl_proxy* const focused = nullptr;
+    return layerSurface::Pointer{requestNew(layerSurface::interface, globals_[shell].get(),
                                             layerShell::getLayerSurface, surface, focused,
                                             layerShell::overlay, "quillon-banner")};
 }
 
-viewport::Pointer LayerShell::makeViewport(wl_surface* surface) const {
+viewport::Pointer LayerShell::makeViewport(wl_proxy* surface) const {
     if (!scalesByFractions()) return {};
-    return viewport::Pointer{
-        requestNew(viewport::interface, globals_[viewports], viewporter::getViewport, surface)};
+    return viewport::Pointer{requestNew(viewport::interface, globals_[viewports].get(),
+                                        viewporter::getViewport, surface)};
 }
 
-fractionalScale::Pointer LayerShell::makeFractionalScale(wl_surface* surface) const {
+fractionalScale::Pointer LayerShell::makeFractionalScale(wl_proxy* surface) const {
     if (!scalesByFractions()) return {};
     return fractionalScale::Pointer{
-        requestNew(fractionalScale::interface, globals_[fractionalScales],
+        requestNew(fractionalScale::interface, globals_[fractionalScales].get(),
                    fractionalScaleManager::getFractionalScale, surface)};
 }
 
-wl_buffer* LayerShell::makeBuffer(int file, int width, int height) const {
+BufferPointer LayerShell::makeBuffer(int file, int width, int height) const {
     constexpr int pixel = 4;
-    wl_shm_pool* const pool =
-        wl_shm_create_pool(as<wl_shm>(globals_[memory]), file, width * height * pixel);
-    wl_buffer* const buffer =
-        wl_shm_pool_create_buffer(pool, 0, width, height, width * pixel, WL_SHM_FORMAT_ARGB8888);
-    wl_shm_pool_destroy(pool);
-    return buffer;
+    const WaylandPointer<WL_SHM_POOL_DESTROY> pool{
+        requestNew(core("wl_shm_pool"), globals_[memory].get(), WL_SHM_CREATE_POOL, file,
+                   width * height * pixel)};
+    return BufferPointer{requestNew(core("wl_buffer"), pool.get(), WL_SHM_POOL_CREATE_BUFFER, 0,
+                                    width, height, width * pixel, WL_SHM_FORMAT_ARGB8888)};
 }
 
-int LayerShell::scaleOf(const wl_output* output) const {
+int LayerShell::scaleOf(const wl_proxy* output) const {
     int scale = 1;
     for (const auto& screen : screens_) {
-        if (screen->output == output) return screen->scale;
+        if (screen->output.get() == output) return screen->scale;
         scale = std::max(scale, screen->scale);
     }
     return scale;
@@ -174,33 +172,31 @@ int LayerShell::scaleOf(const wl_output* output) const {
 void LayerShell::flush() {
     // A compositor that has not read for so long that the socket is full hangs. Going on would fill
     // libwayland's own memory too, which it takes for the end.
-    if (wl_display_flush(display_) < 0) end();
+    if (wl_display_flush(display_.get()) < 0) end();
 }
 
-void LayerShell::add(std::uint32_t name, std::string_view interface, std::uint32_t version) {
-    if (interface == wl_output_interface.name) {
-        wl_proxy* const output = bind(name, wl_output_interface, std::min(version, outputVersion));
-        screens_.push_back(std::make_unique<Screen>(Screen{name, as<wl_output>(output)}));
+void LayerShell::add(std::uint32_t name, const std::string& interface, std::uint32_t version) {
+    if (interface == output) {
+        screens_.push_back(std::make_unique<Screen>(
+            Screen{name, bind(name, core(output), std::min(version, outputVersion))}));
         return listenTo(*screens_.back());
     }
     for (std::size_t i = 0; i < globalCount; ++i) {
-        const auto [known, least, most] = wanted[i];
-        if (interface != known->name || version < least || globals_[i]) continue;
-        globals_[i] = bind(name, *known, std::min(version, most));
+        const auto& [known, extension, least, most] = wanted[i];
+        if (interface != known || version < least || globals_[i]) continue;
+        globals_[i] = bind(name, extension ? *extension : core(known), std::min(version, most));
     }
 }
 
 void LayerShell::remove(std::uint32_t name) {
-    std::erase_if(screens_, [name](const auto& screen) {
-        if (screen->name != name) return false;
-        wl_output_destroy(screen->output);
-        return true;
-    });
+    std::erase_if(screens_, [name](const auto& screen) { return screen->name == name; });
 }
 
-wl_proxy* LayerShell::bind(std::uint32_t name, const wl_interface& interface,
-                           std::uint32_t version) const {
-    return static_cast<wl_proxy*>(wl_registry_bind(registry_, name, &interface, version));
+WaylandReference LayerShell::bind(std::uint32_t name, const wl_interface& interface,
+                                  std::uint32_t version) const {
+    return WaylandReference{wl_proxy_marshal_flags(registry_.get(), WL_REGISTRY_BIND, &interface,
+                                                   version, 0, name, interface.name, version,
+                                                   nullptr)};
 }
 
 void LayerShell::listenTo(Screen& screen) {
@@ -215,15 +211,16 @@ void LayerShell::listenTo(Screen& screen) {
         };
         return all;
     }();
-    wl_output_add_listener(screen.output, &listener, &screen);
+    quillon::listenTo(screen.output.get(), listener, &screen);
 }
 
 void LayerShell::takeEvents() {
-    while (wl_display_prepare_read(display_) != 0) {
-        if (wl_display_dispatch_pending(display_) < 0) return end();
+    while (wl_display_prepare_read(display_.get()) != 0) {
+        if (wl_display_dispatch_pending(display_.get()) < 0) return end();
     }
     // Takes what has come, and does not wait.
-    if (wl_display_read_events(display_) < 0 || wl_display_dispatch_pending(display_) < 0)
+    if (wl_display_read_events(display_.get()) < 0 ||
+        wl_display_dispatch_pending(display_.get()) < 0)
         return end();
     flush();
 }

@@ -4,13 +4,18 @@
 
 #include <QSocketNotifier>
 
+#include <wayland-client-protocol.h>
+
 #include <array>
 #include <chrono>
 #include <memory>
-#include <string_view>
+#include <string>
 #include <vector>
 
 namespace quillon {
+
+using SurfacePointer = WaylandPointer<WL_SURFACE_DESTROY>;
+using BufferPointer = WaylandPointer<WL_BUFFER_DESTROY>;
 
 /// The main thread's connection to a Wayland compositor, beside that of Qt, and what the compositor
 /// offers for surfaces over all windows. Nothing waits for the compositor, save where that is said:
@@ -24,7 +29,7 @@ public:
     LayerShell(const LayerShell&) = delete;
     LayerShell& operator=(const LayerShell&) = delete;
     /// After everything that was made here.
-    ~LayerShell();
+    ~LayerShell() = default;
 
     /// Has the event loop take what the compositor sends. To be called once, after the application
     /// object has been made.
@@ -37,18 +42,18 @@ public:
     [[nodiscard]] bool usable() const;
 
     /// A surface that lets the mouse through.
-    [[nodiscard]] wl_surface* makeSurface();
+    [[nodiscard]] SurfacePointer makeSurface() const;
     /// Makes it a surface over all windows, on the screen with the focus.
-    [[nodiscard]] layerSurface::Pointer makeLayer(wl_surface* surface) const;
+    [[nodiscard]] layerSurface::Pointer makeLayer(wl_proxy* surface) const;
     /// Both are null where the compositor scales by whole numbers only.
-    [[nodiscard]] viewport::Pointer makeViewport(wl_surface* surface) const;
-    [[nodiscard]] fractionalScale::Pointer makeFractionalScale(wl_surface* surface) const;
+    [[nodiscard]] viewport::Pointer makeViewport(wl_proxy* surface) const;
+    [[nodiscard]] fractionalScale::Pointer makeFractionalScale(wl_proxy* surface) const;
     /// The buffer of a file in memory of this size in pixels of four bytes, of which it makes a
     /// duplicate.
-    [[nodiscard]] wl_buffer* makeBuffer(int file, int width, int height) const;
+    [[nodiscard]] BufferPointer makeBuffer(int file, int width, int height) const;
 
     /// The whole-numbered scale of a screen; without one, the largest of all screens.
-    [[nodiscard]] int scaleOf(const wl_output* screen) const;
+    [[nodiscard]] int scaleOf(const wl_proxy* screen) const;
 
     /// Sends what has been requested.
     void flush();
@@ -60,25 +65,29 @@ private:
 
     struct Screen {
         std::uint32_t name;
-        wl_output* output;
+        WaylandReference output;
         int scale = 1;
+    };
+
+    struct DisplayDeleter {
+        void operator()(wl_display* display) const { wl_display_disconnect(display); }
     };
 
     explicit LayerShell(wl_display* display);
 
     [[nodiscard]] bool scalesByFractions() const;
-    void add(std::uint32_t name, std::string_view interface, std::uint32_t version);
+    void add(std::uint32_t name, const std::string& interface, std::uint32_t version);
     void remove(std::uint32_t name);
-    [[nodiscard]] wl_proxy* bind(std::uint32_t name, const wl_interface& interface,
-                                 std::uint32_t version) const;
-    void listenTo(Screen& screen);
+    [[nodiscard]] WaylandReference bind(std::uint32_t name, const wl_interface& interface,
+                                        std::uint32_t version) const;
+    static void listenTo(Screen& screen);
     void takeEvents();
     void end();
 
-    wl_display* display_;
-    wl_registry* registry_;
-    wl_callback* asked_; ///< null when everything offered is known
-    std::array<wl_proxy*, globalCount> globals_{};
+    std::unique_ptr<wl_display, DisplayDeleter> display_;
+    WaylandReference registry_;
+    WaylandReference asked_; ///< null when everything offered is known
+    std::array<WaylandReference, globalCount> globals_;
     std::vector<std::unique_ptr<Screen>> screens_; // whose addresses libwayland keeps
     bool alive_ = true;
     std::unique_ptr<QSocketNotifier> notifier_;

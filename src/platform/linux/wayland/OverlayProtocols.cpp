@@ -5,25 +5,24 @@
 namespace quillon {
 namespace {
 
-/// Arguments that are no objects, as many as any request or event here has.
-constexpr std::array<const wl_interface*, 5> plain{};
-// The rest are those of each message that has objects. The type of a popup is never looked at.
-constexpr std::array<const wl_interface*, 5> newLayerSurface{
-    &layerSurface::interface, &wl_surface_interface, &wl_output_interface, nullptr, nullptr};
-constexpr std::array newViewport{&viewport::interface, &wl_surface_interface};
-constexpr std::array newFractionalScale{&fractionalScale::interface, &wl_surface_interface};
+/// The interfaces of a message's arguments, as many as any here has. Those of the objects in a
+/// request are looked at by nobody, save that of the new one.
+using Types = std::array<const wl_interface*, 5>;
+constexpr Types none{};
+constexpr Types newLayerSurface{&layerSurface::interface};
+constexpr Types newViewport{&viewport::interface};
+constexpr Types newFractionalScale{&fractionalScale::interface};
 
 /// A message: its arguments are unsigned (u), signed (i) and fixed-point (f) numbers, texts (s),
 /// objects (o) and new objects (n), which may be null (?), with the version (a digit) that has
 /// brought it.
-constexpr wl_message message(const char* name, const char* arguments,
-                             const wl_interface* const* types = plain.data()) {
+constexpr wl_message message(const char* name, const char* arguments, const Types& types = none) {
     // Only C's way to say "unchanged" is missing in this type.
-    return {name, arguments, const_cast<const wl_interface**>(types)};
+    return {name, arguments, const_cast<const wl_interface**>(types.data())};
 }
 
 constexpr std::array layerShellRequests{
-    message("get_layer_surface", "no?ous", newLayerSurface.data()),
+    message("get_layer_surface", "no?ous", newLayerSurface),
     message("destroy", "3"),
 };
 constexpr std::array layerSurfaceRequests{
@@ -40,7 +39,7 @@ constexpr std::array layerSurfaceEvents{message("configure", "uuu"), message("cl
 
 constexpr std::array viewporterRequests{
     message("destroy", ""),
-    message("get_viewport", "no", newViewport.data()),
+    message("get_viewport", "no", newViewport),
 };
 constexpr std::array viewportRequests{
     message("destroy", ""),
@@ -50,7 +49,7 @@ constexpr std::array viewportRequests{
 
 constexpr std::array fractionalScaleManagerRequests{
     message("destroy", ""),
-    message("get_fractional_scale", "no", newFractionalScale.data()),
+    message("get_fractional_scale", "no", newFractionalScale),
 };
 constexpr std::array fractionalScaleRequests{message("destroy", "")};
 constexpr std::array fractionalScaleEvents{message("preferred_scale", "u")};

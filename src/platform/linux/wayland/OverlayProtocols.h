@@ -1,6 +1,6 @@
 #pragma once
 
-#include <wayland-client.h>
+#include "platform/linux/wayland/LibWayland.h"
 
 #include <cstdint>
 #include <memory>
@@ -10,13 +10,13 @@
 /// their order.
 namespace quillon {
 
-/// Sends a request of an extension without a new object.
+/// Sends a request that makes no object.
 template <typename... Arguments>
 void request(wl_proxy* proxy, std::uint32_t number, Arguments... arguments) {
     wl_proxy_marshal_flags(proxy, number, nullptr, wl_proxy_get_version(proxy), 0, arguments...);
 }
 
-/// Sends a request whose first argument is a new object of this interface, which it gives.
+/// Sends a request whose first argument is a new object of this interface, and gives that.
 template <typename... Arguments>
 [[nodiscard]] wl_proxy* requestNew(const wl_interface& interface, wl_proxy* proxy,
                                    std::uint32_t number, Arguments... arguments) {
@@ -24,8 +24,8 @@ template <typename... Arguments>
                                   nullptr, arguments...);
 }
 
-/// Has the listener, a structure of functions in the order of the interface's events, called with
-/// `data`.
+/// Has the functions of the listener, which come in the order of the interface's events, called
+/// with `data`.
 template <typename Listener>
 void listenTo(wl_proxy* proxy, const Listener& listener, void* data) {
     // Only C's way to say "unchanged", and to say "any function", is missing in this type.
@@ -33,25 +33,22 @@ void listenTo(wl_proxy* proxy, const Listener& listener, void* data) {
                           data);
 }
 
-/// Destroys an object of Wayland's core.
-struct WaylandDeleter {
-    void operator()(wl_buffer* buffer) const { wl_buffer_destroy(buffer); }
-    void operator()(wl_callback* callback) const { wl_callback_destroy(callback); }
-    void operator()(wl_surface* surface) const { wl_surface_destroy(surface); }
-};
-template <typename Object>
-using WaylandPointer = std::unique_ptr<Object, WaylandDeleter>;
-
-/// Destroys an object of an extension by the request of this number.
+/// Destroys an object by its request of this number.
 template <std::uint32_t number>
-struct ExtensionDeleter {
+struct RequestDeleter {
     void operator()(wl_proxy* proxy) const {
         wl_proxy_marshal_flags(proxy, number, nullptr, wl_proxy_get_version(proxy),
                                WL_MARSHAL_FLAG_DESTROY);
     }
 };
 template <std::uint32_t destroy>
-using ExtensionPointer = std::unique_ptr<wl_proxy, ExtensionDeleter<destroy>>;
+using WaylandPointer = std::unique_ptr<wl_proxy, RequestDeleter<destroy>>;
+
+/// Forgets an object that has no such request.
+struct ForgettingDeleter {
+    void operator()(wl_proxy* proxy) const { wl_proxy_destroy(proxy); }
+};
+using WaylandReference = std::unique_ptr<wl_proxy, ForgettingDeleter>;
 
 /// Lays surfaces above or below all windows: wlr-layer-shell, up to version 4.
 namespace layerShell {
@@ -78,7 +75,7 @@ struct Listener {
                       std::uint32_t height);
     void (*closed)(void* data, wl_proxy* surface);
 };
-using Pointer = ExtensionPointer<destroy>;
+using Pointer = WaylandPointer<destroy>;
 } // namespace layerSurface
 
 /// Gives a surface a size that is not that of its buffer: viewporter.
@@ -89,7 +86,7 @@ enum Request : std::uint32_t { destroy, getViewport };
 
 namespace viewport {
 enum Request : std::uint32_t { destroy, setSource, setDestination };
-using Pointer = ExtensionPointer<destroy>;
+using Pointer = WaylandPointer<destroy>;
 extern const wl_interface interface;
 } // namespace viewport
 
@@ -107,7 +104,7 @@ struct Listener {
     void (*preferred)(void* data, wl_proxy* scale, std::uint32_t parts);
 };
 constexpr double parts = 120;
-using Pointer = ExtensionPointer<destroy>;
+using Pointer = WaylandPointer<destroy>;
 } // namespace fractionalScale
 
 } // namespace quillon

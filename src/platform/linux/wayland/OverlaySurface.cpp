@@ -54,12 +54,13 @@ void OverlaySurface::listen() {
         wl_surface_listener all{};
         all.enter = [](void* data, wl_surface*, wl_output* screen) {
             auto* const self = static_cast<OverlaySurface*>(data);
-            if (!self->fractions_) self->setScale(self->shell_.scaleOf(screen));
+            if (!self->fractions_)
+                self->setScale(self->shell_.scaleOf(reinterpret_cast<wl_proxy*>(screen)));
         };
         all.leave = [](void*, wl_surface*, wl_output*) {};
         return all;
     }();
-    wl_surface_add_listener(surface_.get(), &surface, this);
+    listenTo(surface_.get(), surface, this);
     listenTo(layer_.get(), layer, this);
     if (fractions_) listenTo(fractions_.get(), fractions, this);
 }
@@ -73,7 +74,7 @@ void OverlaySurface::place() {
     // 0 has it lie beside the desktop's bars, not over them; and it never gets the keyboard.
     request(layer, layerSurface::setExclusiveZone, 0);
     request(layer, layerSurface::setKeyboardInteractivity, 0);
-    wl_surface_commit(surface_.get());
+    request(surface_.get(), WL_SURFACE_COMMIT);
     shell_.flush();
 }
 
@@ -105,13 +106,13 @@ void OverlaySurface::update() {
 void OverlaySurface::draw(SharedImage& target) {
     outdated_ = false;
     paint(target.image());
-    wl_surface* const surface = surface_.get();
+    wl_proxy* const surface = surface_.get();
     target.attachTo(surface);
     if (viewport_) {
         request(viewport_.get(), viewport::setDestination, picture_.size.width(),
                 picture_.size.height());
     } else {
-        wl_surface_set_buffer_scale(surface, static_cast<int>(scale_));
+        request(surface, WL_SURFACE_SET_BUFFER_SCALE, static_cast<int>(scale_));
     }
     static constexpr wl_callback_listener listener{
         .done = [](void* data, wl_callback*, std::uint32_t) {
@@ -119,9 +120,9 @@ void OverlaySurface::draw(SharedImage& target) {
             self->frame_.reset();
             if (self->outdated_) self->update();
         }};
-    frame_.reset(wl_surface_frame(surface));
-    wl_callback_add_listener(frame_.get(), &listener, this);
-    wl_surface_commit(surface);
+    frame_.reset(requestNew(coreInterface("wl_callback_interface"), surface, WL_SURFACE_FRAME));
+    listenTo(frame_.get(), listener, this);
+    request(surface, WL_SURFACE_COMMIT);
     shell_.flush();
     shown_ = true;
     drawn_();

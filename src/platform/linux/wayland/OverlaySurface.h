@@ -46,11 +46,11 @@ private:
     bool outdated_ = true;
     bool shown_ = false;
     std::vector<std::unique_ptr<SharedImage>> images_;
-    WaylandPointer<wl_surface> surface_;
+    SurfacePointer surface_;
     viewport::Pointer viewport_;
     fractionalScale::Pointer fractions_;
     layerSurface::Pointer layer_;
-    WaylandPointer<wl_callback> frame_; ///< null when it is ready for a frame
+    WaylandReference frame_; ///< null when it is ready for a frame
 };
 
 } // namespace quillon

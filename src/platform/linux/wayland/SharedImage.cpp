@@ -32,12 +32,12 @@ SharedImage::SharedImage(LayerShell& shell, QSize pixels, std::function<void()> 
     if (bytes != MAP_FAILED) {
         image_ = QImage{static_cast<uchar*>(bytes), pixels.width(), pixels.height(),
                         QImage::Format_ARGB32_Premultiplied};
-        buffer_.reset(shell.makeBuffer(file, pixels.width(), pixels.height()));
+        buffer_ = shell.makeBuffer(file, pixels.width(), pixels.height());
         static constexpr wl_buffer_listener listener{.release = [](void* self, wl_buffer*) {
             static_cast<SharedImage*>(self)->busy_ = false;
             static_cast<SharedImage*>(self)->released_();
         }};
-        wl_buffer_add_listener(buffer_.get(), &listener, this);
+        listenTo(buffer_.get(), listener, this);
     }
     ::close(file);
 }
@@ -46,10 +46,10 @@ SharedImage::~SharedImage() {
     if (!image_.isNull()) ::munmap(image_.bits(), static_cast<std::size_t>(image_.sizeInBytes()));
 }
 
-void SharedImage::attachTo(wl_surface* surface) {
+void SharedImage::attachTo(wl_proxy* surface) {
     busy_ = true;
-    wl_surface_attach(surface, buffer_.get(), 0, 0);
-    wl_surface_damage_buffer(surface, 0, 0, image_.width(), image_.height());
+    request(surface, WL_SURFACE_ATTACH, buffer_.get(), 0, 0);
+    request(surface, WL_SURFACE_DAMAGE_BUFFER, 0, 0, image_.width(), image_.height());
 }
 
 } // namespace quillon

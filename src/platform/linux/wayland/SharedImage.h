@@ -22,12 +22,12 @@ public:
     /// Whether the compositor reads it; it must not be painted on then.
     [[nodiscard]] bool busy() const { return busy_; }
     /// Has the surface show it from the next commit on.
-    void attachTo(wl_surface* surface);
+    void attachTo(wl_proxy* surface);
 
 private:
     std::function<void()> released_;
     QImage image_;
-    WaylandPointer<wl_buffer> buffer_;
+    BufferPointer buffer_;
     bool busy_ = false;
 };
 

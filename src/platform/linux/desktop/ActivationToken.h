@@ -1,0 +1,25 @@
+#pragma once
+
+namespace quillon {
+
+/// The permission to come to the front that a launcher gives to a program it starts, and the
+/// desktop's panel to the program whose icon is clicked. It is a text in the environment, where
+/// Qt's Wayland part looks for it when a window asks for the focus. It is this program's, not that
+/// of programs it will start.
+namespace ActivationToken {
+
+/// Takes the launcher's permission out of the environment. On Wayland it is kept for the first
+/// window; an X server's window manager needs none. To be called after the application object has
+/// been made, which uses it itself on X.
+void takeFromLauncher();
+
+/// Has the next window that asks for the focus use the permission. One that has come into the
+/// environment since comes first.
+void offer();
+
+/// Takes out of the environment what no window has used.
+void withdraw();
+
+} // namespace ActivationToken
+
+} // namespace quillon
