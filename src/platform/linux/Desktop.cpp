@@ -1,8 +1,8 @@
 #include "platform/linux/Desktop.h"
 
 #include "platform/linux/Application.h"
+#include "platform/linux/DesktopHotKeys.h"
 #include "platform/linux/x11/X11Compositor.h"
-#include "platform/linux/x11/X11HotKeys.h"
 #include "platform/linux/x11/X11Pasteboard.h"
 
 #include <QApplication>
@@ -30,7 +30,7 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
     QApplication::setQuitOnLastWindowClosed(false);
     desktop.compositor = std::make_unique<X11Compositor>();
     if (needs == DesktopNeeds::clipboardAndBanner) return desktop;
-    if (auto hotKeys = X11HotKeys::open(nullptr)) desktop.hotKeys = std::move(hotKeys);
+    desktop.hotKeys = openHotKeys();
     return desktop;
 }
 
