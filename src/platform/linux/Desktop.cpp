@@ -1,12 +1,12 @@
 #include "platform/linux/Desktop.h"
 
 #include "platform/linux/Application.h"
+#include "platform/linux/DesktopHotKeys.h"
 #include "platform/linux/OpenPasteboard.h"
 #include "platform/linux/desktop/ActivationToken.h"
 #include "platform/linux/wayland/LayerOverlay.h"
 #include "platform/linux/x11/X11Compositor.h"
 #include "platform/linux/x11/X11Connection.h"
-#include "platform/linux/x11/X11HotKeys.h"
 
 #include <QApplication>
 #include <QDir>
@@ -83,7 +83,7 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
         desktop.compositor = std::make_unique<X11Compositor>();
     }
     if (needs == DesktopNeeds::clipboardAndBanner) return desktop;
-    if (auto hotKeys = X11HotKeys::open(nullptr)) desktop.hotKeys = std::move(hotKeys);
+    desktop.hotKeys = openHotKeys();
     return desktop;
 }
 

@@ -108,6 +108,29 @@ TEST_F(ReadyPanel, ShowsTheShortcutAndWarnsWhileAnotherProgramHasIt) {
     EXPECT_EQ(keys(), "⌃⌥P");
 }
 
+TEST_F(ReadyPanel, TellsOfAShortcutThatTheDesktopBindsUntilItsCommandIsCopied) {
+    open();
+    computer.store->registerShortcut();
+    const auto tell = [this](const HotKeyState& state) {
+        computer.hotKeys.tell(PhysicalKey::v, state);
+        turn();
+    };
+    const auto showsKeys = [this] { return button(sendName)->findChild<KeyRow*>()->isVisible(); };
+    EXPECT_TRUE(showsKeys());
+    tell({.way = ShortcutWay::portal, .trigger = "Meta+F9"});
+    EXPECT_THAT(seen(), Contains("On this desktop the shortcut is Meta+F9."));
+    EXPECT_FALSE(showsKeys()) << "they are others";
+    tell({.kind = HotKeyState::Kind::unavailable,
+          .way = ShortcutWay::compositorLine,
+          .offer = HotKeyState::Offer::copyCommand,
+          .command = "bind"});
+    const char* const hint = "The shortcut is not set up yet. Settings shows how.";
+    EXPECT_THAT(seen(), Contains(hint));
+    computer.store->takeShortcutOffer();
+    turn();
+    EXPECT_THAT(seen(), Not(Contains(hint)));
+}
+
 TEST_F(NewPanel, OffersUpdatesWhereTheProgramCanBeUpdated) {
     updater.start();
     open();
