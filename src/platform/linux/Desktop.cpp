@@ -4,6 +4,7 @@
 #include "platform/linux/DesktopHotKeys.h"
 #include "platform/linux/OpenPasteboard.h"
 #include "platform/linux/desktop/ActivationToken.h"
+#include "platform/linux/shortcut/FoundSession.h"
 #include "platform/linux/wayland/LayerOverlay.h"
 #include "platform/linux/x11/X11Compositor.h"
 #include "platform/linux/x11/X11Connection.h"
@@ -70,7 +71,7 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
     }
     // Before the application, which would end the process where nothing answers.
     desktop.pasteboard = openPasteboard();
-    auto shell = LayerShell::open();
+    auto shell = foundSession().wayland ? LayerShell::open() : nullptr;
     const auto platform = windowPlatform(needs, desktop.pasteboard->way(), shell.get());
     if (!platform) return std::nullopt;
     desktop.application = makeApplication<QApplication>(*platform);
