@@ -12,6 +12,9 @@ namespace quillon {
 
 namespace {
 
+/// Qt's platform that shows nothing, and needs no display.
+constexpr const char* noWindows = "offscreen";
+
 /// Qt's way to the display; none where there is none that does for what is needed. It is chosen
 /// here because Qt would end the process where no X server answers.
 std::optional<const char*> qtPlatform(DesktopNeeds needs, ClipboardWay way) {
@@ -20,7 +23,7 @@ std::optional<const char*> qtPlatform(DesktopNeeds needs, ClipboardWay way) {
     // The banner and the shortcut are on the X server.
     if (way == ClipboardWay::x11 || X11Connection::open(nullptr)) return "xcb";
     // What is on the clipboard can be sent without windows.
-    if (way != ClipboardWay::none && needs == DesktopNeeds::clipboardAndBanner) return "offscreen";
+    if (way != ClipboardWay::none && needs == DesktopNeeds::clipboardAndBanner) return noWindows;
     return std::nullopt;
 }
 
@@ -43,6 +46,7 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
     for (const char* const permission : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
         qunsetenv(permission);
     QApplication::setQuitOnLastWindowClosed(false);
+    if (*platform == noWindows) return desktop;
     desktop.compositor = std::make_unique<X11Compositor>();
     if (needs == DesktopNeeds::clipboardAndBanner) return desktop;
     if (auto hotKeys = X11HotKeys::open(nullptr)) desktop.hotKeys = std::move(hotKeys);

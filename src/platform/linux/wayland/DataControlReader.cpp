@@ -102,7 +102,7 @@ DataControlReader::DataControlReader(std::unique_ptr<WaylandConnection> connecti
     : connection_{std::move(connection)},
       host_{std::move(host)},
       registry_{wl_proxy_marshal_flags(connection_->display(), WL_DISPLAY_GET_REGISTRY,
-                                       coreInterface("wl_registry_interface"), 1, 0, nullptr)} {
+                                       &coreInterface("wl_registry_interface"), 1, 0, nullptr)} {
     listen(registry_.get(), Events::registry, this);
     sync([this] { bindDevice(); });
 }
@@ -123,7 +123,7 @@ void DataControlReader::bindDevice() {
     if (refused_) return;
     protocol_ = ext ? &extDataControl() : &wlrDataControl();
     const std::uint32_t version = std::min(global.version, protocol_->version);
-    seat_ = bind(seatGlobal_, coreInterface("wl_seat_interface"), 1);
+    seat_ = bind(seatGlobal_, &coreInterface("wl_seat_interface"), 1);
     manager_ = bind(global, protocol_->manager, version);
     device_.reset(wl_proxy_marshal_flags(manager_.get(), DataControl::getDataDevice,
                                          protocol_->device, version, 0, nullptr, seat_.get()));
@@ -143,7 +143,7 @@ ProxyPointer DataControlReader::bind(Global global, const wl_interface* interfac
 void DataControlReader::sync(std::function<void()> then) {
     synced_ = std::move(then);
     callback_.reset(wl_proxy_marshal_flags(connection_->display(), WL_DISPLAY_SYNC,
-                                           coreInterface("wl_callback_interface"), 1, 0, nullptr));
+                                           &coreInterface("wl_callback_interface"), 1, 0, nullptr));
     listen(callback_.get(), Events::callback, this);
 }
 

@@ -6,7 +6,9 @@
 
 namespace quillon {
 
-/// What speaks Wayland's protocols, which X11 desktops have no use for.
+/// What speaks Wayland's protocols, which X11 desktops have no use for. Of its headers, the
+/// functions that are written out in wayland-client-protocol.h are not to be called: they call
+/// those of a library that is linked.
 inline constinit const LateLibrary libwayland{QUILLON_WAYLAND};
 
 QUILLON_LATE(libwayland, wl_display_connect);
@@ -22,8 +24,8 @@ QUILLON_LATE(libwayland, wl_proxy_destroy);
 QUILLON_LATE(libwayland, wl_proxy_marshal_flags);
 
 /// One of the interfaces of the core protocol, as in "wl_seat_interface".
-[[nodiscard]] inline const wl_interface* coreInterface(const char* name) {
-    return static_cast<const wl_interface*>(libwayland.find(name));
+[[nodiscard]] inline const wl_interface& coreInterface(const char* name) {
+    return *static_cast<const wl_interface*>(libwayland.find(name));
 }
 
 } // namespace quillon
