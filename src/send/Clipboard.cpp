@@ -130,8 +130,8 @@ Summary summaryOf(const ClipText& text) {
 Summary summaryOf(const ClipEmpty& empty) {
     if (!empty.outOfReach) return {"clipboard", translate("Clipboard", "The clipboard is empty")};
     return {"exclamationmark.circle",
-            translate("Clipboard", "The clipboard is out of reach: this desktop offers neither "
-                                   "data-control nor Xwayland")};
+            translate("Clipboard", "The clipboard is out of reach. This desktop offers neither "
+                                   "data-control nor Xwayland.")};
 }
 
 } // namespace

@@ -180,8 +180,8 @@ TEST(ClipboardSummary, SaysWhatTheClipboardHolds) {
         {ClipText{"   \nsecond"}, {"text.alignleft", "“”"}},
         {ClipEmpty{}, {"clipboard", "The clipboard is empty"}},
         {ClipEmpty{.outOfReach = true},
-         {"exclamationmark.circle", "The clipboard is out of reach: this desktop offers neither "
-                                    "data-control nor Xwayland"}},
+         {"exclamationmark.circle", "The clipboard is out of reach. This desktop offers neither "
+                                    "data-control nor Xwayland."}},
     };
     for (const auto& [content, summary] : cases)
         EXPECT_EQ(Clipboard::summary(content), summary) << summary.line;

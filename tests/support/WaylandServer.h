@@ -6,16 +6,11 @@
 
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <wayland-server-core.h>
 #include <wayland-server-protocol.h>
 
 #include <atomic>
 #include <csignal>
-#include <functional>
 #include <list>
 #include <mutex>
 #include <string>
@@ -25,12 +20,11 @@
 namespace quillon::test {
 
 /// A compositor with nothing but a seat and a clipboard, which programs may read by the protocols
-/// given, in a thread of its own. What is copied has an owner that is as good or bad as a test
-/// wants.
+/// given, in a thread of its own.
 class WaylandServer {
 public:
-    /// Gives the content in a format, in a thread of its own. The content ends with the descriptor.
-    using Owner = std::function<void(const std::string& format, Descriptor into)>;
+    /// What an owner does when it has given its content.
+    enum class Then { close, hold, die };
 
     explicit WaylandServer(std::vector<const DataControlProtocol*> protocols)
         : protocols_{std::move(protocols)} {
@@ -42,81 +36,75 @@ public:
     ~WaylandServer() { stop(); }
 
     /// What $WAYLAND_DISPLAY would name it.
-    [[nodiscard]] const char* display() const { return path_.c_str(); }
-    /// How often owners were asked, and how often while one was still at work.
-    [[nodiscard]] int requests() const { return requests_; }
-    [[nodiscard]] int overlaps() const { return overlaps_; }
+    [[nodiscard]] const char* display() const { return path_.constData(); }
+    /// While it is locked, the compositor hangs.
+    [[nodiscard]] std::recursive_mutex& mutex() { return mutex_; }
+    /// The formats that owners were asked for.
+    [[nodiscard]] std::vector<std::string> asked() {
+        const std::lock_guard lock{mutex_};
+        return asked_;
+    }
 
-    void copy(std::vector<std::string> formats, Owner owner) {
+    /// Without formats, nothing is copied any more.
+    void copy(std::vector<std::string> formats, std::string content, Then then = Then::close) {
         const std::lock_guard lock{mutex_};
-        put({std::move(formats), std::move(owner)});
+        formats_ = std::move(formats);
+        content_ = std::move(content);
+        then_ = then;
+        for (wl_resource* const device : devices_)
+            tell(device);
+        wl_display_flush_clients(display_);
     }
-    /// What the owner's end looks like: its content ends, and then nothing is copied.
-    void die(Descriptor into) {
-        const std::lock_guard lock{mutex_};
-        into.close();
-        put({});
-    }
-    /// The devices are no good any more.
+    /// Adds to what the owner that holds has given; false once its reader has left.
+    [[nodiscard]] bool drip() const { return writeAll(held_.number(), "."); }
+    /// Ends it.
+    void release() { held_.close(); }
     void finishDevices() {
         const std::lock_guard lock{mutex_};
-        for (const auto& [device, protocol] : devices_)
+        for (wl_resource* const device : devices_)
             wl_resource_post_event(device, 2);
         wl_display_flush_clients(display_);
     }
-    /// While it holds, requests lie unread.
-    [[nodiscard]] std::unique_lock<std::recursive_mutex> hang() { return std::unique_lock{mutex_}; }
 
     void start() {
         display_ = wl_display_create();
-        const Descriptor socket{::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)};
-        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-        path_.copy(address.sun_path, sizeof address.sun_path - 1);
-        ::unlink(address.sun_path);
-        const auto* const general = reinterpret_cast<const sockaddr*>(&address);
-        EXPECT_EQ(::bind(socket.number(), general, sizeof address), 0);
-        EXPECT_EQ(::listen(socket.number(), 8), 0);
-        wl_display_add_socket_fd(display_, ::dup(socket.number()));
-        wl_global_create(display_, &wl_seat_interface, 1, nullptr, bindSeat);
-        for (const DataControlProtocol* protocol : protocols_) {
-            bindings_.push_back({this, protocol});
-            wl_global_create(display_, protocol->manager, int(protocol->version), &bindings_.back(),
-                             bindManager);
-        }
-        stopping_ = false;
+        const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+        qputenv("XDG_RUNTIME_DIR", folder_.path().toUtf8());
+        wl_display_add_socket(display_, "socket");
+        qputenv("XDG_RUNTIME_DIR", before);
+        const auto bindSeat = [](wl_client* client, void*, std::uint32_t version,
+                                 std::uint32_t id) {
+            wl_resource_create(client, &wl_seat_interface, int(version), id);
+        };
+        wl_global_create(display_, &wl_seat_interface, 1, this, bindSeat);
+        for (const DataControlProtocol* const protocol : protocols_)
+            wl_global_create(display_, protocol->manager, int(protocol->version),
+                             &made_.emplace_back(Made{this, protocol}), bindManager);
+        running_ = true;
         loop_ = std::thread{[this] { run(); }};
     }
     void stop() {
-        if (!loop_.joinable()) return;
-        stopping_ = true;
+        if (!running_.exchange(false)) return;
         bell_.ring();
         loop_.join();
-        ::unlink(display());
         wl_display_destroy_clients(display_);
         wl_display_destroy(display_);
-        for (std::thread& owner : owners_)
-            owner.join();
-        owners_.clear();
-        content_ = {};
+        formats_.clear();
     }
 
 private:
-    struct Content {
-        std::vector<std::string> formats;
-        Owner owner; ///< none if nothing is copied
-    };
-    struct Binding {
+    /// What all that comes from a manager belongs to.
+    struct Made {
         WaylandServer* server;
         const DataControlProtocol* protocol;
     };
-    struct Offered {
-        WaylandServer* server;
-        Owner owner;
-    };
+    static Made& madeOf(wl_resource* object) {
+        return *static_cast<Made*>(wl_resource_get_user_data(object));
+    }
 
     void run() {
         wl_event_loop* const loop = wl_display_get_event_loop(display_);
-        while (!stopping_) {
+        while (running_) {
             {
                 const std::lock_guard lock{mutex_};
                 wl_event_loop_dispatch(loop, 0);
@@ -125,89 +113,71 @@ private:
             bell_.sleep({wl_event_loop_get_fd(loop)}, {});
         }
     }
-    void put(Content content) {
-        content_ = std::move(content);
-        for (const auto& [device, protocol] : devices_)
-            tell(device, *protocol);
-        wl_display_flush_clients(display_);
+    /// What is copied, and something that is only marked.
+    void tell(wl_resource* device) {
+        wl_resource_post_event(device, 1, formats_.empty() ? nullptr : makeOffer(device, formats_));
+        wl_resource_post_event(device, 3, makeOffer(device, {"text/marked"}));
     }
-    /// A first selection only if something is copied, as some compositors do; and always something
-    /// that is only marked.
-    void tell(wl_resource* device, const DataControlProtocol& protocol) {
-        post(device, 3, protocol, {{"text/marked"}, {}});
-        post(device, 1, protocol, content_);
-    }
-    void post(wl_resource* device, std::uint32_t selection, const DataControlProtocol& protocol,
-              const Content& content) {
-        if (content.formats.empty()) return wl_resource_post_event(device, selection, nullptr);
-        static constexpr struct {
-            void (*receive)(wl_client*, wl_resource*, const char*, std::int32_t);
-            void (*destroy)(wl_client*, wl_resource*);
-        } requests{[](wl_client*, wl_resource* offer, const char* format, std::int32_t into) {
-                       const auto& offered =
-                           *static_cast<Offered*>(wl_resource_get_user_data(offer));
-                       offered.server->ask(offered.owner, format, Descriptor{into});
-                   },
-                   [](wl_client*, wl_resource* offer) { wl_resource_destroy(offer); }};
-        offered_.push_back({this, content.owner});
+    static wl_resource* makeOffer(wl_resource* device, const std::vector<std::string>& formats) {
+        using Receive = void (*)(wl_client*, wl_resource*, const char*, std::int32_t);
+        using Destroy = void (*)(wl_client*, wl_resource*);
+        static constexpr std::pair<Receive, Destroy> requests{
+            [](wl_client*, wl_resource* offer, const char* format, std::int32_t into) {
+                madeOf(offer).server->give(format, Descriptor{into});
+            },
+            [](wl_client*, wl_resource* offer) { wl_resource_destroy(offer); }};
+        auto& made = madeOf(device);
         wl_resource* const offer =
-            wl_resource_create(wl_resource_get_client(device), protocol.offer, 1, 0);
-        wl_resource_set_implementation(offer, &requests, &offered_.back(), nullptr);
+            wl_resource_create(wl_resource_get_client(device), made.protocol->offer, 1, 0);
+        wl_resource_set_implementation(offer, &requests, &made, nullptr);
         wl_resource_post_event(device, 0, offer);
-        for (const std::string& format : content.formats)
+        for (const std::string& format : formats)
             wl_resource_post_event(offer, 0, format.c_str());
-        wl_resource_post_event(device, selection, offer);
+        return offer;
     }
-    void ask(const Owner& owner, std::string format, Descriptor into) {
-        ++requests_;
-        owners_.emplace_back(
-            [this, owner, format = std::move(format), into = std::move(into)]() mutable {
-                if (atWork_++ > 0) ++overlaps_;
-                owner(format, std::move(into));
-                --atWork_;
-            });
+    void give(const char* format, Descriptor into) {
+        asked_.emplace_back(format);
+        std::ignore = writeAll(into.number(), content_);
+        if (then_ == Then::hold) held_ = std::move(into);
+        into.close();
+        if (then_ != Then::die) return;
+        std::this_thread::sleep_for(std::chrono::milliseconds{20}); // the compositor notices later
+        copy({}, {});
     }
 
-    static void bindSeat(wl_client* client, void*, std::uint32_t version, std::uint32_t id) {
-        wl_resource_create(client, &wl_seat_interface, int(version), id);
-    }
-    static void bindManager(wl_client* client, void* data, std::uint32_t version,
+    static void bindManager(wl_client* client, void* made, std::uint32_t version,
                             std::uint32_t id) {
-        static constexpr struct {
-            void (*createSource)(wl_client*, wl_resource*, std::uint32_t);
-            void (*getDevice)(wl_client*, wl_resource*, std::uint32_t, wl_resource*);
-        } requests{nullptr, getDevice};
-        wl_resource* const manager = wl_resource_create(
-            client, static_cast<Binding*>(data)->protocol->manager, int(version), id);
-        wl_resource_set_implementation(manager, &requests, data, nullptr);
+        static constexpr std::pair requests{nullptr, &getDevice};
+        const auto& interface = *static_cast<Made*>(made)->protocol->manager;
+        wl_resource* const manager = wl_resource_create(client, &interface, int(version), id);
+        wl_resource_set_implementation(manager, &requests, made, nullptr);
     }
     static void getDevice(wl_client* client, wl_resource* manager, std::uint32_t id,
                           wl_resource* /*seat*/) {
-        auto& [server, protocol] = *static_cast<Binding*>(wl_resource_get_user_data(manager));
+        auto& made = madeOf(manager);
         wl_resource* const device =
-            wl_resource_create(client, protocol->device, wl_resource_get_version(manager), id);
-        wl_resource_set_implementation(device, nullptr, server, [](wl_resource* gone) {
-            auto& devices = static_cast<WaylandServer*>(wl_resource_get_user_data(gone))->devices_;
-            std::erase_if(devices, [&](const auto& each) { return each.first == gone; });
+            wl_resource_create(client, made.protocol->device, wl_resource_get_version(manager), id);
+        wl_resource_set_implementation(device, nullptr, &made, [](wl_resource* gone) {
+            std::erase(madeOf(gone).server->devices_, gone);
         });
-        server->devices_.emplace_back(device, protocol);
-        if (server->content_.owner) server->tell(device, *protocol);
+        made.server->devices_.push_back(device);
+        // Some compositors send no first selection where nothing is copied.
+        if (!made.server->formats_.empty()) made.server->tell(device);
     }
 
     std::vector<const DataControlProtocol*> protocols_;
     QTemporaryDir folder_;
-    std::string path_ = folder_.filePath(QStringLiteral("wayland")).toStdString();
+    QByteArray path_ = folder_.filePath(QStringLiteral("socket")).toUtf8();
     wl_display* display_ = nullptr;
-    std::list<Binding> bindings_;
     std::recursive_mutex mutex_; ///< guards what follows, and the display
-    std::list<Offered> offered_;
-    std::vector<std::pair<wl_resource*, const DataControlProtocol*>> devices_;
-    Content content_;
-    std::vector<std::thread> owners_;
-    std::atomic<int> requests_ = 0;
-    std::atomic<int> atWork_ = 0;
-    std::atomic<int> overlaps_ = 0;
-    std::atomic<bool> stopping_ = false;
+    std::list<Made> made_;
+    std::vector<wl_resource*> devices_;
+    std::vector<std::string> formats_;
+    std::string content_;
+    Then then_ = Then::close;
+    std::vector<std::string> asked_;
+    Descriptor held_;
+    std::atomic<bool> running_ = false;
     Bell bell_;
     std::thread loop_;
 };

@@ -18,6 +18,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
+/// Qt's platform that shows nothing, and needs no display.
+constexpr const char* noWindows = "offscreen";
+
 /// Within this a compositor that is well has told what it offers, long before the first banner. It
 /// is a frame's time, for which the main thread may wait once.
 constexpr auto offersPatience = 16ms;
@@ -54,7 +57,7 @@ std::optional<const char*> windowPlatform(DesktopNeeds needs, ClipboardWay way,
     if (way == ClipboardWay::x11 || X11Connection::open(nullptr))
         return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? nullptr : "xcb";
     if (wayland && hasWaylandWindows() && wayland->waitForOffers(displayPatience)) return "wayland";
-    if (way != ClipboardWay::none && needs == DesktopNeeds::clipboardAndBanner) return "offscreen";
+    if (way != ClipboardWay::none && needs == DesktopNeeds::clipboardAndBanner) return noWindows;
     return std::nullopt;
 }
 
@@ -77,6 +80,7 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
     desktop.application = makeApplication<QApplication>(*platform);
     ActivationToken::takeFromLauncher();
     QApplication::setQuitOnLastWindowClosed(false);
+    if (*platform == noWindows && !shell) return desktop;
     if (shell) {
         shell->followEvents();
         desktop.compositor = std::make_unique<WaylandCompositor>(std::move(shell));
