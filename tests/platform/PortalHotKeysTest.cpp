@@ -8,6 +8,8 @@
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 
+#include <sys/prctl.h>
+
 namespace quillon::test {
 namespace {
 
@@ -159,6 +161,20 @@ TEST_F(PortalHotKeysTest, BindsByBothDraftsAndTellsOfItsOwnPresses) {
     EXPECT_TRUE(waitUntil([&] { return portal.calls("BindShortcuts").size() == 3; }));
     const QDBusMessage last = portal.calls("BindShortcuts").constLast();
     EXPECT_EQ(portalShortcuts(last.arguments().at(1)).constFirst().id, QStringLiteral("send-p"));
+}
+
+TEST_F(PortalHotKeysTest, LetsThePortalLookAtTheProcessUntilItHasTakenTheFirstRequest) {
+    const auto readable = [] { return ::prctl(PR_GET_DUMPABLE, 0, 0, 0, 0) == 1; };
+    ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
+    FakePortal portal;
+    start();
+    EXPECT_TRUE(readable());
+    portal.openSession();
+    EXPECT_TRUE(waitUntil([&] { return portal.calls("BindShortcuts").size() == 1; }));
+    EXPECT_FALSE(readable()) << "while the user is asked";
+    registration.reset();
+    EXPECT_FALSE(readable());
+    ::prctl(PR_SET_DUMPABLE, 1, 0, 0, 0);
 }
 
 TEST_F(PortalHotKeysTest, LeavesItAtWhatAnOlderPortalHasBoundWithTheSession) {
