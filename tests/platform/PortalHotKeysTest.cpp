@@ -8,6 +8,8 @@
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 
+#include <sys/prctl.h>
+
 namespace quillon::test {
 namespace {
 
@@ -161,6 +163,26 @@ TEST_F(PortalHotKeysTest, BindsByBothDraftsAndTellsOfItsOwnPresses) {
     EXPECT_EQ(portalShortcuts(last.arguments().at(1)).constFirst().id, QStringLiteral("send-p"));
 }
 
+TEST_F(PortalHotKeysTest, LetsThePortalLookAtTheProcessUntilItHasTakenTheFirstRequest) {
+    const auto readable = [] { return ::prctl(PR_GET_DUMPABLE, 0, 0, 0, 0) == 1; };
+    ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
+    std::optional<FakePortal> portal{std::in_place};
+    start();
+    EXPECT_TRUE(readable());
+    portal->openSession();
+    EXPECT_TRUE(waitUntil([&] { return portal->calls("BindShortcuts").size() == 1; }));
+    EXPECT_FALSE(readable()) << "while the user is asked";
+    auto without = answers(2);
+    without["Get"] = std::nullopt;
+    portal.reset();
+    portal.emplace(without);
+    start();
+    EXPECT_TRUE(readable());
+    EXPECT_TRUE(becomes(Kind::unavailable));
+    EXPECT_FALSE(readable());
+    ::prctl(PR_SET_DUMPABLE, 1, 0, 0, 0);
+}
+
 TEST_F(PortalHotKeysTest, LeavesItAtWhatAnOlderPortalHasBoundWithTheSession) {
     FakePortal portal{answers(1)};
     start();
@@ -263,6 +285,14 @@ TEST_F(PortalHotKeysTest, FollowsAPortalThatComesLateDiesAndComesBack) {
     EXPECT_TRUE(becomes(Kind::bound, "Meta+V"));
     portal->press(sessionPath, "send-v");
     EXPECT_TRUE(isPressed(1));
+    // One that gives no shortcuts is nobody's loss.
+    auto without = answers(2);
+    without["Get"] = std::nullopt;
+    portal.reset();
+    portal.emplace(without);
+    EXPECT_TRUE(waitUntil([&] { return state.way == ShortcutWay::none; }));
+    portal.reset();
+    EXPECT_FALSE(waitUntil([&] { return state.way != ShortcutWay::none; }, 50ms));
 }
 
 } // namespace

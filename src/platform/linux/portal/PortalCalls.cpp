@@ -32,7 +32,7 @@ PortalCalls::PortalCalls(QDBusConnection bus) : bus_{std::move(bus)} {
                  SLOT(respond(QDBusMessage)));
     open_.emplace();
     openLimit_.setSingleShot(true);
-    connect(&openLimit_, &QTimer::timeout, this, [this] { open_.reset(); });
+    connect(&openLimit_, &QTimer::timeout, this, [this] { hide(); });
     openLimit_.start(openTime);
 }
 
@@ -64,7 +64,7 @@ void PortalCalls::request(const QString& interface, const char* method, QVariant
     arguments << options;
     requests_[path] = std::move(responded);
     call(interface, method, arguments, [this, path](const QDBusMessage& answer) {
-        open_.reset();
+        hide();
         if (answer.type() == QDBusMessage::ErrorMessage) end(path, notTaken, {});
     });
 }

@@ -46,6 +46,9 @@ public:
     /// Calls a method that asks for something; its last argument are these options.
     void request(const QString& interface, const char* method, QVariantList arguments,
                  QVariantMap options, Responded responded);
+    /// Ends the portal's look at this process, when all is asked. The first request that the portal
+    /// has taken ends it, too.
+    void hide() { open_.reset(); }
     /// Sends a call and awaits nothing.
     void tell(const QString& path, const QString& interface, const char* method,
               const QVariantList& arguments = {}) const;

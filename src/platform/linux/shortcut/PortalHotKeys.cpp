@@ -90,10 +90,12 @@ void PortalHotKeys::Asked::followPortal(bool there) {
     // What waits for an answer was what has started it.
     if (there && portal_.answer == PortalAnswer::awaited) return;
     if (there) return ask();
+    session_.reset();
+    // Where it gave no keys there is nothing to lose.
+    if (shortcutWay(owner_.options_.session, portal_.answer) != ShortcutWay::portal) return;
     // One that ended before it had answered would do so again. It is left to others to start it.
     const bool answered =
         portal_.answer != PortalAnswer::awaited && portal_.answer != PortalAnswer::gone;
-    session_.reset();
     if (answered) comeback_.start(owner_.options_.comeback);
     take({.answer = PortalAnswer::gone});
 }
@@ -146,7 +148,7 @@ void PortalHotKeys::Asked::announce() {
 namespace {
 
 /// A new connection of this name; one that is not connected where there is no such bus.
-QDBusConnection connect(const QString& address, const QString& name) {
+QDBusConnection connectionTo(const QString& address, const QString& name) {
     if (!address.isEmpty()) return QDBusConnection::connectToBus(address, name);
     if (!hasSessionBus()) return QDBusConnection{name};
     return QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
@@ -157,7 +159,7 @@ QDBusConnection connect(const QString& address, const QString& name) {
 PortalHotKeys::PortalHotKeys(Options options)
     : options_{std::move(options)},
       busName_{QStringLiteral("quillon ") + PortalCalls::newToken()},
-      bus_{quillon::connect(options_.bus, busName_)} {
+      bus_{connectionTo(options_.bus, busName_)} {
     bus_.connect({}, QStringLiteral("/org/freedesktop/DBus"),
                  QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameOwnerChanged"),
                  {portal::name}, QStringLiteral("sss"), this,

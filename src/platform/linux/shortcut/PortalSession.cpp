@@ -140,6 +140,7 @@ void PortalSession::take(const QList<PortalShortcut>& shortcuts) {
 }
 
 void PortalSession::tell(PortalAnswer answer, const QString& trigger) {
+    calls_.hide();
     report_ = {.answer = answer,
                .trigger = trigger.toStdString(),
                .canConfigure = version_ >= versionWithDialog};
