@@ -76,6 +76,7 @@ def main():
             telegram.stop()
     try:
         rows += staying.idling(plain)
+        rows += staying.sessions()
     finally:
         os.kill(compositor, signal.SIGTERM)
     print_table(rows)
