@@ -9,6 +9,7 @@ import os
 import re
 import signal
 import subprocess
+from pathlib import Path
 
 import commands
 import sending
@@ -37,6 +38,15 @@ def start_compositor():
     return int(re.search(r"\d+", pid_file.read_text())[0])
 
 
+def huge_pages():
+    """What the system does with large buffers, on which the cost of an upload depends much."""
+    try:
+        setting = Path("/sys/kernel/mm/transparent_hugepage/enabled").read_text()
+        return re.search(r"\[(\w+)\]", setting)[1]
+    except OSError:
+        return "never"
+
+
 def load():
     return " ".join(f"{average:.1f}" for average in os.getloadavg())
 
@@ -44,7 +54,8 @@ def load():
 def main():
     file, tiny_file, text, tiff = make_inputs()
     compositor = start_compositor()
-    print(f"{os.cpu_count()} processors, load {load()}; this takes some minutes", flush=True)
+    print(f"{os.cpu_count()} processors, huge pages {huge_pages()}, load {load()}; "
+          "this takes some minutes", flush=True)
     rows, telegrams = [], []
     try:
         rows += sending.rules()
@@ -65,6 +76,7 @@ def main():
             telegram.stop()
     try:
         rows += staying.idling(plain)
+        rows += staying.sessions()
     finally:
         os.kill(compositor, signal.SIGTERM)
     print_table(rows)

@@ -240,3 +240,22 @@ def quitting(telegram):
     idle, delivering = (statistics.median(taken) for taken in times.values())
     yield Row("quitting with nothing to deliver", f"{idle:.0f} ms", "", idle, 100, unit="ms")
     yield Row("  with two events to deliver", f"{delivering:.0f} ms")
+
+
+def sessions():
+    """The same measured on X11 and on sway, each on a desktop of its own."""
+    found = {}
+    for kind in "x11", "sway":
+        command = ["tools/private-desktop", sys.executable, "bench/session.py", str(BUILD)]
+        output = subprocess.run(command, env=os.environ | {"SESSION": kind}, check=True,
+                                stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
+        found[kind] = json.loads(output)
+    x11, sway = found["x11"], found["sway"]
+    for what, key, unit in (("start to the name on the bus", "start", "ms"),
+                            ("idle memory (PSS)", "memory", "MB"),
+                            ("context switches in 20 idle seconds", "switches", "")):
+        yield Row(f"on sway: {what}", f"{sway[key]:.1f} {unit}", f"X11 {x11[key]:.1f} {unit}")
+    for name, figures, peer in ("sway", sway, "wl-paste"), ("X11", x11, "xclip"):
+        ours, theirs = figures["reading"], figures["peer reading"]
+        yield Row(f"50 MB from the clipboard of {name}", f"{ours:.0f} ms", f"{peer} {theirs:.0f} ms",
+                  ours / theirs)

@@ -49,6 +49,8 @@ constexpr const char* longGroup =
     "The group of everybody who ever wanted to send something to a phone";
 constexpr const char* longText = "A sentence that is by far too long for the line it stands in";
 
+constexpr const char* shortcutKeys = "Meta+Shift+F9";
+
 const std::vector<Sent> longHistory{
     failed(sent("text.alignleft", "“" + std::string{longText} + "”", longGroup, 12s),
            "Bad Request: the message could not be sent, for reasons that take more than two lines "
@@ -65,6 +67,7 @@ struct Scene {
     const char* group = "Anna & Phone";
     bool updates = true;
     bool taken = false;
+    std::optional<HotKeyState> shortcut{};
     void (*act)(BotComputer&, PanelView&) = nullptr;
 };
 
@@ -101,6 +104,17 @@ const std::vector<Scene> scenes{
      .history = {history.begin(), history.begin() + 2},
      .clipboard = {{"UTF8_STRING", "https://example.com"}},
      .taken = true},
+    {.name = "portal",
+     .history = {history.begin(), history.begin() + 2},
+     .clipboard = shortText,
+     .shortcut = HotKeyState{.way = ShortcutWay::portal, .trigger = shortcutKeys}},
+    {.name = "line",
+     .history = {history.begin(), history.begin() + 2},
+     .clipboard = shortText,
+     .shortcut = HotKeyState{.kind = HotKeyState::Kind::unavailable,
+                             .way = ShortcutWay::compositorLine,
+                             .offer = HotKeyState::Offer::copyCommand,
+                             .command = "bindsym"}},
     {.name = "no-history", .clipboard = {}, .updates = false},
     {.name = "seven", .history = history, .clipboard = shortText},
     {.name = "long",
@@ -145,6 +159,7 @@ void seed(TestComputer& computer, const Scene& scene) {
     if (scene.updates) computer.platform.bundle.info["SUFeedURL"] = "https://example.com/feed.xml";
     computer.restart();
     computer.store->registerShortcut();
+    if (scene.shortcut) computer.hotKeys.tell(PhysicalKey::v, *scene.shortcut);
 }
 
 QPixmap take(const Scene& scene) {
@@ -187,6 +202,7 @@ QStringList names() {
                       QString::fromUtf8(longText),
                       QStringLiteral("Buy milk and bread"),
                       QStringLiteral("https://example.com"),
+                      QString::fromUtf8(shortcutKeys),
                       QStringLiteral("V")};
     for (const auto& entries : {history, longHistory}) {
         for (const Sent& entry : entries) {

@@ -113,6 +113,18 @@ std::function<std::unique_ptr<Stage>()> on(const char* tab, const Config& config
     return [=] { return std::make_unique<Stage>(tab, config, token); };
 }
 
+constexpr const char* shortcutLine = "bindsym --to-code Ctrl+Alt+v exec '/home/anna/My "
+                                     "Programs/Quillon.app/Contents/Linux/quillon' send";
+constexpr const char* shortcutKeys = "Meta+Shift+F9";
+
+/// The desktop has told of the shortcut.
+Act withShortcut(HotKeyState state) {
+    return [state = std::move(state)](Stage& stage) {
+        stage.computer.store->registerShortcut();
+        stage.computer.hotKeys.tell(PhysicalKey::v, state);
+    };
+}
+
 const std::map<std::string, Scene> scenes{
     {"setup-1", {on("setup", {}, false)}},
     {"setup-1-error",
@@ -207,6 +219,27 @@ const std::map<std::string, Scene> scenes{
           }
           stage.computer.store->registerShortcut();
       }}},
+    {"general-portal",
+     {on("general", connected()), withShortcut({.way = ShortcutWay::portal,
+                                                .offer = HotKeyState::Offer::configure,
+                                                .trigger = shortcutKeys})}},
+    {"general-asking",
+     {on("general", connected()),
+      withShortcut({.kind = HotKeyState::Kind::asking, .way = ShortcutWay::portal})}},
+    {"general-unassigned",
+     {on("general", connected()), withShortcut({.kind = HotKeyState::Kind::unassigned,
+                                                .way = ShortcutWay::portal,
+                                                .offer = HotKeyState::Offer::askAgain})}},
+    {"general-gnome",
+     {on("general", connected()), withShortcut({.kind = HotKeyState::Kind::unavailable,
+                                                .way = ShortcutWay::gnomeBinding,
+                                                .offer = HotKeyState::Offer::addBinding})}},
+    {"general-line",
+     {on("general", connected()), withShortcut({.kind = HotKeyState::Kind::unavailable,
+                                                .way = ShortcutWay::compositorLine,
+                                                .offer = HotKeyState::Offer::copyCommand,
+                                                .command = shortcutLine,
+                                                .place = "~/.config/sway/config"})}},
     {"uninstall",
      {on("general", connected()), [](Stage& stage) { stage.click("Uninstall Quillon…"); }}},
     {"uninstall-working",
@@ -251,6 +284,9 @@ QStringList names() {
                       QStringLiteral("1:nonsense"),
                       QString::fromUtf8(BotComputer::token),
                       QString::fromUtf8(noRights),
+                      QString::fromUtf8(shortcutLine),
+                      QString::fromUtf8(shortcutKeys),
+                      QStringLiteral("~/.config/sway/config"),
                       QStringLiteral("Quillon"),
                       QStringLiteral("⌃⌥V"),
                       QStringLiteral("⌃⌥P"),

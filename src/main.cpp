@@ -40,12 +40,12 @@ int main(int argc, char** argv) {
         Terminal::printText(textOf(*invocation));
         return Terminal::settled(exitDone);
     case Where::residentOnly:
-        if (const auto code = RemoteProgram::run(*invocation)) return *code;
+        if (const auto code = RemoteProgram::run(*invocation)) Terminal::exitNow(*code);
         runByAbsolutePath(argv);
         return App::run(invocation->command->name);
     case Where::dataHolder:
     case Where::hereAfterQuit:
         break;
     }
-    return runInSession(*invocation);
+    Terminal::exitNow(runInSession(*invocation));
 }

@@ -13,4 +13,8 @@ inline std::optional<std::string> environment(const char* name) {
     return value;
 }
 
+/// Whether there is a session bus already. Otherwise D-Bus libraries would start one, which only
+/// this program could see.
+[[nodiscard]] bool hasSessionBus();
+
 } // namespace quillon

@@ -110,10 +110,19 @@ QCoro::Task<int> forget(CommandContext context, Arguments /*arguments*/) {
     co_return exitDone;
 }
 
+/// The program that stays has opened the desktop already.
+DesktopWays waysFor(const CommandContext& context) {
+    return context.core.compositor
+               ? desktopWays(context.platform.pasteboard, *context.core.compositor)
+               : probeDesktop();
+}
+
 QCoro::Task<int> status(CommandContext context, Arguments arguments) {
     co_await context.core.store.keyringAsked();
-    context.console->printText(contains(arguments, "--json") ? statusJson(context.core.store)
-                                                             : statusText(context.core.store));
+    const Store& store = context.core.store;
+    context.console->printText(contains(arguments, "--json")
+                                   ? statusJson(store, waysFor(context), context.stays)
+                                   : statusText(store));
     co_return exitDone;
 }
 

@@ -55,10 +55,7 @@ int Detach::run(const std::function<int(Detach&)>& work) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (getppid() != parent) std::_Exit(EXIT_FAILURE);
         Detach detach{ends[1]};
-        const int exitCode = work(detach);
-        std::cout.flush();
-        // Static objects are not destroyed, since the work may leave threads behind.
-        std::_Exit(exitCode);
+        Terminal::exitNow(work(detach));
     }
     close(ends[1]);
     int exitCode = 0;

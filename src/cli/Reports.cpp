@@ -13,6 +13,20 @@
 
 namespace quillon {
 
+template <>
+inline constexpr std::array<std::string_view, 2> rawValues<DesktopWays::Session>{"x11", "wayland"};
+template <>
+inline constexpr std::array<std::string_view, 2> rawValues<DesktopWays::Banner>{"window", "layer"};
+template <>
+inline constexpr std::array<std::string_view, 4> rawValues<ClipboardWay>{
+    "ext-data-control", "wlr-data-control", "x11", "none"};
+template <>
+inline constexpr std::array<std::string_view, 5> rawValues<ShortcutWay>{
+    "x11", "portal", "gnome-binding", "compositor-line", "none"};
+template <>
+inline constexpr std::array<std::string_view, 6> rawValues<HotKeyState::Kind>{
+    "asking", "bound", "unassigned", "taken", "refused", "unavailable"};
+
 namespace {
 
 QDateTime dateTime(Date date) {
@@ -50,6 +64,19 @@ std::string columns(std::vector<std::string> texts) {
     return line;
 }
 
+Json desktopJson(const DesktopWays& ways) {
+    return {{"session", rawValue(ways.session)},
+            {"clipboard", rawValue(ways.clipboard)},
+            {"banner", rawValue(ways.banner)}};
+}
+
+Json shortcutJson(const HotKeyState& shortcut) {
+    Json object{{"way", rawValue(shortcut.way)}, {"state", rawValue(shortcut.kind)}};
+    if (!shortcut.trigger.empty()) object["trigger"] = shortcut.trigger;
+    if (!shortcut.command.empty()) object["command"] = shortcut.command;
+    return object;
+}
+
 std::vector<std::string> sendColumns(const Sent& entry) {
     return {entry.error ? "failed" : "sent", entry.topic, entry.title};
 }
@@ -78,7 +105,7 @@ std::string statusText(const Store& store) {
                       canSend(store) ? translate("Status", "yes") : translate("Status", "no"));
 }
 
-std::string statusJson(const Store& store) {
+std::string statusJson(const Store& store, const DesktopWays& ways, bool registered) {
     const Config& config = store.config();
     Json object{{"ready", canSend(store)}, {"tokenSaved", store.tokenSaved()}};
     if (config.botName) object["botName"] = *config.botName;
@@ -91,6 +118,8 @@ std::string statusJson(const Store& store) {
         object["topics"].push_back(std::move(entry));
     }
     object["shortcut"] = rawValue(config.shortcut);
+    object["desktop"] = desktopJson(ways);
+    if (registered) object["desktop"]["shortcut"] = shortcutJson(store.shortcut());
     return writeJson(object) + "\n";
 }
 

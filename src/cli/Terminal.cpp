@@ -99,6 +99,11 @@ int settled(int exitCode) {
     return EXIT_FAILURE;
 }
 
+void exitNow(int exitCode) {
+    std::cout.flush();
+    std::_Exit(exitCode);
+}
+
 std::optional<std::string> readSecret(std::string_view prompt) {
     std::optional<EchoOff> echoOff;
     const bool terminal = isatty(STDIN_FILENO) != 0;

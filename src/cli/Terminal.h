@@ -24,6 +24,10 @@ void printErrorText(std::string_view text);
 /// it printed to standard output could not be written.
 [[nodiscard]] int settled(int exitCode);
 
+/// Ends the process with what was printed, and nothing static destroyed: work may have left threads
+/// behind, such as Qt's for the bus, which would find its register of types gone.
+[[noreturn]] void exitNow(int exitCode);
+
 /// Reads the first line of standard input; on a terminal it shows `prompt` and hides what is typed.
 /// None when nothing comes.
 [[nodiscard]] std::optional<std::string> readSecret(std::string_view prompt);

@@ -4,10 +4,10 @@
 
 namespace quillon {
 
-Core::Core(Platform& platform, const Compositor* compositor)
-    : analytics{platform},
-      hud{compositor ? std::make_unique<HUD>(platform.clock, *compositor, platform.workspace)
-                     : nullptr},
+Core::Core(Platform& platform, const Compositor* desktop)
+    : compositor{desktop},
+      analytics{platform},
+      hud{desktop ? std::make_unique<HUD>(platform.clock, *desktop, platform.workspace) : nullptr},
       banner{hud.get()},
       hotkey{platform.hotKeys},
       store{platform, banner, hotkey},

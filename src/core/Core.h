@@ -20,6 +20,8 @@ struct Core {
     /// Without a compositor (null) no banner is shown.
     Core(Platform& platform, const Compositor* compositor);
 
+    /// Null where no banner is shown.
+    const Compositor* compositor;
     Analytics analytics;
     /// The banner's window; null where none is shown.
     std::unique_ptr<HUD> hud;

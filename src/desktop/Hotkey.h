@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace quillon {
 
@@ -17,23 +18,28 @@ class Hotkey : public QObject {
 public:
     explicit Hotkey(HotKeys& hotKeys) : hotKeys_{hotKeys} {}
 
-    /// Registers the choice in place of the one before, which ends even when the new one is
-    /// refused. `action` is called from the event loop at each press. False when the choice was
-    /// refused. `changed` is called when a choice that was accepted stops working (false), and when
-    /// it works again (true).
-    [[nodiscard]] bool registerChoice(ShortcutChoice choice, std::function<void()> action,
-                                      std::function<void(bool works)> changed = {});
+    /// At a press, with the desktop's permission to bring a window to the front.
+    using Action = std::function<void(const std::string& activation)>;
+    using Changed = std::function<void(const HotKeyState& state)>;
+
+    /// Registers the choice in place of the one before, which ends whatever becomes of the new one,
+    /// and gives its state. `action` is called from the event loop at each press, and `changed`
+    /// whenever the state is another.
+    [[nodiscard]] HotKeyState registerChoice(ShortcutChoice choice, Action action,
+                                             Changed changed = {});
+    /// Does what the state of the choice offers.
+    void takeOffer();
 
 private:
     void installHandler();
-    void tell(PhysicalKey key, bool works) const;
-    void act() const;
+    void tell(PhysicalKey key, const HotKeyState& state) const;
+    void act(const std::string& activation) const;
 
     HotKeys& hotKeys_;
     std::unique_ptr<HotKeys::Registration> ref_;
     std::optional<PhysicalKey> key_;
-    std::function<void()> action_;
-    std::function<void(bool)> changed_;
+    Action action_;
+    Changed changed_;
     bool handlerInstalled_ = false;
 };
 

@@ -78,6 +78,8 @@ QCoro::Task<> Uninstaller::run(std::function<void(bool tokenRemoved)> onTrashed)
     }
     platform_.defaults.removeAll();
     platform_.workspace.unlistApplication();
+    const QFuture<void> unbinding = platform_.workspace.removeKeyBindings();
+    co_await unbinding;
     bool trashed = false;
     // An executable without an application folder belongs to a package, or to who built it.
     if (platform_.bundle.isApplication()) {

@@ -29,6 +29,8 @@ public:
     /// before.
     virtual void listApplication(const std::filesystem::path& application) = 0;
     virtual void unlistApplication() = 0;
+    /// Removes the program's key bindings from the desktop's own settings, where it has any.
+    [[nodiscard]] virtual QFuture<void> removeKeyBindings() = 0;
 
     /// Brings this application's windows to the front.
     virtual void activate() = 0;

@@ -35,6 +35,9 @@ struct ClipText {
 
 /// Nothing that can be sent.
 struct ClipEmpty {
+    /// The desktop lets nobody read what was copied.
+    bool outOfReach = false;
+
     bool operator==(const ClipEmpty&) const = default;
 };
 

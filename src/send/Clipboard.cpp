@@ -86,6 +86,10 @@ QCoro::Task<std::optional<T>> readFirst(Pasteboard& pasteboard, Names formats,
     co_return std::nullopt;
 }
 
+ClipEmpty nothingFrom(const Pasteboard& pasteboard) {
+    return {.outOfReach = pasteboard.way() == ClipboardWay::none};
+}
+
 QCoro::Task<ClipContent> look(Pasteboard& pasteboard) {
     using ClipboardFormats::formatsOf;
     using ClipboardFormats::Kind;
@@ -96,7 +100,7 @@ QCoro::Task<ClipContent> look(Pasteboard& pasteboard) {
     auto text = co_await readFirst(pasteboard, formatsOf(Kind::text, offered), decodeText);
     auto png = co_await readFirst(pasteboard, formatsOf(Kind::image, offered), decodeImage);
     if (png) co_return ClipImage{*std::move(png), std::move(text)};
-    if (!text) co_return ClipEmpty{};
+    if (!text) co_return nothingFrom(pasteboard);
     const QFuture<bool> looking = isBlank(*text);
     const bool blank = co_await looking;
     if (blank) co_return ClipEmpty{};
@@ -123,8 +127,11 @@ Summary summaryOf(const ClipText& text) {
     return {"text.alignleft", filled(translate("Clipboard", "“%1”", "a copied text"), {line})};
 }
 
-Summary summaryOf(const ClipEmpty& /*empty*/) {
-    return {"clipboard", translate("Clipboard", "The clipboard is empty")};
+Summary summaryOf(const ClipEmpty& empty) {
+    if (!empty.outOfReach) return {"clipboard", translate("Clipboard", "The clipboard is empty")};
+    return {"exclamationmark.circle",
+            translate("Clipboard", "The clipboard is out of reach. This desktop offers neither "
+                                   "data-control nor Xwayland.")};
 }
 
 } // namespace

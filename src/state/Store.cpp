@@ -92,6 +92,7 @@ void Store::publish(T& field, T value) {
 
 template void Store::publish(bool& field, bool value);
 template void Store::publish(KeyringState& field, KeyringState value);
+template void Store::publish(HotKeyState& field, HotKeyState value);
 
 void Store::setConfig(Config config) {
     const Config previous = config_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Clock.h"
+#include "platform/HotKeys.h"
 #include "platform/SecretStore.h"
 #include "state/ActionQueue.h"
 #include "state/Config.h"
@@ -96,7 +97,12 @@ public:
     [[nodiscard]] bool mayBeReady() const;
 
     /// Another program has the shortcut, so that it does not work.
-    [[nodiscard]] bool shortcutTaken() const { return shortcutTaken_; }
+    [[nodiscard]] bool shortcutTaken() const { return shortcut_.kind == HotKeyState::Kind::taken; }
+    /// What has become of the shortcut since it was registered.
+    [[nodiscard]] const HotKeyState& shortcut() const { return shortcut_; }
+    /// Whether the user has copied the command that the state of the shortcut offers, and so may
+    /// have bound it where the program cannot see that.
+    [[nodiscard]] bool shortcutCommandCopied() const;
     /// Whether start-up has registered the shortcut, which it does once.
     [[nodiscard]] bool started() const { return started_; }
     void setStarted() { started_ = true; }
@@ -107,9 +113,11 @@ public:
     void stopPersisting() { persist_ = false; }
     [[nodiscard]] bool persists() const { return persist_; }
 
-    /// Registers the shortcut of the settings in place of the one before. shortcutTaken() tells
-    /// whether that worked, and shortcutPressed() announces each press.
+    /// Registers the shortcut of the settings in place of the one before. shortcut() tells what
+    /// becomes of it, and shortcutPressed() announces each press.
     void registerShortcut();
+    /// Does what the state of the shortcut offers; of a command that is copied, it takes note.
+    void takeShortcutOffer();
     /// Has the desktop open the program at login, or stop doing so. Reports no failure:
     /// launchAtLogin() tells the result.
     void setLaunchAtLogin(bool opens);
@@ -163,7 +171,9 @@ Q_SIGNALS:
     // What happened, just after it did.
     void configChanged(const Config& old, const Config& now);
     void launchAtLoginChanged(bool opens);
-    void shortcutPressed();
+    /// `activation` is the desktop's permission to bring a window to the front; empty where there
+    /// is none.
+    void shortcutPressed(const std::string& activation);
     void setupStepDone(Store::SetupStep step);
     /// A send has ended; one record for each item, in the order sent.
     void sent(const std::vector<SendInfo>& items, Trigger via);
@@ -240,7 +250,7 @@ private:
     /// Grows whenever the user connects or forgets a bot.
     int tokenChanges_ = 0;
     ActionQueue setupActions_;
-    bool shortcutTaken_ = false;
+    HotKeyState shortcut_;
     bool started_ = false;
 };
 

@@ -136,12 +136,13 @@ void CommandService::serve(CommandContext context, DesktopActions actions) {
 }
 
 void CommandService::wish(Wish wish, const QVariantMap& platformData) {
-    // Qt's platform plugins take the token from here when a window asks for the focus.
-    const QByteArray token =
-        platformData.value(QStringLiteral("activation-token")).toString().toUtf8();
-    if (!token.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", token);
+    keepActivation(platformData.value(QStringLiteral("activation-token")).toString().toStdString());
     if (!context_) return wishes_.push_back(wish);
     (actions_.*wish)();
+}
+
+void CommandService::keepActivation(const std::string& token) {
+    if (!token.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
 }
 
 void CommandService::wishByName(const QString& action, const QVariantMap& platformData) {

@@ -161,7 +161,10 @@ void Resident::start(std::string_view wanted) {
     core_.analytics.start();
     updater_.start();
     QObject::connect(&core_.store, &Store::shortcutPressed, &core_.store,
-                     [this] { std::ignore = core_.store.sendClipboard(Trigger::shortcut); });
+                     [this](const std::string& activation) {
+                         CommandService::keepActivation(activation);
+                         std::ignore = core_.store.sendClipboard(Trigger::shortcut);
+                     });
     if (!core_.store.started()) {
         core_.store.setStarted();
         core_.store.registerShortcut();

@@ -11,7 +11,10 @@ TEST(StoreShortcut, IsAnnouncedFromTheEventLoopWhileThereIsAStore) {
     TestComputer computer;
     int pressed = 0;
     QObject::connect(computer.store.get(), &Store::shortcutPressed, computer.store.get(),
-                     [&] { ++pressed; });
+                     [&](const std::string& activation) {
+                         ++pressed;
+                         EXPECT_EQ(activation, "token of the key");
+                     });
     computer.store->registerShortcut();
     computer.store->registerShortcut();
     computer.hotKeys.press(PhysicalKey::v);
@@ -35,9 +38,9 @@ TEST(StoreShortcut, HoldsTheChosenKeyAloneAndTellsWhileItIsTaken) {
     EXPECT_TRUE(choose(ctrlOptV)) << "it holds it itself";
     EXPECT_THAT(computer.hotKeys.registered, ElementsAre(PhysicalKey::v));
     // The keyboard changes.
-    computer.hotKeys.tell(PhysicalKey::v, false);
+    computer.hotKeys.tell(PhysicalKey::v, {.kind = HotKeyState::Kind::taken});
     EXPECT_TRUE(computer.store->shortcutTaken());
-    computer.hotKeys.tell(PhysicalKey::v, true);
+    computer.hotKeys.tell(PhysicalKey::v, {});
     EXPECT_FALSE(computer.store->shortcutTaken());
     computer.hotKeys.takenByOthers = {PhysicalKey::p};
     EXPECT_FALSE(choose(ctrlOptP));

@@ -124,18 +124,26 @@ void Copier::copy(const std::string& format, const QByteArray& content) {
     process_ = std::make_unique<QProcess>();
     process_->setStandardOutputFile(QProcess::nullDevice());
     process_->setStandardErrorFile(QProcess::nullDevice());
-    // Quiet means that it stays in the foreground.
-    const QString xclip = QStringLiteral("xclip");
-    process_->start(xclip, words("-quiet -selection clipboard -t " + format));
+    // Both stay in the foreground.
+    const bool wayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    const QString tool = QLatin1String{wayland ? "wl-copy" : "xclip"};
+    process_->start(
+        tool,
+        words((wayland ? "--foreground --type " : "-quiet -selection clipboard -t ") + format));
     process_->write(content);
+    while (process_->bytesToWrite() > 0 && process_->waitForBytesWritten()) {
+    }
     process_->closeWriteChannel();
     const auto offered = [&] {
         QProcess asking;
-        asking.start(xclip, words("-o -selection clipboard -t TARGETS"));
+        wayland ? asking.start(QStringLiteral("wl-paste"), words("--list-types"))
+                : asking.start(tool, words("-o -selection clipboard -t TARGETS"));
+        // While nothing is copied KWin does not say so, and who asks waits.
+        if (!asking.waitForFinished(500)) asking.kill();
         asking.waitForFinished();
         return asking.readAllStandardOutput().split('\n').contains(format.c_str());
     };
-    EXPECT_TRUE(waitUntil(offered)) << "xclip does not offer " << format;
+    EXPECT_TRUE(waitUntil(offered)) << tool.toStdString() << " does not offer " << format;
 }
 
 void Copier::copyFiles(const std::vector<std::string>& uris) {

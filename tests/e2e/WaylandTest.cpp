@@ -1,107 +1,223 @@
-// The program on a Wayland desktop that has no X server.
+// The program in a Wayland session, sway's or KWin's, beside native programs.
 #include "EndToEnd.h"
 #include "ScreenReader.h"
-#include "support/FakeHost.h"
-#include "support/Sway.h"
+#include "VirtualKeyboard.h"
+#include "platform/linux/shortcut/PortalShortcut.h"
+#include "support/SessionBus.h"
+
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QImage>
 
 namespace quillon::test {
 
 namespace {
 
-/// Whether it is the colour of a banner's warning symbol, or nearly so at its edges.
-bool isWarning(QRgb pixel) {
-    return qRed(pixel) > 200 && qGreen(pixel) > 140 && qGreen(pixel) < 210 && qBlue(pixel) < 110;
+/// Runs the tool to its end and gives its standard output.
+QByteArray output(const char* tool, const QStringList& arguments) {
+    QProcess process;
+    process.start(QString::fromLatin1(tool), arguments);
+    EXPECT_TRUE(process.waitForFinished()) << tool;
+    EXPECT_EQ(process.exitCode(), 0) << tool << process.readAllStandardError().toStdString();
+    return process.readAllStandardOutput();
 }
 
-/// The middle of a banner's warning symbol; none where there is no such symbol.
-std::optional<QPoint> warningIn(const QImage& picture) {
-    QRect found;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x)
-            if (isWarning(picture.pixel(x, y))) found |= QRect{x, y, 1, 1};
-    }
-    return found.isNull() ? std::nullopt : std::optional{found.center()};
+bool onSway() {
+    return qEnvironmentVariableIsSet("SWAYSOCK");
 }
+
+void sway(const std::string& command) {
+    output("swaymsg", {QString::fromStdString(command)});
+}
+
+/// The application that has the keyboard, as sway knows it.
+std::string focusedApplication(const Json& node) {
+    if (node.value("focused", false)) return node.value("app_id", "");
+    for (const char* inner : {"nodes", "floating_nodes"}) {
+        for (const Json& child : node.value(inner, Json::array())) {
+            if (const std::string found = focusedApplication(child); !found.empty()) return found;
+        }
+    }
+    return {};
+}
+std::string focusedApplication() {
+    return focusedApplication(Json::parse(output("swaymsg", words("-t get_tree")).toStdString()));
+}
+
+QImage screen() {
+    return QImage::fromData(output("grim", words("-"))).convertToFormat(QImage::Format_RGB32);
+}
+
+/// The smallest rectangle with all pixels in which the pictures differ.
+QRect difference(const QImage& one, const QImage& other) {
+    QRect found;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            if (one.pixel(x, y) != other.pixel(x, y)) found |= QRect{x, y, 1, 1};
+        }
+    }
+    return found;
+}
+
+/// A program that runs as long as this.
+struct Running : QProcess {
+    Running(const char* program, const QStringList& arguments = {}) {
+        setStandardOutputFile(nullDevice());
+        setStandardErrorFile(nullDevice());
+        start(QString::fromLatin1(program), arguments);
+        EXPECT_TRUE(waitForStarted()) << program;
+    }
+    ~Running() override {
+        kill();
+        waitForFinished();
+    }
+};
 
 } // namespace
 
-struct WaylandDesktop : EndToEnd {
-    void SetUp() override {
-        EndToEnd::SetUp();
-        quillon.environment.remove(QStringLiteral("DISPLAY"));
-        quillon.environment.insert(QStringLiteral("WAYLAND_DISPLAY"), sway.socket());
-        terminal.setProcessEnvironment(quillon.environment);
-        terminal.setStandardErrorFile(QProcess::nullDevice());
-        terminal.start(QStringLiteral("foot"), {QStringLiteral("cat")});
-        ASSERT_TRUE(waitUntil([this] { return focused() == "foot"; }));
+struct Wayland : EndToEnd {
+    /// What the program says of the desktop.
+    [[nodiscard]] Json desktop() const {
+        return Json::parse(quillon.run({"status", "--json"}).out)["desktop"];
     }
 
-    void TearDown() override {
-        terminal.terminate();
-        terminal.waitForFinished();
-        EndToEnd::TearDown();
+    /// Whether the phone gets the text within a while.
+    [[nodiscard]] bool arrives(const std::string& text) const {
+        return waitUntil([&] {
+            const auto notes = messages("📝 Notes & text");
+            return std::ranges::any_of(
+                notes, [&](const Json& each) { return each.value("text", "") == text; });
+        });
     }
-
-    /// Calls `take` for each window, from back to front.
-    void forWindows(const Json& container, const std::function<void(const Json&)>& take) const {
-        for (const char* list : {"nodes", "floating_nodes"}) {
-            for (const Json& each : container.value(list, Json::array()))
-                forWindows(each, take);
-        }
-        if (container.contains("pid")) take(container);
-    }
-    [[nodiscard]] std::vector<Json> windows() const {
-        std::vector<Json> all;
-        forWindows(Json::parse(sway.ask("-t get_tree")),
-                   [&](const Json& window) { all.push_back(window); });
-        return all;
-    }
-    /// The program whose window has the keyboard.
-    [[nodiscard]] std::string focused() const {
-        for (const Json& window : windows())
-            if (window["focused"] == true) return window["app_id"];
-        return {};
-    }
-
-    Sway sway;
-    QProcess terminal;
 };
 
-TEST_F(WaylandDesktop, ABannerLiesOverAFullScreenWindowAndTakesNothing) {
-    sway.ask("fullscreen enable");
+TEST_F(Wayland, TakesWhatNativeProgramsCopy) {
+    setUp();
+    EXPECT_EQ(desktop()["session"], "wayland");
+    EXPECT_EQ(desktop()["clipboard"], "wlr-data-control");
+    EXPECT_EQ(quillon.run({"send"}).err, "The clipboard is empty\n");
+    clipboard.copyText("Grüße");
+    EXPECT_EQ(quillon.run({"send"}).out, "sent\t📝 Notes & text\tGrüße\n");
+    clipboard.copy("image/png", output("convert", words("-size 40x30 xc:orange png:-")));
+    EXPECT_EQ(quillon.run({"send"}).code, 0);
+    clipboard.copyFiles({file("a b.txt"), file("c.txt")});
+    EXPECT_EQ(quillon.run({"send"}).code, 0);
+    EXPECT_THAT(messages("📎 Files"), SizeIs(2));
+    const QByteArray bitmap = output("convert", words("-size 4000x4000 xc:orange bmp3:-"));
+    EXPECT_GT(bitmap.size(), 45'000'000);
+    clipboard.copy("image/bmp", bitmap);
+    EXPECT_EQ(quillon.run({"send"}).code, 0);
+    EXPECT_THAT(messages("📸 Images"), SizeIs(2));
+}
+
+/// By the line for sway's own file that the program shows, and on KWin by KDE's portal.
+TEST_F(Wayland, SendsAtThePressOfTheShortcut) {
+    setUp();
+    clipboard.copyText("by key");
+    std::optional<Running> backend;
+    std::optional<Running> frontend;
+    if (!onSway()) {
+        // The bus would start each when it is called.
+        backend.emplace("/usr/lib/x86_64-linux-gnu/libexec/xdg-desktop-portal-kde");
+        EXPECT_TRUE(waitUntil([] {
+            return QDBusConnection::sessionBus().interface()->isServiceRegistered(
+                QStringLiteral("org.freedesktop.impl.portal.desktop.kde"));
+        }));
+        frontend.emplace("/usr/libexec/xdg-desktop-portal");
+    }
+    const auto program = startProgram();
+    const auto shortcut = [this] { return desktop()["shortcut"]; };
+    if (onSway()) {
+        EXPECT_TRUE(waitUntil([&] { return shortcut()["way"] == "compositor-line"; }));
+        sway(shortcut()["command"]);
+        pressControlAltV();
+    } else {
+        EXPECT_TRUE(waitUntil([&] { return shortcut()["state"] == "bound"; }));
+        EXPECT_EQ(shortcut()["way"], "portal");
+        QDBusMessage press = QDBusMessage::createMethodCall(
+            QStringLiteral("org.kde.kglobalaccel"), QStringLiteral("/component/quillon"),
+            QStringLiteral("org.kde.kglobalaccel.Component"), QStringLiteral("invokeShortcut"));
+        QDBusConnection::sessionBus().call(press << QStringLiteral("send-v"));
+    }
+    EXPECT_TRUE(arrives("by key"));
+    endProgram(*program);
+}
+
+/// The real portal, with a desktop's side of our own behind it.
+TEST_F(Wayland, SendsAtThePressThatAPortalTellsOf) {
+    setUp();
+    clipboard.copyText("by portal");
+    write((documents.path() + QStringLiteral("/desk.portal")).toStdString(),
+          "[portal]\nDBusName=org.freedesktop.impl.portal.desktop.desk\n"
+          "Interfaces=org.freedesktop.impl.portal.GlobalShortcuts\n"
+          "UseIn=sway;KDE\n");
+    qputenv("XDG_DESKTOP_PORTAL_DIR", documents.path().toLocal8Bit());
+    qDBusRegisterMetaType<PortalShortcut>();
+    qDBusRegisterMetaType<QList<PortalShortcut>>();
+    const QVariantMap bound{
+        {QStringLiteral("shortcuts"),
+         QVariant::fromValue(QList<PortalShortcut>{
+             {QStringLiteral("send-v"),
+              {{QStringLiteral("trigger_description"), QStringLiteral("Press it")}}}})}};
+    const BusService desk{"org.freedesktop.impl.portal.desktop.desk",
+                          {{"CreateSession", QVariantList{0U, QVariantMap{}}},
+                           {"BindShortcuts", QVariantList{0U, bound}},
+                           {"GetAll", QVariantList{QVariantMap{{QStringLiteral("version"), 1U}}}}}};
+    const Running portal{"/usr/libexec/xdg-desktop-portal"};
+    const auto program = startProgram();
+    EXPECT_TRUE(waitUntil([&] { return desktop()["shortcut"]["state"] == "bound"; }));
+    EXPECT_EQ(desktop()["shortcut"]["trigger"], "Press it");
+    desk.sendSignal("/org/freedesktop/portal/desktop",
+                    "org.freedesktop.impl.portal.GlobalShortcuts", "Activated",
+                    {desk.calls("CreateSession").value(0).arguments().value(1),
+                     QStringLiteral("send-v"), quint64{1}, QVariantMap{}});
+    EXPECT_TRUE(arrives("by portal"));
+    endProgram(*program);
+    qunsetenv("XDG_DESKTOP_PORTAL_DIR");
+}
+
+TEST_F(Wayland, ShowsTheBannerOverEverythingAndLeavesTheFocus) {
+    if (!onSway()) return; // nobody but its own tools takes pictures of KWin's screen
+    setUp();
+    const Running other{"foot", words("--fullscreen -e sleep 100")};
+    ASSERT_TRUE(waitUntil([] { return focusedApplication() == "foot"; }));
     for (const double scale : {1.0, 1.5, 2.0}) {
         SCOPED_TRACE(scale);
-        sway.ask("output * scale " + std::to_string(scale));
-        const Finished run = quillon.run({"send"});
-        EXPECT_EQ(run.err, "Finish setting up Quillon first\n");
-        std::optional<QPoint> warning;
-        EXPECT_TRUE(waitUntil([&] { return (warning = warningIn(sway.picture())).has_value(); }));
-        if (!warning) continue;
-        EXPECT_NEAR((warning->x() - 640) / scale, 120, 10) << "the banner is not in the middle";
-        // Below the bar, its own distance, the room for its shadow and half a line.
-        EXPECT_NEAR(warning->y() / scale, 23 + 12 + 16 + 21, 2);
-        EXPECT_EQ(focused(), "foot");
-        for (const int banner : quillon.processes())
-            ::kill(banner, SIGTERM);
-        EXPECT_TRUE(waitUntil([&] { return !warningIn(sway.picture()); }));
+        sway("output HEADLESS-1 scale " + std::to_string(scale));
+        clipboard.copyText("at a scale of " + std::to_string(scale));
+        QImage before;
+        EXPECT_TRUE(waitUntil([&] { return std::exchange(before, screen()) == before; }));
+        EXPECT_EQ(quillon.run({"send"}).code, 0);
+        QRect banner;
+        EXPECT_TRUE(waitUntil([&] {
+            const QRect last = std::exchange(banner, difference(before, screen()));
+            return banner == last && !banner.isEmpty();
+        }));
+        EXPECT_NEAR(banner.center().x(), before.width() / 2, 2);
+        EXPECT_GT(banner.width(), 200 * scale);
+        EXPECT_LT(banner.bottom(), 100 * scale);
+        EXPECT_EQ(focusedApplication(), "foot");
+        for (const int shown : quillon.processes())
+            ::kill(shown, SIGTERM);
+        EXPECT_TRUE(waitUntil([&] { return screen() == before; })) << "something stays";
     }
 }
 
-TEST_F(WaylandDesktop, TheProgramWorksWithoutAnXServer) {
-    const FakeHost panel{true};
-    const ScreenReader reader;
-    const auto program = startProgram();
-    reader.wait("password text", "Bot token");
-    EXPECT_TRUE(waitUntil([this] { return focused() == "dev.vostrel.quillon"; }));
-    setUp();
-    reader.wait("notification", "You're all set.");
-    ASSERT_TRUE(waitUntil([&] { return panel.items() == 1; })) << "there is no icon";
-    panel.click();
-    reader.waitForFocus("Send clipboard to phone");
-    ASSERT_EQ(windows().size(), 3U);
-    EXPECT_EQ(windows().back()["type"], "floating_con") << "the desktop has tiled the panel";
-    EXPECT_EQ(quillon.run({"send"}).code, 1);
-    EXPECT_TRUE(reader.hears("The clipboard is empty"));
+TEST_F(Wayland, LeadsFromTheFirstStartToTheFirstPicture) {
+    ScreenReader reader;
+    const auto program = quillon.start({});
+    const auto press = [&](const char* name) { reader.wait("push button", name).press(); };
+    reader.wait("password text", "Bot token").enter(token);
+    press("Connect");
+    phone.userSays(group, "hi");
+    press("Find my group");
+    press("Create the topics");
+    EXPECT_TRUE(reader.hears("You're all set."));
+    clipboard.copy("image/png", output("convert", words("-size 40x30 xc:orange png:-")));
+    press("Open panel");
+    press("Send clipboard to phone");
+    EXPECT_TRUE(waitUntil([&] { return messages("📸 Images").size() == 1; }));
+    EXPECT_TRUE(reader.hears("Sent to 📸 Images"));
     endProgram(*program);
 }
 

@@ -82,7 +82,7 @@ private:
 
 struct X11HotKeysTest : testing::Test {
     void SetUp() override {
-        hotKeys->installHandler([this] { ++presses; });
+        hotKeys->installHandler([this](const std::string& /*activation*/) { ++presses; });
     }
 
     void setLayout(const QString& layout) const {
@@ -164,7 +164,9 @@ TEST_F(X11HotKeysTest, IsRefusedAsAWholeWhatAnotherProgramHoldsInPart) {
 
 TEST_F(X11HotKeysTest, TellsOfAKeyThatIsLostAndComesBackAsTheKeyboardChanges) {
     std::vector<bool> works;
-    hotKeys->observe([&](PhysicalKey /*key*/, bool now) { works.push_back(now); });
+    hotKeys->observe([&](PhysicalKey /*key*/, const HotKeyState& now) {
+        works.push_back(now.kind == HotKeyState::Kind::bound);
+    });
     const auto registration = hotKeys->registerHotKey(PhysicalKey::v);
     const Client holder{server};
     ASSERT_TRUE(holder.grabAll(p));

@@ -101,6 +101,8 @@ TEST_F(ClipboardRead, KeepsTextAsCopiedButCountsBlankTextAsNothing) {
     for (const char* blank : {"", " \t\r\n\v\f", "\u00a0\u2003\u2028\u3000\u0085"})
         EXPECT_EQ(read({{"UTF8_STRING", blank}}), ClipContent{ClipEmpty{}}) << blank;
     EXPECT_EQ(read({}), ClipContent{ClipEmpty{}});
+    pasteboard.reachedBy = ClipboardWay::none;
+    EXPECT_EQ(read({}), ClipContent{ClipEmpty{.outOfReach = true}});
 }
 
 TEST_F(ClipboardRead, LooksAgainWhenSomethingIsCopiedMeanwhile) {
@@ -177,6 +179,9 @@ TEST(ClipboardSummary, SaysWhatTheClipboardHolds) {
         {ClipText{"\r\n\r\n\tfirst \r\nsecond"}, {"text.alignleft", "“first”"}},
         {ClipText{"   \nsecond"}, {"text.alignleft", "“”"}},
         {ClipEmpty{}, {"clipboard", "The clipboard is empty"}},
+        {ClipEmpty{.outOfReach = true},
+         {"exclamationmark.circle", "The clipboard is out of reach. This desktop offers neither "
+                                    "data-control nor Xwayland."}},
     };
     for (const auto& [content, summary] : cases)
         EXPECT_EQ(Clipboard::summary(content), summary) << summary.line;

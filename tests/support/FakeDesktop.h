@@ -107,20 +107,21 @@ public:
     std::set<PhysicalKey> takenByOthers;
     std::multiset<PhysicalKey> registered;
     int handlersInstalled = 0;
+    int offersTaken = 0;
 
     void press(PhysicalKey key) const {
-        if (registered.contains(key) && handler_) handler_();
+        if (registered.contains(key) && handler_) handler_("token of the key");
     }
 
-    void installHandler(std::function<void()> handler) override {
+    void installHandler(std::function<void(const std::string&)> handler) override {
         ++handlersInstalled;
         handler_ = std::move(handler);
     }
-    void observe(std::function<void(PhysicalKey, bool)> observer) override {
+    void observe(std::function<void(PhysicalKey, const HotKeyState&)> observer) override {
         observer_ = std::move(observer);
     }
-    /// As after a change of the keyboard.
-    void tell(PhysicalKey key, bool works) const { observer_(key, works); }
+    /// As after an answer of the desktop, or a change of the keyboard.
+    void tell(PhysicalKey key, const HotKeyState& state) const { observer_(key, state); }
     [[nodiscard]] std::unique_ptr<Registration> registerHotKey(PhysicalKey key) override {
         // Like the real ones, refuses what this process itself holds.
         if (takenByOthers.contains(key) || registered.contains(key)) return nullptr;
@@ -133,14 +134,15 @@ private:
     public:
         FakeRegistration(FakeHotKeys& owner, PhysicalKey key) : owner_{owner}, key_{key} {}
         ~FakeRegistration() override { owner_.registered.extract(key_); }
+        void takeOffer() override { ++owner_.offersTaken; }
 
     private:
         FakeHotKeys& owner_;
         PhysicalKey key_;
     };
 
-    std::function<void()> handler_;
-    std::function<void(PhysicalKey, bool)> observer_;
+    std::function<void(const std::string&)> handler_;
+    std::function<void(PhysicalKey, const HotKeyState&)> observer_;
 };
 
 /// A login item in memory, which can refuse.
@@ -185,6 +187,10 @@ public:
         log.push_back("list " + application.native());
     }
     void unlistApplication() override { log.emplace_back("unlist"); }
+    [[nodiscard]] QFuture<void> removeKeyBindings() override {
+        log.emplace_back("unbind");
+        return QtFuture::makeReadyFuture();
+    }
     void activate() override { log.emplace_back("activate"); }
     void bringToFront(QWindow& window) override {
         log.emplace_back("front");

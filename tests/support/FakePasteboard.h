@@ -22,6 +22,7 @@ public:
         ++changes_;
     }
 
+    [[nodiscard]] ClipboardWay way() const override { return reachedBy; }
     [[nodiscard]] std::uint64_t changeCount() const override { return changes_; }
 
     [[nodiscard]] QFuture<std::vector<std::string>> formats() override {
@@ -51,6 +52,7 @@ public:
         }
     }
 
+    ClipboardWay reachedBy = ClipboardWay::x11;
     std::map<std::string, int> reads;
     /// Bytes that are asked for stay out until giveUp().
     bool hesitates = false;

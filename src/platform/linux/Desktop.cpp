@@ -1,11 +1,13 @@
 #include "platform/linux/Desktop.h"
 
 #include "platform/linux/Application.h"
+#include "platform/linux/DesktopHotKeys.h"
+#include "platform/linux/OpenPasteboard.h"
 #include "platform/linux/desktop/ActivationToken.h"
+#include "platform/linux/shortcut/FoundSession.h"
 #include "platform/linux/wayland/LayerOverlay.h"
 #include "platform/linux/x11/X11Compositor.h"
-#include "platform/linux/x11/X11HotKeys.h"
-#include "platform/linux/x11/X11Pasteboard.h"
+#include "platform/linux/x11/X11Connection.h"
 
 #include <QApplication>
 #include <QDir>
@@ -16,6 +18,9 @@ namespace quillon {
 namespace {
 
 using namespace std::chrono_literals;
+
+/// Qt's platform that shows nothing, and needs no display.
+constexpr const char* noWindows = "offscreen";
 
 /// Within this a compositor that is well has told what it offers, long before the first banner. It
 /// is a frame's time, for which the main thread may wait once.
@@ -51,12 +56,14 @@ bool hasWaylandWindows() {
 
 /// Where the windows are, by Qt's names: on the X server where one answers, which lets the panel
 /// choose its place, unless the user wants it otherwise (null, which has Qt look); else on Wayland.
-/// None when there is neither.
-std::optional<const char*> windowPlatform(bool onX11, LayerShell* wayland) {
-    if (onX11) return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? nullptr : "xcb";
-    if (!wayland || !hasWaylandWindows() || !wayland->waitForOffers(displayPatience))
-        return std::nullopt;
-    return "wayland";
+/// What is on the clipboard can be sent without windows. None when there is neither.
+std::optional<const char*> windowPlatform(DesktopNeeds needs, ClipboardWay way,
+                                          LayerShell* wayland) {
+    if (way == ClipboardWay::x11 || X11Connection::open(nullptr))
+        return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? nullptr : "xcb";
+    if (wayland && hasWaylandWindows() && wayland->waitForOffers(displayPatience)) return "wayland";
+    if (way != ClipboardWay::none && needs == DesktopNeeds::clipboardAndBanner) return noWindows;
+    return std::nullopt;
 }
 
 } // namespace
@@ -71,14 +78,14 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
         return desktop;
     }
     // Before the application, which would end the process where nothing answers.
-    auto shell = LayerShell::open();
-    auto pasteboard = X11Pasteboard::open(nullptr);
-    const auto platform = windowPlatform(pasteboard != nullptr, shell.get());
+    desktop.pasteboard = openPasteboard();
+    auto shell = foundSession().wayland ? LayerShell::open() : nullptr;
+    const auto platform = windowPlatform(needs, desktop.pasteboard->way(), shell.get());
     if (!platform) return std::nullopt;
-    if (pasteboard) desktop.pasteboard = std::move(pasteboard);
     desktop.application = makeApplication<QApplication>(*platform);
     ActivationToken::takeFromLauncher();
     QApplication::setQuitOnLastWindowClosed(false);
+    if (*platform == noWindows && !shell) return desktop;
     if (shell) {
         shell->followEvents();
         desktop.compositor = std::make_unique<WaylandCompositor>(std::move(shell));
@@ -86,7 +93,7 @@ std::optional<Desktop> openDesktop(DesktopNeeds needs) {
         desktop.compositor = std::make_unique<X11Compositor>();
     }
     if (needs == DesktopNeeds::clipboardAndBanner) return desktop;
-    if (auto hotKeys = X11HotKeys::open(nullptr)) desktop.hotKeys = std::move(hotKeys);
+    desktop.hotKeys = openHotKeys();
     return desktop;
 }
 

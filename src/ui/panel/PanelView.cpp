@@ -1,6 +1,7 @@
 #include "ui/panel/PanelView.h"
 
 #include "base/ShownText.h"
+#include "desktop/ShortcutSentence.h"
 #include "maintenance/Updater.h"
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
@@ -55,6 +56,10 @@ TextButton* footerButton(const QString& text, const char* symbol) {
     return new TextButton{text, symbol, {.kind = ButtonKind::borderless, .style = Text::callout}};
 }
 
+IconLabel* makeHint() {
+    return new IconLabel{{}, "info.circle", {.style = Text::caption, .ink = Ink::secondary}};
+}
+
 IconLabel* makeWarning() {
     auto* const warning = new IconLabel{
         {}, "exclamationmark.triangle.fill", {.style = Text::caption, .ink = Ink::warning}};
@@ -74,6 +79,7 @@ PanelView::PanelView(Platform& platform, Store& store, const Updater& updater, P
       setup_{new SetupCard},
       send_{new SendButton},
       warning_{makeWarning()},
+      shortcut_{makeHint()},
       keyring_{makeWarning()},
       recent_{new RecentSends},
       refresher_{this, [this] { refresh(); }} {
@@ -87,7 +93,7 @@ void PanelView::build() {
     auto* const parts = new QVBoxLayout;
     parts->setSpacing(spacing);
     for (QWidget* part : std::initializer_list<QWidget*>{header_, setup_, send_, keyring_, warning_,
-                                                         recent_, new Divider})
+                                                         shortcut_, recent_, new Divider})
         parts->addWidget(part);
 
     // The texts of the footer's buttons line up with everything else, not the buttons' edges.
@@ -129,17 +135,31 @@ void PanelView::refresh() {
     setup_->setShortcut(keys);
     setup_->setVisible(!ready);
     send_->setClip(clip_, store_.busy());
-    send_->setShortcut(config.shortcut);
     send_->setVisible(ready);
     const auto problem = ready ? store_.keyringProblem() : std::nullopt;
     keyring_->setText(QString::fromStdString(problem.value_or("")));
     keyring_->setVisible(problem.has_value());
-    warning_->setText(takenText(config.shortcut));
-    warning_->setVisible(store_.shortcutTaken());
+    refreshShortcut();
     recent_->setHistory(store_.history(), platform_.clock.now(), platform_.system.locale);
     updates_->setVisible(updater_.available());
     updates_->setEnabled(updater_.canCheck());
     updateGeometry();
+}
+
+void PanelView::refreshShortcut() {
+    const ShortcutChoice choice = store_.config().shortcut;
+    const HotKeyState& state = store_.shortcut();
+    const QString sentence =
+        store_.shortcutTaken()
+            ? takenText(choice)
+            : QString::fromStdString(shortcutSentence(state, choice, ShortcutPlace::panel));
+    const bool warns = store_.shortcutTaken() || wantsAttention(state);
+    warning_->setText(sentence);
+    warning_->setVisible(warns && !store_.shortcutCommandCopied());
+    shortcut_->setText(sentence);
+    shortcut_->setVisible(!warns && !sentence.isEmpty());
+    // The desktop may have bound other keys than were asked for, and names them in its own words.
+    send_->setShortcut(choice, state.trigger.empty());
 }
 
 QString PanelView::takenText(ShortcutChoice shortcut) {

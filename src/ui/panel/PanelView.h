@@ -62,6 +62,7 @@ private:
     [[nodiscard]] QHBoxLayout* buildFooter(TextButton* settings);
     /// Shows the state of the store, the updater and the clipboard.
     void refresh();
+    void refreshShortcut();
     /// Looks at everything that changes without a signal, and schedules the next look.
     void tick();
     QCoro::Task<> readClipboard();
@@ -82,6 +83,8 @@ private:
     SetupCard* setup_;
     SendButton* send_;
     IconLabel* warning_;
+    /// Tells what has become of the shortcut where nobody need do anything about it.
+    IconLabel* shortcut_;
     /// Tells why the token cannot be had.
     IconLabel* keyring_;
     RecentSends* recent_;

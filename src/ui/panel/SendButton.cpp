@@ -65,8 +65,9 @@ void SendButton::setClip(const Clipboard::Summary& clip, bool busy) {
     setDescription(*this, busy ? tr("Sending…") : line);
 }
 
-void SendButton::setShortcut(ShortcutChoice shortcut) {
+void SendButton::setShortcut(ShortcutChoice shortcut, bool shown) {
     keys_->setLabels(keyLabels(shortcut));
+    keys_->setVisible(shown);
 }
 
 void SendButton::paintGround(QPainter& painter, const Theme& theme) {

@@ -18,7 +18,8 @@ public:
     SendButton();
 
     void setClip(const Clipboard::Summary& clip, bool busy);
-    void setShortcut(ShortcutChoice shortcut);
+    /// Shows the keys of the shortcut, or none.
+    void setShortcut(ShortcutChoice shortcut, bool shown);
 
 protected:
     void paintGround(QPainter& painter, const Theme& theme) override;

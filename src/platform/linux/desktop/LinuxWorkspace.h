@@ -15,6 +15,7 @@ public:
     [[nodiscard]] QFuture<bool> trash(std::filesystem::path path) override;
     void listApplication(const std::filesystem::path& application) override;
     void unlistApplication() override;
+    [[nodiscard]] QFuture<void> removeKeyBindings() override;
     void activate() override;
     void bringToFront(QWindow& window) override;
     void keepOffTaskBar(QWindow& window) override;

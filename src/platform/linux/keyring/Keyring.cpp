@@ -1,6 +1,6 @@
 #include "platform/linux/keyring/Keyring.h"
 
-#include "platform/linux/keyring/SecretServiceWatch.h"
+#include "base/Environment.h"
 
 namespace quillon {
 

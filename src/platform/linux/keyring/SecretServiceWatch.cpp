@@ -9,7 +9,6 @@
 #include <QMap>
 #include <QPromise>
 
-#include <filesystem>
 #include <limits>
 #include <memory>
 #include <utility>
@@ -36,14 +35,6 @@ SecretAnswer answerOf(const QDBusPendingReply<Paths, Paths>& reply) {
 }
 
 } // namespace
-
-bool hasSessionBus() {
-    if (const auto address = environment("DBUS_SESSION_BUS_ADDRESS"))
-        return !address->starts_with("autolaunch:");
-    const auto folder = environment("XDG_RUNTIME_DIR");
-    std::error_code ignored;
-    return folder && std::filesystem::is_socket(std::filesystem::path{*folder} / "bus", ignored);
-}
 
 SecretServiceWatch::SecretServiceWatch(QDBusConnection bus) : bus_{std::move(bus)} {
     qDBusRegisterMetaType<Attributes>();

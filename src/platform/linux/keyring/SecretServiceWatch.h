@@ -8,10 +8,6 @@
 
 namespace quillon {
 
-/// Whether there is a session bus already. Otherwise D-Bus libraries would start one, whose keyring
-/// only this program could see.
-[[nodiscard]] bool hasSessionBus();
-
 /// What the bus tells of the Secret Service: whether it has an item, and when that may change. The
 /// program's own connection serves for this, which is open anyway: libsecret would take a thread
 /// and a connection of its own for it at every start.

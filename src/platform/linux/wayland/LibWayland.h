@@ -11,10 +11,12 @@ namespace quillon {
 /// those of a library that is linked.
 inline constinit const LateLibrary libwayland{QUILLON_WAYLAND};
 
+QUILLON_LATE(libwayland, wl_display_connect);
 QUILLON_LATE(libwayland, wl_display_connect_to_fd);
 QUILLON_LATE(libwayland, wl_display_disconnect);
 QUILLON_LATE(libwayland, wl_display_dispatch_pending);
 QUILLON_LATE(libwayland, wl_display_flush);
+QUILLON_LATE(libwayland, wl_display_get_error);
 QUILLON_LATE(libwayland, wl_display_get_fd);
 QUILLON_LATE(libwayland, wl_display_prepare_read);
 QUILLON_LATE(libwayland, wl_display_read_events);

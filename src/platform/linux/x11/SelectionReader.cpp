@@ -33,27 +33,35 @@ qsizetype announcedSize(const xcb_get_property_reply_t& reply) {
 
 } // namespace
 
-SelectionReader::SelectionReader(X11Connection& connection, std::function<void()> ownerChanged)
-    : connection_{connection},
-      ownerChanged_{std::move(ownerChanged)} {
+std::unique_ptr<SelectionReader> SelectionReader::open(const char* display,
+                                                       const ReaderHost& host) {
+    auto connection = X11Connection::open(display);
+    if (!connection) return nullptr;
+    std::unique_ptr<SelectionReader> reader{new SelectionReader{std::move(connection), host}};
+    return reader->firstXfixesEvent_ != 0 ? std::move(reader) : nullptr;
+}
+
+SelectionReader::SelectionReader(std::unique_ptr<X11Connection> connection, ReaderHost host)
+    : connection_{std::move(connection)},
+      host_{std::move(host)} {
     if (!selectEvents()) return;
-    clipboard_ = internAtom(connection_.get(), "CLIPBOARD");
-    targets_ = internAtom(connection_.get(), "TARGETS");
-    incr_ = internAtom(connection_.get(), "INCR");
-    utf8String_ = internAtom(connection_.get(), "UTF8_STRING");
-    property_ = internAtom(connection_.get(), "QUILLON_CLIPBOARD");
-    selectOwnerEvents(connection_.get(), connection_.root(), clipboard_);
+    clipboard_ = internAtom(connection_->get(), "CLIPBOARD");
+    targets_ = internAtom(connection_->get(), "TARGETS");
+    incr_ = internAtom(connection_->get(), "INCR");
+    utf8String_ = internAtom(connection_->get(), "UTF8_STRING");
+    property_ = internAtom(connection_->get(), "QUILLON_CLIPBOARD");
+    selectOwnerEvents(connection_->get(), connection_->root(), clipboard_);
     openWindow();
-    xcb_flush(connection_.get());
+    xcb_flush(connection_->get());
 }
 
 bool SelectionReader::selectEvents() {
-    const auto* extension = xcb_get_extension_data(connection_.get(), &xcb_xfixes_id);
+    const auto* extension = xcb_get_extension_data(connection_->get(), &xcb_xfixes_id);
     if (extension == nullptr || extension->present == 0) return false;
     // The server refuses every other XFixes request until the client has asked for a version.
-    const auto cookie = xcb_xfixes_query_version(connection_.get(), 1, 0);
+    const auto cookie = xcb_xfixes_query_version(connection_->get(), 1, 0);
     const XcbPointer<xcb_xfixes_query_version_reply_t> version{
-        xcb_xfixes_query_version_reply(connection_.get(), cookie, nullptr)};
+        xcb_xfixes_query_version_reply(connection_->get(), cookie, nullptr)};
     if (!version) return false;
     firstXfixesEvent_ = extension->first_event;
     return true;
@@ -73,7 +81,7 @@ std::vector<std::string> SelectionReader::formats() {
 std::optional<QByteArray> SelectionReader::data(const std::string& format) {
     const auto target = atomOf(format);
     if (!target) return {};
-    auto answer = convert(*target, maximumSize);
+    auto answer = convert(*target, host_.limits.size);
     if (!answer || !isRightType(*target, *answer)) return {};
     return std::move(answer->bytes);
 }
@@ -91,8 +99,8 @@ bool SelectionReader::isRightType(xcb_atom_t target, const Property& answer) con
 std::optional<xcb_atom_t> SelectionReader::atomOf(const std::string& name) {
     if (const auto known = atoms_.find(name); known != atoms_.end()) return known->second;
     // If no program has made an atom of the name, no owner offers it.
-    const auto cookie =
-        xcb_intern_atom(connection_.get(), 1, static_cast<std::uint16_t>(name.size()), name.data());
+    const auto cookie = xcb_intern_atom(connection_->get(), 1,
+                                        static_cast<std::uint16_t>(name.size()), name.data());
     const auto answer = reply<xcb_intern_atom_reply_t>(cookie.sequence);
     if (!answer || answer->atom == XCB_ATOM_NONE) return {};
     return atoms_[name] = answer->atom;
@@ -102,12 +110,12 @@ std::vector<std::string> SelectionReader::namesOf(const std::vector<xcb_atom_t>&
     std::vector<std::pair<xcb_atom_t, unsigned>> questions;
     for (const xcb_atom_t atom : atoms) {
         if (names_.contains(atom)) continue;
-        questions.emplace_back(atom, xcb_get_atom_name(connection_.get(), atom).sequence);
+        questions.emplace_back(atom, xcb_get_atom_name(connection_->get(), atom).sequence);
     }
-    const auto deadline = std::chrono::steady_clock::now() + patience;
+    const auto deadline = std::chrono::steady_clock::now() + host_.limits.patience;
     for (const auto& [atom, sequence] : questions) {
         if (std::chrono::steady_clock::now() >= deadline) {
-            xcb_discard_reply(connection_.get(), sequence); // one deadline covers all questions
+            xcb_discard_reply(connection_->get(), sequence); // one deadline covers all questions
             continue;
         }
         const auto answer = reply<xcb_get_atom_name_reply_t>(sequence);
@@ -149,7 +157,7 @@ void SelectionReader::ask(xcb_atom_t target) {
     overtaken_ = false;
     target_ = target;
     answer_.reset();
-    question_ = xcb_convert_selection(connection_.get(), window_, clipboard_, target, property_,
+    question_ = xcb_convert_selection(connection_->get(), window_, clipboard_, target, property_,
                                       XCB_CURRENT_TIME)
                     .sequence;
 }
@@ -161,10 +169,10 @@ std::optional<SelectionReader::Property> SelectionReader::receivePieces(qsizetyp
     if (announced > limit) return {};
     Property whole;
     whole.bytes.reserve(announced);
-    const auto end = std::chrono::steady_clock::now() + transferLimit;
+    const auto end = std::chrono::steady_clock::now() + host_.limits.transfer;
     while (waitForOwner([this] { return newValue_; })) {
         if (std::chrono::steady_clock::now() >= end) {
-            silence_ = patience;
+            silence_ = host_.limits.patience;
             return {};
         }
         const auto piece = takeProperty(limit);
@@ -192,15 +200,15 @@ std::optional<SelectionReader::Property> SelectionReader::receivePieces(qsizetyp
 XcbPointer<xcb_get_property_reply_t> SelectionReader::takeProperty(qsizetype limit) {
     newValue_ = false;
     const auto units = static_cast<std::uint32_t>(limit / 4);
-    const auto cookie = xcb_get_property(connection_.get(), 1, window_, property_,
+    const auto cookie = xcb_get_property(connection_->get(), 1, window_, property_,
                                          XCB_GET_PROPERTY_TYPE_ANY, 0, units);
     return reply<xcb_get_property_reply_t>(cookie.sequence);
 }
 
 void SelectionReader::openWindow() {
-    window_ = xcb_generate_id(connection_.get());
+    window_ = xcb_generate_id(connection_->get());
     constexpr std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_create_window(connection_.get(), 0, window_, connection_.root(), 0, 0, 1, 1, 0,
+    xcb_create_window(connection_->get(), 0, window_, connection_->root(), 0, 0, 1, 1, 0,
                       XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK,
                       &events);
 }
@@ -208,14 +216,14 @@ void SelectionReader::openWindow() {
 void SelectionReader::retireWindow() {
     retired_.push_back(window_);
     if (retired_.size() > maximumRetired) {
-        xcb_destroy_window(connection_.get(), retired_.front());
+        xcb_destroy_window(connection_->get(), retired_.front());
         retired_.pop_front();
     }
     openWindow();
 }
 
 void SelectionReader::handleEvents() {
-    while (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())})
+    while (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(connection_->get())})
         handle(*event);
 }
 
@@ -241,7 +249,7 @@ void SelectionReader::noteAnswer(const xcb_selection_notify_event_t& event) {
     // A late answer is complete; destroying its window frees it.
     const auto late = std::find(retired_.begin(), retired_.end(), event.requestor);
     if (late == retired_.end()) return;
-    xcb_destroy_window(connection_.get(), *late);
+    xcb_destroy_window(connection_->get(), *late);
     retired_.erase(late);
     noteLateAnswer();
 }
@@ -250,7 +258,7 @@ void SelectionReader::noteAnswer(const xcb_selection_notify_event_t& event) {
 void SelectionReader::noteLateAnswer() {
     if (!silent()) return;
     silence_ = {};
-    ownerChanged_();
+    host_.changed();
 }
 
 /// An owner that was replaced or is gone answers no more, or with content that is no longer on the
@@ -258,7 +266,7 @@ void SelectionReader::noteLateAnswer() {
 /// owner.
 void SelectionReader::noteOwner(std::uint32_t sequence) {
     silence_ = {};
-    ownerChanged_();
+    host_.changed();
     const bool sinceQuestion = static_cast<std::int32_t>(sequence - question_) >= 0;
     if (open_ && sinceQuestion) overtaken_ = true;
 }
@@ -266,13 +274,13 @@ void SelectionReader::noteOwner(std::uint32_t sequence) {
 template <typename Done>
 bool SelectionReader::waitForOwner(Done done) {
     const auto start = std::chrono::steady_clock::now();
-    if (waitUntil(start + patience - silence_, done)) {
+    if (waitUntil(start + host_.limits.patience - silence_, done)) {
         silence_ += std::chrono::steady_clock::now() - start;
         return true;
     }
     // An answer that comes now is a late one.
     if (!overtaken_) {
-        silence_ = patience;
+        silence_ = host_.limits.patience;
         retireWindow();
         open_ = false;
     }
@@ -280,13 +288,13 @@ bool SelectionReader::waitForOwner(Done done) {
 }
 
 template <typename Done>
-bool SelectionReader::waitUntil(X11Connection::Time deadline, Done done) {
+bool SelectionReader::waitUntil(Bell::Time deadline, Done done) {
     for (;;) {
         handleEvents();
-        if (!connection_.alive() || stop_.stop_requested()) return false;
+        if (!connection_->alive() || host_.stop.stop_requested()) return false;
         if (done()) return true;
         if ((open_ && overtaken_) || std::chrono::steady_clock::now() >= deadline) return false;
-        connection_.sleep(deadline);
+        connection_->sleep(host_.bell, deadline);
     }
 }
 
@@ -294,10 +302,10 @@ template <typename Reply>
 XcbPointer<Reply> SelectionReader::reply(unsigned sequence) {
     void* answer = nullptr;
     xcb_generic_error_t* error = nullptr;
-    const bool arrived = waitUntil(std::chrono::steady_clock::now() + patience, [&] {
-        return xcb_poll_for_reply(connection_.get(), sequence, &answer, &error) != 0;
+    const bool arrived = waitUntil(std::chrono::steady_clock::now() + host_.limits.patience, [&] {
+        return xcb_poll_for_reply(connection_->get(), sequence, &answer, &error) != 0;
     });
-    if (!arrived) xcb_discard_reply(connection_.get(), sequence);
+    if (!arrived) xcb_discard_reply(connection_->get(), sequence);
     std::free(error); // NOLINT: xcb hands out malloc'd
     return XcbPointer<Reply>{static_cast<Reply*>(answer)};
 }

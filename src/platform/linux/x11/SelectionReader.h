@@ -1,56 +1,28 @@
 #pragma once
 
+#include "platform/linux/pasteboard/ClipboardReader.h"
 #include "platform/linux/x11/X11Connection.h"
 
-#include <QByteArray>
-
-#include <chrono>
 #include <cstdint>
 #include <deque>
-#include <functional>
 #include <map>
-#include <optional>
-#include <stop_token>
-#include <string>
-#include <vector>
 
 namespace quillon {
 
-/// Asks the owner of X11's CLIPBOARD selection for its content. Each question blocks the calling
-/// thread until it is answered, given up or stopped.
-class SelectionReader {
+/// Asks the owner of X11's CLIPBOARD selection for its content. Formats are X11 targets.
+class SelectionReader final : public ClipboardReader {
 public:
-    /// How long all questions since formats() together wait for an owner that gives nothing. Each
-    /// byte starts the time anew. After it the owner counts as silent: no question is put to it
-    /// until it changes, or answers after all.
-    static constexpr std::chrono::milliseconds patience{1000};
-    /// After this time, no further piece of a large answer is waited for, and the owner counts as
-    /// silent.
-    static constexpr std::chrono::seconds transferLimit{30};
-    /// A larger answer counts as none, in bytes.
-    static constexpr qsizetype maximumSize = qsizetype{256} * 1024 * 1024;
+    /// Reads the clipboard of `display` (null: what $DISPLAY names); null if there is no such
+    /// display or its server lacks XFixes.
+    [[nodiscard]] static std::unique_ptr<SelectionReader> open(const char* display,
+                                                               const ReaderHost& host);
 
-    /// `ownerChanged` is called on the reading thread, each time something is copied, the owner
-    /// goes away, or one answers that counted as silent. Check ready() before use.
-    SelectionReader(X11Connection& connection, std::function<void()> ownerChanged);
-
-    /// False when the server lacks what reading needs (the XFixes extension).
-    [[nodiscard]] bool ready() const { return firstXfixesEvent_ != 0; }
-
-    /// Once stop is requested and the connection rung, the present question and every later one
-    /// end.
-    void stopOn(std::stop_token stop) { stop_ = std::move(stop); }
-
-    /// The names of the targets that the owner offers, in its order; empty when there is no answer.
-    /// Begins a reading.
-    [[nodiscard]] std::vector<std::string> formats();
-
-    /// The selection converted to the target of this name; none when refused or not answered, or
-    /// when the answer is of a wrong type or too large.
-    [[nodiscard]] std::optional<QByteArray> data(const std::string& format);
-
-    /// Handles everything that has arrived. Call it between questions.
-    void handleEvents();
+    [[nodiscard]] ClipboardWay way() const override { return ClipboardWay::x11; }
+    [[nodiscard]] bool alive() const override { return connection_->alive(); }
+    [[nodiscard]] std::vector<std::string> formats() override;
+    [[nodiscard]] std::optional<QByteArray> data(const std::string& format) override;
+    void handleEvents() override;
+    void sleep() override { connection_->sleep(host_.bell, {}); }
 
 private:
     struct Property {
@@ -59,6 +31,7 @@ private:
         QByteArray bytes;
     };
 
+    SelectionReader(std::unique_ptr<X11Connection> connection, ReaderHost host);
     bool selectEvents();
     [[nodiscard]] std::optional<xcb_atom_t> atomOf(const std::string& name);
     [[nodiscard]] std::vector<std::string> namesOf(const std::vector<xcb_atom_t>& atoms);
@@ -76,20 +49,19 @@ private:
     void noteOwner(std::uint32_t sequence);
     void noteLateAnswer();
 
-    [[nodiscard]] bool silent() const { return silence_ >= patience; }
+    [[nodiscard]] bool silent() const { return silence_ >= host_.limits.patience; }
     /// Both wait for what the connection brings; false when it does not come in time, or never
     /// will.
     template <typename Done>
     bool waitForOwner(Done done);
     template <typename Done>
-    bool waitUntil(X11Connection::Time deadline, Done done);
+    bool waitUntil(Bell::Time deadline, Done done);
     template <typename Reply>
     XcbPointer<Reply> reply(unsigned sequence);
 
-    X11Connection& connection_;
-    std::function<void()> ownerChanged_;
-    std::stop_token stop_;
-    int firstXfixesEvent_ = 0;
+    std::unique_ptr<X11Connection> connection_;
+    ReaderHost host_;
+    int firstXfixesEvent_ = 0; ///< 0 if the server lacks XFixes
     xcb_atom_t clipboard_ = XCB_ATOM_NONE;
     xcb_atom_t targets_ = XCB_ATOM_NONE;
     xcb_atom_t incr_ = XCB_ATOM_NONE;

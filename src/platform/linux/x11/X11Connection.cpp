@@ -2,13 +2,8 @@
 
 #include <QGuiApplication>
 
-#include <poll.h>
-#include <sys/eventfd.h>
-#include <unistd.h>
 #include <xcb/xfixes.h>
 
-#include <algorithm>
-#include <array>
 #include <string>
 
 namespace quillon {
@@ -29,15 +24,6 @@ int defaultScreen() {
     int display = 0;
     if (xcb_parse_display(nullptr, &host, &display, &screen)) std::free(host); // NOLINT: malloc'd
     return screen;
-}
-
-/// The time left in the form that poll(2) takes: -1 without a deadline. Rounds up, so that a sleep
-/// never ends just before its deadline.
-int millisecondsUntil(std::optional<X11Connection::Time> deadline) {
-    if (!deadline) return -1;
-    const auto left = *deadline - std::chrono::steady_clock::now();
-    const auto rounded = std::chrono::ceil<std::chrono::milliseconds>(left).count();
-    return static_cast<int>(std::clamp<std::int64_t>(rounded, 0, 60'000));
 }
 
 } // namespace
@@ -76,39 +62,25 @@ std::unique_ptr<X11Connection> X11Connection::open(const char* display) {
     xcb_connection_t* connection = xcb_connect(display, &screen); // never null
     if (xcb_connection_has_error(connection) == 0) {
         const xcb_window_t root = rootWindow(connection, screen);
-        const int bell = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-        if (root != XCB_WINDOW_NONE && bell >= 0) {
-            return std::unique_ptr<X11Connection>{new X11Connection{connection, root, bell}};
-        }
-        if (bell >= 0) close(bell);
+        if (root != XCB_WINDOW_NONE)
+            return std::unique_ptr<X11Connection>{new X11Connection{connection, root}};
     }
     xcb_disconnect(connection);
     return nullptr;
 }
 
-X11Connection::X11Connection(xcb_connection_t* connection, xcb_window_t root, int bell)
+X11Connection::X11Connection(xcb_connection_t* connection, xcb_window_t root)
     : connection_{connection},
-      root_{root},
-      bell_{bell} {}
+      root_{root} {}
 
 X11Connection::~X11Connection() {
     xcb_disconnect(connection_);
-    close(bell_);
 }
 
-void X11Connection::ring() const {
-    eventfd_write(bell_, 1);
-}
-
-void X11Connection::sleep(std::optional<Time> deadline) const {
+void X11Connection::sleep(const Bell& bell, std::optional<Bell::Time> deadline) const {
     xcb_flush(connection_);
-    // A dead server's socket is always readable, so it is replaced by a negative number, which poll
-    // ignores.
-    const int socket = alive() ? xcb_get_file_descriptor(connection_) : -1;
-    std::array<pollfd, 2> sources{{{bell_, POLLIN, 0}, {socket, POLLIN, 0}}};
-    poll(sources.data(), sources.size(), millisecondsUntil(deadline));
-    eventfd_t rung = 0;
-    eventfd_read(bell_, &rung);
+    // A dead server's socket is always readable, so it is replaced by a negative number.
+    bell.sleep({alive() ? xcb_get_file_descriptor(connection_) : -1}, deadline);
 }
 
 } // namespace quillon

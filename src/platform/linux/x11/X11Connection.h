@@ -1,8 +1,9 @@
 #pragma once
 
+#include "platform/linux/pasteboard/Bell.h"
+
 #include <xcb/xcb.h>
 
-#include <chrono>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
@@ -41,13 +42,10 @@ inline constexpr std::uint8_t eventTypeMask = 0x7F;
 /// owner or loses its owner. The server must have the XFixes extension.
 void selectOwnerEvents(xcb_connection_t* connection, xcb_window_t root, xcb_atom_t selection);
 
-/// A separate connection to the X server, for one thread that sleeps until the server has sent
-/// something or another thread rings. If the server dies, the connection is dead, but the program
-/// goes on.
+/// A separate connection to the X server, for one thread. If the server dies, the connection is
+/// dead, but the program goes on.
 class X11Connection {
 public:
-    using Time = std::chrono::steady_clock::time_point;
-
     /// Connects to `display` (null: what $DISPLAY names); null when there is no such display.
     [[nodiscard]] static std::unique_ptr<X11Connection> open(const char* display);
 
@@ -62,19 +60,15 @@ public:
     /// False once the server is gone; it stays so.
     [[nodiscard]] bool alive() const { return xcb_connection_has_error(connection_) == 0; }
 
-    /// Ends the present sleep, or else the next one. Thread-safe.
-    void ring() const;
-
-    /// Sends what is buffered and sleeps until something arrives, ring() or the deadline. Take
+    /// Sends what is buffered and sleeps until something arrives, the bell or the deadline. Take
     /// queued events and replies first: they do not end the sleep.
-    void sleep(std::optional<Time> deadline) const;
+    void sleep(const Bell& bell, std::optional<Bell::Time> deadline) const;
 
 private:
-    X11Connection(xcb_connection_t* connection, xcb_window_t root, int bell);
+    X11Connection(xcb_connection_t* connection, xcb_window_t root);
 
     xcb_connection_t* connection_;
     xcb_window_t root_;
-    int bell_; ///< an eventfd
 };
 
 } // namespace quillon

@@ -81,11 +81,11 @@ X11HotKeys::X11HotKeys(std::unique_ptr<X11Connection> connection, X11Keyboard ke
     takeEventsSoon();
 }
 
-void X11HotKeys::installHandler(std::function<void()> handler) {
+void X11HotKeys::installHandler(std::function<void(const std::string&)> handler) {
     handler_ = std::move(handler);
 }
 
-void X11HotKeys::observe(std::function<void(PhysicalKey, bool)> observer) {
+void X11HotKeys::observe(std::function<void(PhysicalKey, const HotKeyState&)> observer) {
     observer_ = std::move(observer);
 }
 
@@ -143,8 +143,9 @@ void X11HotKeys::followKeyboard() {
         if (grabbed != before) changed[key] = grabbed;
     }
     // The observer may register other keys.
+    using enum HotKeyState::Kind;
     for (const auto& [key, works] : changed) {
-        if (observer_) observer_(key, works);
+        if (observer_) observer_(key, {.kind = works ? bound : taken});
     }
 }
 
@@ -183,7 +184,7 @@ void X11HotKeys::pressed(const xcb_key_press_event_t& event) {
     const bool repeats = held_ == event.detail && event.time - lastPress_ <= keyboard_.repeatPause;
     held_ = event.detail;
     lastPress_ = event.time;
-    if (!repeats && handler_) handler_();
+    if (!repeats && handler_) handler_({});
 }
 
 } // namespace quillon

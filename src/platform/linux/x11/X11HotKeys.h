@@ -21,8 +21,9 @@ public:
     /// its server has no XKB.
     [[nodiscard]] static std::unique_ptr<X11HotKeys> open(const char* display);
 
-    void installHandler(std::function<void()> handler) override;
-    void observe(std::function<void(PhysicalKey key, bool works)> observer) override;
+    void installHandler(std::function<void(const std::string&)> handler) override;
+    /// Of the states, X11 knows bound and taken.
+    void observe(std::function<void(PhysicalKey, const HotKeyState&)> observer) override;
     /// Waits for the server's answer. Also refuses a key that is registered already.
     [[nodiscard]] std::unique_ptr<Registration> registerHotKey(PhysicalKey key) override;
 
@@ -47,8 +48,8 @@ private:
     std::vector<xcb_window_t> roots_;
     X11Keyboard keyboard_;
     std::uint8_t xkbEvent_;
-    std::function<void()> handler_;
-    std::function<void(PhysicalKey, bool)> observer_;
+    std::function<void(const std::string&)> handler_;
+    std::function<void(PhysicalKey, const HotKeyState&)> observer_;
     /// The registered keys, and whether they are grabbed. After a change of layout, another program
     /// may hold a key's new combination.
     std::map<PhysicalKey, bool> keys_;
