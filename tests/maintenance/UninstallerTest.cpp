@@ -66,8 +66,8 @@ TEST_F(UninstallerTest, RemovesAllThatIsOursAndNothingElse) {
     EXPECT_EQ(computer.loginItem.current, LoginItem::Status::notRegistered);
     EXPECT_TRUE(computer.defaults.values.empty());
     EXPECT_TRUE(alerts.shown.empty());
-    EXPECT_EQ(computer.workspace.log,
-              (Log{"drop updates", "unlist", "unbind", "trash " + bundle.native(), "trashed", "exit 0"}));
+    EXPECT_EQ(computer.workspace.log, (Log{"drop updates", "unlist", "unbind",
+                                           "trash " + bundle.native(), "trashed", "exit 0"}));
 }
 
 TEST_F(UninstallerTest, LeavesNothingThatWritesAFileAgain) {
@@ -100,8 +100,8 @@ TEST_F(UninstallerTest, GoesOnWhateverFailsAndTellsOnlyWhatIsLeftToTheUser) {
     fill(computer.platform.dataFolder);
     run();
     EXPECT_FALSE(fs::exists(computer.platform.dataFolder));
-    EXPECT_EQ(computer.workspace.log,
-              (Log{"drop updates", "unlist", "unbind", "trash " + bundle.native(), "activate", "exit 0"}));
+    EXPECT_EQ(computer.workspace.log, (Log{"drop updates", "unlist", "unbind",
+                                           "trash " + bundle.native(), "activate", "exit 0"}));
     ASSERT_EQ(alerts.shown.size(), 1U);
     EXPECT_THAT(alerts.shown[0].informativeText, HasSubstr("Drag Quillon from"));
 
@@ -110,7 +110,8 @@ TEST_F(UninstallerTest, GoesOnWhateverFailsAndTellsOnlyWhatIsLeftToTheUser) {
     computer.workspace.log.clear();
     computer.platform.bundle.url = "/usr/bin/quillon";
     run();
-    EXPECT_EQ(computer.workspace.log, (Log{"drop updates", "unlist", "unbind", "activate", "exit 0"}));
+    EXPECT_EQ(computer.workspace.log,
+              (Log{"drop updates", "unlist", "unbind", "activate", "exit 0"}));
     ASSERT_EQ(alerts.shown.size(), 2U);
     EXPECT_THAT(alerts.shown[1].informativeText, HasSubstr("with your package manager"));
 }
