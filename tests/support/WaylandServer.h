@@ -59,9 +59,10 @@ public:
     [[nodiscard]] bool drip() const { return writeAll(held_.number(), "."); }
     /// Ends it.
     void release() { held_.close(); }
+    /// Nobody is told anything until he asks anew.
     void finishDevices() {
         const std::lock_guard lock{mutex_};
-        for (wl_resource* const device : devices_)
+        for (wl_resource* const device : std::exchange(devices_, {}))
             wl_resource_post_event(device, 2);
         wl_display_flush_clients(display_);
     }
