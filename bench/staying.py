@@ -252,7 +252,7 @@ def sessions():
         found[kind] = json.loads(output)
     x11, sway = found["x11"], found["sway"]
     for what, key, unit in (("start to the name on the bus", "start", "ms"),
-                            ("idle memory (PSS)", "memory", "MB"),
+                            ("idle memory of its own", "memory", "MB"),
                             ("context switches in 20 idle seconds", "switches", "")):
         yield Row(f"on sway: {what}", f"{sway[key]:.1f} {unit}", f"X11 {x11[key]:.1f} {unit}")
     for name, figures, peer in ("sway", sway, "wl-paste"), ("X11", x11, "xclip"):
