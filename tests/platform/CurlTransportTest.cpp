@@ -217,6 +217,13 @@ TEST(Certificates, AreReadFromAFolderAloneWhereItHasAllOfThem) {
     EXPECT_FALSE(add("own", {"0123abcd.0", "ffffffff.0"}));
     EXPECT_TRUE(add("own", {"0123abcd.1"}));
     EXPECT_FALSE(replacesBundle(root / "own", {.bundle = system.bundle, .folder = root / "none"}));
+
+    // On another distribution, the bundle has another name.
+    EXPECT_EQ(systemBundle(root / "none", root), root / "none");
+    std::filesystem::create_directories(root / "etc/ssl");
+    std::ofstream{root / "etc/ssl/ca-bundle.pem"};
+    EXPECT_EQ(systemBundle(root / "none", root), root / "etc/ssl/ca-bundle.pem");
+    EXPECT_EQ(systemBundle(system.bundle, root), system.bundle);
 }
 
 } // namespace

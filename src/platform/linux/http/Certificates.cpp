@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <iterator>
 #include <set>
@@ -13,6 +14,16 @@
 namespace quillon {
 
 namespace {
+
+/// As the distributions' own packages of certificates lay them.
+constexpr std::array bundles{
+    "etc/ssl/certs/ca-certificates.crt",                // Debian, Arch, Gentoo, Void
+    "etc/pki/ca-trust/extracted/pem/tls-ca-bundle.pem", // Fedora and its relatives
+    "etc/pki/tls/certs/ca-bundle.crt",                  // the same, older
+    "etc/ssl/ca-bundle.pem",                            // openSUSE
+    "etc/ssl/cert.pem",                                 // Alpine
+    "etc/ssl/certs/ca-bundle.crt",                      // NixOS
+};
 
 /// X509_LOOKUP_hash_dir(3): eight hexadecimal digits, a dot, and a number that tells apart subjects
 /// of the same hash.
@@ -47,6 +58,18 @@ bool replacesBundle(const std::filesystem::path& folder, const CertificatePlaces
     const auto systems = hashedNames(system.folder);
     return !systems.empty() && std::ssize(systems) >= countIn(system.bundle) &&
            std::ranges::includes(folder == system.folder ? systems : hashedNames(folder), systems);
+}
+
+std::filesystem::path systemBundle(const std::filesystem::path& usual,
+                                   const std::filesystem::path& root) {
+    const auto isThere = [](const std::filesystem::path& file) {
+        std::error_code error;
+        return std::filesystem::is_regular_file(file, error);
+    };
+    if (isThere(usual)) return usual;
+    const auto found =
+        std::ranges::find_if(bundles, [&](const char* file) { return isThere(root / file); });
+    return found == bundles.end() ? usual : root / *found;
 }
 
 } // namespace quillon

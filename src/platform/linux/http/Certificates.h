@@ -18,4 +18,10 @@ struct CertificatePlaces {
 [[nodiscard]] bool replacesBundle(const std::filesystem::path& folder,
                                   const CertificatePlaces& system);
 
+/// The bundle of this system: `usual`, which libcurl was built for, or where that is missing, as on
+/// another distribution than the one it was built on, the first that is there of those that
+/// distributions have. These are looked for below `root`.
+[[nodiscard]] std::filesystem::path systemBundle(const std::filesystem::path& usual,
+                                                 const std::filesystem::path& root = "/");
+
 } // namespace quillon

@@ -14,15 +14,18 @@ namespace {
 
 constexpr long maximumRedirects = 10;
 
-/// Whether libcurl needs no bundle besides this folder.
-bool isFolderEnough(const std::filesystem::path& folder) {
+/// The bundle that libcurl needs besides this folder; empty if it needs none.
+std::filesystem::path bundleBeside(const std::filesystem::path& folder) {
+    const auto place = [](const char* name) { return std::filesystem::path{name ? name : ""}; };
     const curl_version_info_data& libcurl = *curl().version_info(CURLVERSION_NOW);
+    const CertificatePlaces system{.bundle = systemBundle(place(libcurl.cainfo)),
+                                   .folder = place(libcurl.capath)};
     // Other TLS libraries read the whole folder, or none.
-    if (!libcurl.capath || !libcurl.cainfo || !libcurl.ssl_version ||
-        !std::string_view{libcurl.ssl_version}.starts_with("OpenSSL/"))
-        return false;
-    const CertificatePlaces system{.bundle = libcurl.cainfo, .folder = libcurl.capath};
-    return replacesBundle(folder.empty() ? system.folder : folder, system);
+    const bool findsByHash =
+        libcurl.ssl_version && std::string_view{libcurl.ssl_version}.starts_with("OpenSSL/");
+    const bool isEnough =
+        findsByHash && replacesBundle(folder.empty() ? system.folder : folder, system);
+    return isEnough ? std::filesystem::path{} : system.bundle;
 }
 
 void trustCertificates(CURL* handle, const std::filesystem::path& certificates) {
@@ -38,8 +41,8 @@ void trustCertificates(CURL* handle, const std::filesystem::path& certificates) 
         return;
     }
     // Looked up once, since it takes a millisecond.
-    static const bool folderIsEnough = isFolderEnough(folder.value_or(""));
-    if (folderIsEnough) curl().easy_setopt(handle, CURLOPT_CAINFO, nullptr);
+    static const std::filesystem::path bundle = bundleBeside(folder.value_or(""));
+    curl().easy_setopt(handle, CURLOPT_CAINFO, bundle.empty() ? nullptr : bundle.c_str());
 }
 
 /// The host that libcurl will connect to; empty if the URL is malformed.
