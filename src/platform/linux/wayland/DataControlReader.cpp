@@ -248,8 +248,9 @@ bool DataControlReader::waitForOwner(int watched, Done done) {
     const auto start = std::chrono::steady_clock::now();
     if (waitUntil(start + host_.limits.patience - silence_, watched,
                   [&] { return overtaken_ || done(); })) {
+        if (overtaken_) return false; // what was waited for until now was another owner
         silence_ += std::chrono::steady_clock::now() - start;
-        return !overtaken_;
+        return true;
     }
     if (alive() && !host_.stop.stop_requested()) silence_ = host_.limits.patience;
     return false;
