@@ -28,9 +28,10 @@ constexpr std::array<Wanted, 5> wanted{
 constexpr const char* output = "wl_output";
 constexpr std::uint32_t outputVersion = 2; // tells its scale
 
-/// The socket of the compositor; empty when there is none.
+/// The socket of the compositor, by the rule of libwayland; empty when there is none.
 std::filesystem::path compositorSocket() {
-    std::filesystem::path display{qgetenv("WAYLAND_DISPLAY").toStdString()};
+    const std::filesystem::path display{
+        qEnvironmentVariable("WAYLAND_DISPLAY", QStringLiteral("wayland-0")).toStdString()};
     if (display.empty() || display.is_absolute()) return display;
     const std::filesystem::path folder{qgetenv("XDG_RUNTIME_DIR").toStdString()};
     return folder.empty() ? folder : folder / display;

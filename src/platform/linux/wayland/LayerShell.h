@@ -22,8 +22,8 @@ using BufferPointer = WaylandPointer<WL_BUFFER_DESTROY>;
 /// one that dies, hangs or refuses ends the connection and nothing else.
 class LayerShell {
 public:
-    /// Connects to the compositor that $WAYLAND_DISPLAY names, and asks what it offers; null when
-    /// none listens there.
+    /// Connects to the compositor that $WAYLAND_DISPLAY names, else to "wayland-0", and asks what it
+    /// offers; null when none listens there.
     [[nodiscard]] static std::unique_ptr<LayerShell> open();
 
     LayerShell(const LayerShell&) = delete;
