@@ -166,6 +166,8 @@ std::unique_ptr<DataControlReader::Offer> DataControlReader::takeNewOffer(wl_pro
 
 void DataControlReader::takeSelection(wl_proxy* offer) {
     selection_ = takeNewOffer(offer);
+    // A reading that begins now replaces the sync at the start, if that is still awaited.
+    ready_ = true;
     overtaken_ = true;
     silence_ = {};
     late_.reset();
