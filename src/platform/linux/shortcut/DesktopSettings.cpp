@@ -2,6 +2,8 @@
 
 #include <glib.h>
 
+#include <string_view>
+
 namespace quillon {
 
 namespace {
@@ -15,9 +17,15 @@ struct FreeStrings {
     void operator()(gchar** strings) const { g_strfreev(strings); }
 };
 
+/// Whether GIO takes it as the path of a group.
+bool isPath(std::string_view path) {
+    return path.starts_with('/') && path.ends_with('/') && path.find("//") == path.npos;
+}
+
 } // namespace
 
 std::optional<DesktopSettings> DesktopSettings::open(const char* schema, const char* path) {
+    if (path && !isPath(path)) return std::nullopt;
     if (!gio::library.load()) return std::nullopt;
     GSettingsSchemaSource* const source = gio::g_settings_schema_source_get_default();
     GSettingsSchema* const found =

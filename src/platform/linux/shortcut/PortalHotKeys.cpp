@@ -6,6 +6,7 @@
 #include "platform/linux/shortcut/GnomeBinding.h"
 #include "platform/linux/shortcut/PortalSession.h"
 
+#include <QFutureWatcher>
 #include <QTimer>
 #include <QtConcurrentRun>
 
@@ -48,7 +49,8 @@ private:
     /// Looks for GNOME's key binding where that is the way, and removes it where the portal is.
     void followBinding();
     void addBinding();
-    void takeBinding(const BindingReport& report);
+    /// Takes over what the thread pool finds.
+    void awaitBinding(const QFuture<BindingReport>& found);
     /// Tells the observer if the state is another one.
     void announce();
     [[nodiscard]] std::string command() const { return sendCommand(owner_.options_.executable); }
@@ -118,8 +120,7 @@ void PortalHotKeys::Asked::followBinding() {
     if (!owner_.options_.session.isDesktop("gnome")) return;
     const ShortcutWay way = shortcutWay(owner_.options_.session, portal_.answer);
     if (way == ShortcutWay::gnomeBinding) {
-        QtConcurrent::run(gnomeBinding::follow, key_, command())
-            .then(this, [this](const BindingReport& report) { takeBinding(report); });
+        awaitBinding(QtConcurrent::run(gnomeBinding::follow, key_, command()));
     } else if (portal_.answer == PortalAnswer::bound) {
         // Both would send.
         std::ignore = QtConcurrent::run(gnomeBinding::removeAll);
@@ -127,14 +128,19 @@ void PortalHotKeys::Asked::followBinding() {
 }
 
 void PortalHotKeys::Asked::addBinding() {
-    QtConcurrent::run(gnomeBinding::add, key_, command(),
-                      translate("Shortcut", "Send the clipboard to the phone"))
-        .then(this, [this](const BindingReport& report) { takeBinding(report); });
+    awaitBinding(QtConcurrent::run(gnomeBinding::add, key_, command(),
+                                   translate("Shortcut", "Send the clipboard to the phone")));
 }
 
-void PortalHotKeys::Asked::takeBinding(const BindingReport& report) {
-    binding_ = report;
-    announce();
+void PortalHotKeys::Asked::awaitBinding(const QFuture<BindingReport>& found) {
+    // This may end before the answer comes, which QFuture::then does not bear.
+    auto* const watcher = new QFutureWatcher<BindingReport>{this};
+    connect(watcher, &QFutureWatcher<BindingReport>::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        binding_ = watcher->result();
+        announce();
+    });
+    watcher->setFuture(found);
 }
 
 void PortalHotKeys::Asked::announce() {
