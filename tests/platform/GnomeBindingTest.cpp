@@ -1,9 +1,12 @@
 #include "platform/linux/shortcut/GnomeBinding.h"
 
 #include "platform/linux/shortcut/DesktopSettings.h"
+#include "platform/linux/shortcut/PortalHotKeys.h"
+#include "support/Await.h"
 #include "support/Files.h"
 #include "support/Testing.h"
 
+#include <QGuiApplication>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -90,6 +93,29 @@ TEST(GnomeBinding, IsMadeWhenToldFollowsTheProgramAndGoesAlone) {
     gnomeBinding::removeAll();
     EXPECT_THAT(list->texts(listed), ElementsAre("no path", others));
     EXPECT_EQ(foreign->text("command"), "xterm");
+}
+
+TEST(GnomeBinding, IsLookedAtAgainWhenTheUserComesBackFromTheDesktopsSettings) {
+    useSettingsOfOurOwn();
+    PortalHotKeys hotKeys{{.session = {.wayland = true, .desktops = {"gnome"}},
+                           .executable = "/q",
+                           .bus = QStringLiteral("unix:path=/nowhere")}};
+    HotKeyState state;
+    hotKeys.observe([&](PhysicalKey, const HotKeyState& now) { state = now; });
+    const auto registration = hotKeys.registerHotKey(PhysicalKey::v);
+    const auto offersIt = [&] { return state.offer == HotKeyState::Offer::addBinding; };
+    EXPECT_TRUE(waitUntil(offersIt));
+    registration->takeOffer();
+    EXPECT_TRUE(waitUntil([&] { return state.trigger == "Ctrl+Alt+V"; }));
+
+    const auto paths = DesktopSettings::open(mediaKeys)->texts(listed);
+    ASSERT_FALSE(paths.empty());
+    DesktopSettings::open(binding, paths.back().c_str())->setText("binding", "<Super>s");
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    EXPECT_TRUE(waitUntil([&] { return state.trigger == "Super+S"; }));
+    gnomeBinding::removeAll();
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    EXPECT_TRUE(waitUntil(offersIt));
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "platform/linux/shortcut/PortalSession.h"
 
 #include <QFutureWatcher>
+#include <QGuiApplication>
 #include <QTimer>
 #include <QtConcurrentRun>
 
@@ -41,6 +42,8 @@ public:
 
     /// The portal has gone, or come.
     void followPortal(bool there);
+    /// The user may have been in the desktop's settings.
+    void lookAgain();
 
 private:
     /// Asks the portal, in a new session.
@@ -127,6 +130,10 @@ void PortalHotKeys::Asked::followBinding() {
     }
 }
 
+void PortalHotKeys::Asked::lookAgain() {
+    if (state().way == ShortcutWay::gnomeBinding) followBinding();
+}
+
 void PortalHotKeys::Asked::addBinding() {
     awaitBinding(QtConcurrent::run(gnomeBinding::add, key_, command(),
                                    translate("Shortcut", "Send the clipboard to the phone")));
@@ -170,6 +177,8 @@ PortalHotKeys::PortalHotKeys(Options options)
                  QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameOwnerChanged"),
                  {portal::name}, QStringLiteral("sss"), this,
                  SLOT(ownerChanged(QString, QString, QString)));
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+            &PortalHotKeys::activityChanged);
 }
 
 PortalHotKeys::~PortalHotKeys() {
@@ -192,6 +201,12 @@ void PortalHotKeys::ownerChanged(const QString& /*name*/, const QString& /*befor
                                  const QString& now) {
     for (Asked* const each : asked_)
         each->followPortal(!now.isEmpty());
+}
+
+void PortalHotKeys::activityChanged(Qt::ApplicationState now) {
+    if (now != Qt::ApplicationActive) return;
+    for (Asked* const each : asked_)
+        each->lookAgain();
 }
 
 } // namespace quillon
