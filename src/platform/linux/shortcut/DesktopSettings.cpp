@@ -1,5 +1,7 @@
 #include "platform/linux/shortcut/DesktopSettings.h"
 
+#include "base/Environment.h"
+
 #include <glib.h>
 
 #include <string_view>
@@ -22,6 +24,15 @@ bool isPath(std::string_view path) {
     return path.starts_with('/') && path.ends_with('/') && path.find("//") == path.npos;
 }
 
+/// By default, GLib ends the program when the session bus ends, over which the settings come.
+void outliveBus() {
+    GDBusConnection* const bus =
+        hasSessionBus() ? gio::g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr) : nullptr;
+    if (!bus) return;
+    gio::g_dbus_connection_set_exit_on_close(bus, FALSE);
+    gio::g_object_unref(bus);
+}
+
 } // namespace
 
 std::optional<DesktopSettings> DesktopSettings::open(const char* schema, const char* path) {
@@ -31,6 +42,7 @@ std::optional<DesktopSettings> DesktopSettings::open(const char* schema, const c
     GSettingsSchema* const found =
         source ? gio::g_settings_schema_source_lookup(source, schema, TRUE) : nullptr;
     if (!found) return std::nullopt;
+    outliveBus();
     return DesktopSettings{found, path};
 }
 
