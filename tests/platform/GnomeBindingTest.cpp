@@ -1,9 +1,12 @@
 #include "platform/linux/shortcut/GnomeBinding.h"
 
 #include "platform/linux/shortcut/DesktopSettings.h"
+#include "platform/linux/shortcut/PortalHotKeys.h"
+#include "support/Await.h"
 #include "support/Files.h"
 #include "support/Testing.h"
 
+#include <QGuiApplication>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -61,7 +64,7 @@ TEST(GnomeBinding, IsMadeWhenToldFollowsTheProgramAndGoesAlone) {
     const auto foreign = DesktopSettings::open(binding, others);
     foreign->setText("binding", "<Primary><Alt>p");
     foreign->setText("command", "xterm");
-    list->setTexts(listed, {others});
+    list->setTexts(listed, {"no path", others});
 
     const auto outcome = [](PhysicalKey key) {
         return gnomeBinding::follow(key, "/q send").outcome;
@@ -70,10 +73,10 @@ TEST(GnomeBinding, IsMadeWhenToldFollowsTheProgramAndGoesAlone) {
     EXPECT_EQ(outcome(PhysicalKey::p), Outcome::taken) << "by a command of the user's";
     EXPECT_EQ(outcome(PhysicalKey::c), Outcome::taken) << "by the desktop itself";
     EXPECT_EQ(gnomeBinding::add(PhysicalKey::p, "/q send", "Send").outcome, Outcome::taken);
-    EXPECT_THAT(list->texts(listed), ElementsAre(others)) << "looking changes nothing";
+    EXPECT_THAT(list->texts(listed), ElementsAre("no path", others)) << "looking changes nothing";
 
     EXPECT_EQ(gnomeBinding::add(PhysicalKey::v, "/q send", "Send").trigger, "Ctrl+Alt+V");
-    ASSERT_THAT(list->texts(listed), ElementsAre(others, EndsWith("/quillon-send-v/")));
+    ASSERT_THAT(list->texts(listed), ElementsAre("no path", others, EndsWith("/quillon-send-v/")));
     const auto own = DesktopSettings::open(binding, list->texts(listed).back().c_str());
     EXPECT_EQ(own->text("command"), "/q send");
     EXPECT_EQ(own->text("binding"), "<Control><Alt>v");
@@ -84,12 +87,35 @@ TEST(GnomeBinding, IsMadeWhenToldFollowsTheProgramAndGoesAlone) {
     EXPECT_EQ(own->text("command"), "/new/q send");
 
     EXPECT_EQ(outcome(PhysicalKey::p), Outcome::taken) << "another shortcut is picked";
-    EXPECT_THAT(list->texts(listed), ElementsAre(others));
+    EXPECT_THAT(list->texts(listed), ElementsAre("no path", others));
     EXPECT_EQ(own->text("command"), "");
     EXPECT_EQ(gnomeBinding::add(PhysicalKey::v, "/q send", "Send").outcome, Outcome::present);
     gnomeBinding::removeAll();
-    EXPECT_THAT(list->texts(listed), ElementsAre(others));
+    EXPECT_THAT(list->texts(listed), ElementsAre("no path", others));
     EXPECT_EQ(foreign->text("command"), "xterm");
+}
+
+TEST(GnomeBinding, IsLookedAtAgainWhenTheUserComesBackFromTheDesktopsSettings) {
+    useSettingsOfOurOwn();
+    PortalHotKeys hotKeys{{.session = {.wayland = true, .desktops = {"gnome"}},
+                           .executable = "/q",
+                           .bus = QStringLiteral("unix:path=/nowhere")}};
+    HotKeyState state;
+    hotKeys.observe([&](PhysicalKey, const HotKeyState& now) { state = now; });
+    const auto registration = hotKeys.registerHotKey(PhysicalKey::v);
+    const auto offersIt = [&] { return state.offer == HotKeyState::Offer::addBinding; };
+    EXPECT_TRUE(waitUntil(offersIt));
+    registration->takeOffer();
+    EXPECT_TRUE(waitUntil([&] { return state.trigger == "Ctrl+Alt+V"; }));
+
+    const auto paths = DesktopSettings::open(mediaKeys)->texts(listed);
+    ASSERT_FALSE(paths.empty());
+    DesktopSettings::open(binding, paths.back().c_str())->setText("binding", "<Super>s");
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    EXPECT_TRUE(waitUntil([&] { return state.trigger == "Super+S"; }));
+    gnomeBinding::removeAll();
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    EXPECT_TRUE(waitUntil(offersIt));
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
+#include <QThreadPool>
 
 #include <sys/prctl.h>
 
@@ -268,6 +269,13 @@ TEST_F(PortalHotKeysTest, TakesALateAnswerAndWithdrawsAQuestion) {
     registration.reset();
     EXPECT_TRUE(waitUntil([&] { return portal.calls("Close").size() == before + 2; }))
         << "the question to the user, and the session";
+}
+
+TEST_F(PortalHotKeysTest, MayEndWhileThePoolLooksForABinding) {
+    start("gnome");
+    ASSERT_TRUE(waitUntil([&] { return state.way == ShortcutWay::gnomeBinding; }));
+    registration.reset();
+    QThreadPool::globalInstance()->waitForDone();
 }
 
 TEST_F(PortalHotKeysTest, FollowsAPortalThatComesLateDiesAndComesBack) {

@@ -37,7 +37,7 @@ TEST(ShortcutRules, ChooseTheWayByWhatWasFound) {
         {&plasma, bound, Outcome::missing, portal, Kind::bound, Offer::configure},
         {&plasma, unassigned, Outcome::missing, portal, Kind::unassigned, Offer::configure},
         {&plasma, declined, Outcome::missing, portal, Kind::refused, Offer::askAgain},
-        {&plasma, gone, Outcome::missing, portal, Kind::unavailable, Offer::nothing},
+        {&plasma, gone, Outcome::missing, portal, Kind::unavailable, Offer::askAgain},
         {&plasma, silent, Outcome::missing, none, Kind::unavailable, Offer::askAgain},
         {&plasma, missing, Outcome::missing, none, Kind::unavailable, Offer::copyCommand},
         {&unnamed, failed, Outcome::missing, none, Kind::unavailable, Offer::askAgain},

@@ -60,7 +60,7 @@ bool hasWaylandWindows() {
 std::optional<const char*> windowPlatform(DesktopNeeds needs, ClipboardWay way,
                                           LayerShell* wayland) {
     if (way == ClipboardWay::x11 || X11Connection::open(nullptr))
-        return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? nullptr : "xcb";
+        return qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") ? "xcb" : nullptr;
     if (wayland && hasWaylandWindows() && wayland->waitForOffers(displayPatience)) return "wayland";
     if (way != ClipboardWay::none && needs == DesktopNeeds::clipboardAndBanner) return noWindows;
     return std::nullopt;

@@ -31,7 +31,7 @@ struct Desktop {
 };
 
 /// Makes the application object and opens what is needed; none when that takes a desktop and there
-/// is none. Nothing else in the program chooses between kinds of desktops.
+/// is none. Nothing above it chooses between kinds of desktops.
 [[nodiscard]] std::optional<Desktop> openDesktop(DesktopNeeds needs);
 
 /// What to tell the user then. Call it while there is no application object.

@@ -1,5 +1,7 @@
 #include "platform/linux/desktop/LinuxAppearance.h"
 
+#include "platform/linux/portal/PortalCalls.h"
+
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -12,8 +14,6 @@ namespace quillon {
 
 namespace {
 
-const QString portalName = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString busName = QStringLiteral("org.freedesktop.DBus");
 
@@ -62,18 +62,18 @@ void LinuxAppearance::followPortal() {
     qRegisterMetaType<QDBusVariant>();
     // Without the portal's name, the owner of which Qt would wait to be told.
     for (const QString& each : namespaces) {
-        bus_.connect({}, portalPath, settingsInterface, QStringLiteral("SettingChanged"), {each},
+        bus_.connect({}, portal::path, settingsInterface, QStringLiteral("SettingChanged"), {each},
                      QStringLiteral("ssv"), this, SLOT(take(QString, QString, QDBusVariant)));
     }
     bus_.connect({}, QStringLiteral("/org/freedesktop/DBus"), busName,
-                 QStringLiteral("NameOwnerChanged"), {portalName}, QStringLiteral("sss"), this,
+                 QStringLiteral("NameOwnerChanged"), {portal::name}, QStringLiteral("sss"), this,
                  SLOT(ownerChanged(QString, QString, QString)));
     ask();
 }
 
 void LinuxAppearance::ask() {
     QDBusMessage question = QDBusMessage::createMethodCall(
-        portalName, portalPath, settingsInterface, QStringLiteral("ReadAll"));
+        portal::name, portal::path, settingsInterface, QStringLiteral("ReadAll"));
     question << namespaces;
     open_.emplace();
     const QDBusPendingCall call = bus_.asyncCall(question, static_cast<int>(patience.count()));

@@ -1,6 +1,10 @@
 #include "platform/linux/shortcut/DesktopSettings.h"
 
+#include "base/Environment.h"
+
 #include <glib.h>
+
+#include <string_view>
 
 namespace quillon {
 
@@ -15,14 +19,30 @@ struct FreeStrings {
     void operator()(gchar** strings) const { g_strfreev(strings); }
 };
 
+/// Whether GIO takes it as the path of a group.
+bool isPath(std::string_view path) {
+    return path.starts_with('/') && path.ends_with('/') && path.find("//") == path.npos;
+}
+
+/// By default, GLib ends the program when the session bus ends, over which the settings come.
+void outliveBus() {
+    GDBusConnection* const bus =
+        hasSessionBus() ? gio::g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr) : nullptr;
+    if (!bus) return;
+    gio::g_dbus_connection_set_exit_on_close(bus, FALSE);
+    gio::g_object_unref(bus);
+}
+
 } // namespace
 
 std::optional<DesktopSettings> DesktopSettings::open(const char* schema, const char* path) {
+    if (path && !isPath(path)) return std::nullopt;
     if (!gio::library.load()) return std::nullopt;
     GSettingsSchemaSource* const source = gio::g_settings_schema_source_get_default();
     GSettingsSchema* const found =
         source ? gio::g_settings_schema_source_lookup(source, schema, TRUE) : nullptr;
     if (!found) return std::nullopt;
+    outliveBus();
     return DesktopSettings{found, path};
 }
 

@@ -14,7 +14,7 @@ namespace quillon {
 class DesktopSettings {
 public:
     /// `path` is that of a group of which there are several. None where the desktop has no such
-    /// settings: GIO would end the process.
+    /// settings, for which GIO would end the process, or the path is malformed.
     [[nodiscard]] static std::optional<DesktopSettings> open(const char* schema,
                                                              const char* path = nullptr);
 

@@ -66,9 +66,8 @@ public:
 
     /// Whether this desktop has any, and in the form that is known.
     [[nodiscard]] bool exist() const {
-        const auto any = list_ && list_->has(customList)
-                             ? DesktopSettings::open(customBinding, pathOf(PhysicalKey::v).c_str())
-                             : std::nullopt;
+        const auto any =
+            list_ && list_->has(customList) ? at(pathOf(PhysicalKey::v)) : std::nullopt;
         return any &&
                std::ranges::all_of(bindingKeys, [&](const char* key) { return any->has(key); });
     }
@@ -79,12 +78,13 @@ public:
         return std::ranges::count(paths(), path) != 0;
     }
 
-    [[nodiscard]] static DesktopSettings at(const std::string& path) {
-        return *DesktopSettings::open(customBinding, path.c_str());
+    /// None where a path is malformed, as one may be that the user has written into the list.
+    [[nodiscard]] static std::optional<DesktopSettings> at(const std::string& path) {
+        return DesktopSettings::open(customBinding, path.c_str());
     }
 
     [[nodiscard]] BindingReport find(PhysicalKey key) const {
-        const std::string keys = lists(pathOf(key)) ? at(pathOf(key)).text("binding") : "";
+        const std::string keys = lists(pathOf(key)) ? at(pathOf(key))->text("binding") : "";
         // Without keys, as the user may leave it, it is none.
         if (keys.empty()) return {.outcome = BindingReport::Outcome::absent};
         return {.outcome = BindingReport::Outcome::present, .trigger = shownKeys(keys)};
@@ -94,7 +94,8 @@ public:
     [[nodiscard]] bool areTaken(const std::string& accelerator) const {
         const auto same = [&](const std::string& other) { return areSameKeys(other, accelerator); };
         for (const std::string& path : paths()) {
-            if (!isOwn(path) && same(at(path).text("binding"))) return true;
+            const auto other = isOwn(path) ? std::nullopt : at(path);
+            if (other && same(other->text("binding"))) return true;
         }
         return std::ranges::any_of(desktopBindings, [&](const char* schema) {
             const auto settings = DesktopSettings::open(schema);
@@ -109,18 +110,18 @@ public:
         std::vector<std::string> left = paths();
         std::erase_if(left, [&](const std::string& path) {
             if (!isOwn(path) || path == kept) return false;
-            const DesktopSettings binding = at(path);
-            std::ranges::for_each(bindingKeys, [&](const char* key) { binding.reset(key); });
+            if (const auto binding = at(path))
+                std::ranges::for_each(bindingKeys, [&](const char* key) { binding->reset(key); });
             return true;
         });
         if (left != paths()) list_->setTexts(customList, left);
     }
 
     void add(PhysicalKey key, const std::string& command, const std::string& name) const {
-        const DesktopSettings binding = at(pathOf(key));
-        binding.setText("name", name);
-        binding.setText("command", command);
-        binding.setText("binding", acceleratorOf(key));
+        const auto binding = at(pathOf(key));
+        binding->setText("name", name);
+        binding->setText("command", command);
+        binding->setText("binding", acceleratorOf(key));
         // The daemon looks at a binding when it comes into the list.
         if (lists(pathOf(key))) return;
         std::vector<std::string> more = paths();
@@ -156,8 +157,8 @@ BindingReport gnomeBinding::follow(PhysicalKey key, const std::string& command) 
     bindings.keepOnly(pathOf(key));
     BindingReport report = bindings.find(key);
     if (report.outcome == BindingReport::Outcome::present) {
-        const DesktopSettings own = CommandBindings::at(pathOf(key));
-        if (own.text("command") != command) own.setText("command", command);
+        const auto own = CommandBindings::at(pathOf(key));
+        if (own->text("command") != command) own->setText("command", command);
     } else if (bindings.areTaken(acceleratorOf(key))) {
         report.outcome = BindingReport::Outcome::taken;
     }

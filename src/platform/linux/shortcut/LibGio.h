@@ -10,6 +10,8 @@ namespace quillon::gio {
 
 inline constinit const LateLibrary library{QUILLON_GIO};
 
+QUILLON_LATE(library, g_bus_get_sync);
+QUILLON_LATE(library, g_dbus_connection_set_exit_on_close);
 QUILLON_LATE(library, g_object_unref);
 QUILLON_LATE(library, g_settings_get_value);
 QUILLON_LATE(library, g_settings_new_full);

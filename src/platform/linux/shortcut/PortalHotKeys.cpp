@@ -6,6 +6,8 @@
 #include "platform/linux/shortcut/GnomeBinding.h"
 #include "platform/linux/shortcut/PortalSession.h"
 
+#include <QFutureWatcher>
+#include <QGuiApplication>
 #include <QTimer>
 #include <QtConcurrentRun>
 
@@ -40,6 +42,8 @@ public:
 
     /// The portal has gone, or come.
     void followPortal(bool there);
+    /// The user may have been in the desktop's settings.
+    void lookAgain();
 
 private:
     /// Asks the portal, in a new session.
@@ -48,7 +52,8 @@ private:
     /// Looks for GNOME's key binding where that is the way, and removes it where the portal is.
     void followBinding();
     void addBinding();
-    void takeBinding(const BindingReport& report);
+    /// Takes over what the thread pool finds.
+    void awaitBinding(const QFuture<BindingReport>& found);
     /// Tells the observer if the state is another one.
     void announce();
     [[nodiscard]] std::string command() const { return sendCommand(owner_.options_.executable); }
@@ -118,23 +123,31 @@ void PortalHotKeys::Asked::followBinding() {
     if (!owner_.options_.session.isDesktop("gnome")) return;
     const ShortcutWay way = shortcutWay(owner_.options_.session, portal_.answer);
     if (way == ShortcutWay::gnomeBinding) {
-        QtConcurrent::run(gnomeBinding::follow, key_, command())
-            .then(this, [this](const BindingReport& report) { takeBinding(report); });
+        awaitBinding(QtConcurrent::run(gnomeBinding::follow, key_, command()));
     } else if (portal_.answer == PortalAnswer::bound) {
         // Both would send.
         std::ignore = QtConcurrent::run(gnomeBinding::removeAll);
     }
 }
 
-void PortalHotKeys::Asked::addBinding() {
-    QtConcurrent::run(gnomeBinding::add, key_, command(),
-                      translate("Shortcut", "Send the clipboard to the phone"))
-        .then(this, [this](const BindingReport& report) { takeBinding(report); });
+void PortalHotKeys::Asked::lookAgain() {
+    if (state().way == ShortcutWay::gnomeBinding) followBinding();
 }
 
-void PortalHotKeys::Asked::takeBinding(const BindingReport& report) {
-    binding_ = report;
-    announce();
+void PortalHotKeys::Asked::addBinding() {
+    awaitBinding(QtConcurrent::run(gnomeBinding::add, key_, command(),
+                                   translate("Shortcut", "Send the clipboard to the phone")));
+}
+
+void PortalHotKeys::Asked::awaitBinding(const QFuture<BindingReport>& found) {
+    // This may end before the answer comes, which QFuture::then does not bear.
+    auto* const watcher = new QFutureWatcher<BindingReport>{this};
+    connect(watcher, &QFutureWatcher<BindingReport>::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        binding_ = watcher->result();
+        announce();
+    });
+    watcher->setFuture(found);
 }
 
 void PortalHotKeys::Asked::announce() {
@@ -164,6 +177,8 @@ PortalHotKeys::PortalHotKeys(Options options)
                  QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameOwnerChanged"),
                  {portal::name}, QStringLiteral("sss"), this,
                  SLOT(ownerChanged(QString, QString, QString)));
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+            &PortalHotKeys::activityChanged);
 }
 
 PortalHotKeys::~PortalHotKeys() {
@@ -186,6 +201,12 @@ void PortalHotKeys::ownerChanged(const QString& /*name*/, const QString& /*befor
                                  const QString& now) {
     for (Asked* const each : asked_)
         each->followPortal(!now.isEmpty());
+}
+
+void PortalHotKeys::activityChanged(Qt::ApplicationState now) {
+    if (now != Qt::ApplicationActive) return;
+    for (Asked* const each : asked_)
+        each->lookAgain();
 }
 
 } // namespace quillon

@@ -44,6 +44,10 @@ private Q_SLOTS:
     void ownerChanged(const QString& name, const QString& before, const QString& now);
 
 private:
+    /// Looks at the desktop's key bindings when the user comes to one of the program's windows, for
+    /// they can be changed in its settings.
+    void activityChanged(Qt::ApplicationState now);
+
     class Asked;
 
     Options options_;

@@ -33,11 +33,11 @@ Offer portalOffer(const PortalReport& portal) {
         return portal.canConfigure ? Offer::configure : Offer::askAgain;
     case PortalAnswer::awaited:
     case PortalAnswer::missing:
-    case PortalAnswer::gone:
         return Offer::nothing;
     case PortalAnswer::declined:
     case PortalAnswer::failed:
     case PortalAnswer::silent:
+    case PortalAnswer::gone: // it may have ended for good, and asking starts it
         break;
     }
     return Offer::askAgain;

@@ -80,7 +80,7 @@ struct DataControlReader::Events {
         [](void* data, wl_proxy*, wl_proxy* offer) {
             auto& offers = self(data).newOffers_;
             offers.push_back(std::make_unique<Offer>(offer));
-            listen(offer, newOffer, offers.back().get());
+            listenTo(offer, newOffer, offers.back().get());
         },
         [](void* data, wl_proxy*, wl_proxy* offer) { self(data).takeSelection(offer); },
         [](void* data, wl_proxy*) { self(data).refused_ = true; },
@@ -103,7 +103,7 @@ DataControlReader::DataControlReader(std::unique_ptr<WaylandConnection> connecti
       host_{std::move(host)},
       registry_{wl_proxy_marshal_flags(connection_->display(), WL_DISPLAY_GET_REGISTRY,
                                        &coreInterface("wl_registry_interface"), 1, 0, nullptr)} {
-    listen(registry_.get(), Events::registry, this);
+    listenTo(registry_.get(), Events::registry, this);
     sync([this] { bindDevice(); });
 }
 
@@ -127,7 +127,7 @@ void DataControlReader::bindDevice() {
     manager_ = bind(global, protocol_->manager, version);
     device_.reset(wl_proxy_marshal_flags(manager_.get(), DataControl::getDataDevice,
                                          protocol_->device, version, 0, nullptr, seat_.get()));
-    listen(device_.get(), Events::device, this);
+    listenTo(device_.get(), Events::device, this);
     // Where nothing is copied, some compositors send no selection, so it is not waited for.
     sync([this] { ready_ = true; });
 }
@@ -144,7 +144,7 @@ void DataControlReader::sync(std::function<void()> then) {
     synced_ = std::move(then);
     callback_.reset(wl_proxy_marshal_flags(connection_->display(), WL_DISPLAY_SYNC,
                                            &coreInterface("wl_callback_interface"), 1, 0, nullptr));
-    listen(callback_.get(), Events::callback, this);
+    listenTo(callback_.get(), Events::callback, this);
 }
 
 ClipboardWay DataControlReader::way() const {
@@ -166,6 +166,8 @@ std::unique_ptr<DataControlReader::Offer> DataControlReader::takeNewOffer(wl_pro
 
 void DataControlReader::takeSelection(wl_proxy* offer) {
     selection_ = takeNewOffer(offer);
+    // A reading that begins now replaces the sync at the start, if that is still awaited.
+    ready_ = true;
     overtaken_ = true;
     silence_ = {};
     late_.reset();
@@ -248,8 +250,9 @@ bool DataControlReader::waitForOwner(int watched, Done done) {
     const auto start = std::chrono::steady_clock::now();
     if (waitUntil(start + host_.limits.patience - silence_, watched,
                   [&] { return overtaken_ || done(); })) {
+        if (overtaken_) return false; // what was waited for until now was another owner
         silence_ += std::chrono::steady_clock::now() - start;
-        return !overtaken_;
+        return true;
     }
     if (alive() && !host_.stop.stop_requested()) silence_ = host_.limits.patience;
     return false;

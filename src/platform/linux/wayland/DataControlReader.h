@@ -4,6 +4,7 @@
 #include "platform/linux/pasteboard/ClipboardReader.h"
 #include "platform/linux/wayland/DataControlProtocol.h"
 #include "platform/linux/wayland/Intake.h"
+#include "platform/linux/wayland/Proxy.h"
 #include "platform/linux/wayland/WaylandConnection.h"
 
 namespace quillon {

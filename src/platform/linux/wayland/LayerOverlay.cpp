@@ -16,9 +16,9 @@ void LayerOverlay::show(Picture picture) {
 
 void LayerOverlay::setOpacity(double opacity) {
     opacity_ = opacity;
-    for (const auto& surface : {present_.get(), former_.get()}) {
-        if (surface) surface->setOpacity(opacity);
-    }
+    // In this order, since the first frame of the present one ends the former.
+    if (former_) former_->setOpacity(opacity);
+    if (present_) present_->setOpacity(opacity);
 }
 
 void LayerOverlay::hide() {

@@ -1,13 +1,9 @@
 #include "platform/linux/wayland/LayerShell.h"
 
 #include <poll.h>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <cstring>
-#include <filesystem>
+#include <utility>
 
 namespace quillon {
 namespace {
@@ -28,54 +24,23 @@ constexpr std::array<Wanted, 5> wanted{
 constexpr const char* output = "wl_output";
 constexpr std::uint32_t outputVersion = 2; // tells its scale
 
-/// The socket of the compositor; empty when there is none.
-std::filesystem::path compositorSocket() {
-    std::filesystem::path display{qgetenv("WAYLAND_DISPLAY").toStdString()};
-    if (display.empty() || display.is_absolute()) return display;
-    const std::filesystem::path folder{qgetenv("XDG_RUNTIME_DIR").toStdString()};
-    return folder.empty() ? folder : folder / display;
-}
-
-/// Connects without waiting for a compositor that accepts nothing; -1 when that fails.
-int connectTo(const std::filesystem::path& path) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    if (path.empty() || path.native().size() >= sizeof address.sun_path) return -1;
-    std::memcpy(address.sun_path, path.c_str(), path.native().size());
-    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    if (::connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
-        return socket;
-    ::close(socket);
-    return -1;
-}
-
 /// The interface of the core protocol that is called so there, as in "wl_output".
 const wl_interface& core(const std::string& name) {
     return coreInterface((name + "_interface").c_str());
 }
 
-/// A display is an object like any other, for requests.
-wl_proxy* asObject(wl_display* display) {
-    return reinterpret_cast<wl_proxy*>(display);
-}
-
 } // namespace
 
 std::unique_ptr<LayerShell> LayerShell::open() {
-    const int socket = connectTo(compositorSocket());
-    if (socket < 0) return nullptr;
-    if (!libwayland.load()) {
-        ::close(socket);
-        return nullptr;
-    }
-    wl_display* const display = wl_display_connect_to_fd(socket); // which closes it
-    return display ? std::unique_ptr<LayerShell>{new LayerShell{display}} : nullptr;
+    auto connection = WaylandConnection::open();
+    return connection ? std::unique_ptr<LayerShell>{new LayerShell{std::move(connection)}}
+                      : nullptr;
 }
 
-LayerShell::LayerShell(wl_display* display)
-    : display_{display},
-      registry_{requestNew(core("wl_registry"), asObject(display), WL_DISPLAY_GET_REGISTRY)},
-      asked_{requestNew(core("wl_callback"), asObject(display), WL_DISPLAY_SYNC)} {
+LayerShell::LayerShell(std::unique_ptr<WaylandConnection> connection)
+    : connection_{std::move(connection)},
+      registry_{requestNew(core("wl_registry"), connection_->display(), WL_DISPLAY_GET_REGISTRY)},
+      asked_{requestNew(core("wl_callback"), connection_->display(), WL_DISPLAY_SYNC)} {
     static constexpr wl_registry_listener offers{
         .global =
             [](void* self, wl_registry*, std::uint32_t name, const char* interface,
@@ -94,8 +59,7 @@ LayerShell::LayerShell(wl_display* display)
 }
 
 void LayerShell::followEvents() {
-    notifier_ =
-        std::make_unique<QSocketNotifier>(wl_display_get_fd(display_.get()), QSocketNotifier::Read);
+    notifier_ = std::make_unique<QSocketNotifier>(connection_->descriptor(), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
                      [this] { takeEvents(); });
     if (!alive_) end();
@@ -107,7 +71,7 @@ bool LayerShell::waitForOffers(std::chrono::milliseconds patience) {
     while (alive_ && asked_) {
         const auto left =
             std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
-        pollfd socket{.fd = wl_display_get_fd(display_.get()), .events = POLLIN, .revents = 0};
+        pollfd socket{.fd = connection_->descriptor(), .events = POLLIN, .revents = 0};
         if (left <= 0 || ::poll(&socket, 1, static_cast<int>(left)) == 0) return false;
         takeEvents();
     }
@@ -172,7 +136,7 @@ int LayerShell::scaleOf(const wl_proxy* output) const {
 void LayerShell::flush() {
     // A compositor that has not read for so long that the socket is full hangs. Going on would fill
     // libwayland's own memory too, which it takes for the end.
-    if (wl_display_flush(display_.get()) < 0) end();
+    if (!connection_->flush()) end();
 }
 
 void LayerShell::add(std::uint32_t name, const std::string& interface, std::uint32_t version) {
@@ -192,11 +156,10 @@ void LayerShell::remove(std::uint32_t name) {
     std::erase_if(screens_, [name](const auto& screen) { return screen->name == name; });
 }
 
-WaylandReference LayerShell::bind(std::uint32_t name, const wl_interface& interface,
-                                  std::uint32_t version) const {
-    return WaylandReference{wl_proxy_marshal_flags(registry_.get(), WL_REGISTRY_BIND, &interface,
-                                                   version, 0, name, interface.name, version,
-                                                   nullptr)};
+ProxyPointer LayerShell::bind(std::uint32_t name, const wl_interface& interface,
+                              std::uint32_t version) const {
+    return ProxyPointer{wl_proxy_marshal_flags(registry_.get(), WL_REGISTRY_BIND, &interface,
+                                               version, 0, name, interface.name, version, nullptr)};
 }
 
 void LayerShell::listenTo(Screen& screen) {
@@ -215,14 +178,8 @@ void LayerShell::listenTo(Screen& screen) {
 }
 
 void LayerShell::takeEvents() {
-    while (wl_display_prepare_read(display_.get()) != 0) {
-        if (wl_display_dispatch_pending(display_.get()) < 0) return end();
-    }
-    // Takes what has come, and does not wait.
-    if (wl_display_read_events(display_.get()) < 0 ||
-        wl_display_dispatch_pending(display_.get()) < 0)
-        return end();
-    flush();
+    connection_->dispatch();
+    connection_->alive() ? flush() : end();
 }
 
 void LayerShell::end() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/linux/wayland/OverlayProtocols.h"
+#include "platform/linux/wayland/WaylandConnection.h"
 
 #include <QSocketNotifier>
 
@@ -22,8 +23,8 @@ using BufferPointer = WaylandPointer<WL_BUFFER_DESTROY>;
 /// one that dies, hangs or refuses ends the connection and nothing else.
 class LayerShell {
 public:
-    /// Connects to the compositor that $WAYLAND_DISPLAY names, and asks what it offers; null when
-    /// none listens there.
+    /// Connects to the compositor that $WAYLAND_DISPLAY names, else to "wayland-0", and asks what
+    /// it offers; null when none listens there.
     [[nodiscard]] static std::unique_ptr<LayerShell> open();
 
     LayerShell(const LayerShell&) = delete;
@@ -65,29 +66,25 @@ private:
 
     struct Screen {
         std::uint32_t name;
-        WaylandReference output;
+        ProxyPointer output;
         int scale = 1;
     };
 
-    struct DisplayDeleter {
-        void operator()(wl_display* display) const { wl_display_disconnect(display); }
-    };
-
-    explicit LayerShell(wl_display* display);
+    explicit LayerShell(std::unique_ptr<WaylandConnection> connection);
 
     [[nodiscard]] bool scalesByFractions() const;
     void add(std::uint32_t name, const std::string& interface, std::uint32_t version);
     void remove(std::uint32_t name);
-    [[nodiscard]] WaylandReference bind(std::uint32_t name, const wl_interface& interface,
-                                        std::uint32_t version) const;
+    [[nodiscard]] ProxyPointer bind(std::uint32_t name, const wl_interface& interface,
+                                    std::uint32_t version) const;
     static void listenTo(Screen& screen);
     void takeEvents();
     void end();
 
-    std::unique_ptr<wl_display, DisplayDeleter> display_;
-    WaylandReference registry_;
-    WaylandReference asked_; ///< null when everything offered is known
-    std::array<WaylandReference, globalCount> globals_;
+    std::unique_ptr<WaylandConnection> connection_; ///< outlives all objects on it
+    ProxyPointer registry_;
+    ProxyPointer asked_; ///< null when everything offered is known
+    std::array<ProxyPointer, globalCount> globals_;
     std::vector<std::unique_ptr<Screen>> screens_; // whose addresses libwayland keeps
     bool alive_ = true;
     std::unique_ptr<QSocketNotifier> notifier_;

@@ -11,7 +11,6 @@ namespace quillon {
 /// those of a library that is linked.
 inline constinit const LateLibrary libwayland{QUILLON_WAYLAND};
 
-QUILLON_LATE(libwayland, wl_display_connect);
 QUILLON_LATE(libwayland, wl_display_connect_to_fd);
 QUILLON_LATE(libwayland, wl_display_disconnect);
 QUILLON_LATE(libwayland, wl_display_dispatch_pending);

@@ -12,6 +12,10 @@ namespace {
 /// One that shows, one to paint on, and one for a compositor that is late.
 constexpr std::size_t mostImages = 3;
 
+/// No screen has more pixels to a device-independent one; pictures for a compositor that says so
+/// would take all memory.
+constexpr double largestScale = 16;
+
 layerSurface::Anchor anchorAt(Overlay::Edge edge) {
     switch (edge) {
     case Overlay::Edge::top:
@@ -32,7 +36,7 @@ OverlaySurface::OverlaySurface(LayerShell& shell, Overlay::Picture picture, doub
       picture_{std::move(picture)},
       opacity_{opacity},
       drawn_{std::move(drawn)},
-      scale_{static_cast<double>(shell.scaleOf(nullptr))},
+      scale_{std::min<double>(shell.scaleOf(nullptr), largestScale)},
       surface_{shell.makeSurface()},
       viewport_{shell.makeViewport(surface_.get())},
       fractions_{shell.makeFractionalScale(surface_.get())},
@@ -85,7 +89,7 @@ void OverlaySurface::configure(std::uint32_t serial) {
 }
 
 void OverlaySurface::setScale(double scale) {
-    if (scale == scale_ || !(scale > 0)) return;
+    if (scale == scale_ || !(scale > 0) || scale > largestScale) return;
     scale_ = scale;
     painted_ = {};
     update();

@@ -50,7 +50,7 @@ private:
     viewport::Pointer viewport_;
     fractionalScale::Pointer fractions_;
     layerSurface::Pointer layer_;
-    WaylandReference frame_; ///< null when it is ready for a frame
+    ProxyPointer frame_; ///< null when it is ready for a frame
 };
 
 } // namespace quillon

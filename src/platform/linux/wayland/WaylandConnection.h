@@ -7,29 +7,13 @@
 
 namespace quillon {
 
-struct ProxyDeleter {
-    void operator()(wl_proxy* proxy) const { wl_proxy_destroy(proxy); }
-};
-
-/// Owns an object of a protocol on this side of the connection. The compositor is told nothing.
-using ProxyPointer = std::unique_ptr<wl_proxy, ProxyDeleter>;
-
-/// Has the events of `proxy` handled by `listener`, whose members are functions in the protocol's
-/// order of events; each gets `data` and the proxy first.
-template <typename Listener>
-void listen(wl_proxy* proxy, const Listener& listener, void* data) {
-    // The library never writes to it.
-    auto* const functions = const_cast<Listener*>(&listener);
-    wl_proxy_add_listener(proxy, reinterpret_cast<void (**)()>(functions), data);
-}
-
 /// A separate connection to a Wayland compositor, for one thread. If the compositor dies, the
 /// connection is dead, but the program goes on.
 class WaylandConnection {
 public:
     /// Connects to `display` (null: what $WAYLAND_DISPLAY names, else "wayland-0"); null when no
-    /// compositor listens there, or the library is missing. Does not wait for an answer.
-    [[nodiscard]] static std::unique_ptr<WaylandConnection> open(const char* display);
+    /// compositor listens there, or the library is missing. Waits for none that hangs.
+    [[nodiscard]] static std::unique_ptr<WaylandConnection> open(const char* display = nullptr);
 
     WaylandConnection(const WaylandConnection&) = delete;
     WaylandConnection& operator=(const WaylandConnection&) = delete;
@@ -42,8 +26,14 @@ public:
     /// False once the compositor is gone or has found a fault; it stays so.
     [[nodiscard]] bool alive() const { return wl_display_get_error(display_) == 0; }
 
+    /// Becomes readable when something arrives.
+    [[nodiscard]] int descriptor() const { return wl_display_get_fd(display_); }
+
     /// Has the listeners handle everything that has arrived. Never waits.
     void dispatch() const;
+
+    /// Sends what is buffered; false where the compositor takes no more now, or nothing any more.
+    bool flush() const { return wl_display_flush(display_) >= 0; }
 
     /// Sends what is buffered and sleeps until something arrives, here or at the other descriptor
     /// (if not negative), the bell or the deadline. Dispatch first: what has been received does not
