@@ -61,9 +61,10 @@ constexpr std::array kinds{
     Kind{FaultKind::answer, "answer", "a reply as given", {"count", "method", "status", "body"}},
 };
 
-const Kind& kindNamed(const std::string& name) {
+const Kind& kindNamed(std::string_view name) {
     const auto* const found = std::ranges::find(kinds, name, &Kind::name);
-    if (found == kinds.end()) throw std::invalid_argument{"unknown fault kind \"" + name + '"'};
+    if (found == kinds.end())
+        throw std::invalid_argument{"unknown fault kind \"" + std::string{name} + '"'};
     return *found;
 }
 

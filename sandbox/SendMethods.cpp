@@ -64,14 +64,14 @@ Json deliver(MethodCall& call, Message message, const std::string& right) {
     return call.world.messageJson(chat, posted);
 }
 
-const UploadedFile& uploaded(const MethodCall& call, const std::string& field) {
+const UploadedFile& uploaded(const MethodCall& call, std::string_view field) {
     const std::string reference = call.parameters.text(field);
     constexpr std::string_view attached = "attach://";
     const UploadedFile* file = call.parameters.file(field);
     if (file == nullptr && reference.starts_with(attached))
         file = call.parameters.file(reference.substr(attached.size()));
     if (file == nullptr && reference.empty())
-        throw badRequest("there is no " + field + " in the request");
+        throw badRequest("there is no " + std::string{field} + " in the request");
     if (file == nullptr)
         throw badRequest("wrong remote file identifier specified: Wrong string length");
     if (file->bytes.empty()) throw badRequest("file must be non-empty");

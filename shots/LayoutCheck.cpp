@@ -17,6 +17,10 @@ namespace quillon::test {
 
 namespace {
 
+/// By this much, in pixels, one release's Qt and fonts make a text wider than another's, with words
+/// that are far longer than most languages' anyway.
+constexpr int otherFonts = 2;
+
 class Check {
 public:
     Check(QWidget& window, QStringList names) : window_{window}, names_{std::move(names)} {
@@ -76,7 +80,8 @@ private:
         const QString text = label ? label->text().plain() : QString{};
         if (label && label->shownText() != text) {
             // Names may be of any length; the program's own words have to fit.
-            if (withoutNames(text) == text)
+            if (withoutNames(text) == text &&
+                label->sizeHint().width() > label->width() + otherFonts)
                 faults_ << QStringLiteral("cut off: %1").arg(nameOf(widget));
             return;
         }

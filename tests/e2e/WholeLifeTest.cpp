@@ -92,6 +92,8 @@ struct WholeLife : EndToEnd {
 
     /// Makes the makers' key, and leaves version 1.0 unpacked as it comes from the web.
     void download() {
+        // What is quickly packed is larger, and no other archive.
+        qputenv("XZ_OPT", "-0");
         output("openssl", {"genpkey", "-algorithm", "ed25519", "-out", pem});
         key = output(QUILLON_SOURCE "/packaging/sign", {"--public-key", pem});
         output("tar", {"-xf", shop / makeBundle("1.0"), "-C", home / "Downloads"});
