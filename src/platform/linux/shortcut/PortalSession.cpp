@@ -148,7 +148,7 @@ void PortalSession::tell(PortalAnswer answer, const QString& trigger) {
 }
 
 QVariant PortalSession::wanted() const {
-    // The form of the "shortcuts" specification: modifiers in capitals, and the key's own name.
+    // The form that freedesktop.org asks for: modifiers in capitals, and the key's own name.
     const QString keys = QStringLiteral("CTRL+ALT+") + QLatin1Char{letterOf(key_)};
     const QString description =
         QString::fromStdString(translate("Shortcut", "Send the clipboard to the phone"));
