@@ -73,6 +73,18 @@ Json deleteTopic(World& world, const Json& in) {
     return done;
 }
 
+// {"group":…,"message":…}: the user deletes it on the phone.
+Json deleteMessage(World& world, const Json& in) {
+    World::deleteMessages(groupOf(world, in), {in.at("message").get<std::int64_t>()});
+    return done;
+}
+
+// {"seconds":172800}
+Json pass(World& world, const Json& in) {
+    world.pass(std::chrono::seconds{in.at("seconds").get<std::int64_t>()});
+    return done;
+}
+
 // {"token":…,"username":…}
 Json addBot(World& world, const Json& in) {
     world.addBot(in.at("token").get<std::string>(), in.value("username", std::string{}));
@@ -139,6 +151,8 @@ constexpr std::array routes{
     Route{"POST", "/sandbox/group/change", locked<changeGroup>},
     Route{"POST", "/sandbox/group/migrate", locked<migrate>},
     Route{"POST", "/sandbox/topics/delete", locked<deleteTopic>},
+    Route{"POST", "/sandbox/messages/delete", locked<deleteMessage>},
+    Route{"POST", "/sandbox/pass", locked<pass>},
     Route{"POST", "/sandbox/bot", locked<addBot>},
     Route{"GET", "/sandbox/events", events},
     Route{"POST", "/sandbox/events/status", setEventsStatus},

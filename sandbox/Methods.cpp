@@ -86,6 +86,8 @@ Method findMethod(std::string_view name) {
         {"createforumtopic", createForumTopic},
         {"editforumtopic", editForumTopic},
         {"deleteforumtopic", deleteForumTopic},
+        {"deletemessage", deleteMessage},
+        {"deletemessages", deleteMessages},
         {"sendmessage", sendMessage},
         {"sendphoto", sendPhoto},
         {"senddocument", sendDocument},

@@ -98,6 +98,15 @@ void Sandbox::deleteTopic(std::int64_t group, std::int64_t topic) {
         [&](World& world) { world.deleteTopic(world.knownChat(group), topic); });
 }
 
+void Sandbox::deleteMessage(std::int64_t group, std::int64_t message) {
+    parts_->backend.withWorld(
+        [&](World& world) { World::deleteMessages(world.knownChat(group), {message}); });
+}
+
+void Sandbox::pass(std::chrono::seconds time) {
+    parts_->backend.withWorld([&](World& world) { world.pass(time); });
+}
+
 void Sandbox::failNext(const Fault& fault) {
     parts_->backend.faults.add(fault);
     // A client with an open connection would not meet the fault before it needs a new one.

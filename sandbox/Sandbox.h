@@ -59,6 +59,10 @@ public:
     std::int64_t userCreatesTopic(std::int64_t group, const std::string& name);
     void userRenamesTopic(std::int64_t group, std::int64_t topic, const std::string& name);
     void deleteTopic(std::int64_t group, std::int64_t topic);
+    /// As the user does it on the phone.
+    void deleteMessage(std::int64_t group, std::int64_t message);
+    /// Sets Telegram's clock forward.
+    void pass(std::chrono::seconds time);
 
     /// Makes the next calls fail; several faults are queued.
     void failNext(const Fault& fault);

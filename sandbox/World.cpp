@@ -15,11 +15,6 @@ constexpr std::int64_t firstGroupId = -4'123'456'789;
 constexpr std::int64_t firstSupergroupId = -1'001'234'567'890;
 constexpr std::int64_t idStep = 111'111'113;
 
-std::int64_t now() {
-    const auto time = std::chrono::system_clock::now().time_since_epoch();
-    return std::chrono::duration_cast<std::chrono::seconds>(time).count();
-}
-
 // In the order of BotRole.
 constexpr std::array<std::string_view, 6> statusNames{"left",   "kicked",        "restricted",
                                                       "member", "administrator", "administrator"};
@@ -163,6 +158,17 @@ void World::deleteTopic(Chat& chat, std::int64_t topicId) {
     std::erase_if(chat.messages, [&](const Message& message) { return message.topic == topicId; });
 }
 
+void World::deleteMessages(Chat& chat, const std::vector<std::int64_t>& ids) {
+    std::erase_if(chat.messages, [&](const Message& message) {
+        return std::ranges::find(ids, message.id) != ids.end();
+    });
+}
+
+std::int64_t World::now() const {
+    const auto time = std::chrono::system_clock::now().time_since_epoch() + passed_;
+    return std::chrono::duration_cast<std::chrono::seconds>(time).count();
+}
+
 Message& World::post(Chat& chat, Message message) {
     message.id = ++chat.lastMessage;
     message.date = now();
@@ -200,6 +206,7 @@ Json World::memberJson(const Bot& bot, BotRole role) const {
     if (role >= BotRole::admin) {
         json["can_be_edited"] = false;
         json["can_manage_chat"] = true;
+        json["can_delete_messages"] = false;
         json["can_manage_topics"] = role == BotRole::topicAdmin;
     }
     if (role == BotRole::kicked) json["until_date"] = 0;

@@ -6,6 +6,7 @@
 #include "sandbox/Json.h"
 #include "sandbox/Updates.h"
 
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <future>
@@ -104,6 +105,14 @@ public:
     /// Deletes the topic with its messages; there is no update about that.
     void deleteTopic(Chat& chat, std::int64_t topicId);
 
+    /// Takes these messages away, those of them that are there; there is no update about that.
+    static void deleteMessages(Chat& chat, const std::vector<std::int64_t>& ids);
+
+    /// Seconds since 1970, on Telegram's clock.
+    std::int64_t now() const;
+    /// Sets Telegram's clock forward.
+    void pass(std::chrono::seconds time) { passed_ += time; }
+
     /// Sets the message's id and date, stores it, and sends updates to the bots that may see it.
     Message& post(Chat& chat, Message message);
 
@@ -117,6 +126,7 @@ private:
     std::deque<Bot> bots_;
     std::deque<Chat> chats_;
     int groupsMade_ = 0;
+    std::chrono::seconds passed_{0};
 };
 
 /// The "chat" member of updates and messages; "is_forum" only when topics are on.

@@ -35,7 +35,8 @@ A local stand-in for the Telegram Bot API.
   --help              print this
 
 Pages for scripts, under /sandbox/: GET view, view.json, requests, events; POST fail, fail/clear,
-requests/clear, says, group, group/change, group/migrate, topics/delete, bot, events/status.
+requests/clear, says, group, group/change, group/migrate, topics/delete, messages/delete, pass,
+bot, events/status.
 
 POST /sandbox/fail lets the next calls fail, for example with
 {"kind":"retry-after","count":2,"method":"sendMessage","retry_after":3}. It takes

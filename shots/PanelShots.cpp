@@ -7,6 +7,7 @@
 #include "support/Faults.h"
 #include "ui/controls/Buttons.h"
 #include "ui/panel/Age.h"
+#include "ui/panel/HistoryRow.h"
 #include "ui/panel/PanelView.h"
 #include "ui/panel/PanelWindow.h"
 #include "ui/panel/SendButton.h"
@@ -68,6 +69,9 @@ struct Scene {
     bool updates = true;
     bool taken = false;
     std::optional<HotKeyState> shortcut{};
+    /// The newest entry can be taken back, or was.
+    bool undo = false;
+    bool takenBack = false;
     void (*act)(BotComputer&, PanelView&) = nullptr;
 };
 
@@ -79,6 +83,18 @@ void hover(QWidget& widget) {
 
 QAbstractButton& sendButton(PanelView& panel) {
     return *panel.findChild<SendButton*>();
+}
+
+/// The button that takes the last send back.
+QAbstractButton& undoButton(PanelView& panel) {
+    return *panel.findChild<HistoryRow*>()->findChild<TextButton*>();
+}
+
+void pointAtNewest(BotComputer& /*computer*/, PanelView& panel) {
+    QWidget& newest = *panel.findChild<HistoryRow*>();
+    hover(newest);
+    QEvent entered{QEvent::Enter};
+    QCoreApplication::sendEvent(&newest, &entered);
 }
 
 /// Makes the send go on for ever: Telegram asks it to wait, and the clock stands still.
@@ -117,6 +133,25 @@ const std::vector<Scene> scenes{
                              .command = "bindsym"}},
     {.name = "no-history", .clipboard = {}, .updates = false},
     {.name = "seven", .history = history, .clipboard = shortText},
+    {.name = "undo",
+     .history = {history.begin(), history.begin() + 4},
+     .clipboard = shortText,
+     .undo = true,
+     .act = pointAtNewest},
+    {.name = "undo-focus",
+     .history = {history.begin() + 3, history.begin() + 5},
+     .clipboard = shortText,
+     .undo = true,
+     .act = [](BotComputer&, PanelView& panel) { undoButton(panel).setFocus(Qt::TabFocusReason); }},
+    {.name = "undo-failed",
+     .history = {history.begin() + 2, history.begin() + 4},
+     .clipboard = shortText,
+     .undo = true,
+     .act = pointAtNewest},
+    {.name = "taken-back",
+     .history = {history.begin(), history.begin() + 3},
+     .clipboard = shortText,
+     .takenBack = true},
     {.name = "long",
      .history = longHistory,
      .clipboard = {{"UTF8_STRING", longText}},
@@ -143,6 +178,14 @@ const std::vector<Scene> scenes{
 void seed(TestComputer& computer, const Scene& scene) {
     computer.platform.system.locale = "en_US";
     computer.setContent("history.json", encodeHistory(scene.history));
+    if (scene.undo || scene.takenBack) {
+        const QUuid newest = scene.history.front().id;
+        UndoRecord record;
+        if (scene.undo)
+            record.last = {.chat = -100'1, .date = FakeClock{}.now(), .items = {{newest, {5}}}};
+        if (scene.takenBack) record.takenBack = {newest};
+        computer.setContent("undo.json", encodeUndo(record));
+    }
     computer.pasteboard.copy(scene.clipboard);
     if (scene.taken)
         computer.hotKeys.takenByOthers = {PhysicalKey::v, PhysicalKey::p, PhysicalKey::c};

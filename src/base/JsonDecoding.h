@@ -2,6 +2,8 @@
 
 #include "base/Json.h"
 
+#include <QUuid>
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -42,6 +44,16 @@ template <typename T>
         return *stored;
     }
     throw Undecodable{};
+}
+
+/// The value as a UUID in its 36-character form, in either case.
+[[nodiscard]] inline QUuid decodedUuid(const Json& value) {
+    const QString text = QString::fromStdString(decodedAs<std::string>(value));
+    const QUuid id = QUuid::fromString(text);
+    const bool standardForm =
+        text.compare(id.toString(QUuid::WithoutBraces), Qt::CaseInsensitive) == 0;
+    if (!standardForm) throw Undecodable{};
+    return id;
 }
 
 /// The object's value under the key; null when it is missing or JSON null.

@@ -11,6 +11,7 @@
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
 #include "platform/linux/desktop/LinuxBundle.h"
+#include "send/UndoOutcome.h"
 #include "update/Installation.h"
 
 #include <QCoroFuture>
@@ -57,6 +58,15 @@ QCoro::Task<int> send(CommandContext context, Arguments /*arguments*/) {
         code = exitFailed;
     }
     co_return code;
+}
+
+QCoro::Task<int> undo(CommandContext context, Arguments /*arguments*/) {
+    const UndoOutcome outcome = co_await context.core.store.undo(context.stop);
+    if (outcome.gone > 0) context.console->print(tookBackText(outcome.gone));
+    for (const UndoOutcome::Kept& kept : outcome.kept)
+        context.console->printError(filled("%1: %2", {kept.title, kept.reason}));
+    if (outcome.problem) throw TelegramError{*outcome.problem};
+    co_return outcome.ok() ? exitDone : exitFailed;
 }
 
 /// Fails when what a command has set up is in memory alone.
@@ -217,6 +227,9 @@ const std::vector<Command> commands{
      .waitsItsTurn = false,
      .action = send,
      .purpose = QT_TRANSLATE_NOOP("CommandLine", "send what is on the clipboard")},
+    {.name = "undo",
+     .action = undo,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "take the last send back, for 48 hours")},
     {.name = "panel",
      .where = Where::residentOnly,
      .purpose =

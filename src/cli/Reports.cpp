@@ -78,7 +78,8 @@ Json shortcutJson(const HotKeyState& shortcut) {
 }
 
 std::vector<std::string> sendColumns(const Sent& entry) {
-    return {entry.error ? "failed" : "sent", entry.topic, entry.title};
+    const char* const state = entry.takenBack ? "undone" : entry.error ? "failed" : "sent";
+    return {state, entry.topic, entry.title};
 }
 
 } // namespace
@@ -144,6 +145,7 @@ std::string historyJson(const std::vector<Sent>& history) {
             {"topic", entry.topic},
             {"title", entry.title}};
         if (entry.error) object["error"] = *entry.error;
+        if (entry.takenBack) object["takenBack"] = true;
         array.push_back(std::move(object));
     }
     return writeJson(array) + "\n";

@@ -10,7 +10,8 @@ namespace quillon {
 
 class Store;
 
-/// "sent" or "failed", topic and title, with tabs between; those within are shown as spaces.
+/// "sent", "failed" or "undone", topic and title, with tabs between; those within are shown as
+/// spaces.
 [[nodiscard]] std::string sendLine(const Sent& entry);
 
 /// What is set up, for people, and as one JSON object: "ready", "tokenSaved", "botName", "chatId",
@@ -22,7 +23,8 @@ class Store;
 [[nodiscard]] std::string statusJson(const Store& store, const DesktopWays& ways, bool registered);
 
 /// The history, newest first: a line each with local time, and as a JSON array of objects with
-/// "id", "date" (ISO 8601, UTC), "topic", "title" and, for what failed, "error".
+/// "id", "date" (ISO 8601, UTC), "topic", "title" and, for what failed, "error"; what was taken
+/// back has "takenBack" true.
 [[nodiscard]] std::string historyText(const std::vector<Sent>& history);
 [[nodiscard]] std::string historyJson(const std::vector<Sent>& history);
 

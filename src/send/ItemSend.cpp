@@ -42,7 +42,7 @@ PreparedText prepare(const std::string& text) {
 }
 
 SentItem makeItem(const Sending& sending, TopicKind kind, std::string title, std::int64_t bytes) {
-    return {.entry = {.id = QUuid::createUuid(),
+    return {.entry = {.id = sending.entry,
                       .symbol = std::string{traits(kind).itemSymbol},
                       .title = std::move(title),
                       .topic = topicFor(sending.recipient.topics, kind).name,
@@ -86,9 +86,11 @@ struct Request {
 QCoro::Task<SentItem> delivered(SentItem item, Request request, Sending sending) {
     QByteArray file = request.upload ? request.upload->data : QByteArray{};
     try {
-        co_await sending.recipient.client.call(std::move(request.method), std::move(request.params),
-                                               std::move(request.upload), sending.progress,
-                                               sending.stop);
+        const Json message = co_await sending.recipient.client.call(
+            std::move(request.method), std::move(request.params), std::move(request.upload),
+            sending.progress, sending.stop);
+        const auto id = integerMember(message, "message_id").value_or(0);
+        if (id > 0 && sending.arrived) sending.arrived(item.entry.id, id);
     } catch (const TelegramError& error) {
         const bool offline = error.cause == TelegramError::Cause::unreachable;
         item =

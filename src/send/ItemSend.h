@@ -7,7 +7,11 @@
 
 #include <QCoroTask>
 
+#include <QUuid>
+
+#include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <stop_token>
 #include <string>
 
@@ -21,7 +25,7 @@ struct SentItem {
     SendInfo info;
 };
 
-/// What the items of one send have in common.
+/// What the items of one send have in common, but for the id of the entry.
 struct Sending {
     /// Outlives the send.
     Platform& platform;
@@ -30,6 +34,10 @@ struct Sending {
     SendProgress progress;
     /// Once a stop is requested, nothing more is sent than what is on its way.
     std::stop_token stop{};
+    /// The id that the item's entry in the history gets.
+    QUuid entry{};
+    /// Told the entry and the message id of each message that has arrived; may be empty.
+    std::function<void(const QUuid& entry, std::int64_t message)> arrived{};
 };
 
 // Each sends one item to its topic. None throws: a failure is in the entry's error.

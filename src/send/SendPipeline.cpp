@@ -16,8 +16,10 @@
 #include <QScopeGuard>
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
+#include <iterator>
 
 namespace quillon {
 
@@ -35,6 +37,8 @@ struct RunningSend {
     ClipContent content;
     Sending sending;
     Trigger via;
+    /// The ids of the entries, one for each item.
+    std::vector<QUuid> ids{};
     std::vector<SendInfo> infos{};
     std::vector<Sent> entries{};
     /// All items are recorded; what comes now comes too late.
@@ -43,6 +47,12 @@ struct RunningSend {
     [[nodiscard]] std::size_t count() const {
         const auto* files = std::get_if<ClipFiles>(&content);
         return files ? files->paths.size() : 1;
+    }
+
+    [[nodiscard]] Sending sendingOf(std::size_t number) const {
+        Sending one = sending;
+        one.entry = ids.at(number);
+        return one;
     }
 };
 
@@ -57,7 +67,7 @@ auto withItem(const ClipContent& content, std::size_t number, Text text, Image i
 }
 
 QCoro::Task<SentItem> sendItem(const RunningSend& send, std::size_t number) {
-    const Sending& sending = send.sending;
+    const Sending sending = send.sendingOf(number);
     return withItem(
         send.content, number, [&](const ClipText& text) { return sendText(text, sending); },
         [&](const ClipImage& image) { return sendImage(image, sending); },
@@ -65,7 +75,7 @@ QCoro::Task<SentItem> sendItem(const RunningSend& send, std::size_t number) {
 }
 
 SentItem unsentItem(const RunningSend& send, std::size_t number, const std::string& error) {
-    const auto make = [&](const auto& item) { return unsent(item, send.sending, error); };
+    const auto make = [&](const auto& item) { return unsent(item, send.sendingOf(number), error); };
     return withItem(send.content, number, make, make, make);
 }
 
@@ -129,6 +139,13 @@ QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress, std::stop
                                                               .progress = std::move(progress),
                                                               .stop = sendStop_.get_token()},
                                                   .via = via});
+    std::generate_n(std::back_inserter(send->ids), send->count(), QUuid::createUuid);
+    send->sending.arrived = [this, chat = send->sending.recipient.chat](const QUuid& entry,
+                                                                        std::int64_t message) {
+        noteArrival(chat, entry, message);
+    };
+    forgetLastSend();
+    lastSend_.chat = send->sending.recipient.chat;
     running_ = send;
     abandonAtExit(this);
     while (send->entries.size() < send->count() && !sendStop_.stop_requested()) {

@@ -39,6 +39,8 @@ QCoro::Task<std::string> Store::connectBot(std::string pasted) {
     changes = ++tokenChanges_;
     publish(tokenSaved_, true);
     setKeyring(KeyringState::answers);
+    // No bot may delete what another has sent.
+    if (config_.botName != name) forgetLastSend();
     changeConfig([&name](Config& config) { config.botName = name; });
     Q_EMIT setupStepDone(SetupStep::botConnected);
     const auto patience = keyringPatience();
@@ -79,6 +81,7 @@ void Store::clearBot() {
     tokenKept_ = false;
     publish(tokenSaved_, false);
     setKeyring(KeyringState::answers);
+    forgetLastSend();
     changeConfig([](Config& config) {
         clearGroup(config);
         config.botName.reset();

@@ -12,15 +12,6 @@ namespace {
 /// 2001-01-01 00:00:00 UTC.
 constexpr Date referenceDate{std::chrono::sys_days{std::chrono::year{2001} / 1 / 1}};
 
-/// The UUID in its 36-character form, in either case.
-QUuid uuidFromText(const std::string& text) {
-    const QUuid id = QUuid::fromString(QString::fromStdString(text));
-    const bool standardForm = QString::fromStdString(text).compare(
-                                  id.toString(QUuid::WithoutBraces), Qt::CaseInsensitive) == 0;
-    if (!standardForm) throw Undecodable{};
-    return id;
-}
-
 Json sentToJson(const Sent& sent) {
     Json object{{"id", uuidText(sent.id)},
                 {"symbol", sent.symbol},
@@ -41,7 +32,7 @@ Date dateFromSeconds(double seconds) {
 }
 
 Sent sentFromJson(const Json& object) {
-    return {.id = uuidFromText(requiredField<std::string>(object, "id")),
+    return {.id = decodedUuid(requiredMember(object, "id")),
             .symbol = requiredField<std::string>(object, "symbol"),
             .title = requiredField<std::string>(object, "title"),
             .topic = requiredField<std::string>(object, "topic"),

@@ -26,6 +26,8 @@ struct Sent {
     Date date;
     /// Absent when the item was sent, else the sentence the user was shown.
     std::optional<std::string> error;
+    /// Its messages were deleted again. undo.json keeps that, for history.json has no place for it.
+    bool takenBack = false;
 
     bool operator==(const Sent&) const = default;
 };

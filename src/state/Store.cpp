@@ -73,6 +73,13 @@ void Store::load() {
     if (const auto bytes = readDataFile(platform_, historyFile)) {
         history_ = decodeHistory(asText(*bytes));
     }
+    if (const auto bytes = readDataFile(platform_, undoFile)) {
+        UndoRecord record = decodeUndo(asText(*bytes));
+        lastSend_ = std::move(record.last);
+        for (Sent& entry : history_)
+            entry.takenBack =
+                std::ranges::find(record.takenBack, entry.id) != record.takenBack.end();
+    }
 }
 
 bool Store::save(std::string_view file, const std::string& content) const {
@@ -82,6 +89,23 @@ bool Store::save(std::string_view file, const std::string& content) const {
 
 void Store::saveHistory() const {
     save(historyFile, encodeHistory(history_));
+}
+
+void Store::saveUndo() {
+    if (!persist_) return;
+    const auto file = platform_.dataFolder / undoFile;
+    if (!std::exchange(undoTidied_, true)) platform_.files.removeLeftovers(file);
+    UndoRecord record{.last = lastSend_, .takenBack = {}};
+    for (const Sent& entry : history_) {
+        if (entry.takenBack) record.takenBack.push_back(entry.id);
+    }
+    platform_.files.writeAtomically(file, QByteArray::fromStdString(encodeUndo(record)));
+}
+
+void Store::forgetLastSend() {
+    if (lastSend_.items.empty()) return;
+    publish(lastSend_, LastSend{});
+    saveUndo();
 }
 
 template <typename T>

@@ -5,6 +5,7 @@
 #include "platform/SecretStore.h"
 #include "state/ActionQueue.h"
 #include "state/Config.h"
+#include "state/LastSend.h"
 #include "state/Recipient.h"
 #include "state/SendInfo.h"
 #include "state/Sent.h"
@@ -30,6 +31,7 @@ struct BannerMessage;
 struct Platform;
 struct RunningSend;
 struct SentItem;
+struct UndoOutcome;
 
 /// The bot token's place in the keyring, the only place where it persists.
 [[nodiscard]] const KeychainItem& botTokenItem();
@@ -79,6 +81,12 @@ public:
     [[nodiscard]] const std::vector<Sent>& history() const { return history_; }
     /// True while a send runs.
     [[nodiscard]] bool busy() const { return busy_; }
+    /// What of the last send could be taken back, whoever may do so now.
+    [[nodiscard]] const LastSend& lastSend() const { return lastSend_; }
+    /// True while the last send is taken back.
+    [[nodiscard]] bool undoing() const { return undoing_; }
+    /// Whether undo() would ask Telegram.
+    [[nodiscard]] bool canUndo() const;
     /// True once a bot token is stored, as the keyring last said.
     [[nodiscard]] bool tokenSaved() const { return tokenSaved_; }
     /// Whether the keyring has the token of the connected bot; else it is in memory alone.
@@ -136,6 +144,12 @@ public:
     /// sent.
     void endSending(std::chrono::milliseconds patience);
 
+    /// Deletes the messages of the last send from the group, within 48 hours. What is gone is gone
+    /// from lastSend(), and its entries are marked; what Telegram refuses, and what it was not
+    /// asked about, stays for another try. Reports by banner and sound; never throws. After a
+    /// request to stop, it asks for nothing more.
+    [[nodiscard]] QCoro::Task<UndoOutcome> undo(std::stop_token stop = {});
+
     /// Forgets the bot and everything learnt about the group, at once; actions that work for the
     /// bot end. Never fails: a keyring that is locked loses the token when it is unlocked.
     void forgetBot();
@@ -185,6 +199,9 @@ private:
     /// False when the file could not be written, and so is as it was before.
     bool save(std::string_view file, const std::string& content) const;
     void saveHistory() const;
+    void saveUndo();
+    /// Nothing can be taken back any more.
+    void forgetLastSend();
     template <typename T>
     void publish(T& field, T value);
 
@@ -221,6 +238,15 @@ private:
     void abandonSend();
     static void abandonAtExit(Store* store);
     void reportOutcome(const std::vector<Sent>& entries);
+    /// Remembers a message of the send to that chat that is under way.
+    void noteArrival(std::int64_t chat, const QUuid& entry, std::int64_t message);
+    /// Why nothing can be taken back now.
+    [[nodiscard]] std::optional<std::string> undoProblem() const;
+    [[nodiscard]] QCoro::Task<UndoOutcome> takeBack(std::stop_token stop);
+    /// Takes messages that are gone out of `left` and of the last send, and marks the entries that
+    /// have none left.
+    void noteTakenBack(LastSend& left, const std::vector<std::int64_t>& ids);
+    void reportUndo(const UndoOutcome& outcome);
     /// Shows the message where the settings want the banner.
     void show(BannerMessage message);
 
@@ -229,7 +255,11 @@ private:
     Hotkey& hotkey_;
     Config config_;
     std::vector<Sent> history_;
+    LastSend lastSend_;
     bool busy_ = false;
+    bool undoing_ = false;
+    /// Nothing that a killed process left lies beside undo.json any more.
+    bool undoTidied_ = false;
     bool tokenSaved_ = false;
     bool tokenKept_ = false;
     KeyringState keyring_ = KeyringState::asked;

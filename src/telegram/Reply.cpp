@@ -40,9 +40,11 @@ Verdict judge(const HttpReply& reply) {
         seconds && *seconds >= leastRetryAfter && *seconds < longestWait.count()) {
         return Wait{std::chrono::seconds{*seconds + 1}};
     }
-    if (integerMember(*envelope, "error_code") == 401) return refusedToken();
+    const std::int64_t code = integerMember(*envelope, "error_code").value_or(0);
+    if (code == 401) return refusedToken();
     const auto description = textMember(*envelope, "description");
-    return Refusal{description ? *description : translate("Telegram", "Telegram said no.")};
+    return Refusal{description ? *description : translate("Telegram", "Telegram said no."),
+                   static_cast<int>(code)};
 }
 
 } // namespace quillon

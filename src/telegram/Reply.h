@@ -19,9 +19,10 @@ struct Wait {
     std::chrono::seconds duration;
 };
 
-/// The sentence for the user.
+/// The sentence for the user, and the Bot API's "error_code", 0 where there is none.
 struct Refusal {
     std::string message;
+    int code = 0;
 };
 
 using Verdict = std::variant<Success, Wait, Refusal>;

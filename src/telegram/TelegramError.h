@@ -13,11 +13,18 @@ struct TelegramError : std::exception {
     explicit TelegramError(std::string sentence, Cause why = Cause::refused)
         : message{std::move(sentence)},
           cause{why} {}
+    /// Telegram's own refusal, with its error code.
+    TelegramError(std::string sentence, int errorCode)
+        : message{std::move(sentence)},
+          cause{Cause::refused},
+          code{errorCode} {}
 
     [[nodiscard]] const char* what() const noexcept override { return message.c_str(); }
 
     std::string message;
     Cause cause;
+    /// The Bot API's "error_code"; 0 for a failure that is not Telegram's answer.
+    int code = 0;
 };
 
 /// The caller has asked to stop before the request went out.

@@ -46,10 +46,15 @@ struct Commands : EndToEnd {
         const Finished history = quillon.run({"history"});
         EXPECT_THAT(history.out, MatchesRegex("20..-..-.. ..:..:..\tsent\t📝 Notes & text\t"
                                               "first <line>\n"));
+        expectRun({"undo"}, 0, "Took back the message\n", "");
+        EXPECT_EQ(messages("📝 Notes & text").back()["pre"], Json::array()) << "the welcome";
+        expectRun({"undo"}, 1, "", "There is nothing to take back.\n");
+        const Finished undone = quillon.run({"history"});
+        EXPECT_THAT(undone.out, HasSubstr("\tundone\t📝 Notes & text\tfirst <line>\n"));
         expectRun({"rename-topics"}, 0, "", "");
         expectRun({"forget"}, 0, "", "");
         expectRun({"status"}, 0, notSetUp, "");
-        expectRun({"history"}, 0, history.out, "");
+        expectRun({"history"}, 0, undone.out, "");
     }
 };
 

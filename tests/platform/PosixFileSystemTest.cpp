@@ -6,10 +6,15 @@
 
 #include <QTemporaryDir>
 
+#include <sys/ptrace.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <csignal>
+#include <functional>
+#include <set>
 
 namespace quillon::test {
 
@@ -95,6 +100,44 @@ TEST_F(PosixFileSystemTest, ReplacesContentForItsOwnerAlone) {
         EXPECT_EQ(content(where), "short");
     }
     EXPECT_EQ(entries(), 2U);
+}
+
+/// Runs the work in a process that is killed at the beginning or the end of a system call, of which
+/// this is the number; false when it ended before.
+static bool killedAt(int stop, const std::function<void()>& work) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+        ::kill(::getpid(), SIGTRAP);
+        work();
+        ::_exit(0);
+    }
+    int status = 0;
+    for (::waitpid(child, &status, 0); stop > 0 && WIFSTOPPED(status); --stop) {
+        ::ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
+        ::waitpid(child, &status, 0);
+    }
+    if (!WIFSTOPPED(status)) return false;
+    ::kill(child, SIGKILL);
+    ::waitpid(child, &status, 0);
+    return true;
+}
+
+TEST_F(PosixFileSystemTest, LeavesTheOldOrTheNewFileWhereverItIsKilled) {
+    const QByteArray old(100'000, 'o');
+    const QByteArray fresh(50'000, 'n');
+    int stops = 0;
+    bool killed = true;
+    std::set<std::string> left;
+    while (killed) {
+        ASSERT_TRUE(files.write(at("file"), old));
+        killed = killedAt(++stops, [&] { files.writeAtomically(at("file"), fresh); });
+        left.insert(content(at("file")));
+        files.removeLeftovers(at("file"));
+        EXPECT_EQ(entries(), 1U);
+    }
+    EXPECT_GT(stops, 8) << "it opens, writes, closes and renames";
+    EXPECT_THAT(left, UnorderedElementsAre(old.toStdString(), fresh.toStdString()));
 }
 
 TEST_F(PosixFileSystemTest, WritesNothingButFiles) {

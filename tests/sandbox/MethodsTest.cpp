@@ -95,6 +95,49 @@ TEST_F(Methods, refuseTopicsWithoutTheirConditions) {
               "Forbidden: bot was kicked from the supergroup chat");
 }
 
+TEST_F(Methods, deleteWhatABotMayDelete) {
+    const std::string prefix = "Bad Request: ";
+    const std::string kept = prefix + "message can't be deleted";
+    const std::string keptForSome = kept + " for everyone";
+    const auto post = [this](std::int64_t chat) {
+        return call("sendMessage", {{"chat_id", chat}, {"text", "x"}}).result()["message_id"];
+    };
+    const auto remove = [this](std::int64_t chat, const Json& id) {
+        return call("deleteMessage", {{"chat_id", chat}, {"message_id", id}}).error();
+    };
+    const auto removeAll = [this](std::int64_t chat, const Json& ids) {
+        return call("deleteMessages", {{"chat_id", chat}, {"message_ids", ids}}).error();
+    };
+    const Json own = post(group);
+    EXPECT_EQ(remove(group, own), "");
+    EXPECT_EQ(remove(group, own), prefix + "message to delete not found");
+    EXPECT_EQ(remove(group, 0), prefix + "message identifier is not specified");
+    const Json users = sandbox.userSays(group, "hi");
+    EXPECT_EQ(remove(group, users), kept) << "without the right to delete messages";
+    EXPECT_EQ(remove(group, sandbox.userCreatesTopic(group, "t")), kept);
+    // One that is refused keeps all; one that is gone is passed over.
+    const Json another = post(group);
+    EXPECT_EQ(removeAll(group, {another, users}), kept);
+    EXPECT_EQ(removeAll(group, {another, own}), "");
+    EXPECT_EQ(remove(group, another), prefix + "message to delete not found");
+    EXPECT_EQ(removeAll(group, 5), prefix + "expected an Array of message identifiers");
+    EXPECT_EQ(removeAll(group, {"five"}), prefix + "invalid message identifier specified");
+    EXPECT_EQ(removeAll(group, std::vector(101, 5)),
+              prefix + "too many message identifiers specified");
+
+    GroupOptions basic;
+    basic.kind = ChatKind::group;
+    const std::int64_t small = sandbox.addGroup(basic);
+    EXPECT_EQ(remove(small, sandbox.userSays(small, "hi")), "") << "it is an administrator";
+    const Json old = post(small);
+    const Json oldToo = post(group);
+    sandbox.pass(std::chrono::hours{48});
+    EXPECT_EQ(remove(small, old), keptForSome);
+    EXPECT_EQ(remove(group, oldToo), kept);
+    sandbox.addBotToGroup(group, BotRole::kicked);
+    EXPECT_EQ(remove(group, oldToo), "Forbidden: bot was kicked from the supergroup chat");
+}
+
 TEST_F(Methods, recordOnlyUpdatesAllowedAtTheTime) {
     updates({{"allowed_updates", {"message"}}});
     sandbox.userSays(group, "hi");

@@ -3,6 +3,7 @@
 #include "base/ShownText.h"
 #include "ui/accessibility/Accessibility.h"
 
+#include <QAbstractButton>
 #include <QDialog>
 
 #include <utility>
@@ -48,8 +49,13 @@ public:
 protected:
     [[nodiscard]] QList<QAccessibleInterface*> parts() const override {
         const QAccessible::Role role = view_->accessibleRole();
-        const bool whole = role == QAccessible::StaticText || role == QAccessible::ListItem;
-        return whole ? QList<QAccessibleInterface*>{} : ContainerDescription::parts();
+        QList<QAccessibleInterface*> parts = ContainerDescription::parts();
+        if (role == QAccessible::StaticText || role == QAccessible::ListItem) {
+            parts.removeIf([](const QAccessibleInterface* part) {
+                return !qobject_cast<const QAbstractButton*>(part->object());
+            });
+        }
+        return parts;
     }
 
 private:

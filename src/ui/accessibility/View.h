@@ -20,7 +20,7 @@ public:
 
     /// What the view is for assistive technology. An alert or a notification is read out as soon as
     /// it shows. What a static text or a list item shows already says all that the views inside
-    /// would say, so that these are left out.
+    /// would say, so that these are left out; buttons stay.
     void setAccessibleRole(QAccessible::Role role) { role_ = role; }
     [[nodiscard]] QAccessible::Role accessibleRole() const { return role_; }
     /// What it shows, in words. An accessible name, if it has one, takes precedence.

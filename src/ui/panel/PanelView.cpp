@@ -5,6 +5,7 @@
 #include "maintenance/Updater.h"
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
+#include "send/UndoOutcome.h"
 #include "state/Store.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Card.h"
@@ -107,6 +108,7 @@ void PanelView::build() {
     column->addLayout(buildFooter(settings));
     connect(send_, &SendButton::clicked, this,
             [this] { std::ignore = store_.sendClipboard(Trigger::button); });
+    connect(recent_, &RecentSends::undo, this, [this] { std::ignore = store_.undo(); });
     connect(setup_, &SetupCard::startSetup, this, [this] { actions_.showSettings(); });
 }
 
@@ -141,9 +143,17 @@ void PanelView::refresh() {
     keyring_->setVisible(problem.has_value());
     refreshShortcut();
     recent_->setHistory(store_.history(), platform_.clock.now(), platform_.system.locale);
+    refreshUndo();
     updates_->setVisible(updater_.available());
     updates_->setEnabled(updater_.canCheck());
     updateGeometry();
+}
+
+void PanelView::refreshUndo() {
+    const bool offered = store_.canUndo();
+    const bool hadFocus = recent_->isAncestorOf(focusWidget());
+    recent_->offerUndo(offered, store_.lastSend().count());
+    if (hadFocus && !offered) send_->setFocus(Qt::OtherFocusReason);
 }
 
 void PanelView::refreshShortcut() {

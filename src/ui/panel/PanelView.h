@@ -62,6 +62,7 @@ private:
     [[nodiscard]] QHBoxLayout* buildFooter(TextButton* settings);
     /// Shows the state of the store, the updater and the clipboard.
     void refresh();
+    void refreshUndo();
     void refreshShortcut();
     /// Looks at everything that changes without a signal, and schedules the next look.
     void tick();

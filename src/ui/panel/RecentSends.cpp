@@ -23,6 +23,11 @@ RecentSends::RecentSends()
         row = new HistoryRow;
         column->addWidget(row);
     }
+    connect(rows_.front(), &HistoryRow::undo, this, &RecentSends::undo);
+}
+
+void RecentSends::offerUndo(bool offered, std::size_t messages) {
+    rows_.front()->offerUndo(offered, messages);
 }
 
 void RecentSends::setHistory(const std::vector<Sent>& history, Date now,

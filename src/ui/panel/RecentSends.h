@@ -24,6 +24,12 @@ public:
 
     /// `history` has the newest send first. The ages are written in the language of `locale`.
     void setHistory(const std::vector<Sent>& history, Date now, const std::string& locale);
+    /// Offers on the newest entry to take its send back, which is one of so many messages.
+    void offerUndo(bool offered, std::size_t messages);
+
+Q_SIGNALS:
+    /// The user wants the last send taken back.
+    void undo();
 
 private:
     IconLabel* none_;

@@ -241,6 +241,27 @@ TEST_F(ReadyPanel, LooksAtTheClipboardOnceASecondAndOnlyWhileShown) {
     turn();
 }
 
+TEST_F(ReadyPanel, TakesTheLastSendBack) {
+    computer.send({{"UTF8_STRING", "earlier"}});
+    computer.send({{"UTF8_STRING", QByteArray(4'000, 'W')}});
+    open();
+    EXPECT_TRUE(button("Undo")) << "for assistive technology it is always there";
+    EXPECT_EQ(controls->opacity("Undo"), 0);
+    button("Undo")->setFocus(Qt::TabFocusReason);
+    turn();
+    EXPECT_EQ(controls->opacity("Undo"), 1);
+    EXPECT_EQ(accessible(*button("Undo")).text(QAccessible::Description),
+              "Deletes all 2 messages of the last send");
+    EXPECT_TRUE(accessible(*button("Undo")).parent()->role() == QAccessible::ListItem);
+    click("Undo");
+    ASSERT_TRUE(waitUntil([&] { return computer.store->history().front().takenBack; }));
+    turn();
+    EXPECT_FALSE(button("Undo"));
+    EXPECT_TRUE(button(sendName)->hasFocus()) << "it stays in the panel's main part";
+    EXPECT_THAT(seen(), Contains(EndsWith("W, 📝 Notes & text · taken back, Taken back")));
+    EXPECT_THAT(seen(), Contains("earlier, 📝 Notes & text · just now, Sent"));
+}
+
 TEST_F(ReadyPanel, ListsTheFiveNewestWithTheirAge) {
     const Date now = computer.clock.now();
     std::vector<Sent> history{sent("new.pdf", now - 59s), sent("minute.pdf", now - 60s),
