@@ -1,0 +1,84 @@
+#include "cli/StandardInput.h"
+
+#include <QtConcurrentRun>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quillon::StandardInput {
+
+namespace {
+
+/// A pipe's capacity, in bytes (pipe(7)).
+constexpr std::size_t pieceSize = 65'536;
+
+/// As read() does, but waits where the file does not want to be waited for.
+ssize_t readSome(int file, char* bytes, std::size_t size) {
+    for (;;) {
+        const ssize_t count = ::read(file, bytes, size);
+        if (count >= 0 || (errno != EINTR && errno != EAGAIN)) return count;
+        pollfd ready{.fd = file, .events = POLLIN, .revents = 0};
+        ::poll(&ready, 1, -1);
+    }
+}
+
+/// False when either file fails.
+bool copyTo(int memory, std::size_t limit) {
+    std::array<char, pieceSize> piece{};
+    for (std::size_t left = limit; left > 0;) {
+        const ssize_t count = readSome(STDIN_FILENO, piece.data(), std::min(left, piece.size()));
+        if (count <= 0) return count == 0;
+        if (::write(memory, piece.data(), static_cast<std::size_t>(count)) != count) return false;
+        left -= static_cast<std::size_t>(count);
+    }
+    return true;
+}
+
+/// Closes the file.
+std::optional<QByteArray> readAndClose(int file, qsizetype limit) {
+    struct stat status {};
+    QByteArray bytes;
+    const bool regular = ::fstat(file, &status) == 0 && S_ISREG(status.st_mode);
+    if (regular) bytes.resize(std::min<qsizetype>(status.st_size, limit));
+    ssize_t count = regular ? 0 : -1;
+    for (qsizetype at = 0; at < bytes.size() && count >= 0; at += count) {
+        count = ::pread(file, bytes.data() + at, static_cast<std::size_t>(bytes.size() - at), at);
+        if (count == 0) bytes.truncate(at);
+    }
+    if (file >= 0) ::close(file);
+    return count < 0 ? std::nullopt : std::optional{bytes};
+}
+
+} // namespace
+
+void ensure() {
+    // The lowest number that is free is standard input's.
+    if (::fcntl(STDIN_FILENO, F_GETFD) < 0) ::open("/dev/null", O_RDONLY);
+}
+
+bool isContent() {
+    struct stat status {};
+    if (::fstat(STDIN_FILENO, &status) != 0) return false;
+    return S_ISFIFO(status.st_mode) || S_ISREG(status.st_mode);
+}
+
+bool hold(std::size_t limit) {
+    const int memory = ::memfd_create("quillon-input", MFD_CLOEXEC);
+    if (memory < 0) return false;
+    const bool copied = copyTo(memory, limit) && ::dup2(memory, STDIN_FILENO) == STDIN_FILENO;
+    ::close(memory);
+    return copied;
+}
+
+QFuture<std::optional<QByteArray>> held(int file, qsizetype limit) {
+    return QtConcurrent::run(readAndClose, ::fcntl(file, F_DUPFD_CLOEXEC, 0), limit);
+}
+
+} // namespace quillon::StandardInput
