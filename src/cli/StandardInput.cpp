@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <filesystem>
+#include <string>
+#include <system_error>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -18,6 +21,9 @@ namespace {
 
 /// A pipe's capacity, in bytes (pipe(7)).
 constexpr std::size_t pieceSize = 65'536;
+
+/// In milliseconds.
+constexpr int patience = 1000;
 
 /// As read() does, but waits where the file does not want to be waited for.
 ssize_t readSome(int file, char* bytes, std::size_t size) {
@@ -39,6 +45,25 @@ bool copyTo(int memory, std::size_t limit) {
         left -= static_cast<std::size_t>(count);
     }
     return true;
+}
+
+/// Whether the process that started this one has this file open, too.
+bool parentHas(const struct stat& file) {
+    std::error_code ignored;
+    const std::filesystem::path files = "/proc/" + std::to_string(::getppid()) + "/fd";
+    for (const auto& each : std::filesystem::directory_iterator{files, ignored}) {
+        struct stat status {};
+        const bool same = ::stat(each.path().c_str(), &status) == 0 &&
+                          status.st_dev == file.st_dev && status.st_ino == file.st_ino;
+        if (same) return true;
+    }
+    return false;
+}
+
+/// Whether neither bytes nor their end come for a while.
+bool isSilent() {
+    pollfd input{.fd = STDIN_FILENO, .events = POLLIN, .revents = 0};
+    return ::poll(&input, 1, patience) == 0;
 }
 
 /// Closes the file.
@@ -66,7 +91,8 @@ void ensure() {
 bool isContent() {
     struct stat status {};
     if (::fstat(STDIN_FILENO, &status) != 0) return false;
-    return S_ISFIFO(status.st_mode) || S_ISREG(status.st_mode);
+    if (S_ISFIFO(status.st_mode)) return !parentHas(status) || !isSilent();
+    return S_ISREG(status.st_mode);
 }
 
 bool hold(std::size_t limit) {

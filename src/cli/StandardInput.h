@@ -17,9 +17,11 @@ void ensure();
 /// pipe or a regular file. Everything else leaves `quillon send` to the clipboard: a terminal, the
 /// /dev/null of desktops, systemd and services, and a socket, which is what a whole session that
 /// was started over the network, or by a program that speaks to its children by sockets, hands
-/// down to the command of each of its key bindings. Of a pipe it cannot be told whether it was made
-/// for this command or handed down; it counts as content though it be empty, for the clipboard must
-/// never go out in place of a command's output that failed to come.
+/// down to the command of each of its key bindings. A pipe counts as content though it be empty,
+/// for the clipboard must not go out in place of a command's output that failed to come. The
+/// exception are the pipes that some launchers give to whatever they start, and never use: nothing
+/// comes for a second, not even the end, and the parent process has the pipe itself, which is so
+/// with none that a shell makes between two commands.
 [[nodiscard]] bool isContent();
 
 /// Reads standard input to its end, or `limit` bytes of it, and puts a file in memory that holds

@@ -108,7 +108,12 @@ struct Anywhere : EndToEnd {
         expectShell("python3 -c 'import socket, subprocess, sys\n"
                     "subprocess.run([sys.argv[1], \"send\"], stdin=socket.socketpair()[0])' \"$0\"",
                     0, "sent\t📝 Notes & text\tcopied\n", "");
-        EXPECT_THAT(notes(), SizeIs(before + 4));
+        QProcess launched; // with a pipe that nobody uses
+        launched.setProcessEnvironment(quillon.environment);
+        launched.start(QString::fromStdString(quillon.executable), words("send"));
+        EXPECT_EQ(Program::finish(launched).out, "sent\t📝 Notes & text\tcopied\n");
+        expectShell("{ sleep 1.5; echo late; } | q send", 0, "sent\t📝 Notes & text\tlate\n", "");
+        EXPECT_THAT(notes(), SizeIs(before + 6));
     }
 
     void loseAFileMeanwhile() {
@@ -143,7 +148,7 @@ TEST_F(Anywhere, DoesTheSameInTheProgramThatRuns) {
     // Input that never ends is waited for by nobody but its own command.
     QProcess endless;
     endless.setProcessEnvironment(quillon.environment);
-    endless.start(QString::fromStdString(quillon.executable), words("send"));
+    endless.start(QString::fromStdString(quillon.executable), words("send -"));
     EXPECT_FALSE(endless.waitForFinished(500));
     expectShell("q send plan.pdf", 0, "sent\t📎 Files\tplan.pdf\n", "");
     endless.terminate();
