@@ -47,15 +47,17 @@ bool copyTo(int memory, std::size_t limit) {
     return true;
 }
 
-/// Whether the process that started this one has this file open, too.
-bool parentHas(const struct stat& file) {
+/// Whether the process that started this one has the other end of this pipe.
+bool parentWrites(const struct stat& pipe) {
     std::error_code ignored;
     const std::filesystem::path files = "/proc/" + std::to_string(::getppid()) + "/fd";
     for (const auto& each : std::filesystem::directory_iterator{files, ignored}) {
-        struct stat status {};
-        const bool same = ::stat(each.path().c_str(), &status) == 0 &&
-                          status.st_dev == file.st_dev && status.st_ino == file.st_ino;
-        if (same) return true;
+        struct stat end {};
+        struct stat link {}; // its rights are those that the file was opened with
+        const bool same = ::stat(each.path().c_str(), &end) == 0 && end.st_dev == pipe.st_dev &&
+                          end.st_ino == pipe.st_ino;
+        if (same && ::lstat(each.path().c_str(), &link) == 0 && (link.st_mode & S_IWUSR) != 0)
+            return true;
     }
     return false;
 }
@@ -91,7 +93,7 @@ void ensure() {
 bool isContent() {
     struct stat status {};
     if (::fstat(STDIN_FILENO, &status) != 0) return false;
-    if (S_ISFIFO(status.st_mode)) return !parentHas(status) || !isSilent();
+    if (S_ISFIFO(status.st_mode)) return !parentWrites(status) || !isSilent();
     return S_ISREG(status.st_mode);
 }
 

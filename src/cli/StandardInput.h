@@ -19,9 +19,9 @@ void ensure();
 /// was started over the network, or by a program that speaks to its children by sockets, hands
 /// down to the command of each of its key bindings. A pipe counts as content though it be empty,
 /// for the clipboard must not go out in place of a command's output that failed to come. The
-/// exception are the pipes that some launchers give to whatever they start, and never use: nothing
-/// comes for a second, not even the end, and the parent process has the pipe itself, which is so
-/// with none that a shell makes between two commands.
+/// exception are the pipes that some launchers make to whatever they start, and never use: nothing
+/// comes for a second, not even the end, and it is the parent process that would have to write it,
+/// as with no pipe that a shell makes between two commands.
 [[nodiscard]] bool isContent();
 
 /// Reads standard input to its end, or `limit` bytes of it, and puts a file in memory that holds

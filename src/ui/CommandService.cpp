@@ -302,7 +302,7 @@ void CommandService::QuitWithoutUpdate() {
 }
 
 void CommandService::take(Call call) {
-    if (!context_) return early_.emplace_back([this, call] { take(call); });
+    if (!context_) return whenServing([this, call] { take(call); });
     if (call.invocation.onlyReads() || !call.invocation.command->waitsItsTurn) {
         carryOut(std::move(call));
         return;
