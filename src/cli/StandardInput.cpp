@@ -6,6 +6,7 @@
 #include <array>
 #include <cerrno>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <system_error>
 
@@ -47,10 +48,10 @@ bool copyTo(int memory, std::size_t limit) {
     return true;
 }
 
-/// Whether the process that started this one has the other end of this pipe.
-bool parentWrites(const struct stat& pipe) {
+/// Whether the process has the writing end of this pipe; false where that cannot be seen.
+bool writes(pid_t process, const struct stat& pipe) {
     std::error_code ignored;
-    const std::filesystem::path files = "/proc/" + std::to_string(::getppid()) + "/fd";
+    const std::filesystem::path files = "/proc/" + std::to_string(process) + "/fd";
     for (const auto& each : std::filesystem::directory_iterator{files, ignored}) {
         struct stat end {};
         struct stat link {}; // its rights are those that the file was opened with
@@ -58,6 +59,24 @@ bool parentWrites(const struct stat& pipe) {
                           end.st_ino == pipe.st_ino;
         if (same && ::lstat(each.path().c_str(), &link) == 0 && (link.st_mode & S_IWUSR) != 0)
             return true;
+    }
+    return false;
+}
+
+/// 0 where it cannot be told.
+pid_t parentOf(pid_t process) {
+    std::ifstream status{"/proc/" + std::to_string(process) + "/status"};
+    for (std::string word; status >> word;) {
+        pid_t parent = 0;
+        if (word == "PPid:" && status >> parent) return parent;
+    }
+    return 0;
+}
+
+/// Whether one of the processes that led to this one has the other end of this pipe.
+bool ancestorWrites(const struct stat& pipe) {
+    for (pid_t process = ::getppid(); process > 1; process = parentOf(process)) {
+        if (writes(process, pipe)) return true;
     }
     return false;
 }
@@ -93,7 +112,7 @@ void ensure() {
 bool isContent() {
     struct stat status {};
     if (::fstat(STDIN_FILENO, &status) != 0) return false;
-    if (S_ISFIFO(status.st_mode)) return !parentWrites(status) || !isSilent();
+    if (S_ISFIFO(status.st_mode)) return !ancestorWrites(status) || !isSilent();
     return S_ISREG(status.st_mode);
 }
 

@@ -20,8 +20,8 @@ void ensure();
 /// down to the command of each of its key bindings. A pipe counts as content though it be empty,
 /// for the clipboard must not go out in place of a command's output that failed to come. The
 /// exception are the pipes that some launchers make to whatever they start, and never use: nothing
-/// comes for a second, not even the end, and it is the parent process that would have to write it,
-/// as with no pipe that a shell makes between two commands.
+/// comes for a second, not even the end, and it is the process that started this one, or one that
+/// led to it, that would have to write it, as with no pipe that a shell makes between two commands.
 [[nodiscard]] bool isContent();
 
 /// Reads standard input to its end, or `limit` bytes of it, and puts a file in memory that holds
