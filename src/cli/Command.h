@@ -41,6 +41,8 @@ struct Command {
     /// One of these may stand behind the name, or before it.
     std::vector<Word> words{};
     bool needsWord = false;
+    /// Any number of them may, each once.
+    bool takesSeveralWords = false;
     /// Any words at all may stand behind the name.
     bool takesAnything = false;
     /// What it asks for on standard input, without echo, marked for translation in the context

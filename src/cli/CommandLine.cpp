@@ -15,6 +15,13 @@ const Command* commandNamed(std::string_view name) {
 
 bool takes(const Command& command, const Arguments& arguments) {
     if (arguments.empty()) return !command.needsWord;
+    if (command.takesSeveralWords) {
+        const auto once = [&](const std::string& word) {
+            return std::ranges::count(arguments, word) == 1 &&
+                   std::ranges::find(command.words, word, &Word::text) != command.words.end();
+        };
+        return std::ranges::all_of(arguments, once);
+    }
     return arguments.size() == 1 &&
            std::ranges::find(command.words, arguments.front(), &Word::text) != command.words.end();
 }
@@ -92,10 +99,12 @@ std::string completions(const std::vector<std::string>& words) {
             if (command.purpose != nullptr) text += candidate(command.name, command.purpose);
         }
     }
-    const Command* const command = words.size() == 1 ? commandNamed(words.front()) : nullptr;
-    if (command != nullptr) {
-        for (const Word& word : command->words)
-            text += candidate(word.text, word.purpose);
+    const Command* const command = words.empty() ? nullptr : commandNamed(words.front());
+    if (command != nullptr && (words.size() == 1 || command->takesSeveralWords)) {
+        for (const Word& word : command->words) {
+            if (std::ranges::find(words, word.text) == words.end())
+                text += candidate(word.text, word.purpose);
+        }
     }
     return text;
 }
