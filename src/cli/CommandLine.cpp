@@ -38,11 +38,11 @@ std::optional<Invocation> commandAt(std::size_t place, const std::vector<std::st
     return Invocation{.command = command, .arguments = std::move(arguments)};
 }
 
-/// "launch-at-login on|off|status", "status [--json]"
+/// "launch-at-login on|off|status", "status [--json]", "doctor [--json] [--names]"
 std::string usage(const Command& command) {
     std::string words;
     for (const Word& word : command.words) {
-        if (!words.empty()) words += '|';
+        if (!words.empty()) words += command.takesSeveralWords ? "] [" : "|";
         words += word.text;
     }
     std::string name{command.name};

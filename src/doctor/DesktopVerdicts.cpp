@@ -1,11 +1,11 @@
 // Session, display, clipboard, shortcut, banner and icon.
 #include "doctor/Verdicts.h"
 
-#include "base/Text.h"
-
 #include <QtGlobal>
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace quillon {
 
@@ -36,7 +36,6 @@ Verdict withoutDisplay() {
     return {unknown, {QT_TRANSLATE_NOOP("Doctor", "not looked at, for the display is missing")}};
 }
 
-/// In the order of ShortcutChoice's keys.
 std::string keys(const Facts& facts) {
     return keysText(facts.config.shortcut);
 }
@@ -63,14 +62,8 @@ std::string formatNames(const std::vector<std::string>& formats) {
 constexpr std::array<const char*, 4> clipboardWays{"ext-data-control", "wlr-data-control", "X11",
                                                    ""};
 
-struct ShortcutRow {
-    FindingState state;
-    const char* found;
-    const char* mend;
-};
-
 /// In the order of HotKeyState::Kind.
-constexpr ShortcutRow shortcutRows[]{
+constexpr VerdictRow shortcutRows[]{
     {warning, QT_TRANSLATE_NOOP("Doctor", "the desktop has not answered yet"),
      QT_TRANSLATE_NOOP("Doctor", "If it asks you, answer there.")},
     {ok, QT_TRANSLATE_NOOP("Doctor", "%1 works"), ""},
@@ -153,7 +146,7 @@ Verdict shortcutVerdict(const Facts& facts, Names /*names*/) {
                 {QT_TRANSLATE_NOOP("Doctor", "the desktop's shortcuts have stopped")},
                 {QT_TRANSLATE_NOOP("Doctor", "Log out and in again.")}};
     }
-    const ShortcutRow& row = shortcutRows[static_cast<std::size_t>(state.kind)];
+    const VerdictRow& row = shortcutRows[static_cast<std::size_t>(state.kind)];
     return {row.state, {row.found, {keys(facts)}}, {row.mend}};
 }
 

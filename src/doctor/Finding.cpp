@@ -33,12 +33,15 @@ std::string column(const std::string& text, int width) {
     return QString::fromStdString(text).leftJustified(width).toStdString();
 }
 
+std::string foundAndMend(const Finding& finding) {
+    const std::string text = shown(finding.found);
+    return *finding.mend.text ? text + ". " + shown(finding.mend) : text;
+}
+
 std::string line(const Finding& finding) {
     const char* const state = stateTexts.at(static_cast<std::size_t>(finding.state));
-    std::string text = column(translate("Doctor", state), stateWidth) +
-                       column(shown(finding.title) + ":", titleWidth) + shown(finding.found);
-    if (*finding.mend.text) text += ". " + shown(finding.mend);
-    return text;
+    return column(translate("Doctor", state), stateWidth) +
+           column(shown(finding.title) + ":", titleWidth) + foundAndMend(finding);
 }
 
 } // namespace
@@ -55,6 +58,15 @@ bool canSend(const std::vector<Finding>& findings) {
     return std::ranges::none_of(findings, [](const Finding& each) {
         return each.needed && each.state == FindingState::failed;
     });
+}
+
+std::vector<std::string> failures(const std::vector<Finding>& findings) {
+    std::vector<std::string> sentences;
+    for (const Finding& each : findings) {
+        if (each.state == FindingState::failed)
+            sentences.push_back(shown(each.title) + ": " + foundAndMend(each));
+    }
+    return sentences;
 }
 
 std::vector<std::string> findingLines(const std::vector<Finding>& findings) {

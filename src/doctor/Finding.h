@@ -43,6 +43,9 @@ struct Finding {
 /// Whether all that a send needs works, as far as is known.
 [[nodiscard]] bool canSend(const std::vector<Finding>& findings);
 
+/// Each thing that has failed, in a sentence or two, for people.
+[[nodiscard]] std::vector<std::string> failures(const std::vector<Finding>& findings);
+
 /// A line for each finding, for people, which may hold what others said; and one JSON object: "ok"
 /// (see canSend) and "checks", an array of objects with "check", "state" ("ok", "warning",
 /// "failed", "unknown"), "needed", "found" and, where there is one, "mend".

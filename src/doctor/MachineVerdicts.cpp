@@ -3,8 +3,6 @@
 
 #include <QtGlobal>
 
-#include <array>
-
 namespace quillon {
 
 namespace {
@@ -31,14 +29,13 @@ std::string pathText(const Facts& facts, Names names) {
 }
 
 /// In the order of LoginItem::Status.
-const std::array<Verdict, 4> loginVerdicts{{
-    {ok, {QT_TRANSLATE_NOOP("Doctor", "off")}},
-    {ok, {QT_TRANSLATE_NOOP("Doctor", "on")}},
-    {ok, {QT_TRANSLATE_NOOP("Doctor", "switched off in the desktop's settings")}},
-    {failed,
-     {QT_TRANSLATE_NOOP("Doctor", "on, but the program that it would open is not there")},
-     {QT_TRANSLATE_NOOP("Doctor", "Switch it on again: quillon launch-at-login on")}},
-}};
+constexpr VerdictRow loginRows[]{
+    {ok, QT_TRANSLATE_NOOP("Doctor", "off"), ""},
+    {ok, QT_TRANSLATE_NOOP("Doctor", "on"), ""},
+    {ok, QT_TRANSLATE_NOOP("Doctor", "switched off in the desktop's settings"), ""},
+    {failed, QT_TRANSLATE_NOOP("Doctor", "on, but the program that it would open is not there"),
+     QT_TRANSLATE_NOOP("Doctor", "Switch it on again: quillon launch-at-login on")},
+};
 
 } // namespace
 
@@ -97,7 +94,8 @@ Verdict folderVerdict(const Facts& facts, Names names) {
 }
 
 Verdict loginVerdict(const Facts& facts, Names /*names*/) {
-    return loginVerdicts.at(static_cast<std::size_t>(facts.login));
+    const VerdictRow& row = loginRows[static_cast<std::size_t>(facts.login)];
+    return {row.state, {row.found}, {row.mend}};
 }
 
 Verdict updatesVerdict(const Facts& facts, Names /*names*/) {

@@ -37,18 +37,12 @@ bool isDone(const ApiCall& call) {
     return call.outcome == Outcome::done;
 }
 
-struct WayRow {
-    FindingState state;
-    const char* found;
-    const char* mend;
-};
-
 constexpr const char* checkConnection =
     QT_TRANSLATE_NOOP("Doctor", "Check the internet connection and its firewall.");
 constexpr const char* checkProxy = QT_TRANSLATE_NOOP("Doctor", "Correct %1, or take it away.");
 
 /// In the order of HttpLook::Outcome; %1 is the variable that names the proxy.
-constexpr WayRow wayRows[]{
+constexpr VerdictRow wayRows[]{
     {unknown, QT_TRANSLATE_NOOP("Doctor", "could not be looked at"), ""},
     {ok, QT_TRANSLATE_NOOP("Doctor", "the way to Telegram is good"), ""},
     {failed, QT_TRANSLATE_NOOP("Doctor", "libcurl is missing, or too old"),
@@ -164,7 +158,7 @@ Verdict networkVerdict(const Facts& facts, Names /*names*/) {
             {QT_TRANSLATE_NOOP("Doctor", "the proxy in %1 does not answer"), {facts.proxyVariable}},
             {checkProxy, {facts.proxyVariable}}};
     }
-    const WayRow& row = wayRows[static_cast<std::size_t>(way)];
+    const VerdictRow& row = wayRows[static_cast<std::size_t>(way)];
     return {row.state, {row.found, {facts.proxyVariable}}, {row.mend, {facts.proxyVariable}}};
 }
 

@@ -15,6 +15,13 @@ struct Verdict {
     Phrase mend{};
 };
 
+/// A row of a table of them.
+struct VerdictRow {
+    FindingState state;
+    const char* found;
+    const char* mend;
+};
+
 // The machine: DesktopVerdicts.cpp, MachineVerdicts.cpp.
 [[nodiscard]] Verdict versionVerdict(const Facts& facts, Names names);
 [[nodiscard]] Verdict programVerdict(const Facts& facts, Names names);
