@@ -35,10 +35,11 @@ bool contains(const Arguments& arguments, std::string_view word) {
 QCoro::Task<int> send(CommandContext context, Arguments /*arguments*/) {
     const std::size_t before = context.core.store.history().size();
     context.core.banner.forget();
-    SendProgress progress = [console = context.console](qint64 sent, qint64 total) {
+    SendWishes wishes{.via = Trigger::command, .stop = context.stop};
+    wishes.progress = [console = context.console](qint64 sent, qint64 total) {
         console->progress(translate("Send", "Sending…"), sent, total);
     };
-    co_await context.core.store.sendClipboard(Trigger::command, std::move(progress), context.stop);
+    co_await context.core.store.sendClipboard(std::move(wishes));
     context.console->endProgress();
 
     const std::vector<Sent>& history = context.core.store.history();

@@ -7,6 +7,7 @@
 #include "state/Config.h"
 #include "state/Recipient.h"
 #include "state/SendInfo.h"
+#include "state/SendItem.h"
 #include "state/Sent.h"
 #include "telegram/Telegram.h"
 
@@ -127,10 +128,12 @@ public:
     void setLaunchAtLogin(bool opens);
 
     /// Sends what is on the clipboard. Reports by banner, sound and history; never throws. Ignored
-    /// while another send runs. `progress` is told on the main thread how far an upload has come.
-    /// After a request to stop, no further item is sent.
-    [[nodiscard]] QCoro::Task<> sendClipboard(Trigger via, SendProgress progress = {},
-                                              std::stop_token stop = {});
+    /// while another send runs.
+    [[nodiscard]] QCoro::Task<> sendClipboard(SendWishes wishes);
+    [[nodiscard]] QCoro::Task<> sendClipboard(Trigger via);
+    /// The same with these items in place of the clipboard's, which is not read. Nothing happens
+    /// without any.
+    [[nodiscard]] QCoro::Task<> send(std::vector<SendItem> items, SendWishes wishes);
 
     /// Has the send that runs, if any, send nothing more than what is on its way; the rest goes
     /// into the history as not sent.
@@ -215,6 +218,12 @@ private:
     /// Throws when the user has forgotten the bot since `change`, a value of tokenChanges_.
     void expectSameBot(int change, std::string sentence) const;
 
+    /// What is behind the public actions that send; without items, it sends the clipboard's.
+    [[nodiscard]] QCoro::Task<> startSend(std::optional<std::vector<SendItem>> items,
+                                          SendWishes wishes);
+    /// The clipboard's content. Where there is nothing that can be sent, it says so.
+    [[nodiscard]] QCoro::Task<std::vector<SendItem>> copiedItems(std::stop_token stop);
+    [[nodiscard]] QCoro::Task<> sendItems(std::shared_ptr<RunningSend> send);
     void refuseToSend();
     /// Puts the next items of the send, in the order sent, into its record and into the history,
     /// the last one first.
