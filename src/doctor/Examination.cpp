@@ -7,6 +7,7 @@
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
 #include "state/Store.h"
+#include "telegram/Url.h"
 
 #include <array>
 #include <deque>
@@ -48,6 +49,13 @@ Facts knownFacts(const Platform& platform, const Store& store, bool stays) {
     });
     if (stays) facts.shortcut = store.shortcut();
     return facts;
+}
+
+/// libcurl would take some texts for addresses that a client of the Bot API does not take.
+QFuture<HttpLook> lookAtServer(Platform& platform) {
+    if (isServerAddress(platform.botApi))
+        return platform.http.look(platform.botApi + "/", networkLimit);
+    return QtFuture::makeReadyFuture(HttpLook{.outcome = HttpLook::Outcome::badAddress});
 }
 
 QCoro::Task<ClipboardTraits> ownClipboard(Pasteboard& pasteboard) {
@@ -92,9 +100,9 @@ QCoro::Task<> askGroup(Facts& facts, Clock& clock, Telegram client) {
         ask(facts.topics[index], "sendChatAction",
             {{"chat_id", chat}, {"message_thread_id", *thread}, {"action", "cancel"}});
     }
-    for (auto& [call, answer] : calls) {
-        std::optional<ApiCall> told = co_await answer.result();
-        *call = std::move(told).value_or(silentCall);
+    for (const auto& each : calls) {
+        std::optional<ApiCall> told = co_await each.second.result();
+        *each.first = std::move(told).value_or(silentCall);
     }
 }
 
@@ -139,8 +147,7 @@ QCoro::Task<Facts> examine(Platform& platform, Store& store, const Surroundings&
     const Within<BusTraits> bus{clock, nearLimit, surroundings.bus()};
     const Within<FolderTraits> folder{clock, nearLimit, surroundings.folder(platform.dataFolder)};
     const Within<Presence> sound{clock, nearLimit, surroundings.sound()};
-    const Within<HttpLook> look{clock, networkLimit,
-                                platform.http.look(platform.botApi + "/", networkLimit)};
+    const Within<HttpLook> look{clock, networkLimit, lookAtServer(platform)};
     QCoro::Task<ClipboardTraits> reading = ownClipboard(platform.pasteboard);
     const Within<ClipboardTraits> clipboard =
         stays ? Within<ClipboardTraits>{clock, nearLimit, std::move(reading)}

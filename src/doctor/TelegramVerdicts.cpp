@@ -178,6 +178,7 @@ Verdict clockVerdict(const Facts& facts, Names /*names*/) {
 }
 
 Verdict botVerdict(const Facts& facts, Names names) {
+    if (facts.look.outcome == Way::badAddress) return notAsked();
     switch (facts.bot.outcome) {
     case Outcome::notMade:
         return notAsked();

@@ -199,6 +199,12 @@ TEST(Doctor, NamesWhatIsBrokenAndNothingElse) {
         {"a name that is not found",
          [](Facts& facts) { withoutNetwork(facts, Way::noName); },
          {"network"}},
+        {"an address that is none",
+         [](Facts& facts) {
+             withoutNetwork(facts, Way::badAddress);
+             facts.bot = refused("QUILLON_BOT_API is not the address of a server.");
+         },
+         {"network"}},
         {"a proxy that is dead",
          [](Facts& facts) {
              facts.proxyVariable = "https_proxy";

@@ -86,7 +86,7 @@ void SettingsView::build() {
     column->addWidget(troubles_);
     column->addWidget(offer_);
     offer_->hide();
-    connect(troubles_, &TroubleStrip::changed, this, &SettingsView::measure);
+    connect(troubles_, &TroubleStrip::changed, this, [this] { measuring_.schedule(); });
 }
 
 QWidget* SettingsView::buildOffer(std::function<void()> openPanel) {

@@ -61,6 +61,11 @@ QCoro::Task<> TroubleStrip::lookNow() {
     tell(troubles);
 }
 
+void TroubleStrip::add(QWidget* line) {
+    lines_->addWidget(line);
+    line->show(); // else it would have no height before the event loop turns
+}
+
 void TroubleStrip::tell(const std::vector<std::string>& troubles) {
     if (troubles == shown_) return;
     shown_ = troubles;
@@ -70,11 +75,11 @@ void TroubleStrip::tell(const std::vector<std::string>& troubles) {
     }
     const std::size_t count = std::min(troubles.size(), mostLines);
     for (std::size_t index = 0; index < count; ++index)
-        lines_->addWidget(makeLine(troubles[index]));
+        add(makeLine(troubles[index]));
     if (const int more = static_cast<int>(troubles.size() - count); more > 0) {
-        lines_->addWidget(new IconLabel{tr("%n more: quillon doctor", nullptr, more),
-                                        "info.circle",
-                                        {.style = Text::callout, .ink = Ink::secondary}});
+        add(new IconLabel{tr("%n more: quillon doctor", nullptr, more),
+                          "info.circle",
+                          {.style = Text::callout, .ink = Ink::secondary}});
     }
     setVisible(!troubles.empty());
     Q_EMIT changed();

@@ -28,6 +28,7 @@ Q_SIGNALS:
 
 private:
     QCoro::Task<> lookNow();
+    void add(QWidget* line);
     void tell(const std::vector<std::string>& troubles);
 
     TroubleSource source_;
