@@ -23,7 +23,7 @@ constexpr std::array<const char*, 4> stateTexts{
 
 /// The widths of the first two columns, in characters.
 constexpr int stateWidth = 9;
-constexpr int titleWidth = 17;
+constexpr int titleWidth = 18;
 
 std::string withValues(const std::string& text, const Phrase& phrase) {
     return filled(text, {phrase.values[0], phrase.values[1], phrase.values[2]});

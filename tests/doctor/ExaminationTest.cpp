@@ -7,18 +7,30 @@
 
 namespace quillon::test {
 
-/// Surroundings of which none answers.
+/// Surroundings of which none answers before the end of the test.
 class HangingSurroundings final : public Surroundings {
 public:
-    [[nodiscard]] QFuture<SystemTraits> system() const override { return never(system_); }
-    [[nodiscard]] QFuture<XServerTraits> xServer() const override { return never(xServer_); }
-    [[nodiscard]] QFuture<CompositorTraits> compositor() const override { return never(layers_); }
-    [[nodiscard]] QFuture<ClipboardTraits> clipboard() const override { return never(clipboard_); }
-    [[nodiscard]] QFuture<BusTraits> bus() const override { return never(bus_); }
-    [[nodiscard]] QFuture<FolderTraits> folder(std::filesystem::path) const override {
-        return never(folder_);
+    HangingSurroundings() = default;
+    HangingSurroundings(const HangingSurroundings&) = delete;
+    HangingSurroundings& operator=(const HangingSurroundings&) = delete;
+    ~HangingSurroundings() override {
+        for (const auto& end : open_)
+            end();
     }
-    [[nodiscard]] QFuture<Presence> sound() const override { return never(sound_); }
+
+    [[nodiscard]] QFuture<SystemTraits> system() const override { return late<SystemTraits>(); }
+    [[nodiscard]] QFuture<XServerTraits> xServer() const override { return late<XServerTraits>(); }
+    [[nodiscard]] QFuture<CompositorTraits> compositor() const override {
+        return late<CompositorTraits>();
+    }
+    [[nodiscard]] QFuture<ClipboardTraits> clipboard() const override {
+        return late<ClipboardTraits>();
+    }
+    [[nodiscard]] QFuture<BusTraits> bus() const override { return late<BusTraits>(); }
+    [[nodiscard]] QFuture<FolderTraits> folder(std::filesystem::path /*path*/) const override {
+        return late<FolderTraits>();
+    }
+    [[nodiscard]] QFuture<Presence> sound() const override { return late<Presence>(); }
     [[nodiscard]] std::optional<bool> isFree(PhysicalKey /*key*/) const override {
         ADD_FAILURE() << "asks a server that hangs";
         return std::nullopt;
@@ -26,18 +38,17 @@ public:
 
 private:
     template <typename T>
-    static QFuture<T> never(QPromise<T>& promise) {
-        promise.start();
-        return promise.future();
+    QFuture<T> late() const {
+        const auto promise = std::make_shared<QPromise<T>>();
+        promise->start();
+        open_.push_back([promise] {
+            promise->addResult(T{});
+            promise->finish();
+        });
+        return promise->future();
     }
 
-    mutable QPromise<SystemTraits> system_;
-    mutable QPromise<XServerTraits> xServer_;
-    mutable QPromise<CompositorTraits> layers_;
-    mutable QPromise<ClipboardTraits> clipboard_;
-    mutable QPromise<BusTraits> bus_;
-    mutable QPromise<FolderTraits> folder_;
-    mutable QPromise<Presence> sound_;
+    mutable std::vector<std::function<void()>> open_;
 };
 
 struct Examination : testing::Test {
