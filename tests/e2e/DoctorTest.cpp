@@ -17,7 +17,8 @@ struct Doctor : EndToEnd {
         EXPECT_LT(run.took, 12s);
         EXPECT_EQ(run.err, "");
         Report report{.code = run.code, .failed = {}, .text = run.out};
-        for (const Json& check : Json::parse(run.out)["checks"])
+        const Json told = Json::parse(run.out);
+        for (const Json& check : told["checks"])
             if (check["state"] == "failed") report.failed.push_back(check["check"]);
         return report;
     }
