@@ -325,6 +325,7 @@ QStringList names() {
                       QString::fromUtf8(shortcutLine),
                       QString::fromUtf8(shortcutKeys),
                       QStringLiteral("~/.config/sway/config"),
+                      QStringLiteral("~/data"),
                       QStringLiteral("Quillon"),
                       QStringLiteral("⌃⌥V"),
                       QStringLiteral("⌃⌥P"),

@@ -62,9 +62,11 @@ bool canSend(const std::vector<Finding>& findings) {
 
 std::vector<std::string> failures(const std::vector<Finding>& findings) {
     std::vector<std::string> sentences;
-    for (const Finding& each : findings) {
-        if (each.state == FindingState::failed)
-            sentences.push_back(shown(each.title) + ": " + foundAndMend(each));
+    for (const bool needed : {true, false}) {
+        for (const Finding& each : findings) {
+            if (each.state == FindingState::failed && each.needed == needed)
+                sentences.push_back(shown(each.title) + ": " + foundAndMend(each));
+        }
     }
     return sentences;
 }

@@ -43,7 +43,7 @@ struct Finding {
 /// Whether all that a send needs works, as far as is known.
 [[nodiscard]] bool canSend(const std::vector<Finding>& findings);
 
-/// Each thing that has failed, in a sentence or two, for people.
+/// Each thing that has failed, in a sentence or two, for people. What a send needs comes first.
 [[nodiscard]] std::vector<std::string> failures(const std::vector<Finding>& findings);
 
 /// A line for each finding, for people, which may hold what others said; and one JSON object: "ok"
