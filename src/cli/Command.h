@@ -47,6 +47,8 @@ struct Command {
     /// One of these may stand behind the name, or before it.
     std::vector<Word> words{};
     bool needsWord = false;
+    /// Any number of them may, each once.
+    bool takesSeveralWords = false;
     /// Any words at all may stand behind the name.
     bool takesAnything = false;
     /// What --help writes behind the name in place of the words, which it lists below then.

@@ -16,6 +16,13 @@ const Command* commandNamed(std::string_view name) {
 bool takes(const Command& command, const Arguments& arguments) {
     if (command.understands) return command.understands(arguments);
     if (arguments.empty()) return !command.needsWord;
+    if (command.takesSeveralWords) {
+        const auto once = [&](const std::string& word) {
+            return std::ranges::count(arguments, word) == 1 &&
+                   std::ranges::find(command.words, word, &Word::text) != command.words.end();
+        };
+        return std::ranges::all_of(arguments, once);
+    }
     return arguments.size() == 1 &&
            std::ranges::find(command.words, arguments.front(), &Word::text) != command.words.end();
 }
@@ -32,11 +39,11 @@ std::optional<Invocation> commandAt(std::size_t place, const std::vector<std::st
     return Invocation{.command = command, .arguments = std::move(arguments)};
 }
 
-/// "launch-at-login on|off|status", "status [--json]"
+/// "launch-at-login on|off|status", "status [--json]", "doctor [--json] [--names]"
 std::string usage(const Command& command) {
     std::string words;
     for (const Word& word : command.words) {
-        if (!words.empty()) words += '|';
+        if (!words.empty()) words += command.takesSeveralWords ? "] [" : "|";
         words += word.text;
     }
     std::string name{command.name};
@@ -141,9 +148,12 @@ std::string completions(const std::vector<std::string>& words) {
     if (command == nullptr) return text;
     const auto begun = std::ranges::find(command->words, words.back(), &Word::text);
     if (begun != command->words.end() && !begun->value.empty()) return valuesOf(*begun);
-    if (words.size() == 1 || (command->takesFiles && !hasEnded(words))) {
-        for (const Word& word : command->words)
-            text += candidate(word.text, word.purpose);
+    if (words.size() == 1 || command->takesSeveralWords ||
+        (command->takesFiles && !hasEnded(words))) {
+        for (const Word& word : command->words) {
+            if (std::ranges::find(words, word.text) == words.end())
+                text += candidate(word.text, word.purpose);
+        }
     }
     if (command->takesFiles)
         text += candidate(filesCandidate, QT_TRANSLATE_NOOP("CommandLine", "a file to send"));

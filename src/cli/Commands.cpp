@@ -2,6 +2,7 @@
 
 #include "base/Translate.h"
 #include "cli/Console.h"
+#include "cli/DoctorCommand.h"
 #include "cli/Reports.h"
 #include "cli/SendCommand.h"
 #include "cli/Terminal.h"
@@ -286,6 +287,12 @@ const std::vector<Command> commands{
      .onlyReads = true,
      .action = history,
      .purpose = QT_TRANSLATE_NOOP("CommandLine", "list what was sent, newest first")},
+    {.name = "doctor",
+     .words = {asJson, {"--names", QT_TRANSLATE_NOOP("CommandLine", "tell names, too")}},
+     .takesSeveralWords = true,
+     .onlyReads = true,
+     .action = runDoctor,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "tell what is wrong, and how to mend it")},
     {.name = "launch-at-login",
      .words = {{"on", QT_TRANSLATE_NOOP("CommandLine", "open it")},
                {"off", QT_TRANSLATE_NOOP("CommandLine", "do not")},

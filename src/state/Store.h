@@ -114,6 +114,10 @@ public:
     void stopPersisting() { persist_ = false; }
     [[nodiscard]] bool persists() const { return persist_; }
 
+    /// A client for the bot, without asking the user for anything: none without a token, and where
+    /// its keyring is locked. A keyring that hangs holds the answer open.
+    [[nodiscard]] QCoro::Task<std::optional<Telegram>> clientAtHand();
+
     /// Registers the shortcut of the settings in place of the one before. shortcut() tells what
     /// becomes of it, and shortcutPressed() announces each press.
     void registerShortcut();

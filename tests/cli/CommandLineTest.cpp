@@ -25,6 +25,7 @@ TEST(CommandLine, UnderstandsOneCommandAndItsOption) {
     EXPECT_EQ(understood({"--json", "status"}), "status(--json)");
     EXPECT_EQ(understood({"launch-at-login", "off"}), "launch-at-login(off)");
     EXPECT_EQ(understood({"status", "launch-at-login"}), "launch-at-login(status)");
+    EXPECT_EQ(understood({"doctor", "--names", "--json"}), "doctor(--names--json)");
     const std::vector<std::vector<std::string>> misunderstood{{},
                                                               {""},
                                                               {"--json"},
@@ -35,6 +36,8 @@ TEST(CommandLine, UnderstandsOneCommandAndItsOption) {
                                                               {"launch-at-login", "on", "off"},
                                                               {"launch-at-login", "--yes"},
                                                               {"send", "--complete"},
+                                                              {"doctor", "--json", "--json"},
+                                                              {"doctor", "--json", "--yes"},
                                                               {"uninstall"}};
     for (const auto& arguments : misunderstood)
         EXPECT_EQ(understood(arguments), "") << testing::PrintToString(arguments);

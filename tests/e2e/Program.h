@@ -5,6 +5,7 @@
 #include <QProcessEnvironment>
 
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -69,6 +70,8 @@ public:
     /// URIs as a file manager offers them.
     void copyFiles(const std::vector<std::string>& uris);
     void clear();
+    /// Who copied last does not answer any more.
+    void hang() const { ::kill(static_cast<pid_t>(process_->processId()), SIGSTOP); }
 
 private:
     std::unique_ptr<QProcess> process_;
