@@ -10,6 +10,7 @@
 #include "platform/Sleep.h"
 #include "platform/linux/Desktop.h"
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/SessionBusCheck.h"
 #include "platform/linux/desktop/LinuxAppearance.h"
 #include "ui/theme/ApplicationTheme.h"
 
@@ -22,6 +23,9 @@ namespace quillon {
 namespace {
 
 using namespace std::chrono_literals;
+
+/// A bus that is well greets within milliseconds.
+constexpr auto busPatience = 2s;
 
 /// What the banner looks like on this desktop, and whether it moves.
 struct Look {
@@ -68,6 +72,7 @@ QCoro::Task<> runToExit(Invocation invocation, Platform& platform, const Composi
 }
 
 int runInThisProcess(const Invocation& invocation, Detach* detach) {
+    if (invocation.command->outlastsBus && !sessionBusAnswers(busPatience)) doWithoutSessionBus();
     if (const auto code = RemoteProgram::run(invocation)) return *code;
     std::optional<Desktop> desktop = openDesktop(invocation.command->needs);
     if (!desktop) {
