@@ -73,6 +73,8 @@ struct Command {
     /// Whether it waits for another process that is at work on the data, or for another command in
     /// the program that stays; else it fails at once.
     bool waitsItsTurn = true;
+    /// Where the session bus hangs, it goes on without.
+    bool outlastsBus = false;
     /// Works on the program's objects and gives the exit code; throws a TelegramError whose message
     /// is for the user. Null for what the program that stays does in its own way, and for texts.
     QCoro::Task<int> (*action)(CommandContext, Arguments) = nullptr;

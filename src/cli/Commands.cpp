@@ -291,6 +291,7 @@ const std::vector<Command> commands{
      .words = {asJson, {"--names", QT_TRANSLATE_NOOP("CommandLine", "tell names, too")}},
      .takesSeveralWords = true,
      .onlyReads = true,
+     .outlastsBus = true,
      .action = runDoctor,
      .purpose = QT_TRANSLATE_NOOP("CommandLine", "tell what is wrong, and how to mend it")},
     {.name = "launch-at-login",

@@ -13,6 +13,7 @@
 #include "platform/linux/Application.h"
 #include "platform/linux/Desktop.h"
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/SessionBusCheck.h"
 #include "platform/linux/desktop/LinuxAppearance.h"
 #include "send/ItemSend.h"
 #include "ui/theme/ApplicationTheme.h"
@@ -27,6 +28,9 @@ namespace quillon {
 namespace {
 
 using namespace std::chrono_literals;
+
+/// A bus that is well greets within milliseconds.
+constexpr auto busPatience = 2s;
 
 /// What the banner looks like on this desktop, and whether it moves.
 struct Look {
@@ -81,6 +85,7 @@ bool bringsContent(const Invocation& invocation) {
 }
 
 int runInThisProcess(const Invocation& invocation, Detach* detach) {
+    if (invocation.command->outlastsBus && !sessionBusAnswers(busPatience)) doWithoutSessionBus();
     if (const auto code = RemoteProgram::run(invocation)) return *code;
     std::optional<Desktop> desktop = openDesktop(invocation.command->needs);
     // What is given needs no clipboard, and goes out without a banner then.

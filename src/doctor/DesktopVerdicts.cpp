@@ -146,6 +146,11 @@ Verdict shortcutVerdict(const Facts& facts, Names /*names*/) {
                 {QT_TRANSLATE_NOOP("Doctor", "the desktop's shortcuts have stopped")},
                 {QT_TRANSLATE_NOOP("Doctor", "Log out and in again.")}};
     }
+    if (state.kind == HotKeyState::Kind::taken && !facts.shortcutHolder.empty()) {
+        return {failed,
+                {QT_TRANSLATE_NOOP("Doctor", "“%2” has %1"), {keys(facts), facts.shortcutHolder}},
+                {shortcutRows[static_cast<std::size_t>(state.kind)].mend}};
+    }
     const VerdictRow& row = shortcutRows[static_cast<std::size_t>(state.kind)];
     return {row.state, {row.found, {keys(facts)}}, {row.mend}};
 }

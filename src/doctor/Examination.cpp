@@ -126,11 +126,14 @@ QCoro::Task<Facts> askTelegram(Facts facts, Platform& platform, Store& store) {
     co_return facts;
 }
 
+PhysicalKey physicalKey(const Config& config) {
+    return physicalKeys.at(static_cast<std::size_t>(config.shortcut));
+}
+
 /// The trial grabs the keys for a moment, which only a server that answers can be asked.
 void tryShortcut(Facts& facts, const Surroundings& surroundings) {
     if (facts.stays || !facts.xServer || facts.xServer->presence != Presence::answers) return;
-    const auto choice = static_cast<std::size_t>(facts.config.shortcut);
-    const std::optional<bool> free = surroundings.isFree(physicalKeys.at(choice));
+    const std::optional<bool> free = surroundings.isFree(physicalKey(facts.config));
     if (!free) return;
     facts.shortcut =
         HotKeyState{.kind = *free ? HotKeyState::Kind::bound : HotKeyState::Kind::taken};
@@ -147,6 +150,8 @@ QCoro::Task<Facts> examine(Platform& platform, Store& store, const Surroundings&
     const Within<BusTraits> bus{clock, nearLimit, surroundings.bus()};
     const Within<FolderTraits> folder{clock, nearLimit, surroundings.folder(platform.dataFolder)};
     const Within<Presence> sound{clock, nearLimit, surroundings.sound()};
+    const Within<std::string> holder{clock, nearLimit,
+                                     surroundings.holder(physicalKey(store.config()))};
     const Within<HttpLook> look{clock, networkLimit, lookAtServer(platform)};
     QCoro::Task<ClipboardTraits> reading = ownClipboard(platform.pasteboard);
     const Within<ClipboardTraits> clipboard =
@@ -161,6 +166,8 @@ QCoro::Task<Facts> examine(Platform& platform, Store& store, const Surroundings&
     facts.bus = co_await bus.result();
     facts.folder = co_await folder.result();
     facts.sound = co_await sound.result();
+    std::optional<std::string> held = co_await holder.result();
+    facts.shortcutHolder = std::move(held).value_or("");
     const std::optional<HttpLook> seen = co_await look.result();
     facts.look = seen.value_or(HttpLook{.outcome = HttpLook::Outcome::silent});
     facts.now = platform.clock.now();

@@ -48,6 +48,8 @@ struct Facts {
     /// Of the program that stays; of another, whether the keys are free. None where that cannot be
     /// told.
     std::optional<HotKeyState> shortcut{};
+    /// Who has its keys, as far as the desktop tells.
+    std::string shortcutHolder{};
     LoginItem::Status login = LoginItem::Status::notRegistered;
     /// The program is a copy that updates itself, and may do so where it lies.
     bool updatesItself = false;

@@ -130,7 +130,7 @@ Verdict keyringVerdict(const Facts& facts, Names /*names*/) {
     }
     if (!facts.bus || facts.bus->bus != Presence::answers) {
         return {failed,
-                {QT_TRANSLATE_NOOP("Doctor", "there is no session bus to reach it by")},
+                {QT_TRANSLATE_NOOP("Doctor", "no session bus answers, by which it is reached")},
                 {QT_TRANSLATE_NOOP("Doctor", "Run Quillon in your desktop's session, where "
                                              "DBUS_SESSION_BUS_ADDRESS names the bus.")}};
     }

@@ -92,6 +92,10 @@ public:
     /// Whether sounds can be heard: a sound server answers, or there is a sound card.
     [[nodiscard]] virtual QFuture<Presence> sound() const = 0;
 
+    /// The program that has Control and Alt with the key among the desktop's shortcuts, by the name
+    /// that the desktop gives it; empty where the desktop does not tell, or nobody has it there.
+    [[nodiscard]] virtual QFuture<std::string> holder(PhysicalKey key) const = 0;
+
     /// Whether the key could be had as a hot key, by taking it for a moment; none where that cannot
     /// be tried without asking the user. Waits for the X server: ask only one that answers.
     [[nodiscard]] virtual std::optional<bool> isFree(PhysicalKey key) const = 0;

@@ -31,6 +31,9 @@ public:
         return late<FolderTraits>();
     }
     [[nodiscard]] QFuture<Presence> sound() const override { return late<Presence>(); }
+    [[nodiscard]] QFuture<std::string> holder(PhysicalKey /*key*/) const override {
+        return late<std::string>();
+    }
     [[nodiscard]] std::optional<bool> isFree(PhysicalKey /*key*/) const override {
         ADD_FAILURE() << "asks a server that hangs";
         return std::nullopt;

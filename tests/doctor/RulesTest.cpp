@@ -273,6 +273,11 @@ TEST(Doctor, NamesWhatIsBrokenAndNothingElse) {
         }
         EXPECT_THAT(findingsJson(all), Not(HasSubstr("nna"))) << "it can be shown to anybody";
     }
+    Facts held = healthy();
+    held.shortcut->kind = HotKeyState::Kind::taken;
+    held.shortcutHolder = "Clipper";
+    EXPECT_THAT(failures(findings(held, Names::hidden)),
+                ElementsAre(StartsWith("Shortcut: “Clipper” has ")));
     EXPECT_THAT(findingLines(findings(healthy(), Names::told)),
                 Contains(HasSubstr("“Anna's group”")));
     EXPECT_THAT(findingsJson(findings(healthy(), Names::hidden)),

@@ -1,5 +1,6 @@
 // What "quillon doctor" names when something has been broken.
 #include "EndToEnd.h"
+#include "support/RawServer.h"
 
 namespace quillon::test {
 
@@ -75,6 +76,10 @@ TEST_F(Doctor, NamesWhatIsBroken) {
     setVariable("QUILLON_BOT_API", api);
     setVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
     expect(1, {"keyring"}, "no session bus");
+    RawServer silent{[](RawServer::Connection& bus) { bus.awaitEnd(); }};
+    setVariable("DBUS_SESSION_BUS_ADDRESS",
+                "tcp:host=127.0.0.1,port=" + std::to_string(silent.port()));
+    expect(1, {"keyring"}, "a session bus that hangs");
 }
 
 TEST_F(Doctor, LooksAtTheProgramThatRuns) {

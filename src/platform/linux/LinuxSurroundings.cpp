@@ -17,6 +17,7 @@
 #include <QSysInfo>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <memory>
 #include <system_error>
@@ -126,6 +127,22 @@ bool hasTrayHost(const QDBusConnection& bus) {
     return reply.isValid() && reply.value().variant().toBool();
 }
 
+/// In the order of PhysicalKey.
+constexpr std::array qtKeys{Qt::Key_V, Qt::Key_P, Qt::Key_C};
+
+/// Plasma's register of shortcuts answers with the unique names of a program and its action, and
+/// those for people.
+std::string lookForHolder(PhysicalKey key) {
+    constexpr int friendlyName = 2;
+    if (!hasSessionBus()) return {};
+    const int keys = static_cast<int>(Qt::CTRL) | static_cast<int>(Qt::ALT) |
+                     static_cast<int>(qtKeys.at(static_cast<std::size_t>(key)));
+    const QDBusReply<QStringList> reply =
+        ask(QDBusConnection::sessionBus(), "org.kde.kglobalaccel", "/kglobalaccel",
+            "org.kde.KGlobalAccel", "action", {keys});
+    return reply.value().value(friendlyName).toStdString();
+}
+
 BusTraits lookAtBus() {
     if (!hasSessionBus()) return {.bus = Presence::absent};
     const QDBusConnection bus = QDBusConnection::sessionBus();
@@ -233,6 +250,10 @@ QFuture<FolderTraits> LinuxSurroundings::folder(std::filesystem::path path) cons
 
 QFuture<Presence> LinuxSurroundings::sound() const {
     return apart(lookAtSound);
+}
+
+QFuture<std::string> LinuxSurroundings::holder(PhysicalKey key) const {
+    return apart([key] { return lookForHolder(key); });
 }
 
 std::optional<bool> LinuxSurroundings::isFree(PhysicalKey key) const {

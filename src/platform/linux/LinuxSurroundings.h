@@ -15,6 +15,8 @@ public:
     [[nodiscard]] QFuture<BusTraits> bus() const override;
     [[nodiscard]] QFuture<FolderTraits> folder(std::filesystem::path path) const override;
     [[nodiscard]] QFuture<Presence> sound() const override;
+    /// Plasma alone tells.
+    [[nodiscard]] QFuture<std::string> holder(PhysicalKey key) const override;
     /// Only on X11.
     [[nodiscard]] std::optional<bool> isFree(PhysicalKey key) const override;
 };
