@@ -49,6 +49,9 @@ struct Command {
     bool needsWord = false;
     /// Any number of them may, each once.
     bool takesSeveralWords = false;
+    /// Where a number from 1 on may stand in place of a word: what each stands for, as the shells
+    /// show it. Null elsewhere.
+    std::vector<std::string> (*numbered)() = nullptr;
     /// Any words at all may stand behind the name.
     bool takesAnything = false;
     /// What --help writes behind the name in place of the words, which it lists below then.

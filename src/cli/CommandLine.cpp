@@ -3,6 +3,8 @@
 #include "base/Translate.h"
 
 #include <algorithm>
+#include <charconv>
+#include <system_error>
 
 namespace quillon {
 
@@ -23,8 +25,9 @@ bool takes(const Command& command, const Arguments& arguments) {
         };
         return std::ranges::all_of(arguments, once);
     }
-    return arguments.size() == 1 &&
-           std::ranges::find(command.words, arguments.front(), &Word::text) != command.words.end();
+    if (arguments.size() > 1) return false;
+    if (command.numbered && numberOf(arguments.front())) return true;
+    return std::ranges::find(command.words, arguments.front(), &Word::text) != command.words.end();
 }
 
 /// The command that the word at `place` names, with the other words as its arguments; none when it
@@ -46,6 +49,7 @@ std::string usage(const Command& command) {
         if (!words.empty()) words += command.takesSeveralWords ? "] [" : "|";
         words += word.text;
     }
+    if (command.numbered) words += "|NUMBER";
     std::string name{command.name};
     if (!command.usage.empty()) return name + ' ' + std::string{command.usage};
     if (words.empty()) return name;
@@ -73,6 +77,14 @@ std::string candidate(std::string_view word, const char* purpose) {
     return std::string{word} + "\t" + translate("CommandLine", purpose) + "\n";
 }
 
+std::string numbersOf(const Command& command) {
+    std::string text;
+    std::size_t number = 0;
+    for (const std::string& meaning : command.numbered())
+        text += std::to_string(++number) + "\t" + meaning + "\n";
+    return text;
+}
+
 std::string valuesOf(const Word& word) {
     std::string text;
     for (const std::string_view value : word.values)
@@ -94,6 +106,14 @@ bool hasWord(const Invocation& invocation, bool Word::*property) {
 }
 
 } // namespace
+
+std::optional<std::size_t> numberOf(std::string_view word) {
+    std::size_t number = 0;
+    const char* const end = word.data() + word.size();
+    const auto [stop, error] = std::from_chars(word.data(), end, number);
+    if (error != std::errc{} || stop != end || number == 0) return std::nullopt;
+    return number;
+}
 
 bool Invocation::onlyReads() const {
     return command->onlyReads || hasWord(*this, &Word::onlyReads);
@@ -155,6 +175,7 @@ std::string completions(const std::vector<std::string>& words) {
                 text += candidate(word.text, word.purpose);
         }
     }
+    if (command->numbered && words.size() == 1) text += numbersOf(*command);
     if (command->takesFiles)
         text += candidate(filesCandidate, QT_TRANSLATE_NOOP("CommandLine", "a file to send"));
     return text;

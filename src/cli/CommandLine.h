@@ -22,6 +22,9 @@ struct Invocation {
     bool operator==(const Invocation&) const = default;
 };
 
+/// The number from 1 on that this word is; none for any other word.
+[[nodiscard]] std::optional<std::size_t> numberOf(std::string_view word);
+
 /// Stands among the completions for the names of files.
 inline constexpr std::string_view filesCandidate = "FILE";
 

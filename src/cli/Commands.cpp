@@ -13,7 +13,10 @@
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
 #include "platform/Sleep.h"
+#include "platform/linux/LinuxFolders.h"
 #include "platform/linux/desktop/LinuxBundle.h"
+#include "platform/linux/files/PosixFileSystem.h"
+#include "state/DataFile.h"
 #include "update/Installation.h"
 
 #include <QCoroFuture>
@@ -143,10 +146,25 @@ QCoro::Task<int> followHistory(CommandContext context) {
 
 QCoro::Task<int> history(CommandContext context, Arguments arguments) {
     if (contains(arguments, "--follow")) co_return co_await followHistory(context);
-    const std::vector<Sent>& entries = context.core.store.history();
+    std::vector<Sent> entries = context.core.store.history();
+    const auto limit = arguments.empty() ? std::nullopt : numberOf(arguments.front());
+    if (limit && *limit < entries.size()) entries.resize(*limit);
     context.console->printText(contains(arguments, "--json") ? historyJson(entries)
                                                              : historyText(entries));
     co_return exitDone;
+}
+
+/// What lies in the history's file, for the shells: nobody waits there for the program.
+std::vector<std::string> numberedHistory() {
+    const auto file = linuxFolders().data / dataFolderName / historyFile;
+    const FileReading reading = PosixFileSystem{}.read(file, maximumDataFileSize);
+    std::vector<std::string> titles;
+    for (const Sent& entry : decodeHistory(reading.bytes.toStdString())) {
+        std::string title = Terminal::harmless(entry.title);
+        std::ranges::replace(title, '\t', ' ');
+        titles.push_back(std::move(title));
+    }
+    return titles;
 }
 
 /// In the order of LoginItem::Status. The first two are the words that the command takes.
@@ -284,6 +302,7 @@ const std::vector<Command> commands{
                {.text = "--follow",
                 .purpose = QT_TRANSLATE_NOOP("CommandLine", "print what is sent from now on"),
                 .follows = true}},
+     .numbered = numberedHistory,
      .onlyReads = true,
      .action = history,
      .purpose = QT_TRANSLATE_NOOP("CommandLine", "list what was sent, newest first")},

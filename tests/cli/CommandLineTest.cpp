@@ -24,6 +24,7 @@ TEST(CommandLine, UnderstandsOneCommandAndItsOption) {
     EXPECT_EQ(understood({"send"}), "send()");
     EXPECT_EQ(understood({"--json", "status"}), "status(--json)");
     EXPECT_EQ(understood({"launch-at-login", "off"}), "launch-at-login(off)");
+    EXPECT_EQ(understood({"history", "12"}), "history(12)");
     EXPECT_EQ(understood({"status", "launch-at-login"}), "launch-at-login(status)");
     EXPECT_EQ(understood({"doctor", "--names", "--json"}), "doctor(--names--json)");
     const std::vector<std::vector<std::string>> misunderstood{{},
@@ -31,6 +32,10 @@ TEST(CommandLine, UnderstandsOneCommandAndItsOption) {
                                                               {"--json"},
                                                               {"send", "--json"},
                                                               {"status", "send"},
+                                                              {"status", "1"},
+                                                              {"history", "0"},
+                                                              {"history", "1x"},
+                                                              {"history", "-1"},
                                                               {"connect", "1:token"},
                                                               {"launch-at-login"},
                                                               {"launch-at-login", "on", "off"},

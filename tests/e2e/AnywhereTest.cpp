@@ -71,6 +71,9 @@ struct Anywhere : EndToEnd {
                     "failed\t📎 Files\tplan.pdf\n", "Couldn't read plan.pdf\n");
         expectShell("q \"$PWD/plan.pdf\" \"$PWD/-x\"", 0,
                     "sent\t📎 Files\tplan.pdf\nsent\t📎 Files\t-x\n", "");
+        expectShell("q history 1 | cut -f 2-", 0, "sent\t📎 Files\t-x\n", "");
+        expectShell("unset DISPLAY WAYLAND_DISPLAY; q send plan.pdf", 0,
+                    "sent\t📎 Files\tplan.pdf\n", "");
         EXPECT_THAT(messages("📝 Notes & text"), SizeIs(1)) << "only the setup's own";
         for (const char* const wrong :
              {"send --topic", "send --topic=all plan.pdf", "send -x", "send --name a plan.pdf",
