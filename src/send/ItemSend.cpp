@@ -29,9 +29,6 @@ constexpr std::chrono::seconds readingPatience = 30s;
 /// The Bot API's limit for photos is 10,000,000 bytes; a picture of that size or more goes as a
 /// document.
 constexpr qint64 maximumPhotoSize = 9'999'999;
-/// The Bot API's limit for files that bots upload, in bytes.
-constexpr qint64 maximumFileSize = 50'000'000;
-
 /// A text prepared off the main thread, since the work grows with its length.
 struct PreparedText {
     std::string title;
@@ -150,10 +147,6 @@ std::string imageFilename(const Clock& clock) {
     const auto now = clock.now().time_since_epoch();
     return "clipboard-" +
            std::to_string(std::chrono::duration_cast<std::chrono::seconds>(now).count()) + ".png";
-}
-
-std::string tooBigText(const std::string& name) {
-    return filled(translate("Send", "%1 is over 50 MB (Telegram's limit for bots)"), {name});
 }
 
 /// The failed item of a file that could not be read; none when the file can be sent.
@@ -292,6 +285,10 @@ QCoro::Task<SentItem> sendItem(SendItem item, Sending sending) {
 
 SentItem unsentItem(const SendItem& item, const Sending& sending, const std::string& error) {
     return failed(std::visit(Unsent{sending}, item), endedReason, error);
+}
+
+std::string tooBigText(const std::string& name) {
+    return filled(translate("Send", "%1 is over 50 MB (Telegram's limit for bots)"), {name});
 }
 
 std::string shortOfMemoryText() {

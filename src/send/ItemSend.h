@@ -44,6 +44,12 @@ struct Sending {
 [[nodiscard]] SentItem unsentItem(const SendItem& item, const Sending& sending,
                                   const std::string& error);
 
+/// The Bot API's limit for files that bots upload, in bytes.
+inline constexpr qint64 maximumFileSize = 50'000'000;
+
+/// The error of an item of this name that is over the limit.
+[[nodiscard]] std::string tooBigText(const std::string& name);
+
 /// The error of an item that does not fit into the memory.
 [[nodiscard]] std::string shortOfMemoryText();
 

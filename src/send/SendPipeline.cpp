@@ -88,14 +88,18 @@ QCoro::Task<> Store::startSend(std::optional<std::vector<SendItem>> items, SendW
     if (!to) co_return refuseToSend();
     if (!items) items = co_await copiedItems(wishes.stop);
     if (items->empty() || wishes.stop.stop_requested()) co_return;
-    QCoro::Task<> sending = sendItems(std::make_shared<RunningSend>(
-        RunningSend{.items = *std::move(items),
-                    .sending = {.platform = platform_,
-                                .recipient = *std::move(to),
-                                .progress = std::move(wishes.progress),
-                                .stop = sendStop_.get_token(),
-                                .topic = wishes.topic},
-                    .via = wishes.via}));
+    SendProgress progress = [this, told = std::move(wishes.progress)](qint64 done, qint64 total) {
+        Q_EMIT sendProgressed(done, total);
+        if (told) told(done, total);
+    };
+    QCoro::Task<> sending = sendItems(
+        std::make_shared<RunningSend>(RunningSend{.items = *std::move(items),
+                                                  .sending = {.platform = platform_,
+                                                              .recipient = *std::move(to),
+                                                              .progress = std::move(progress),
+                                                              .stop = sendStop_.get_token(),
+                                                              .topic = wishes.topic},
+                                                  .via = wishes.via}));
     co_await sending;
 }
 
@@ -126,6 +130,7 @@ QCoro::Task<> Store::sendItems(std::shared_ptr<RunningSend> send) {
     });
     running_ = send;
     abandonAtExit(this);
+    Q_EMIT sendStarted(static_cast<int>(send->items.size()));
     while (send->entries.size() < send->items.size() && !sendStop_.stop_requested()) {
         QCoro::Task<SentItem> next = sendItem(send->items[send->entries.size()], send->sending);
         SentItem item = co_await next;
@@ -134,7 +139,7 @@ QCoro::Task<> Store::sendItems(std::shared_ptr<RunningSend> send) {
     }
     recordUnsent(*send, stoppedText());
     slow.reset();
-    Q_EMIT sent(send->infos, send->via);
+    announceEnd(*send);
     reportOutcome(send->entries);
 }
 
@@ -163,7 +168,7 @@ void Store::abandonSend() {
     record(*running_,
            {unsentItem(running_->items[running_->entries.size()], running_->sending, error)});
     recordUnsent(*running_, stoppedText());
-    Q_EMIT sent(running_->infos, running_->via);
+    announceEnd(*running_);
 }
 
 void Store::refuseToSend() {
@@ -184,6 +189,7 @@ void Store::record(RunningSend& send, const std::vector<SentItem>& items) {
     const auto count = static_cast<std::ptrdiff_t>(items.size());
     history_.insert(history_.begin(), send.entries.rbegin(), send.entries.rbegin() + count);
     saveHistory();
+    Q_EMIT recorded({send.entries.end() - count, send.entries.end()});
 }
 
 void Store::recordUnsent(RunningSend& send, const std::string& error) {
@@ -192,6 +198,11 @@ void Store::recordUnsent(RunningSend& send, const std::string& error) {
         items.push_back(unsentItem(send.items[next], send.sending, error));
     if (!items.empty()) record(send, items);
     send.over = true;
+}
+
+void Store::announceEnd(const RunningSend& send) {
+    Q_EMIT sent(send.infos, send.via);
+    Q_EMIT sendEnded(send.entries);
 }
 
 void Store::reportOutcome(const std::vector<Sent>& entries) {

@@ -182,7 +182,15 @@ Q_SIGNALS:
     /// is none.
     void shortcutPressed(const std::string& activation);
     void setupStepDone(Store::SetupStep step);
-    /// A send has ended; one record for each item, in the order sent.
+    /// A send of so many items has begun.
+    void sendStarted(int items);
+    /// How far the upload under way has come, in bytes; ten times a second at the most.
+    void sendProgressed(qint64 done, qint64 total);
+    /// These items of a send have gone into the history, in the order sent.
+    void recorded(const std::vector<Sent>& entries);
+    /// A send has ended; all its items as they stand in the history, in the order sent.
+    void sendEnded(const std::vector<Sent>& entries);
+    /// The same for the usage events; one record for each item.
     void sent(const std::vector<SendInfo>& items, Trigger via);
     /// There was nothing to send with, since the setup is not finished.
     void sendRefused();
@@ -230,6 +238,7 @@ private:
     void record(RunningSend& send, const std::vector<SentItem>& items);
     /// Records all items that are left as not sent, for this reason.
     void recordUnsent(RunningSend& send, const std::string& error);
+    void announceEnd(const RunningSend& send);
     /// Ends the send under way, if any, without waiting for it.
     void abandonSend();
     static void abandonAtExit(Store* store);

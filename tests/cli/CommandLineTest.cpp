@@ -1,4 +1,5 @@
 #include "cli/CommandLine.h"
+#include "cli/SendCommand.h"
 #include "cli/Terminal.h"
 
 #include <gmock/gmock.h>
@@ -29,7 +30,7 @@ TEST(CommandLine, UnderstandsOneCommandAndItsOption) {
                                                               {""},
                                                               {"--json"},
                                                               {"send", "--json"},
-                                                              {"send", "send"},
+                                                              {"status", "send"},
                                                               {"connect", "1:token"},
                                                               {"launch-at-login"},
                                                               {"launch-at-login", "on", "off"},
@@ -40,6 +41,24 @@ TEST(CommandLine, UnderstandsOneCommandAndItsOption) {
                                                               {"uninstall"}};
     for (const auto& arguments : misunderstood)
         EXPECT_EQ(understood(arguments), "") << testing::PrintToString(arguments);
+}
+
+TEST(CommandLine, TellsWhatToSend) {
+    using Words = std::vector<std::string>;
+    const std::pair<Words, SendRequest> cases[]{
+        {{}, {}},
+        {{"a", "--", "--topic", "./-"}, {.files = {"a", "--topic", "./-"}}},
+        {{"a", "--topic", "videos", "b"}, {.files = {"a", "b"}, .topic = TopicKind::videos}},
+        {{"--topic=notes", "-"}, {.input = true, .topic = TopicKind::notes}},
+        {{"--name", "-"}, {.input = true, .name = "-"}},
+        {{"--name=a=b", "-"}, {.input = true, .name = "a=b"}},
+    };
+    for (const auto& [words, request] : cases)
+        EXPECT_EQ(parseSend(words), request) << testing::PrintToString(words);
+    for (const Words& words :
+         {Words{"--name"}, {"--topic", "x"}, {"--topic"}, {"-x"}, {""}, {"-", "a"}})
+        EXPECT_EQ(parseSend(words), std::nullopt) << testing::PrintToString(words);
+    EXPECT_EQ(understood({"/a b", "-x"}), "send(--/a b-x)") << "as desktops open files";
 }
 
 TEST(Terminal, IsNotDrivenByWhatIsPrinted) {

@@ -34,7 +34,7 @@ public:
     /// for this one's.
     Program(const std::string& botApi, const std::filesystem::path& data);
 
-    /// Runs to the end, with `input` on standard input.
+    /// Runs to the end, with `input` on standard input, which is at its end where that is empty.
     [[nodiscard]] Finished run(const std::vector<std::string>& arguments,
                                const std::string& input = {}) const;
 
