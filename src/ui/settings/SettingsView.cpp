@@ -176,9 +176,9 @@ void SettingsView::showEvent(QShowEvent* event) {
 }
 
 /// What was wrong may have been mended in another window.
-void SettingsView::changeEvent(QEvent* event) {
-    View::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) troubles_->lookIfDue();
+bool SettingsView::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) troubles_->lookIfDue();
+    return View::event(event);
 }
 
 void SettingsView::themeChanged() {

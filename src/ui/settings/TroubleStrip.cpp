@@ -57,7 +57,7 @@ QCoro::Task<> TroubleStrip::lookNow() {
     const std::vector<std::string> troubles = co_await looking;
     if (!self) co_return;
     looking_ = false;
-    if (troubles.empty()) rest_.setRemainingTime(quietTime);
+    rest_.setRemainingTime(troubles.empty() ? quietTime : std::chrono::seconds{0});
     tell(troubles);
 }
 

@@ -91,6 +91,11 @@ TEST_F(SettingsTest, TellsWhatIsWrongUntilItIsMended) {
     EXPECT_FALSE(shows("d"));
     EXPECT_TRUE(shows("2 more: quillon doctor"));
     EXPECT_GT(view.fittingHeight(), height);
+    troubles = {"Keyring: it is locked. <b>Unlock</b> it."};
+    QEvent activation{QEvent::WindowActivate}; // which Qt passes on from the window
+    QCoreApplication::sendEvent(&view, &activation);
+    turn();
+    EXPECT_FALSE(shows("c"));
     troubles.clear();
     comeBack();
     EXPECT_FALSE(shows("Keyring: it is locked. <b>Unlock</b> it."));
