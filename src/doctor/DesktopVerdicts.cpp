@@ -15,6 +15,7 @@ using enum FindingState;
 
 /// Enough to tell what was copied; some programs offer dozens of formats.
 constexpr std::size_t mostFormats = 12;
+constexpr std::size_t longestFormat = 80;
 
 bool isWayland(const Facts& facts) {
     return facts.system && facts.system->wayland;
@@ -42,7 +43,7 @@ std::string keys(const Facts& facts) {
 
 /// The name of a format without its parameters, which can hold names of files.
 std::string formatName(const std::string& format) {
-    std::string name = format.substr(0, format.find(';'));
+    std::string name = format.substr(0, std::min(format.find(';'), longestFormat));
     const auto plain = [](char c) {
         return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
                std::string_view{"/_.+-"}.find(c) != std::string_view::npos;

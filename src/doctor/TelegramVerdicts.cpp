@@ -1,6 +1,8 @@
 // Keyring, network, clock, bot, group and topics.
 #include "doctor/Verdicts.h"
 
+#include "base/ShownText.h"
+
 #include <QtGlobal>
 
 #include <algorithm>
@@ -23,8 +25,11 @@ Verdict notAsked() {
     return {unknown, {QT_TRANSLATE_NOOP("Doctor", "not asked, for something before it failed")}};
 }
 
-Verdict telegramSays(const ApiCall& call, const char* mend) {
-    return {failed, {QT_TRANSLATE_NOOP("Doctor", "Telegram says: %1"), {call.said}}, {mend}};
+/// Any server may answer in Telegram's place, with anything.
+Phrase telegramSays(const ApiCall& call) {
+    constexpr qsizetype enough = 200; // UTF-16 units; Telegram's own words have less than a hundred
+    const QString said = shortened(QString::fromStdString(call.said), enough);
+    return {QT_TRANSLATE_NOOP("Doctor", "Telegram says: %1"), {said.toStdString()}};
 }
 
 Verdict noAnswer() {
@@ -191,7 +196,9 @@ Verdict botVerdict(const Facts& facts, Names names) {
                 {QT_TRANSLATE_NOOP("Doctor", "Get its token from @BotFather, and connect it: "
                                              "quillon connect")}};
     case Outcome::refused:
-        return telegramSays(facts.bot, QT_TRANSLATE_NOOP("Doctor", "Try again in a moment."));
+        return {failed,
+                telegramSays(facts.bot),
+                {QT_TRANSLATE_NOOP("Doctor", "Try again in a moment.")}};
     case Outcome::done:
         break;
     }
@@ -211,7 +218,8 @@ Verdict groupVerdict(const Facts& facts, Names names) {
                 {QT_TRANSLATE_NOOP("Doctor", "it has become a supergroup, which is another one")},
                 {QT_TRANSLATE_NOOP("Doctor", "Write “hi” there, and: quillon find-group")}};
     }
-    if (facts.group.outcome == Outcome::refused) return telegramSays(facts.group, addAgain);
+    if (facts.group.outcome == Outcome::refused)
+        return {failed, telegramSays(facts.group), {addAgain}};
     if (!isDone(facts.group)) return noAnswer();
     const auto title = textMember(facts.group.result, "title");
     if (names == Names::told && title) return {ok, {"“%1”", {*title}}};
@@ -252,8 +260,7 @@ Verdict topicVerdict(const Facts& facts, std::size_t index) {
     const auto row = std::ranges::find_if(topicRows, [&](const SaidRow& each) {
         return call.said.find(each.part) != call.said.npos;
     });
-    if (row == std::end(topicRows))
-        return {unknown, {QT_TRANSLATE_NOOP("Doctor", "Telegram says: %1"), {call.said}}};
+    if (row == std::end(topicRows)) return {unknown, telegramSays(call)};
     return {failed, {row->found}, {row->mend}};
 }
 
