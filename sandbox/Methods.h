@@ -35,6 +35,7 @@ Json editForumTopic(MethodCall& call);
 Json deleteForumTopic(MethodCall& call);
 Json deleteMessage(MethodCall& call);
 Json deleteMessages(MethodCall& call);
+Json sendChatAction(MethodCall& call);
 
 /// The chat that "chat_id" names, of which the bot must be a member. Throws ApiError; a group that
 /// became a supergroup refuses calls that change something, `toWrite`.

@@ -7,6 +7,7 @@
 #include "sandbox/RequestLog.h"
 #include "sandbox/World.h"
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -63,6 +64,9 @@ public:
     void deleteMessage(std::int64_t group, std::int64_t message);
     /// Sets Telegram's clock forward.
     void pass(std::chrono::seconds time);
+
+    /// The clock that replies tell of is so far ahead of this computer's.
+    void setClock(std::chrono::seconds ahead);
 
     /// Makes the next calls fail; several faults are queued.
     void failNext(const Fault& fault);

@@ -41,11 +41,6 @@ std::string row(const std::string& name, const std::string& value) {
     return Terminal::harmless(label.toStdString() + value) + "\n";
 }
 
-/// Ready, as far as is known of the keyring.
-bool canSend(const Store& store) {
-    return store.isReady() && !store.keyringProblem();
-}
-
 /// The bot's row: without the keyring's answer, what the settings remember.
 std::string botText(const Store& store) {
     const bool known = store.keyring() != Store::KeyringState::silent;
@@ -83,6 +78,10 @@ std::vector<std::string> sendColumns(const Sent& entry) {
 }
 
 } // namespace
+
+bool canSend(const Store& store) {
+    return store.isReady() && !store.keyringProblem();
+}
 
 std::string sendLine(const Sent& entry) {
     return columns(sendColumns(entry));

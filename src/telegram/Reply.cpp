@@ -11,7 +11,7 @@ namespace {
 constexpr std::int64_t leastRetryAfter = -1;
 
 Refusal refusedToken() {
-    return Refusal{translate("Telegram", "Telegram didn't accept that bot token.")};
+    return Refusal{translate("Telegram", "Telegram didn't accept that bot token."), true};
 }
 
 Verdict judgeWithoutEnvelope(int status) {
@@ -43,8 +43,9 @@ Verdict judge(const HttpReply& reply) {
     const std::int64_t code = integerMember(*envelope, "error_code").value_or(0);
     if (code == 401) return refusedToken();
     const auto description = textMember(*envelope, "description");
-    return Refusal{description ? *description : translate("Telegram", "Telegram said no."),
-                   static_cast<int>(code)};
+    return Refusal{.message =
+                       description ? *description : translate("Telegram", "Telegram said no."),
+                   .code = static_cast<int>(code)};
 }
 
 } // namespace quillon

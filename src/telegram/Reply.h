@@ -22,6 +22,8 @@ struct Wait {
 /// The sentence for the user, and the Bot API's "error_code", 0 where there is none.
 struct Refusal {
     std::string message;
+    /// It is the bot's token that was refused.
+    bool ofToken = false;
     int code = 0;
 };
 

@@ -8,15 +8,16 @@ namespace quillon {
 
 /// A failure the user must act on. Its message is a finished sentence, shown as it is.
 struct TelegramError : std::exception {
-    enum class Cause { refused, unreachable };
+    enum class Cause {
+        refused,
+        unreachable,
+        token, ///< Telegram knows no bot with this token
+    };
 
-    explicit TelegramError(std::string sentence, Cause why = Cause::refused)
+    /// `errorCode` is the one of Telegram's own answer.
+    explicit TelegramError(std::string sentence, Cause why = Cause::refused, int errorCode = 0)
         : message{std::move(sentence)},
-          cause{why} {}
-    /// Telegram's own refusal, with its error code.
-    TelegramError(std::string sentence, int errorCode)
-        : message{std::move(sentence)},
-          cause{Cause::refused},
+          cause{why},
           code{errorCode} {}
 
     [[nodiscard]] const char* what() const noexcept override { return message.c_str(); }
