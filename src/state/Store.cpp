@@ -103,9 +103,10 @@ void Store::saveUndo() {
 }
 
 void Store::forgetLastSend() {
-    if (lastSend_.items.empty()) return;
+    const bool kept = !lastSend_.items.empty();
+    // Without its chat, what arrives of a send under way is not remembered either.
     publish(lastSend_, LastSend{});
-    saveUndo();
+    if (kept) saveUndo();
 }
 
 template <typename T>
