@@ -284,7 +284,7 @@ TEST_F(ReadyPanel, TakesTheLastSendBack) {
     button("Undo")->setFocus(Qt::TabFocusReason);
     turn();
     EXPECT_EQ(controls->opacity("Undo"), 1);
-    EXPECT_EQ(accessible(*button("Undo")).text(QAccessible::Description),
+    EXPECT_EQ(accessible(*button("Undo")).text(QAccessible::Description).toStdString(),
               "Deletes all 2 messages of the last send");
     EXPECT_TRUE(accessible(*button("Undo")).parent()->role() == QAccessible::ListItem);
     click("Undo");
