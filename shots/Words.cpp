@@ -1,0 +1,55 @@
+#include "shots/Words.h"
+
+#include "base/Translate.h"
+
+#include <QFile>
+#include <QHash>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+namespace quillon::test {
+
+namespace {
+
+QHash<QString, QString>& words() {
+    static QHash<QString, QString> all;
+    return all;
+}
+
+QString withoutKey(QString text) {
+    static const QRegularExpression mark{QStringLiteral("&(?=\\S)")};
+    return text.remove(mark);
+}
+
+/// Reads the catalogue's source, since a compiled one gives no text without its context.
+void learn(QFile& file) {
+    QXmlStreamReader reader{&file};
+    QString source;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement) continue;
+        if (reader.name() == QLatin1String{"source"}) {
+            source = withoutKey(reader.readElementText());
+        } else if (reader.name() == QLatin1String{"translation"} &&
+                   !reader.attributes().hasAttribute(QLatin1String{"type"})) {
+            words().insert(
+                source, withoutKey(reader.readElementText(QXmlStreamReader::IncludeChildElements)));
+        }
+    }
+}
+
+} // namespace
+
+void speak(const QString& language) {
+    if (language.isEmpty()) return;
+    QFile file{QStringLiteral(QUILLON_TRANSLATIONS "/quillon_%1.ts").arg(language)};
+    if (!file.open(QFile::ReadOnly) || !loadCatalogue(QStringLiteral(QUILLON_CATALOGUES), language))
+        qFatal("there is no catalogue %s", qUtf8Printable(language));
+    words().clear();
+    learn(file);
+}
+
+QString spoken(const QString& text) {
+    return words().value(text, text);
+}
+
+} // namespace quillon::test

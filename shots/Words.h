@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace quillon::test {
+
+/// Has all texts from now on in the words of this catalogue of the build ("pt_BR"); an empty name
+/// leaves them as the sources have them. Ends the program where there is no such catalogue.
+void speak(const QString& language);
+
+/// What the catalogue has for a text of the sources, whatever its context; the text itself where it
+/// has nothing. Neither has the mark of its key (&).
+[[nodiscard]] QString spoken(const QString& text);
+
+} // namespace quillon::test
