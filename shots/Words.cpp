@@ -28,7 +28,7 @@ void learn(QFile& file) {
     while (!reader.atEnd()) {
         if (reader.readNext() != QXmlStreamReader::StartElement) continue;
         if (reader.name() == QLatin1String{"source"}) {
-            source = withoutKey(reader.readElementText());
+            source = reader.readElementText();
         } else if (reader.name() == QLatin1String{"translation"} &&
                    !reader.attributes().hasAttribute(QLatin1String{"type"})) {
             words().insert(

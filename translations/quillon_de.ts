@@ -810,7 +810,7 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>&amp;Play a sound</source>
-        <translation>&amp;Ton abspielen</translation>
+        <translation>T&amp;on abspielen</translation>
     </message>
     <message>
         <source>Show a &amp;banner</source>
@@ -834,7 +834,7 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>&amp;Disconnect this Mac</source>
-        <translation>Diesen Computer &amp;trennen</translation>
+        <translation>&amp;Diesen Computer trennen</translation>
     </message>
     <message>
         <source>Bot</source>
@@ -846,7 +846,7 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>&amp;Uninstall Quillon…</source>
-        <translation>Quillon &amp;deinstallieren …</translation>
+        <translation>&amp;Quillon deinstallieren …</translation>
     </message>
     <message>
         <source>Another app already uses %1. Pick another one.</source>
@@ -1112,7 +1112,7 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>&amp;Find my group</source>
-        <translation>Meine Gruppe &amp;finden</translation>
+        <translation>&amp;Meine Gruppe finden</translation>
     </message>
     <message>
         <source>Topics &amp;ready</source>
@@ -1127,7 +1127,7 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     <name>quillon::ShortcutNote</name>
     <message>
         <source>As&amp;k again</source>
-        <translation>&amp;Noch einmal fragen</translation>
+        <translation>Noch einmal &amp;fragen</translation>
     </message>
     <message>
         <source>Choose &amp;keys…</source>
@@ -1391,7 +1391,7 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>Check for updates &amp;automatically</source>
-        <translation>&amp;Automatisch nach Aktualisierungen suchen</translation>
+        <translation>Automatisch &amp;nach Aktualisierungen suchen</translation>
     </message>
     <message>
         <source>Check &amp;now</source>

@@ -1116,7 +1116,7 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>Topics &amp;ready</source>
-        <translation>Temas &amp;listos</translation>
+        <translation>T&amp;emas listos</translation>
     </message>
     <message>
         <source>C&amp;reate the topics</source>
@@ -1127,11 +1127,11 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     <name>quillon::ShortcutNote</name>
     <message>
         <source>As&amp;k again</source>
-        <translation>&amp;Volver a preguntar</translation>
+        <translation>Volv&amp;er a preguntar</translation>
     </message>
     <message>
         <source>Choose &amp;keys…</source>
-        <translation>Elegir &amp;teclas…</translation>
+        <translation>Eleg&amp;ir teclas…</translation>
     </message>
     <message>
         <source>Add the s&amp;hortcut</source>
@@ -1195,7 +1195,7 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>Sa&amp;ve names to Telegram</source>
-        <translation>&amp;Guardar nombres en Telegram</translation>
+        <translation>Guardar &amp;nombres en Telegram</translation>
     </message>
     <message>
         <source>Finish setup first</source>

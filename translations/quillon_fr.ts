@@ -1108,7 +1108,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>&amp;Find again</source>
-        <translation>Chercher à &amp;nouveau</translation>
+        <translation>Cherc&amp;her à nouveau</translation>
     </message>
     <message>
         <source>&amp;Find my group</source>
@@ -1131,11 +1131,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Choose &amp;keys…</source>
-        <translation>Choisir les &amp;touches…</translation>
+        <translation>C&amp;hoisir les touches…</translation>
     </message>
     <message>
         <source>Add the s&amp;hortcut</source>
-        <translation>Ajouter le &amp;raccourci</translation>
+        <translation>Ajo&amp;uter le raccourci</translation>
     </message>
     <message>
         <source>&amp;Copy</source>

@@ -999,7 +999,7 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>Open pane&amp;l</source>
-        <translation>Apri pannell&amp;o</translation>
+        <translation>Apri &amp;pannello</translation>
     </message>
     <message>
         <source>This desktop shows no icon for Quillon.</source>
@@ -1116,7 +1116,7 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>Topics &amp;ready</source>
-        <translation>Argomenti &amp;pronti</translation>
+        <translation>A&amp;rgomenti pronti</translation>
     </message>
     <message>
         <source>C&amp;reate the topics</source>
@@ -1139,7 +1139,7 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>Co&amp;pia</translation>
+        <translation>Cop&amp;ia</translation>
     </message>
     <message>
         <source>Command for the shortcut</source>

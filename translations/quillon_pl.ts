@@ -812,7 +812,7 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     </message>
     <message>
         <source>&amp;Play a sound</source>
-        <translation>&amp;Odtwórz dźwięk</translation>
+        <translation>Odtwórz &amp;dźwięk</translation>
     </message>
     <message>
         <source>Show a &amp;banner</source>
@@ -1067,7 +1067,7 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     </message>
     <message>
         <source>&amp;Open BotFather</source>
-        <translation>&amp;Otwórz BotFather</translation>
+        <translation>Otwórz &amp;BotFather</translation>
     </message>
     <message>
         <source>In Telegram:</source>
@@ -1123,7 +1123,7 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     </message>
     <message>
         <source>C&amp;reate the topics</source>
-        <translation>U&amp;twórz tematy</translation>
+        <translation>Ut&amp;wórz tematy</translation>
     </message>
 </context>
 <context>
@@ -1138,11 +1138,11 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     </message>
     <message>
         <source>Add the s&amp;hortcut</source>
-        <translation>&amp;Dodaj skrót</translation>
+        <translation>Doda&amp;j skrót</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>&amp;Kopiuj</translation>
+        <translation>Kop&amp;iuj</translation>
     </message>
     <message>
         <source>Command for the shortcut</source>

@@ -106,7 +106,7 @@
     </message>
     <message>
         <source>The clipboard is empty</source>
-        <translation>A área de transferência está vazia</translation>
+        <translation>Área de transferência vazia</translation>
     </message>
     <message>
         <source>The clipboard is out of reach. This desktop offers neither data-control nor Xwayland.</source>
@@ -810,7 +810,7 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     </message>
     <message>
         <source>&amp;Play a sound</source>
-        <translation>&amp;Tocar um som</translation>
+        <translation>Tocar &amp;um som</translation>
     </message>
     <message>
         <source>Show a &amp;banner</source>
@@ -1127,19 +1127,19 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     <name>quillon::ShortcutNote</name>
     <message>
         <source>As&amp;k again</source>
-        <translation>&amp;Perguntar de novo</translation>
+        <translation>P&amp;erguntar de novo</translation>
     </message>
     <message>
         <source>Choose &amp;keys…</source>
-        <translation>Escolher &amp;teclas…</translation>
+        <translation>E&amp;scolher teclas…</translation>
     </message>
     <message>
         <source>Add the s&amp;hortcut</source>
-        <translation>Adicionar o ata&amp;lho</translation>
+        <translation>Adicionar &amp;o atalho</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>&amp;Copiar</translation>
+        <translation>Cop&amp;iar</translation>
     </message>
     <message>
         <source>Command for the shortcut</source>
@@ -1395,7 +1395,7 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     </message>
     <message>
         <source>Check &amp;now</source>
-        <translation>Procurar a&amp;gora</translation>
+        <translation>&amp;Procurar agora</translation>
     </message>
     <message>
         <source>Version %1</source>

@@ -836,7 +836,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>&amp;Disconnect this Mac</source>
-        <translation>&amp;Отключить этот компьютер</translation>
+        <translation>Отключить &amp;этот компьютер</translation>
     </message>
     <message>
         <source>Bot</source>
@@ -1001,7 +1001,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Open pane&amp;l</source>
-        <translation>Открыть панел&amp;ь</translation>
+        <translation>&amp;Открыть панель</translation>
     </message>
     <message>
         <source>This desktop shows no icon for Quillon.</source>
@@ -1130,7 +1130,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     <name>quillon::ShortcutNote</name>
     <message>
         <source>As&amp;k again</source>
-        <translation>&amp;Спросить снова</translation>
+        <translation>Сп&amp;росить снова</translation>
     </message>
     <message>
         <source>Choose &amp;keys…</source>
@@ -1142,7 +1142,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>&amp;Копировать</translation>
+        <translation>Коп&amp;ировать</translation>
     </message>
     <message>
         <source>Command for the shortcut</source>
@@ -1183,7 +1183,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>&amp;Use another bot</source>
-        <translation>&amp;Другой бот</translation>
+        <translation>Другой &amp;бот</translation>
     </message>
     <message>
         <source>The token is kept in your Mac&apos;s Keychain.</source>

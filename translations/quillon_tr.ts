@@ -832,7 +832,7 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>&amp;Disconnect this Mac</source>
-        <translation>&amp;Bu bilgisayarın bağlantısını kes</translation>
+        <translation>Bu bi&amp;lgisayarın bağlantısını kes</translation>
     </message>
     <message>
         <source>Bot</source>
@@ -844,7 +844,7 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>&amp;Uninstall Quillon…</source>
-        <translation>Quillon’u &amp;kaldır…</translation>
+        <translation>&amp;Quillon’u kaldır…</translation>
     </message>
     <message>
         <source>Another app already uses %1. Pick another one.</source>
@@ -989,7 +989,7 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>&amp;Topics</source>
-        <translation>Kon&amp;ular</translation>
+        <translation>&amp;Konular</translation>
     </message>
     <message>
         <source>&amp;General</source>
@@ -1109,7 +1109,7 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>&amp;Find my group</source>
-        <translation>Grubumu &amp;bul</translation>
+        <translation>G&amp;rubumu bul</translation>
     </message>
     <message>
         <source>Topics &amp;ready</source>
@@ -1136,7 +1136,7 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>K&amp;opyala</translation>
+        <translation>Kopy&amp;ala</translation>
     </message>
     <message>
         <source>Command for the shortcut</source>
@@ -1192,7 +1192,7 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>Sa&amp;ve names to Telegram</source>
-        <translation>Adları Telegram’a &amp;kaydet</translation>
+        <translation>&amp;Adları Telegram’a kaydet</translation>
     </message>
     <message>
         <source>Finish setup first</source>
@@ -1392,7 +1392,7 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>Check &amp;now</source>
-        <translation>Şim&amp;di denetle</translation>
+        <translation>Şi&amp;mdi denetle</translation>
     </message>
     <message>
         <source>Version %1</source>

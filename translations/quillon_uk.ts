@@ -812,7 +812,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>&amp;Play a sound</source>
-        <translation>&amp;Відтворювати звук</translation>
+        <translation>В&amp;ідтворювати звук</translation>
     </message>
     <message>
         <source>Show a &amp;banner</source>
@@ -828,7 +828,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>&amp;Open Quillon when I log in</source>
-        <translation>&amp;Запускати Quillon під час входу</translation>
+        <translation>Запускати Quillon під час в&amp;ходу</translation>
     </message>
     <message>
         <source>Telegram</source>
@@ -1001,7 +1001,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Open pane&amp;l</source>
-        <translation>Відкрити панел&amp;ь</translation>
+        <translation>&amp;Відкрити панель</translation>
     </message>
     <message>
         <source>This desktop shows no icon for Quillon.</source>
@@ -1111,11 +1111,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>&amp;Find again</source>
-        <translation>Шукати &amp;знову</translation>
+        <translation>&amp;Шукати знову</translation>
     </message>
     <message>
         <source>&amp;Find my group</source>
-        <translation>&amp;Знайти мою групу</translation>
+        <translation>Знайти &amp;мою групу</translation>
     </message>
     <message>
         <source>Topics &amp;ready</source>
@@ -1130,7 +1130,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     <name>quillon::ShortcutNote</name>
     <message>
         <source>As&amp;k again</source>
-        <translation>За&amp;питати знову</translation>
+        <translation>Зап&amp;итати знову</translation>
     </message>
     <message>
         <source>Choose &amp;keys…</source>
@@ -1142,7 +1142,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>&amp;Копіювати</translation>
+        <translation>К&amp;опіювати</translation>
     </message>
     <message>
         <source>Command for the shortcut</source>
@@ -1398,7 +1398,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Check &amp;now</source>
-        <translation>Перевірити з&amp;араз</translation>
+        <translation>П&amp;еревірити зараз</translation>
     </message>
     <message>
         <source>Version %1</source>

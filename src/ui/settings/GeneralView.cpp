@@ -151,7 +151,9 @@ void GeneralView::refresh() {
 
 void GeneralView::refreshShortcut() {
     const ShortcutChoice choice = store_.config().shortcut;
-    shortcut_->setFixedWidth(Theme::wholeLength(pickerWidth));
+    // The names of keys are longer than their symbols.
+    shortcut_->setFixedWidth(
+        std::max(Theme::wholeLength(pickerWidth), shortcut_->minimumSizeHint().width()));
     shortcut_->setCurrentIndex(static_cast<int>(choice));
     taken_->setText(tr("Another app already uses %1. Pick another one.")
                         .arg(QString::fromStdString(shownKeysText(choice))));
