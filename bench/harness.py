@@ -65,7 +65,7 @@ class Cost:
     peak: float
 
 
-def run_measured(command, env=None, stdin=None):
+def run_measured(command, env=None, stdin=subprocess.DEVNULL):
     """Runs the command to its end, which must be a good one."""
     with open(WORK / "output", "w+b") as output:
         start = time.monotonic()

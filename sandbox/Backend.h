@@ -7,7 +7,9 @@
 #include "sandbox/RequestLog.h"
 #include "sandbox/World.h"
 
+#include <atomic>
 #include <condition_variable>
+#include <cstdint>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -50,6 +52,8 @@ public:
 
     FaultBox faults;
     RequestLog log;
+    /// How far the clock that replies tell of is ahead of this computer's, in seconds.
+    std::atomic<std::int64_t> clockAhead = 0;
 
 private:
     struct Announcer {

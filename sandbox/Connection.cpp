@@ -4,6 +4,10 @@
 
 #include <boost/beast/http/status.hpp>
 
+#include <array>
+#include <chrono>
+#include <ctime>
+
 #include <poll.h>
 
 namespace quillon::sandbox {
@@ -16,6 +20,15 @@ std::string reason(int status) {
     const auto known = boost::beast::http::int_to_status(static_cast<unsigned>(status));
     const auto text = boost::beast::http::obsolete_reason(known);
     return {text.data(), text.size()};
+}
+
+// As RFC 9110 wants it: "Sun, 06 Nov 1994 08:49:37 GMT".
+std::string httpDate(std::chrono::system_clock::time_point time) {
+    const std::time_t seconds = std::chrono::system_clock::to_time_t(time);
+    std::tm parts{};
+    ::gmtime_r(&seconds, &parts);
+    std::array<char, 40> text{};
+    return {text.data(), std::strftime(text.data(), text.size(), "%a, %d %b %Y %T GMT", &parts)};
 }
 
 } // namespace
@@ -82,8 +95,11 @@ bool Connection::refuse(RequestReader::Outcome outcome) {
 }
 
 std::string Connection::onTheWire(const HttpReply& reply) const {
+    const auto now =
+        std::chrono::system_clock::now() + std::chrono::seconds{backend_.clockAhead.load()};
     std::string bytes = "HTTP/1.1 " + std::to_string(reply.status) + ' ' + reason(reply.status) +
-                        "\r\nServer: nginx\r\nContent-Type: " + reply.contentType +
+                        "\r\nServer: nginx\r\nDate: " + httpDate(now) +
+                        "\r\nContent-Type: " + reply.contentType +
                         "\r\nContent-Length: " + std::to_string(reply.body.size()) +
                         "\r\nConnection: " + (closing_ ? "close" : "keep-alive") + "\r\n\r\n";
     return bytes + reply.body;

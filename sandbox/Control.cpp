@@ -115,6 +115,12 @@ Json setEventsStatus(Backend& backend, const Json& in) {
     return done;
 }
 
+// {"ahead":3600}: how far the clock of the replies is ahead, in seconds.
+Json setClock(Backend& backend, const Json& in) {
+    backend.clockAhead = in.at("ahead").get<std::int64_t>();
+    return done;
+}
+
 // A page over the world is called under its lock.
 template <Json (*Page)(World&, const Json&)>
 Json locked(Backend& backend, const Json& in) {
@@ -142,6 +148,7 @@ constexpr std::array routes{
     Route{"POST", "/sandbox/bot", locked<addBot>},
     Route{"GET", "/sandbox/events", events},
     Route{"POST", "/sandbox/events/status", setEventsStatus},
+    Route{"POST", "/sandbox/clock", setClock},
 };
 
 } // namespace

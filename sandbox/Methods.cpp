@@ -56,6 +56,15 @@ Json getChat(MethodCall& call) {
     return json;
 }
 
+Json getChatMember(MethodCall& call) {
+    const Chat& chat = chatOf(call, false);
+    const auto user = call.parameters.integer("user_id").value_or(0);
+    if (user <= 0) throw badRequest("invalid user_id specified");
+    if (user == call.bot.id) return call.world.memberJson(call.bot, chat.role(user));
+    if (user != World::userId) throw badRequest("member not found");
+    return {{"user", call.world.userJson(user)}, {"status", "creator"}, {"is_anonymous", false}};
+}
+
 } // namespace
 
 Chat& chatOf(MethodCall& call, bool toWrite) {
@@ -83,9 +92,11 @@ Method findMethod(std::string_view name) {
         {"getme", getMe},
         {"getupdates", getUpdates},
         {"getchat", getChat},
+        {"getchatmember", getChatMember},
         {"createforumtopic", createForumTopic},
         {"editforumtopic", editForumTopic},
         {"deleteforumtopic", deleteForumTopic},
+        {"sendchataction", sendChatAction},
         {"sendmessage", sendMessage},
         {"sendphoto", sendPhoto},
         {"senddocument", sendDocument},

@@ -33,6 +33,7 @@ Json sendDocument(MethodCall& call);
 Json createForumTopic(MethodCall& call);
 Json editForumTopic(MethodCall& call);
 Json deleteForumTopic(MethodCall& call);
+Json sendChatAction(MethodCall& call);
 
 /// The chat that "chat_id" names, of which the bot must be a member. Throws ApiError; a group that
 /// became a supergroup refuses calls that change something, `toWrite`.

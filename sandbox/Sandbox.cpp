@@ -57,6 +57,10 @@ void Sandbox::start() {
     parts_->server.start(parts_->port);
 }
 
+void Sandbox::setClock(std::chrono::seconds ahead) {
+    parts_->backend.clockAhead = ahead.count();
+}
+
 void Sandbox::addBot(const std::string& token, const std::string& username) {
     parts_->backend.withWorld([&](World& world) { world.addBot(token, username); });
 }

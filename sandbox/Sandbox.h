@@ -7,6 +7,7 @@
 #include "sandbox/RequestLog.h"
 #include "sandbox/World.h"
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -59,6 +60,9 @@ public:
     std::int64_t userCreatesTopic(std::int64_t group, const std::string& name);
     void userRenamesTopic(std::int64_t group, std::int64_t topic, const std::string& name);
     void deleteTopic(std::int64_t group, std::int64_t topic);
+
+    /// The clock that replies tell of is so far ahead of this computer's.
+    void setClock(std::chrono::seconds ahead);
 
     /// Makes the next calls fail; several faults are queued.
     void failNext(const Fault& fault);

@@ -1,10 +1,11 @@
-// sendMessage, sendPhoto and sendDocument.
+// sendMessage, sendPhoto, sendDocument and sendChatAction.
 #include "sandbox/ApiError.h"
 #include "sandbox/Methods.h"
 #include "sandbox/Picture.h"
 #include "sandbox/Text.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace quillon::sandbox {
@@ -48,13 +49,18 @@ FormattedText caption(const MethodCall& call) {
     return text;
 }
 
-// `right` continues "not enough rights to send … to the chat".
-Json deliver(MethodCall& call, Message message, const std::string& right) {
-    Chat& chat = chatOf(call);
-    // 0 stands for the General topic; 1, its number on the phone, is refused.
+// 0 stands for the General topic; 1, its number on the phone, is refused.
+std::int64_t threadOf(const MethodCall& call, Chat& chat) {
     const auto thread =
         std::max<std::int64_t>(0, call.parameters.integer("message_thread_id").value_or(0));
     if (thread != 0 && chat.topic(thread) == nullptr) throw badRequest("message thread not found");
+    return thread;
+}
+
+// `right` continues "not enough rights to send … to the chat".
+Json deliver(MethodCall& call, Message message, const std::string& right) {
+    Chat& chat = chatOf(call);
+    const auto thread = threadOf(call, chat);
     if (chat.role(call.bot.id) == BotRole::restricted)
         throw badRequest("not enough rights to send " + right + " to the chat");
     message.topic = thread;
@@ -104,7 +110,24 @@ std::string documentKind(const MethodCall& call, std::string_view bytes) {
     return "document";
 }
 
+// Bot API, sendChatAction; the server also takes "cancel", which ends what the others show.
+constexpr std::array<std::string_view, 12> actions{
+    "cancel",         "typing",        "upload_photo",      "record_video",
+    "upload_video",   "record_voice",  "upload_voice",      "upload_document",
+    "choose_sticker", "find_location", "record_video_note", "upload_video_note"};
+
 } // namespace
+
+// What it shows for five seconds at the most is no part of the sandbox's phone.
+Json sendChatAction(MethodCall& call) {
+    if (std::ranges::find(actions, lowered(call.parameters.text("action"))) == actions.end())
+        throw badRequest("wrong parameter action in request");
+    Chat& chat = chatOf(call);
+    threadOf(call, chat);
+    if (chat.role(call.bot.id) == BotRole::restricted)
+        throw badRequest("not enough rights to send text messages to the chat");
+    return true;
+}
 
 Json sendMessage(MethodCall& call) {
     Message message;

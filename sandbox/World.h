@@ -109,9 +109,10 @@ public:
 
     Json userJson(std::int64_t id) const;
     Json messageJson(const Chat& chat, const Message& message, bool withReply = true) const;
+    /// The Bot API's "ChatMember".
+    Json memberJson(const Bot& bot, BotRole role) const;
 
 private:
-    Json memberJson(const Bot& bot, BotRole role) const;
     void announce(const Chat& chat, const Message& message);
 
     std::deque<Bot> bots_;

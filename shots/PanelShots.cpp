@@ -11,6 +11,8 @@
 #include "ui/panel/PanelWindow.h"
 #include "ui/panel/SendButton.h"
 
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <QTest>
 
 #include <utility>
@@ -90,6 +92,14 @@ void sendForever(BotComputer& computer, PanelView& panel) {
     until([&] { return computer.clock.pending() > before; });
 }
 
+/// Drags a file over the panel.
+void dragOver(BotComputer& /*computer*/, PanelView& panel) {
+    QMimeData file;
+    file.setUrls({QUrl::fromLocalFile(QStringLiteral("/tmp/file"))});
+    QDragEnterEvent event{{}, Qt::CopyAction, &file, Qt::LeftButton, {}};
+    QCoreApplication::sendEvent(&panel, &event);
+}
+
 const FakePasteboard::Content shortText{{"UTF8_STRING", "Buy milk and bread"}};
 
 const std::vector<Scene> scenes{
@@ -100,6 +110,10 @@ const std::vector<Scene> scenes{
      .history = {history.begin(), history.begin() + 2},
      .clipboard = shortText,
      .act = sendForever},
+    {.name = "drop",
+     .history = {history.begin(), history.begin() + 2},
+     .clipboard = shortText,
+     .act = dragOver},
     {.name = "taken",
      .history = {history.begin(), history.begin() + 2},
      .clipboard = {{"UTF8_STRING", "https://example.com"}},

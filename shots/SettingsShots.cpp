@@ -1,4 +1,5 @@
 // Takes pictures of the settings window in every condition.
+#include "doctor/Rules.h"
 #include "maintenance/Updater.h"
 #include "shots/Shots.h"
 #include "support/ConnectedComputer.h"
@@ -39,7 +40,8 @@ struct Stage {
                          .log = [](const std::string&) {}});
         view.emplace(*computer.store, *updater,
                      SettingsActions{.showBanner = [](auto&&...) {},
-                                     .uninstall = []() -> QCoro::Task<> { co_return; }},
+                                     .uninstall = []() -> QCoro::Task<> { co_return; },
+                                     .troubles = [this] { return look(troubles); }},
                      QString::fromLatin1(tab));
         controls.emplace(*view);
     }
@@ -62,7 +64,19 @@ struct Stage {
         });
     }
 
+    /// Shows what is wrong when the window comes to the front again.
+    void tellTroubles(const Facts& facts) {
+        troubles = failures(findings(facts, Names::told));
+        view->hide();
+        view->show();
+    }
+
+    static QCoro::Task<std::vector<std::string>> look(std::vector<std::string> found) {
+        co_return found;
+    }
+
     BotComputer computer;
+    std::vector<std::string> troubles;
     std::optional<Updater> updater;
     std::optional<SettingsView> view;
     std::optional<Controls> controls;
@@ -99,6 +113,26 @@ Config longNames() {
     config.botName = "the_bot_with_the_longest_name_bot";
     config.topics[1].name = longName;
     return config;
+}
+
+/// The keyring is locked, and the settings cannot be saved.
+Facts locked() {
+    Facts facts{.config = connected(), .home = "/home/anna", .dataFolder = "/home/anna/data"};
+    facts.xServer = XServerTraits{.presence = Presence::answers};
+    facts.clipboard = ClipboardTraits{.way = ClipboardWay::x11};
+    facts.bus = BusTraits{.bus = Presence::answers, .keyring = true};
+    facts.folder = FolderTraits{.exists = true};
+    facts.keyring = SecretAnswer::locked;
+    return facts;
+}
+
+/// More than there is room for.
+Facts manyTroubles() {
+    Facts facts = locked();
+    facts.login = LoginItem::Status::notFound;
+    facts.look.outcome = HttpLook::Outcome::untrusted;
+    facts.clipboard.reset();
+    return facts;
 }
 
 using Act = std::function<void(Stage&)>;
@@ -168,7 +202,7 @@ const std::map<std::string, Scene> scenes{
      {on("setup", found()),
       [](Stage& stage) {
           stage.computer.sandbox.failNext(refusal("createForumTopic", 400, noRights));
-          stage.click("Create the topics");
+          stage.click("C&reate the topics");
           stage.awaitText("Couldn't create topics. Make the bot an admin with “Manage Topics” and "
                           "try again.");
       }}},
@@ -207,6 +241,10 @@ const std::map<std::string, Scene> scenes{
     {"general-no-icon",
      {on("general", unnamed()), [](Stage& stage) { stage.view->setPanelOffered(true); }}},
     {"general-long", {on("general", longNames())}},
+    {"topics-trouble",
+     {on("topics", connected()), [](Stage& stage) { stage.tellTroubles(locked()); }}},
+    {"setup-5-troubles",
+     {on("setup", connected()), [](Stage& stage) { stage.tellTroubles(manyTroubles()); }}},
     {"general-off",
      {on("general", {}, false),
       [](Stage& stage) {
@@ -287,6 +325,7 @@ QStringList names() {
                       QString::fromUtf8(shortcutLine),
                       QString::fromUtf8(shortcutKeys),
                       QStringLiteral("~/.config/sway/config"),
+                      QStringLiteral("~/data"),
                       QStringLiteral("Quillon"),
                       QStringLiteral("⌃⌥V"),
                       QStringLiteral("⌃⌥P"),

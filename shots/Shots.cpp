@@ -184,7 +184,7 @@ int takeShots(int argc, char** argv, const std::vector<Shot>& shots, const QStri
 
 QString shown(const char* text) {
     const QString words = QString::fromUtf8(text);
-    return wanted("PSEUDO") ? pseudo(words) : spoken(words);
+    return wanted("PSEUDO") ? pseudo(withoutKey(words)) : spoken(words);
 }
 
 void until(const std::function<bool()>& so) {

@@ -16,11 +16,6 @@ QHash<QString, QString>& words() {
     return all;
 }
 
-QString withoutKey(QString text) {
-    static const QRegularExpression mark{QStringLiteral("&(?=\\S)")};
-    return text.remove(mark);
-}
-
 /// Reads the catalogue's source, since a compiled one gives no text without its context.
 void learn(QFile& file) {
     QXmlStreamReader reader{&file};
@@ -31,13 +26,21 @@ void learn(QFile& file) {
             source = reader.readElementText();
         } else if (reader.name() == QLatin1String{"translation"} &&
                    !reader.attributes().hasAttribute(QLatin1String{"type"})) {
-            words().insert(
-                source, withoutKey(reader.readElementText(QXmlStreamReader::IncludeChildElements)));
+            const QString text =
+                withoutKey(reader.readElementText(QXmlStreamReader::IncludeChildElements));
+            words().insert(source, text);
+            // Where a text with a key is the same as one without, that one counts.
+            if (!words().contains(withoutKey(source))) words().insert(withoutKey(source), text);
         }
     }
 }
 
 } // namespace
+
+QString withoutKey(QString text) {
+    static const QRegularExpression mark{QStringLiteral("&(?=\\S)")};
+    return text.remove(mark);
+}
 
 void speak(const QString& language) {
     if (language.isEmpty()) return;
@@ -49,7 +52,7 @@ void speak(const QString& language) {
 }
 
 QString spoken(const QString& text) {
-    return words().value(text, text);
+    return words().value(text, withoutKey(text));
 }
 
 } // namespace quillon::test

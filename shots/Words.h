@@ -8,8 +8,11 @@ namespace quillon::test {
 /// leaves them as the sources have them. Ends the program where there is no such catalogue.
 void speak(const QString& language);
 
+/// The text without the mark of its key (&).
+[[nodiscard]] QString withoutKey(QString text);
+
 /// What the catalogue has for a text of the sources, whatever its context; the text itself where it
-/// has nothing. Neither has the mark of its key (&).
+/// has nothing. Without the mark of its key.
 [[nodiscard]] QString spoken(const QString& text);
 
 } // namespace quillon::test

@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 #include "cli/RemoteProgram.h"
 #include "cli/Session.h"
+#include "cli/StandardInput.h"
 #include "cli/Terminal.h"
 #include "platform/linux/Application.h"
 #include "platform/linux/Hardening.h"
@@ -25,6 +26,7 @@ int main(int argc, char** argv) {
     using namespace quillon;
     keepOutOfCoreDumps();
     std::signal(SIGPIPE, SIG_IGN);
+    StandardInput::ensure();
 
     if (argc == 1) {
         runByAbsolutePath(argv);

@@ -16,18 +16,18 @@
     </message>
     <message>
         <source>There is no desktop to work on: neither an X server nor a Wayland compositor answers.</source>
-        <translation>Aucun bureau trouvé : ni serveur X ni compositeur Wayland ne répond.</translation>
+        <translation>Aucun bureau trouvé&#xa0;: ni serveur X ni compositeur Wayland ne répond.</translation>
     </message>
 </context>
 <context>
     <name>AppMover</name>
     <message>
         <source>macOS is running Quillon from a hidden copy. Open your Downloads folder and drag Quillon into Applications yourself, then open it from there.</source>
-        <translation>Quillon s’exécute depuis une copie cachée. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans « Applications » et lancez-le de là.</translation>
+        <translation>Quillon s’exécute depuis une copie cachée. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans «&#xa0;Applications&#xa0;» et lancez-le de là.</translation>
     </message>
     <message>
         <source>Your Mac didn&apos;t allow Quillon to write to the Applications folder. Open your Downloads folder and drag Quillon into Applications yourself, then open it from there.</source>
-        <translation>L’ordinateur n’a pas laissé Quillon écrire dans le dossier des applications. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans « Applications » et lancez-le de là.</translation>
+        <translation>L’ordinateur n’a pas laissé Quillon écrire dans le dossier des applications. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans «&#xa0;Applications&#xa0;» et lancez-le de là.</translation>
     </message>
     <message>
         <source>An older Quillon is open from Applications. Quit it from its menu, then try again.</source>
@@ -39,7 +39,7 @@
     </message>
     <message>
         <source>Your Mac didn&apos;t allow the move. Open your Downloads folder and drag Quillon into Applications yourself, then open it from there.</source>
-        <translation>L’ordinateur n’a pas permis le déplacement. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans « Applications » et lancez-le de là.</translation>
+        <translation>L’ordinateur n’a pas permis le déplacement. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans «&#xa0;Applications&#xa0;» et lancez-le de là.</translation>
     </message>
     <message>
         <source>Quillon couldn&apos;t move itself</source>
@@ -51,7 +51,7 @@
     </message>
     <message>
         <source>Move Quillon to your Applications folder?</source>
-        <translation>Déplacer Quillon dans le dossier des applications ?</translation>
+        <translation>Déplacer Quillon dans le dossier des applications&#xa0;?</translation>
     </message>
     <message>
         <source>It needs to be there to update itself.</source>
@@ -102,7 +102,7 @@
     <message>
         <source>“%1”</source>
         <comment>a copied text</comment>
-        <translation>« %1 »</translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>The clipboard is empty</source>
@@ -117,7 +117,7 @@
     <name>Command</name>
     <message>
         <source>Bot token: </source>
-        <translation>Token du bot : </translation>
+        <translation>Token du bot&#xa0;: </translation>
     </message>
     <message>
         <source>Another send is still running.</source>
@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>The setup could not be saved. Is there room on the disk?</source>
-        <translation>La configuration n’a pas pu être enregistrée. Reste-t-il de la place sur le disque ?</translation>
+        <translation>La configuration n’a pas pu être enregistrée. Reste-t-il de la place sur le disque&#xa0;?</translation>
     </message>
     <message>
         <source>The bot answers, but no keyring could keep its token.</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Found “%1”</source>
-        <translation>« %1 » trouvé</translation>
+        <translation>«&#xa0;%1&#xa0;» trouvé</translation>
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>on, but what it would open is not there: switch it on again</source>
-        <translation>activé, mais ce qu’il faudrait ouvrir n’est pas là : activez-le de nouveau</translation>
+        <translation>activé, mais ce qu’il faudrait ouvrir n’est pas là&#xa0;: activez-le de nouveau</translation>
     </message>
     <message>
         <source>Quillon could not be set to open at login.</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Quillon and all it has stored are gone; the app is in the Trash</source>
-        <translation>Quillon et tout ce qu’il a enregistré sont supprimés ; l’application est dans la corbeille</translation>
+        <translation>Quillon et tout ce qu’il a enregistré sont supprimés&#xa0;; l’application est dans la corbeille</translation>
     </message>
     <message>
         <source>The app is in the Trash</source>
@@ -207,6 +207,26 @@
         <source>This copy of Quillon does not update itself.</source>
         <translation>Cette copie de Quillon ne se met pas à jour elle-même.</translation>
     </message>
+    <message>
+        <source>Quillon was not ready to send within a minute.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no Quillon running to follow.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -220,7 +240,7 @@ Without a command it stays, and sends whenever you press its shortcut.
 </source>
         <translation>Quillon envoie ce que vous copiez sur votre téléphone, par votre propre bot Telegram.
 
-Utilisation : quillon [COMMANDE]
+Utilisation&#xa0;: quillon [COMMANDE]
 
 Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
 
@@ -228,27 +248,23 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Exit status: 0 done, 1 failed, 2 the command line was not understood.</source>
-        <translation>Code de retour : 0 réussi, 1 échec, 2 ligne de commande non comprise.</translation>
+        <translation>Code de retour&#xa0;: 0 réussi, 1 échec, 2 ligne de commande non comprise.</translation>
     </message>
     <message>
         <source>answer as JSON</source>
         <translation>répondre en JSON</translation>
     </message>
     <message>
-        <source>send what is on the clipboard</source>
-        <translation>envoyer ce qui est dans le presse-papiers</translation>
-    </message>
-    <message>
         <source>show the panel; starts Quillon if it is not running</source>
-        <translation>afficher le panneau ; lance Quillon s’il ne tourne pas</translation>
+        <translation>afficher le panneau&#xa0;; lance Quillon s’il ne tourne pas</translation>
     </message>
     <message>
         <source>show the settings; starts Quillon if it is not running</source>
-        <translation>afficher les paramètres ; lance Quillon s’il ne tourne pas</translation>
+        <translation>afficher les paramètres&#xa0;; lance Quillon s’il ne tourne pas</translation>
     </message>
     <message>
         <source>connect your bot; reads its token from standard input</source>
-        <translation>connecter votre bot ; lit son token sur l’entrée standard</translation>
+        <translation>connecter votre bot&#xa0;; lit son token sur l’entrée standard</translation>
     </message>
     <message>
         <source>find the group in which you wrote to the bot</source>
@@ -296,7 +312,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>tell whether there is a newer version; install it</source>
-        <translation>dire s’il existe une version plus récente ; l’installer</translation>
+        <translation>dire s’il existe une version plus récente&#xa0;; l’installer</translation>
     </message>
     <message>
         <source>yes, remove it</source>
@@ -313,6 +329,649 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <message>
         <source>print the version</source>
         <translation>afficher la version</translation>
+    </message>
+    <message>
+        <source>a file to send</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>to notes, images, files or videos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input as a file of this name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>send the clipboard, files, or with - or by a pipe standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>wait up to a minute until it can send</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print what is sent from now on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tell names, too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tell what is wrong, and how to mend it</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Doctor</name>
+    <message>
+        <source>not looked at, for the display is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the desktop has not answered yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If it asks you, answer there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 works</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the desktop knows it, but gives it no keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose keys in the settings, under General.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another program or the desktop itself has %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose another in the settings, under General, or free it in the desktop&apos;s keyboard settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it was declined when the desktop asked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Have it ask again in the settings, under General.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the desktop gives programs no shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings show, under General, how to bind one yourself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>could not be looked at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log out and in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the Wayland compositor does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the Wayland compositor and an X server answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the Wayland compositor answers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the X server answers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the X server does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run Quillon in your desktop&apos;s session, where DISPLAY or WAYLAND_DISPLAY names the display.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the program that copied last does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy something in another program, or end that one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this desktop lets no program read it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch on Xwayland in the desktop.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by %1; empty now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by %1; on offer now: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not looked at, for Quillon does not run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s shortcuts have stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%2” has %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>switched off in the settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a layer over all windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shown by a host on the session bus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shown by a tray on the X server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this desktop shows no icons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the panel with: quillon panel. Or give the desktop a tray, such as an extension.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>switched off in the desktop&apos;s settings</source>
+        <translation type="unfinished">désactivé dans les paramètres du bureau</translation>
+    </message>
+    <message>
+        <source>on, but the program that it would open is not there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch it on again: quillon launch-at-login on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 on %2, with %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>runs, and waits for the shortcut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>does not run, so that nothing waits for the shortcut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Quillon.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is a sound server or a sound card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no sound server, and no sound card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start PipeWire or PulseAudio.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See whether its disk or network share is there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give yourself the rights to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the disk of %1 is full</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make room on it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>others can look into %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take their rights: chmod 700 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 can be written; %2 MB free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this copy does not update itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillon updates itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillon cannot replace itself where it lies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move it to a folder of yours.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation type="unfinished">Raccourci</translation>
+    </message>
+    <message>
+        <source>Banner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Icon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening at login</source>
+        <translation type="unfinished">L’ouverture à la connexion</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation type="unfinished">Mises à jour</translation>
+    </message>
+    <message>
+        <source>Keyring</source>
+        <translation type="unfinished">Trousseau</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bot</source>
+        <translation type="unfinished">Bot</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation type="unfinished">Groupe</translation>
+    </message>
+    <message>
+        <source>Topics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rights</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Topic %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not asked, for something before it failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Telegram says: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Telegram does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try again in a moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the internet connection and its firewall.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct %1, or take it away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the way to Telegram is good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>libcurl is missing, or too old</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install libcurl 7.87 or a newer one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>QUILLON_BOT_API is not the address of a server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct it, or take it away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the proxy in %1 is not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the server&apos;s name is not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the internet connection and its name server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the proxy in %1 turns the connection away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no connection to the server comes about</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the server&apos;s certificate is not trusted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install ca-certificates. Where a proxy reads along, SSL_CERT_FILE can name its certificate.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by this computer&apos;s clock, the server&apos;s certificate is out of its time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the clock.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no encryption can be agreed with the server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it was deleted on the phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create it again: quillon create-topics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reopen it on the phone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the bot may not write in it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make the bot an admin of the group.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>answers, and has the bot&apos;s token</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unlock it, and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it answers, but has no bot&apos;s token</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect your bot: quillon connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End its service, or log out and in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it gives no token; the bot&apos;s is in memory until Quillon ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unlock it, or connect your bot again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no session bus answers, by which it is reached</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run Quillon in your desktop&apos;s session, where DBUS_SESSION_BUS_ADDRESS names the bus.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install gnome-keyring or KWallet, and log in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the way to Telegram is good, through the proxy in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the proxy in %1 does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the server did not tell its time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it agrees with the server&apos;s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is %1 min ahead of the server&apos;s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is %1 min behind the server&apos;s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Telegram does not accept its token</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Get its token from @BotFather, and connect it: quillon connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Telegram accepts its token</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the bot to the group, write “hi” there, and: quillon find-group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not found yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has become a supergroup, which is another one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write “hi” there, and: quillon find-group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the bot reaches it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>they are switched on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>they are switched off in the group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch on Topics in the group&apos;s settings on the phone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the bot may manage topics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the bot may not manage topics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make it an admin with “Manage Topics”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not created yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create it: quillon create-topics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is there</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -360,11 +1019,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>%1 is over 50 MB (Telegram&apos;s limit for bots)</source>
-        <translation>%1 dépasse 50 Mo (la limite de Telegram pour les bots)</translation>
+        <translation>%1 dépasse 50&#xa0;Mo (la limite de Telegram pour les bots)</translation>
     </message>
     <message>
         <source>Folders can&apos;t be sent yet: %1</source>
-        <translation>Les dossiers ne peuvent pas encore être envoyés : %1</translation>
+        <translation>Les dossiers ne peuvent pas encore être envoyés&#xa0;: %1</translation>
     </message>
     <message>
         <source>Couldn&apos;t read %1</source>
@@ -376,7 +1035,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Not sent: the send was stopped.</source>
-        <translation>Non envoyé : l’envoi a été arrêté.</translation>
+        <translation>Non envoyé&#xa0;: l’envoi a été arrêté.</translation>
     </message>
     <message>
         <source>%1 sent, %2 failed</source>
@@ -401,6 +1060,14 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
         <source>Finish setting up Quillon first</source>
         <translation>Terminez d’abord la configuration de Quillon</translation>
     </message>
+    <message>
+        <source>%1 holds nothing to send.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Setup</name>
@@ -418,11 +1085,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>No group found yet. Add the bot to your group, then send “hi” in the group and try again.</source>
-        <translation>Aucun groupe trouvé pour l’instant. Ajoutez le bot à votre groupe, envoyez-y « hi » et réessayez.</translation>
+        <translation>Aucun groupe trouvé pour l’instant. Ajoutez le bot à votre groupe, envoyez-y «&#xa0;hi&#xa0;» et réessayez.</translation>
     </message>
     <message>
         <source>Found “%1”, but Topics are off. Turn on Topics in the group settings.</source>
-        <translation>« %1 » trouvé, mais les sujets y sont désactivés. Activez les sujets dans les paramètres du groupe.</translation>
+        <translation>«&#xa0;%1&#xa0;» trouvé, mais les sujets y sont désactivés. Activez les sujets dans les paramètres du groupe.</translation>
     </message>
     <message>
         <source>your group</source>
@@ -430,7 +1097,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Couldn&apos;t create topics. Make the bot an admin with “Manage Topics” and try again.</source>
-        <translation>Impossible de créer les sujets. Nommez le bot administrateur avec « Gérer les sujets » et réessayez.</translation>
+        <translation>Impossible de créer les sujets. Nommez le bot administrateur avec «&#xa0;Gérer les sujets&#xa0;» et réessayez.</translation>
     </message>
     <message>
         <source>Find your group first.</source>
@@ -485,15 +1152,15 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Your desktop keeps shortcuts in a file of its own. For %1, add this line to %3:</source>
-        <translation>Votre bureau garde les raccourcis dans un fichier à lui. Pour %1, ajoutez cette ligne à %3 :</translation>
+        <translation>Votre bureau garde les raccourcis dans un fichier à lui. Pour %1, ajoutez cette ligne à %3&#xa0;:</translation>
     </message>
     <message>
         <source>Your desktop has not set up %1. Ask it again, or bind this command in its keyboard settings:</source>
-        <translation>Votre bureau n’a pas mis en place %1. Redemandez-lui, ou associez cette commande dans ses paramètres de clavier :</translation>
+        <translation>Votre bureau n’a pas mis en place %1. Redemandez-lui, ou associez cette commande dans ses paramètres de clavier&#xa0;:</translation>
     </message>
     <message>
         <source>Your desktop gives programs no shortcuts. For %1, bind this command in its keyboard settings:</source>
-        <translation>Votre bureau ne donne pas de raccourcis aux programmes. Pour %1, associez cette commande dans ses paramètres de clavier :</translation>
+        <translation>Votre bureau ne donne pas de raccourcis aux programmes. Pour %1, associez cette commande dans ses paramètres de clavier&#xa0;:</translation>
     </message>
     <message>
         <source>This desktop gives programs no shortcuts.</source>
@@ -520,7 +1187,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <name>Status</name>
     <message>
         <source>%1:</source>
-        <translation>%1 :</translation>
+        <translation>%1&#xa0;:</translation>
     </message>
     <message>
         <source>connected</source>
@@ -611,7 +1278,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <message>
         <source>%1 %2 of %3 MB</source>
         <comment>what is done, and how far it is</comment>
-        <translation>%1 %2 sur %3 Mo</translation>
+        <translation>%1 %2 sur %3&#xa0;Mo</translation>
     </message>
 </context>
 <context>
@@ -672,7 +1339,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <name>UpdateError</name>
     <message>
         <source>Quillon cannot update itself where it lies now: that disk cannot be written to.</source>
-        <translation>Quillon ne peut pas se mettre à jour là où il se trouve : ce disque n’est pas accessible en écriture.</translation>
+        <translation>Quillon ne peut pas se mettre à jour là où il se trouve&#xa0;: ce disque n’est pas accessible en écriture.</translation>
     </message>
     <message>
         <source>Quillon cannot update itself from the temporary place it was started from.</source>
@@ -724,7 +1391,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>The downloaded update is not signed by Quillon&apos;s makers, so it was thrown away.</source>
-        <translation>La mise à jour téléchargée n’est pas signée par les auteurs de Quillon ; elle a été rejetée.</translation>
+        <translation>La mise à jour téléchargée n’est pas signée par les auteurs de Quillon&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The downloaded update could not be stored in your cache folder.</source>
@@ -736,27 +1403,27 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>The update&apos;s archive holds a path outside of its folder, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un chemin hors de son dossier ; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un chemin hors de son dossier&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive holds a path with &quot;..&quot;, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un chemin avec « .. » ; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un chemin avec «&#xa0;..&#xa0;»&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive holds a link that leaves its folder, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un lien qui sort de son dossier ; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un lien qui sort de son dossier&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive holds a device, pipe or socket, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un périphérique, un tube ou un socket ; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un périphérique, un tube ou un socket&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive holds a program with another user&apos;s rights, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un programme avec les droits d’un autre utilisateur ; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un programme avec les droits d’un autre utilisateur&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update is too large when unpacked, so it was thrown away.</source>
-        <translation>La mise à jour est trop grande une fois extraite ; elle a été rejetée.</translation>
+        <translation>La mise à jour est trop grande une fois extraite&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive does not hold exactly one application.</source>
@@ -982,6 +1649,14 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
         <source>Send clipboard</source>
         <translation>Envoyer le presse-papiers</translation>
     </message>
+    <message>
+        <source>Drop to send</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files, a picture or text</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>quillon::SettingsView</name>
@@ -1041,7 +1716,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>**New Group** → add your bot → name it anything (like “My Outbox”) → Create.</source>
-        <translation>**Nouveau groupe** → ajoutez votre bot → donnez-lui un nom (« Ma boîte d’envoi », par exemple) → Créer.</translation>
+        <translation>**Nouveau groupe** → ajoutez votre bot → donnez-lui un nom («&#xa0;Ma boîte d’envoi&#xa0;», par exemple) → Créer.</translation>
     </message>
     <message>
         <source>Tap the **group name** → tap the **pencil** → turn on **Topics** (just below Appearance) → Save.</source>
@@ -1053,7 +1728,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Send “hi” in the group.</source>
-        <translation>Envoyez « hi » dans le groupe.</translation>
+        <translation>Envoyez «&#xa0;hi&#xa0;» dans le groupe.</translation>
     </message>
     <message>
         <source>Copy on Mac. Paste on phone.</source>
@@ -1069,7 +1744,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>In Telegram:</source>
-        <translation>Dans Telegram :</translation>
+        <translation>Dans Telegram&#xa0;:</translation>
     </message>
     <message>
         <source>You&apos;re all set.</source>
@@ -1157,7 +1832,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <name>quillon::StepRow</name>
     <message>
         <source>Step %1: %2</source>
-        <translation>Étape %1 : %2</translation>
+        <translation>Étape %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Done</source>
@@ -1226,6 +1901,16 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
 </context>
 <context>
+    <name>quillon::TroubleStrip</name>
+    <message numerus="yes">
+        <source>%n more: quillon doctor</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>quillon::UninstallSheet</name>
     <message>
         <source>The bot token in the Keychain</source>
@@ -1249,11 +1934,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Uninstall Quillon?</source>
-        <translation>Désinstaller Quillon ?</translation>
+        <translation>Désinstaller Quillon&#xa0;?</translation>
     </message>
     <message>
         <source>This removes from this Mac:</source>
-        <translation>Ceci supprime de cet ordinateur :</translation>
+        <translation>Ceci supprime de cet ordinateur&#xa0;:</translation>
     </message>
     <message>
         <source>Your bot and group stay in Telegram.</source>
@@ -1280,7 +1965,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Check for updates automatically?</source>
-        <translation>Rechercher les mises à jour automatiquement ?</translation>
+        <translation>Rechercher les mises à jour automatiquement&#xa0;?</translation>
     </message>
     <message>
         <source>Quillon can look for a new version once a day. You can change this in its settings at any time, or check by hand.</source>
@@ -1352,7 +2037,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>%1 of %2 MB</source>
-        <translation>%1 sur %2 Mo</translation>
+        <translation>%1 sur %2&#xa0;Mo</translation>
     </message>
     <message>
         <source>Quillon %1 is ready to install</source>

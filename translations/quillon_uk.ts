@@ -208,6 +208,26 @@
         <source>This copy of Quillon does not update itself.</source>
         <translation>Ця копія Quillon сама не оновлюється.</translation>
     </message>
+    <message>
+        <source>Quillon was not ready to send within a minute.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no Quillon running to follow.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -234,10 +254,6 @@ Without a command it stays, and sends whenever you press its shortcut.
     <message>
         <source>answer as JSON</source>
         <translation>відповісти у форматі JSON</translation>
-    </message>
-    <message>
-        <source>send what is on the clipboard</source>
-        <translation>надіслати вміст буфера обміну</translation>
     </message>
     <message>
         <source>show the panel; starts Quillon if it is not running</source>
@@ -314,6 +330,649 @@ Without a command it stays, and sends whenever you press its shortcut.
     <message>
         <source>print the version</source>
         <translation>показати версію</translation>
+    </message>
+    <message>
+        <source>a file to send</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>to notes, images, files or videos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input as a file of this name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>send the clipboard, files, or with - or by a pipe standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>wait up to a minute until it can send</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print what is sent from now on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tell names, too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tell what is wrong, and how to mend it</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Doctor</name>
+    <message>
+        <source>not looked at, for the display is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the desktop has not answered yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If it asks you, answer there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 works</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the desktop knows it, but gives it no keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose keys in the settings, under General.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another program or the desktop itself has %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose another in the settings, under General, or free it in the desktop&apos;s keyboard settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it was declined when the desktop asked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Have it ask again in the settings, under General.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the desktop gives programs no shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings show, under General, how to bind one yourself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>could not be looked at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log out and in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the Wayland compositor does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the Wayland compositor and an X server answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the Wayland compositor answers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the X server answers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the X server does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run Quillon in your desktop&apos;s session, where DISPLAY or WAYLAND_DISPLAY names the display.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the program that copied last does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy something in another program, or end that one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this desktop lets no program read it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch on Xwayland in the desktop.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by %1; empty now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by %1; on offer now: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not looked at, for Quillon does not run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s shortcuts have stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%2” has %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>switched off in the settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a layer over all windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shown by a host on the session bus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shown by a tray on the X server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this desktop shows no icons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the panel with: quillon panel. Or give the desktop a tray, such as an extension.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>switched off in the desktop&apos;s settings</source>
+        <translation type="unfinished">вимкнено в налаштуваннях стільниці</translation>
+    </message>
+    <message>
+        <source>on, but the program that it would open is not there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch it on again: quillon launch-at-login on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 on %2, with %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>runs, and waits for the shortcut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>does not run, so that nothing waits for the shortcut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Quillon.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is a sound server or a sound card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no sound server, and no sound card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start PipeWire or PulseAudio.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See whether its disk or network share is there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give yourself the rights to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the disk of %1 is full</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make room on it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>others can look into %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take their rights: chmod 700 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 can be written; %2 MB free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this copy does not update itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillon updates itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillon cannot replace itself where it lies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move it to a folder of yours.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation type="unfinished">Комбінація клавіш</translation>
+    </message>
+    <message>
+        <source>Banner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Icon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening at login</source>
+        <translation type="unfinished">Запуск під час входу</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation type="unfinished">Оновлення</translation>
+    </message>
+    <message>
+        <source>Keyring</source>
+        <translation type="unfinished">Сховище ключів</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bot</source>
+        <translation type="unfinished">Бот</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation type="unfinished">Група</translation>
+    </message>
+    <message>
+        <source>Topics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rights</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Topic %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not asked, for something before it failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Telegram says: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Telegram does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try again in a moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the internet connection and its firewall.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct %1, or take it away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the way to Telegram is good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>libcurl is missing, or too old</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install libcurl 7.87 or a newer one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>QUILLON_BOT_API is not the address of a server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct it, or take it away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the proxy in %1 is not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the server&apos;s name is not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the internet connection and its name server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the proxy in %1 turns the connection away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no connection to the server comes about</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the server&apos;s certificate is not trusted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install ca-certificates. Where a proxy reads along, SSL_CERT_FILE can name its certificate.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by this computer&apos;s clock, the server&apos;s certificate is out of its time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the clock.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no encryption can be agreed with the server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it was deleted on the phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create it again: quillon create-topics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reopen it on the phone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the bot may not write in it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make the bot an admin of the group.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>answers, and has the bot&apos;s token</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unlock it, and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it answers, but has no bot&apos;s token</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect your bot: quillon connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End its service, or log out and in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it gives no token; the bot&apos;s is in memory until Quillon ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unlock it, or connect your bot again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no session bus answers, by which it is reached</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run Quillon in your desktop&apos;s session, where DBUS_SESSION_BUS_ADDRESS names the bus.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install gnome-keyring or KWallet, and log in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the way to Telegram is good, through the proxy in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the proxy in %1 does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the server did not tell its time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it agrees with the server&apos;s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is %1 min ahead of the server&apos;s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is %1 min behind the server&apos;s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Telegram does not accept its token</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Get its token from @BotFather, and connect it: quillon connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Telegram accepts its token</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the bot to the group, write “hi” there, and: quillon find-group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not found yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has become a supergroup, which is another one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write “hi” there, and: quillon find-group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the bot reaches it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>they are switched on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>they are switched off in the group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch on Topics in the group&apos;s settings on the phone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the bot may manage topics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the bot may not manage topics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make it an admin with “Manage Topics”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not created yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create it: quillon create-topics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is there</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -402,6 +1061,14 @@ Without a command it stays, and sends whenever you press its shortcut.
     <message>
         <source>Finish setting up Quillon first</source>
         <translation>Спершу закінчіть налаштування Quillon</translation>
+    </message>
+    <message>
+        <source>%1 holds nothing to send.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -984,6 +1651,14 @@ Without a command it stays, and sends whenever you press its shortcut.
         <source>Send clipboard</source>
         <translation>Надіслати буфер обміну</translation>
     </message>
+    <message>
+        <source>Drop to send</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files, a picture or text</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>quillon::SettingsView</name>
@@ -1226,6 +1901,17 @@ Without a command it stays, and sends whenever you press its shortcut.
     <message>
         <source>Quit</source>
         <translation>Вийти</translation>
+    </message>
+</context>
+<context>
+    <name>quillon::TroubleStrip</name>
+    <message numerus="yes">
+        <source>%n more: quillon doctor</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>

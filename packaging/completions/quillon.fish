@@ -4,4 +4,6 @@ function __quillon_candidates
     $words[1] --complete $words[2..] 2>/dev/null
 end
 
-complete -c quillon -f -a '(__quillon_candidates)'
+# FILE stands for the names of files.
+complete -c quillon -f -a '(__quillon_candidates | string match -rv "^FILE\t")'
+complete -c quillon -n '__quillon_candidates | string match -rq "^FILE\t"' -F

@@ -2,7 +2,9 @@
 
 #include "base/Translate.h"
 #include "cli/Console.h"
+#include "cli/DoctorCommand.h"
 #include "cli/Reports.h"
+#include "cli/SendCommand.h"
 #include "cli/Terminal.h"
 #include "cli/UpdateCheckCommand.h"
 #include "core/Core.h"
@@ -10,16 +12,23 @@
 #include "maintenance/Uninstaller.h"
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
+#include "platform/Sleep.h"
+#include "platform/linux/LinuxFolders.h"
 #include "platform/linux/desktop/LinuxBundle.h"
+#include "platform/linux/files/PosixFileSystem.h"
+#include "state/DataFile.h"
 #include "update/Installation.h"
 
 #include <QCoroFuture>
+#include <QPromise>
 #include <QScopeGuard>
 #include <QtConcurrentRun>
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <memory>
+#include <stop_token>
 
 namespace quillon {
 
@@ -29,34 +38,6 @@ constexpr const char* tokenPrompt = QT_TRANSLATE_NOOP("Command", "Bot token: ");
 
 bool contains(const Arguments& arguments, std::string_view word) {
     return std::ranges::find(arguments, word) != arguments.end();
-}
-
-QCoro::Task<int> send(CommandContext context, Arguments /*arguments*/) {
-    const std::size_t before = context.core.store.history().size();
-    context.core.banner.forget();
-    SendProgress progress = [console = context.console](qint64 sent, qint64 total) {
-        console->progress(translate("Send", "Sending…"), sent, total);
-    };
-    co_await context.core.store.sendClipboard(Trigger::command, std::move(progress), context.stop);
-    context.console->endProgress();
-
-    const std::vector<Sent>& history = context.core.store.history();
-    const auto added = static_cast<std::ptrdiff_t>(history.size() - before);
-    // Nothing was sent at all. The banner told why, unless another send was under way.
-    if (added == 0) {
-        throw TelegramError{context.core.banner.problem().value_or(
-            translate("Command", "Another send is still running."))};
-    }
-
-    int code = exitDone;
-    // In the order sent: the newest entry stands first.
-    for (auto entry = history.rend() - added; entry != history.rend(); ++entry) {
-        context.console->print(sendLine(*entry));
-        if (!entry->error) continue;
-        context.console->printError(*entry->error);
-        code = exitFailed;
-    }
-    co_return code;
 }
 
 /// Fails when what a command has set up is in memory alone.
@@ -117,7 +98,26 @@ DesktopWays waysFor(const CommandContext& context) {
                : probeDesktop();
 }
 
+/// Ends with the first of: all that a send needs is there, the limit is reached, nobody waits any
+/// more.
+QCoro::Task<int> waitUntilReady(CommandContext context) {
+    constexpr std::chrono::seconds limit{60};
+    constexpr std::chrono::milliseconds interval{200};
+    Store& store = context.core.store;
+    auto left = std::chrono::milliseconds{limit};
+    for (; !canSend(store) && left.count() > 0; left -= interval) {
+        if (context.stop.stop_requested()) co_return exitFailed;
+        co_await sleep(context.platform.clock, interval);
+        // What another process sets up meanwhile; the program that stays has the settings itself.
+        if (!context.stays) store.rereadConfig();
+    }
+    if (canSend(store)) co_return exitDone;
+    throw TelegramError{store.keyringProblem().value_or(
+        translate("Command", "Quillon was not ready to send within a minute."))};
+}
+
 QCoro::Task<int> status(CommandContext context, Arguments arguments) {
+    if (contains(arguments, "--wait-ready")) co_return co_await waitUntilReady(context);
     co_await context.core.store.keyringAsked();
     const Store& store = context.core.store;
     context.console->printText(contains(arguments, "--json")
@@ -126,11 +126,45 @@ QCoro::Task<int> status(CommandContext context, Arguments arguments) {
     co_return exitDone;
 }
 
+/// Prints the entries of each send as they come, until nobody waits for them any more.
+QCoro::Task<int> followHistory(CommandContext context) {
+    if (!context.stays)
+        throw TelegramError{translate("Command", "There is no Quillon running to follow.")};
+    const auto print = [console = context.console](const std::vector<Sent>& entries) {
+        for (const Sent& entry : entries)
+            console->printNow(historyText({entry}));
+    };
+    const auto following = QObject::connect(&context.core.store, &Store::recorded, print);
+    const auto ended = qScopeGuard([&following] { QObject::disconnect(following); });
+    QPromise<void> left;
+    left.start();
+    const std::stop_callback leave{context.stop, [&left] { left.finish(); }};
+    const QFuture<void> waiting = left.future();
+    co_await waiting;
+    co_return exitDone;
+}
+
 QCoro::Task<int> history(CommandContext context, Arguments arguments) {
-    const std::vector<Sent>& entries = context.core.store.history();
+    if (contains(arguments, "--follow")) co_return co_await followHistory(context);
+    std::vector<Sent> entries = context.core.store.history();
+    const auto limit = arguments.empty() ? std::nullopt : numberOf(arguments.front());
+    if (limit && *limit < entries.size()) entries.resize(*limit);
     context.console->printText(contains(arguments, "--json") ? historyJson(entries)
                                                              : historyText(entries));
     co_return exitDone;
+}
+
+/// What lies in the history's file, for the shells: nobody waits there for the program.
+std::vector<std::string> numberedHistory() {
+    const auto file = linuxFolders().data / dataFolderName / historyFile;
+    const FileReading reading = PosixFileSystem{}.read(file, maximumDataFileSize);
+    std::vector<std::string> titles;
+    for (const Sent& entry : decodeHistory(reading.bytes.toStdString())) {
+        std::string title = Terminal::harmless(entry.title);
+        std::ranges::replace(title, '\t', ' ');
+        titles.push_back(std::move(title));
+    }
+    return titles;
 }
 
 /// In the order of LoginItem::Status. The first two are the words that the command takes.
@@ -213,10 +247,24 @@ const Word asJson{"--json", QT_TRANSLATE_NOOP("CommandLine", "answer as JSON"), 
 
 const std::vector<Command> commands{
     {.name = "send",
+     .words = {{.text = "--topic",
+                .purpose = QT_TRANSLATE_NOOP("CommandLine", "to notes, images, files or videos"),
+                .value = "TOPIC",
+                .values = {rawValues<TopicKind>.begin(), rawValues<TopicKind>.end()}},
+               {.text = "--name",
+                .purpose =
+                    QT_TRANSLATE_NOOP("CommandLine", "standard input as a file of this name"),
+                .value = "NAME"}},
+     .usage = "[OPTION...] [FILE...|-]",
+     .understands = [](const Arguments& words) { return parseSend(words).has_value(); },
+     .takesFiles = true,
+     .prepared = preparedSend,
+     .readsInput = [](const Arguments& words) { return parseSend(words)->input; },
      .needs = DesktopNeeds::clipboardAndBanner,
      .waitsItsTurn = false,
-     .action = send,
-     .purpose = QT_TRANSLATE_NOOP("CommandLine", "send what is on the clipboard")},
+     .action = runSend,
+     .purpose = QT_TRANSLATE_NOOP(
+         "CommandLine", "send the clipboard, files, or with - or by a pipe standard input")},
     {.name = "panel",
      .where = Where::residentOnly,
      .purpose =
@@ -243,15 +291,28 @@ const std::vector<Command> commands{
      .action = forget,
      .purpose = QT_TRANSLATE_NOOP("CommandLine", "forget the bot, the group and the topics")},
     {.name = "status",
-     .words = {asJson},
+     .words = {asJson,
+               {"--wait-ready",
+                QT_TRANSLATE_NOOP("CommandLine", "wait up to a minute until it can send")}},
      .onlyReads = true,
      .action = status,
      .purpose = QT_TRANSLATE_NOOP("CommandLine", "tell what is set up")},
     {.name = "history",
-     .words = {asJson},
+     .words = {asJson,
+               {.text = "--follow",
+                .purpose = QT_TRANSLATE_NOOP("CommandLine", "print what is sent from now on"),
+                .follows = true}},
+     .numbered = numberedHistory,
      .onlyReads = true,
      .action = history,
      .purpose = QT_TRANSLATE_NOOP("CommandLine", "list what was sent, newest first")},
+    {.name = "doctor",
+     .words = {asJson, {"--names", QT_TRANSLATE_NOOP("CommandLine", "tell names, too")}},
+     .takesSeveralWords = true,
+     .onlyReads = true,
+     .outlastsBus = true,
+     .action = runDoctor,
+     .purpose = QT_TRANSLATE_NOOP("CommandLine", "tell what is wrong, and how to mend it")},
     {.name = "launch-at-login",
      .words = {{"on", QT_TRANSLATE_NOOP("CommandLine", "open it")},
                {"off", QT_TRANSLATE_NOOP("CommandLine", "do not")},

@@ -5,10 +5,12 @@
 #include "platform/linux/Application.h"
 #include "platform/linux/files/FolderLock.h"
 
+#include <QByteArrayList>
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
@@ -89,6 +91,8 @@ public:
                     SLOT(progress(QString, qlonglong, qlonglong)));
         bus.connect(QLatin1String{busName}, QLatin1String{objectPath}, QLatin1String{interfaceName},
                     QStringLiteral("Notice"), this, SLOT(notice(QString)));
+        bus.connect(QLatin1String{busName}, QLatin1String{objectPath}, QLatin1String{interfaceName},
+                    QStringLiteral("Output"), this, SLOT(output(QString)));
     }
 
     Q_SLOT void progress(const QString& activity, qlonglong done, qlonglong total) {
@@ -96,6 +100,8 @@ public:
     }
 
     Q_SLOT void notice(const QString& line) { console_.notice(line.toStdString()); }
+
+    Q_SLOT void output(const QString& text) { console_.printNow(text.toStdString()); }
 
 private:
     TerminalConsole& console_;
@@ -143,22 +149,45 @@ QDBusMessage answerTo(const QDBusConnection& bus, const QDBusMessage& call) {
 
 QDBusMessage handOver(const QDBusConnection& bus, const Invocation& invocation,
                       const QDBusUnixFileDescriptor& input) {
-    QStringList words{QString::fromStdString(std::string{invocation.command->name})};
+    qDBusRegisterMetaType<QByteArrayList>();
+    // Strings of the bus are UTF-8, and the names of files need not be.
+    QByteArrayList bytes{QByteArray::fromStdString(std::string{invocation.command->name})};
     for (const std::string& argument : invocation.arguments)
-        words << QString::fromStdString(argument);
-    QDBusMessage call = message("RunCommand");
-    call << words << QVariant::fromValue(input);
-    const QDBusMessage answer = answerTo(bus, call);
-    if (QDBusError{answer}.type() != QDBusError::UnknownMethod) return answer;
-    // A program from before the last update still runs, and takes one argument at the most.
-    QDBusMessage older = message("Run");
-    older << words.value(0) << words.value(1) << QVariant::fromValue(input);
-    return answerTo(bus, older);
+        bytes << QByteArray::fromStdString(argument);
+    QStringList words;
+    for (const QByteArray& word : bytes)
+        words << QString::fromUtf8(word);
+    const QVariant file = QVariant::fromValue(input);
+    // A program from before the last update may still run. The oldest takes one argument at the
+    // most.
+    const std::pair<const char*, QVariantList> calls[]{
+        {"RunWords", {QVariant::fromValue(bytes), file}},
+        {"RunCommand", {words, file}},
+        {"Run", {words.value(0), words.value(1), file}}};
+    QDBusMessage answer;
+    for (const auto& [method, arguments] : calls) {
+        QDBusMessage call = message(method);
+        call.setArguments(arguments);
+        answer = answerTo(bus, call);
+        if (QDBusError{answer}.type() != QDBusError::UnknownMethod) break;
+    }
+    return answer;
 }
 
 std::string silentMessage() {
     return translate("Command",
                      "The Quillon that is running does not answer. End it and try again.");
+}
+
+std::string olderMessage() {
+    return translate("Command", "The Quillon that is running is another version, which does not "
+                                "know this command. Quit it and try again.");
+}
+
+/// What went wrong where no answer came.
+std::string sentenceFor(QDBusError::ErrorType error) {
+    if (error == QDBusError::TimedOut) return silentMessage();
+    return error == QDBusError::InvalidArgs ? olderMessage() : endedEarlyMessage();
 }
 
 /// Prints what the command said and gives its exit code. None when the program was gone before the
@@ -171,8 +200,7 @@ std::optional<int> passOn(const QDBusPendingReply<int, QString, QString>& reply,
         return Terminal::settled(reply.argumentAt<0>());
     }
     if (canRepeat && reply.error().type() == QDBusError::ServiceUnknown) return std::nullopt;
-    const bool silent = reply.error().type() == QDBusError::TimedOut;
-    console.printError(silent ? silentMessage() : endedEarlyMessage());
+    console.printError(sentenceFor(reply.error().type()));
     return exitFailed;
 }
 
@@ -182,8 +210,12 @@ std::optional<int> carryOut(const QDBusConnection& bus, const Invocation& invoca
     std::string secret;
     if (const char* const prompt = invocation.command->secretPrompt)
         secret = console.readSecret(translate("Command", prompt)).value_or("");
-    const QDBusMessage answer = handOver(bus, invocation, inMemory(secret));
+    const QDBusUnixFileDescriptor input =
+        invocation.readsInput() ? QDBusUnixFileDescriptor{STDIN_FILENO} : inMemory(secret);
+    const QDBusMessage answer = handOver(bus, invocation, input);
     console.endProgress();
+    // Whoever follows the program does so until it ends.
+    if (invocation.follows() && QDBusError{answer}.type() == QDBusError::NoReply) return exitDone;
     // A secret cannot be read from standard input a second time.
     return passOn(answer, console, secret.empty());
 }

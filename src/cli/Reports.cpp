@@ -53,11 +53,6 @@ std::string inLines(Rows rows) {
     return text;
 }
 
-/// Ready, as far as is known of the keyring.
-bool canSend(const Store& store) {
-    return store.isReady() && !store.keyringProblem();
-}
-
 /// The bot's row: without the keyring's answer, what the settings remember.
 std::string botText(const Store& store) {
     const bool known = store.keyring() != Store::KeyringState::silent;
@@ -94,6 +89,10 @@ std::vector<std::string> sendColumns(const Sent& entry) {
 }
 
 } // namespace
+
+bool canSend(const Store& store) {
+    return store.isReady() && !store.keyringProblem();
+}
 
 std::string sendLine(const Sent& entry) {
     return columns(sendColumns(entry));

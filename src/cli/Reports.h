@@ -10,6 +10,9 @@ namespace quillon {
 
 class Store;
 
+/// Ready to send, as far as is known of the keyring.
+[[nodiscard]] bool canSend(const Store& store);
+
 /// "sent" or "failed", topic and title, with tabs between; those within are shown as spaces.
 [[nodiscard]] std::string sendLine(const Sent& entry);
 

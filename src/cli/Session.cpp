@@ -1,20 +1,26 @@
 #include "cli/Session.h"
 
+#include "base/Translate.h"
 #include "cli/Commands.h"
 #include "cli/Detach.h"
 #include "cli/RemoteProgram.h"
+#include "cli/StandardInput.h"
 #include "cli/TerminalConsole.h"
 #include "core/Core.h"
 #include "core/DataLock.h"
 #include "platform/Clock.h"
 #include "platform/Sleep.h"
+#include "platform/linux/Application.h"
 #include "platform/linux/Desktop.h"
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/SessionBusCheck.h"
 #include "platform/linux/desktop/LinuxAppearance.h"
+#include "send/ItemSend.h"
 #include "ui/theme/ApplicationTheme.h"
 
 #include <QTimer>
 
+#include <algorithm>
 #include <tuple>
 
 namespace quillon {
@@ -22,6 +28,9 @@ namespace quillon {
 namespace {
 
 using namespace std::chrono_literals;
+
+/// A bus that is well greets within milliseconds.
+constexpr auto busPatience = 2s;
 
 /// What the banner looks like on this desktop, and whether it moves.
 struct Look {
@@ -67,9 +76,20 @@ QCoro::Task<> runToExit(Invocation invocation, Platform& platform, const Composi
     QCoreApplication::exit(code);
 }
 
+/// Whether what it sends stands on the command line, or comes by standard input.
+bool bringsContent(const Invocation& invocation) {
+    const auto isOption = [](const std::string& word) {
+        return word.starts_with("--") && word != "--";
+    };
+    return invocation.command->takesFiles && !std::ranges::all_of(invocation.arguments, isOption);
+}
+
 int runInThisProcess(const Invocation& invocation, Detach* detach) {
+    if (invocation.command->outlastsBus && !sessionBusAnswers(busPatience)) doWithoutSessionBus();
     if (const auto code = RemoteProgram::run(invocation)) return *code;
     std::optional<Desktop> desktop = openDesktop(invocation.command->needs);
+    // What is given needs no clipboard, and goes out without a banner then.
+    if (!desktop && bringsContent(invocation)) desktop = openDesktop(DesktopNeeds::nothing);
     if (!desktop) {
         Terminal::printError(noDesktopMessage());
         return exitFailed;
@@ -87,9 +107,19 @@ int runInThisProcess(const Invocation& invocation, Detach* detach) {
     return code;
 }
 
+int unreadable() {
+    const auto speaker = makeApplication<QCoreApplication>();
+    Terminal::printError(translate("Command", "Standard input could not be read."));
+    return exitFailed;
+}
+
 } // namespace
 
-int runInSession(const Invocation& invocation) {
+int runInSession(Invocation invocation) {
+    const Command& command = *invocation.command;
+    if (command.prepared) invocation.arguments = command.prepared(std::move(invocation.arguments));
+    // Before anything waits for this process: input may take its time, or never end.
+    if (invocation.readsInput() && !StandardInput::hold(maximumFileSize + 1)) return unreadable();
     if (invocation.command->needs == DesktopNeeds::nothing)
         return runInThisProcess(invocation, nullptr);
     return Detach::run([&](Detach& detach) { return runInThisProcess(invocation, &detach); });

@@ -1,9 +1,14 @@
 #include "cli/TerminalConsole.h"
 
+#include "cli/Command.h"
+#include "cli/StandardInput.h"
+
 #include <QCoreApplication>
 #include <QTimer>
 
 #include <chrono>
+
+#include <unistd.h>
 
 namespace quillon {
 
@@ -13,6 +18,17 @@ namespace {
 constexpr std::chrono::milliseconds progressPatience{700};
 
 } // namespace
+
+void TerminalConsole::printNow(std::string_view text) {
+    Terminal::printText(text);
+    // Nothing else would tell whoever waits for more.
+    const int code = Terminal::settled(exitDone);
+    if (code != exitDone) Terminal::exitNow(code);
+}
+
+QFuture<std::optional<QByteArray>> TerminalConsole::readInput(qsizetype limit) {
+    return StandardInput::held(STDIN_FILENO, limit);
+}
 
 void TerminalConsole::progress(std::string_view activity, qint64 done, qint64 total) {
     if (ended_) return;

@@ -14,6 +14,9 @@ public:
     void printError(std::string_view line) override { Terminal::printError(line); }
     void notice(std::string_view line) override { Terminal::printError(line); }
     void printText(std::string_view text) override { Terminal::printText(text); }
+    /// Ends the process when there is nobody who reads.
+    void printNow(std::string_view text) override;
+    [[nodiscard]] QFuture<std::optional<QByteArray>> readInput(qsizetype limit) override;
     [[nodiscard]] std::optional<std::string> readSecret(std::string_view prompt) override {
         return Terminal::readSecret(prompt);
     }

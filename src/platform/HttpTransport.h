@@ -69,6 +69,27 @@ enum class DownloadOutcome {
     stopped, ///< at the caller's request
 };
 
+/// How far the way to a server goes, and the server's time.
+struct HttpLook {
+    enum class Outcome {
+        unknown,     ///< nothing was tried, or something else went wrong
+        answers,     ///< the server replied, whatever it said
+        noLibrary,   ///< what makes requests is not installed
+        badAddress,  ///< the address is none, or not of a kind that is allowed
+        noProxyName, ///< the name of the proxy is not found
+        noName,      ///< the name of the server is not found
+        noProxy,     ///< the proxy does not take the connection on
+        noWay,       ///< no connection to the server, or to the proxy
+        untrusted,   ///< the server's certificate is from nobody who is trusted
+        wrongTime,   ///< the certificate is not valid at this computer's time
+        noTls,       ///< no encryption could be agreed
+        silent,      ///< no reply in time
+    };
+    Outcome outcome = Outcome::unknown;
+    /// The server's time of day, where it told.
+    std::optional<std::chrono::system_clock::time_point> time{};
+};
+
 /// HTTP requests that run off the main thread.
 class HttpTransport {
 public:
@@ -88,6 +109,13 @@ public:
 
     /// Fetches a file as get would. The future always finishes and is never cancelled.
     [[nodiscard]] virtual QFuture<DownloadOutcome> download(HttpDownload download) = 0;
+
+    /// Asks the server for the page at the URL, in the way of any other request but on a connection
+    /// of its own, and tells how far that came within the limit. The future always finishes.
+    [[nodiscard]] virtual QFuture<HttpLook> look(std::string /*url*/,
+                                                 std::chrono::milliseconds /*limit*/) {
+        return QtFuture::makeReadyFuture(HttpLook{});
+    }
 };
 
 } // namespace quillon

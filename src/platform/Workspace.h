@@ -44,6 +44,9 @@ public:
     /// The screen on which the user works: that of the active window or, where the desktop tells of
     /// none, of the pointer. Null if there is no screen at all.
     [[nodiscard]] virtual QScreen* screenInUse() const = 0;
+    /// Whether a button of the pointer is held down, wherever that is; false where the desktop does
+    /// not tell.
+    [[nodiscard]] virtual bool pointerPressed() const = 0;
     /// Opens the application folder as soon as this process has ended. A failure is ignored.
     virtual void openAfterExit(const std::filesystem::path& application) = 0;
     /// Ends this process the normal way, on the next turn of the event loop.

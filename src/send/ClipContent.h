@@ -1,10 +1,8 @@
 #pragma once
 
-#include <QByteArray>
+#include "state/SendItem.h"
 
 #include <filesystem>
-#include <optional>
-#include <string>
 #include <variant>
 #include <vector>
 
@@ -16,21 +14,6 @@ struct ClipFiles {
     std::vector<std::filesystem::path> paths;
 
     bool operator==(const ClipFiles&) const = default;
-};
-
-/// A bitmap as PNG, and the text that was copied with it, unchanged.
-struct ClipImage {
-    QByteArray png;
-    std::optional<std::string> text;
-
-    bool operator==(const ClipImage&) const = default;
-};
-
-/// Text exactly as copied, with at least one character that is not white space or a line break.
-struct ClipText {
-    std::string text;
-
-    bool operator==(const ClipText&) const = default;
 };
 
 /// Nothing that can be sent.

@@ -13,6 +13,7 @@
 #include <QtConcurrentRun>
 
 #include <functional>
+#include <iterator>
 #include <utility>
 
 namespace quillon::Clipboard {
@@ -134,6 +135,20 @@ Summary summaryOf(const ClipEmpty& empty) {
                                    "data-control nor Xwayland.")};
 }
 
+std::vector<SendItem> itemsOf(ClipFiles files) {
+    return {std::make_move_iterator(files.paths.begin()),
+            std::make_move_iterator(files.paths.end())};
+}
+
+std::vector<SendItem> itemsOf(ClipEmpty /*empty*/) {
+    return {};
+}
+
+template <typename T>
+std::vector<SendItem> itemsOf(T single) {
+    return {SendItem{std::move(single)}};
+}
+
 } // namespace
 
 QCoro::Task<ClipContent> read(Pasteboard& pasteboard) {
@@ -144,6 +159,10 @@ QCoro::Task<ClipContent> read(Pasteboard& pasteboard) {
         const bool changed = pasteboard.changeCount() != before;
         if (!changed || looks == maximumLooks) co_return content;
     }
+}
+
+std::vector<SendItem> items(ClipContent content) {
+    return std::visit([](auto& kind) { return itemsOf(std::move(kind)); }, content);
 }
 
 Summary summary(const ClipContent& content) {

@@ -5,6 +5,7 @@
 #include <QCoroTask>
 
 #include <string>
+#include <vector>
 
 namespace quillon {
 
@@ -24,6 +25,9 @@ struct Summary {
 
     bool operator==(const Summary&) const = default;
 };
+
+/// What sending the content sends, in its order; empty for ClipEmpty.
+[[nodiscard]] std::vector<SendItem> items(ClipContent content);
 
 /// Depends on its argument alone; of an image it reads the header for the size in pixels.
 [[nodiscard]] Summary summary(const ClipContent& content);

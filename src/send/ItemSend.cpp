@@ -5,6 +5,7 @@
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
 #include "platform/Platform.h"
+#include "send/ClipContent.h"
 #include "send/Clipboard.h"
 #include "send/FileKind.h"
 #include "send/Message.h"
@@ -28,9 +29,6 @@ constexpr std::chrono::seconds readingPatience = 30s;
 /// The Bot API's limit for photos is 10,000,000 bytes; a picture of that size or more goes as a
 /// document.
 constexpr qint64 maximumPhotoSize = 9'999'999;
-/// The Bot API's limit for files that bots upload, in bytes.
-constexpr qint64 maximumFileSize = 50'000'000;
-
 /// A text prepared off the main thread, since the work grows with its length.
 struct PreparedText {
     std::string title;
@@ -41,11 +39,16 @@ PreparedText prepare(const std::string& text) {
     return {.title = textTitle(text), .messages = textMessages(text)};
 }
 
+/// Where an item of this kind goes.
+Topic topicOf(const Sending& sending, TopicKind kind) {
+    return topicFor(sending.recipient.topics, sending.topic.value_or(kind));
+}
+
 SentItem makeItem(const Sending& sending, TopicKind kind, std::string title, std::int64_t bytes) {
     return {.entry = {.id = QUuid::createUuid(),
                       .symbol = std::string{traits(kind).itemSymbol},
                       .title = std::move(title),
-                      .topic = topicFor(sending.recipient.topics, kind).name,
+                      .topic = topicOf(sending, kind).name,
                       .date = sending.platform.clock.now(),
                       .error = std::nullopt},
             .info = {.kind = kind, .bytes = bytes}};
@@ -68,11 +71,10 @@ SentItem failedForMemory(SentItem item) {
 /// transfer that was.
 constexpr SendFailure endedReason = SendFailure::noInternet;
 
-/// The parameters that every message to the kind's topic has; thread 0 stands for the general
-/// topic.
-Json addressed(const Recipient& recipient, TopicKind kind) {
-    const Topic topic = topicFor(recipient.topics, kind);
-    return {{"chat_id", recipient.chat}, {"message_thread_id", topic.threadId.value_or(0)}};
+/// The parameters that every message of this kind has; thread 0 stands for the general topic.
+Json addressed(const Sending& sending, TopicKind kind) {
+    return {{"chat_id", sending.recipient.chat},
+            {"message_thread_id", topicOf(sending, kind).threadId.value_or(0)}};
 }
 
 /// One request for an item.
@@ -147,10 +149,6 @@ std::string imageFilename(const Clock& clock) {
            std::to_string(std::chrono::duration_cast<std::chrono::seconds>(now).count()) + ".png";
 }
 
-std::string tooBigText(const std::string& name) {
-    return filled(translate("Send", "%1 is over 50 MB (Telegram's limit for bots)"), {name});
-}
-
 /// The failed item of a file that could not be read; none when the file can be sent.
 std::optional<SentItem> unsendable(const SentItem& item, FileReading::Outcome outcome) {
     const std::string& name = item.entry.title;
@@ -169,8 +167,6 @@ std::optional<SentItem> unsendable(const SentItem& item, FileReading::Outcome ou
                   filled(translate("Send", "Couldn't read %1"), {name}));
 }
 
-} // namespace
-
 QCoro::Task<SentItem> sendText(ClipText text, Sending sending) {
     SentItem item =
         makeItem(sending, TopicKind::notes, {}, static_cast<std::int64_t>(text.text.size()));
@@ -183,8 +179,7 @@ QCoro::Task<SentItem> sendText(ClipText text, Sending sending) {
     }
     item.entry.title = prepared.title;
     for (const std::string& message : prepared.messages) {
-        Request request{.method = "sendMessage",
-                        .params = addressed(sending.recipient, TopicKind::notes)};
+        Request request{.method = "sendMessage", .params = addressed(sending, TopicKind::notes)};
         request.params["parse_mode"] = "HTML";
         request.params["text"] = message;
         item = co_await delivered(std::move(item), std::move(request), sending);
@@ -201,7 +196,7 @@ QCoro::Task<SentItem> sendImage(ClipImage image, Sending sending) {
     if (size > maximumFileSize)
         co_return failed(std::move(item), SendFailure::tooBig, tooBigText(title));
     Request request{.method = asDocument ? "sendDocument" : "sendPhoto",
-                    .params = addressed(sending.recipient, TopicKind::images),
+                    .params = addressed(sending, TopicKind::images),
                     .upload = Upload{.field = asDocument ? "document" : "photo",
                                      .filename = imageFilename(sending.platform.clock),
                                      .data = std::move(image.png),
@@ -210,40 +205,90 @@ QCoro::Task<SentItem> sendImage(ClipImage image, Sending sending) {
     co_return co_await delivered(std::move(item), std::move(request), sending);
 }
 
+QCoro::Task<SentItem> sendDocument(SentItem item, std::string filename, QByteArray bytes,
+                                   Sending sending) {
+    Request request{.method = "sendDocument",
+                    .params = addressed(sending, item.info.kind),
+                    .upload = Upload{.field = "document",
+                                     .filename = std::move(filename),
+                                     .data = std::move(bytes),
+                                     .mime = "application/octet-stream"}};
+    request.params["disable_content_type_detection"] = "true";
+    co_return co_await delivered(std::move(item), std::move(request), std::move(sending));
+}
+
 QCoro::Task<SentItem> sendFile(std::filesystem::path path, Sending sending) {
-    const TopicKind kind = fileKind(path);
     const std::string name = lastComponent(path).native();
     FileReading reading = co_await loaded(path, sending);
-    SentItem item = makeItem(sending, kind, validUtf8(name), reading.size);
+    SentItem item = makeItem(sending, fileKind(path), validUtf8(name), reading.size);
     if (sending.stop.stop_requested())
         co_return failed(std::move(item), endedReason, stoppedText());
     if (auto problem = unsendable(item, reading.outcome)) co_return *std::move(problem);
-    Request request{.method = "sendDocument",
-                    .params = addressed(sending.recipient, kind),
-                    .upload = Upload{.field = "document",
-                                     .filename = name,
-                                     .data = std::move(reading.bytes),
-                                     .mime = "application/octet-stream"}};
-    request.params["disable_content_type_detection"] = "true";
-    co_return co_await delivered(std::move(item), std::move(request), sending);
+    co_return co_await sendDocument(std::move(item), name, std::move(reading.bytes),
+                                    std::move(sending));
 }
 
-SentItem unsent(const ClipText& text, const Sending& sending, const std::string& error) {
-    const auto size = static_cast<std::int64_t>(text.text.size());
-    return failed(makeItem(sending, TopicKind::notes, textTitle(text.text), size), endedReason,
-                  error);
+QCoro::Task<SentItem> sendBytes(NamedBytes file, Sending sending) {
+    const std::string name = lastComponent(file.name).native();
+    const qint64 size = file.bytes.size();
+    SentItem item = makeItem(sending, fileKind(file.name), validUtf8(name), size);
+    if (size > maximumFileSize)
+        co_return failed(item, SendFailure::tooBig, tooBigText(item.entry.title));
+    co_return co_await sendDocument(std::move(item), name, std::move(file.bytes),
+                                    std::move(sending));
 }
 
-SentItem unsent(const ClipImage& image, const Sending& sending, const std::string& error) {
-    return failed(makeItem(sending, TopicKind::images, Clipboard::summary(ClipContent{image}).line,
-                           image.png.size()),
-                  endedReason, error);
+/// What each kind of item is in the history before anything is known of it.
+struct Unsent {
+    const Sending& sending;
+
+    SentItem operator()(const std::filesystem::path& file) const {
+        return makeItem(sending, fileKind(file), validUtf8(lastComponent(file).native()), 0);
+    }
+    SentItem operator()(const ClipImage& image) const {
+        return makeItem(sending, TopicKind::images, Clipboard::summary(ClipContent{image}).line,
+                        image.png.size());
+    }
+    SentItem operator()(const ClipText& text) const {
+        return makeItem(sending, TopicKind::notes, textTitle(text.text),
+                        static_cast<std::int64_t>(text.text.size()));
+    }
+    SentItem operator()(const NamedBytes& file) const {
+        return makeItem(sending, fileKind(file.name), validUtf8(lastComponent(file.name).native()),
+                        file.bytes.size());
+    }
+};
+
+/// How each kind of item is sent.
+struct Sender {
+    Sending sending;
+
+    QCoro::Task<SentItem> operator()(std::filesystem::path& file) {
+        return sendFile(std::move(file), std::move(sending));
+    }
+    QCoro::Task<SentItem> operator()(ClipImage& image) {
+        return sendImage(std::move(image), std::move(sending));
+    }
+    QCoro::Task<SentItem> operator()(ClipText& text) {
+        return sendText(std::move(text), std::move(sending));
+    }
+    QCoro::Task<SentItem> operator()(NamedBytes& file) {
+        return sendBytes(std::move(file), std::move(sending));
+    }
+};
+
+} // namespace
+
+QCoro::Task<SentItem> sendItem(SendItem item, Sending sending) {
+    return std::visit(Sender{std::move(sending)}, item);
 }
 
-SentItem unsent(const std::filesystem::path& file, const Sending& sending,
-                const std::string& error) {
-    std::string name = validUtf8(lastComponent(file).native());
-    return failed(makeItem(sending, fileKind(file), std::move(name), 0), endedReason, error);
+SentItem unsentItem(const SendItem& item, const Sending& sending, const std::string& error) {
+    return failed(std::visit(Unsent{sending}, item), endedReason, error);
+}
+
+std::string tooBigText(const std::string& name) {
+    return filled(translate("Send", "%1 is over 50 MB (Telegram's limit for bots)"), {name});
 }
 
 std::string shortOfMemoryText() {

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "send/ClipContent.h"
 #include "state/Recipient.h"
 #include "state/SendInfo.h"
+#include "state/SendItem.h"
 #include "state/Sent.h"
 
 #include <QCoroTask>
 
-#include <filesystem>
+#include <optional>
 #include <stop_token>
 #include <string>
 
@@ -30,24 +30,25 @@ struct Sending {
     SendProgress progress;
     /// Once a stop is requested, nothing more is sent than what is on its way.
     std::stop_token stop{};
+    /// Where all items go; without it, each goes to the topic of its kind.
+    std::optional<TopicKind> topic{};
 };
 
-// Each sends one item to its topic. None throws: a failure is in the entry's error.
+/// Sends the item to its topic. Never throws: a failure is in the entry's error. A text goes as one
+/// message or, where it is longer than a message may be, several; an image as a photo, or as a
+/// document where it is larger than photos may be; a file as a document. A folder, and a file that
+/// is too large or cannot be read, are not sent.
+[[nodiscard]] QCoro::Task<SentItem> sendItem(SendItem item, Sending sending);
 
-/// As one message or, where it is longer than a message may be, several.
-[[nodiscard]] QCoro::Task<SentItem> sendText(ClipText text, Sending sending);
-/// As a photo, or as a document where it is larger than photos may be.
-[[nodiscard]] QCoro::Task<SentItem> sendImage(ClipImage image, Sending sending);
-/// As a document. A folder, and a file that is too large or cannot be read, are not sent.
-[[nodiscard]] QCoro::Task<SentItem> sendFile(std::filesystem::path path, Sending sending);
+/// The item as it stands in the history when it has not arrived because the send was ended.
+[[nodiscard]] SentItem unsentItem(const SendItem& item, const Sending& sending,
+                                  const std::string& error);
 
-// Each item as it stands in the history when it has not arrived because the send was ended.
-[[nodiscard]] SentItem unsent(const ClipText& text, const Sending& sending,
-                              const std::string& error);
-[[nodiscard]] SentItem unsent(const ClipImage& image, const Sending& sending,
-                              const std::string& error);
-[[nodiscard]] SentItem unsent(const std::filesystem::path& file, const Sending& sending,
-                              const std::string& error);
+/// The Bot API's limit for files that bots upload, in bytes.
+inline constexpr qint64 maximumFileSize = 50'000'000;
+
+/// The error of an item of this name that is over the limit.
+[[nodiscard]] std::string tooBigText(const std::string& name);
 
 /// The error of an item that does not fit into the memory.
 [[nodiscard]] std::string shortOfMemoryText();

@@ -32,42 +32,16 @@ constexpr std::chrono::milliseconds patience = 700ms;
 
 /// A send under way: what it sends, and what has become of the items so far, in their order.
 struct RunningSend {
-    ClipContent content;
+    std::vector<SendItem> items;
     Sending sending;
     Trigger via;
     std::vector<SendInfo> infos{};
     std::vector<Sent> entries{};
     /// All items are recorded; what comes now comes too late.
     bool over = false;
-
-    [[nodiscard]] std::size_t count() const {
-        const auto* files = std::get_if<ClipFiles>(&content);
-        return files ? files->paths.size() : 1;
-    }
 };
 
 namespace {
-
-/// What the function that is for this kind of item makes of the item of that number.
-template <typename Text, typename Image, typename File>
-auto withItem(const ClipContent& content, std::size_t number, Text text, Image image, File file) {
-    if (const auto* found = std::get_if<ClipText>(&content)) return text(*found);
-    if (const auto* found = std::get_if<ClipImage>(&content)) return image(*found);
-    return file(std::get<ClipFiles>(content).paths[number]);
-}
-
-QCoro::Task<SentItem> sendItem(const RunningSend& send, std::size_t number) {
-    const Sending& sending = send.sending;
-    return withItem(
-        send.content, number, [&](const ClipText& text) { return sendText(text, sending); },
-        [&](const ClipImage& image) { return sendImage(image, sending); },
-        [&](const std::filesystem::path& file) { return sendFile(file, sending); });
-}
-
-SentItem unsentItem(const RunningSend& send, std::size_t number, const std::string& error) {
-    const auto make = [&](const auto& item) { return unsent(item, send.sending, error); };
-    return withItem(send.content, number, make, make, make);
-}
 
 /// None for want of memory, which may come from another thread and in the clothes of a
 /// QUnhandledException.
@@ -91,27 +65,59 @@ void Store::abandonAtExit(Store* store) {
     latest = store;
 }
 
-QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress, std::stop_token stop) {
+QCoro::Task<> Store::sendClipboard(Trigger via) {
+    return sendClipboard(SendWishes{.via = via});
+}
+
+QCoro::Task<> Store::sendClipboard(SendWishes wishes) {
+    return startSend(std::nullopt, std::move(wishes));
+}
+
+QCoro::Task<> Store::send(std::vector<SendItem> items, SendWishes wishes) {
+    return startSend(std::move(items), std::move(wishes));
+}
+
+QCoro::Task<> Store::startSend(std::optional<std::vector<SendItem>> items, SendWishes wishes) {
     if (busy_ || preparing_ || sendingEnded_) co_return;
     preparing_ = true;
     const auto prepared = qScopeGuard([this] { preparing_ = false; });
     sendStop_ = {};
-    const std::stop_callback forward{stop, [this] { stopSending(); }};
+    const std::stop_callback forward{wishes.stop, [this] { stopSending(); }};
 
     std::optional<Recipient> to = co_await recipient();
     if (!to) co_return refuseToSend();
+    if (!items) items = co_await copiedItems(wishes.stop);
+    if (items->empty() || wishes.stop.stop_requested()) co_return;
+    SendProgress progress = [this, told = std::move(wishes.progress)](qint64 done, qint64 total) {
+        Q_EMIT sendProgressed(done, total);
+        if (told) told(done, total);
+    };
+    QCoro::Task<> sending = sendItems(
+        std::make_shared<RunningSend>(RunningSend{.items = *std::move(items),
+                                                  .sending = {.platform = platform_,
+                                                              .recipient = *std::move(to),
+                                                              .progress = std::move(progress),
+                                                              .stop = sendStop_.get_token(),
+                                                              .topic = wishes.topic},
+                                                  .via = wishes.via}));
+    co_await sending;
+}
+
+QCoro::Task<std::vector<SendItem>> Store::copiedItems(std::stop_token stop) {
     std::optional<ClipContent> read = co_await readClipboard(platform_.pasteboard);
     if (!read) {
-        co_return show(
-            {.text = shortOfMemoryText(), .symbol = "exclamationmark.triangle", .ok = false});
+        show({.text = shortOfMemoryText(), .symbol = "exclamationmark.triangle", .ok = false});
+        co_return {};
     }
-    ClipContent content = *std::move(read);
-    if (stop.stop_requested()) co_return;
-    if (std::holds_alternative<ClipEmpty>(content)) {
-        const Clipboard::Summary empty = Clipboard::summary(content);
-        co_return show({.text = empty.line, .symbol = empty.symbol, .ok = false});
+    if (stop.stop_requested()) co_return {};
+    if (std::holds_alternative<ClipEmpty>(*read)) {
+        const Clipboard::Summary empty = Clipboard::summary(*read);
+        show({.text = empty.line, .symbol = empty.symbol, .ok = false});
     }
+    co_return Clipboard::items(*std::move(read));
+}
 
+QCoro::Task<> Store::sendItems(std::shared_ptr<RunningSend> send) {
     publish(busy_, true);
     const auto idle = qScopeGuard([this] {
         running_.reset();
@@ -122,24 +128,18 @@ QCoro::Task<> Store::sendClipboard(Trigger via, SendProgress progress, std::stop
         if (!config_.showBanner) return;
         show({.text = translate("Send", "Sending…"), .symbol = "arrow.up.circle", .sticky = true});
     });
-    const auto send =
-        std::make_shared<RunningSend>(RunningSend{.content = std::move(content),
-                                                  .sending = {.platform = platform_,
-                                                              .recipient = *std::move(to),
-                                                              .progress = std::move(progress),
-                                                              .stop = sendStop_.get_token()},
-                                                  .via = via});
     running_ = send;
     abandonAtExit(this);
-    while (send->entries.size() < send->count() && !sendStop_.stop_requested()) {
-        QCoro::Task<SentItem> next = sendItem(*send, send->entries.size());
+    Q_EMIT sendStarted(static_cast<int>(send->items.size()));
+    while (send->entries.size() < send->items.size() && !sendStop_.stop_requested()) {
+        QCoro::Task<SentItem> next = sendItem(send->items[send->entries.size()], send->sending);
         SentItem item = co_await next;
         if (send->over) co_return;
         record(*send, {std::move(item)});
     }
     recordUnsent(*send, stoppedText());
     slow.reset();
-    Q_EMIT sent(send->infos, via);
+    announceEnd(*send);
     reportOutcome(send->entries);
 }
 
@@ -165,9 +165,10 @@ void Store::abandonSend() {
     sendingEnded_ = true;
     // The item under way may have arrived.
     const std::string error = translate("Send", "Quillon ended before Telegram confirmed it.");
-    record(*running_, {unsentItem(*running_, running_->entries.size(), error)});
+    record(*running_,
+           {unsentItem(running_->items[running_->entries.size()], running_->sending, error)});
     recordUnsent(*running_, stoppedText());
-    Q_EMIT sent(running_->infos, running_->via);
+    announceEnd(*running_);
 }
 
 void Store::refuseToSend() {
@@ -188,14 +189,20 @@ void Store::record(RunningSend& send, const std::vector<SentItem>& items) {
     const auto count = static_cast<std::ptrdiff_t>(items.size());
     history_.insert(history_.begin(), send.entries.rbegin(), send.entries.rbegin() + count);
     saveHistory();
+    Q_EMIT recorded({send.entries.end() - count, send.entries.end()});
 }
 
 void Store::recordUnsent(RunningSend& send, const std::string& error) {
     std::vector<SentItem> items;
-    for (std::size_t next = send.entries.size(); next < send.count(); ++next)
-        items.push_back(unsentItem(send, next, error));
+    for (std::size_t next = send.entries.size(); next < send.items.size(); ++next)
+        items.push_back(unsentItem(send.items[next], send.sending, error));
     if (!items.empty()) record(send, items);
     send.over = true;
+}
+
+void Store::announceEnd(const RunningSend& send) {
+    Q_EMIT sent(send.infos, send.via);
+    Q_EMIT sendEnded(send.entries);
 }
 
 void Store::reportOutcome(const std::vector<Sent>& entries) {

@@ -216,6 +216,15 @@ QCoro::Task<std::optional<Telegram>> Store::telegram() {
     co_return telegramFor(*cachedToken_);
 }
 
+QCoro::Task<std::optional<Telegram>> Store::clientAtHand() {
+    if (!cachedToken_) {
+        const SecretAnswer answer = co_await platform_.secrets.find(botTokenItem());
+        if (answer != SecretAnswer::found) co_return std::nullopt;
+    }
+    std::optional<Telegram> client = co_await telegram();
+    co_return client;
+}
+
 QCoro::Task<std::optional<Recipient>> Store::recipient() {
     if (!isConnected()) co_return std::nullopt;
     std::optional<Telegram> client = co_await telegram();

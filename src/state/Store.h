@@ -7,6 +7,7 @@
 #include "state/Config.h"
 #include "state/Recipient.h"
 #include "state/SendInfo.h"
+#include "state/SendItem.h"
 #include "state/Sent.h"
 #include "telegram/Telegram.h"
 
@@ -113,6 +114,10 @@ public:
     void stopPersisting() { persist_ = false; }
     [[nodiscard]] bool persists() const { return persist_; }
 
+    /// A client for the bot, without asking the user for anything: none without a token, and where
+    /// its keyring is locked. A keyring that hangs holds the answer open.
+    [[nodiscard]] QCoro::Task<std::optional<Telegram>> clientAtHand();
+
     /// Registers the shortcut of the settings in place of the one before. shortcut() tells what
     /// becomes of it, and shortcutPressed() announces each press.
     void registerShortcut();
@@ -123,10 +128,12 @@ public:
     void setLaunchAtLogin(bool opens);
 
     /// Sends what is on the clipboard. Reports by banner, sound and history; never throws. Ignored
-    /// while another send runs. `progress` is told on the main thread how far an upload has come.
-    /// After a request to stop, no further item is sent.
-    [[nodiscard]] QCoro::Task<> sendClipboard(Trigger via, SendProgress progress = {},
-                                              std::stop_token stop = {});
+    /// while another send runs.
+    [[nodiscard]] QCoro::Task<> sendClipboard(SendWishes wishes);
+    [[nodiscard]] QCoro::Task<> sendClipboard(Trigger via);
+    /// The same with these items in place of the clipboard's, which is not read. Nothing happens
+    /// without any.
+    [[nodiscard]] QCoro::Task<> send(std::vector<SendItem> items, SendWishes wishes);
 
     /// Has the send that runs, if any, send nothing more than what is on its way; the rest goes
     /// into the history as not sent.
@@ -175,7 +182,15 @@ Q_SIGNALS:
     /// is none.
     void shortcutPressed(const std::string& activation);
     void setupStepDone(Store::SetupStep step);
-    /// A send has ended; one record for each item, in the order sent.
+    /// A send of so many items has begun.
+    void sendStarted(int items);
+    /// How far the upload under way has come, in bytes; ten times a second at the most.
+    void sendProgressed(qint64 done, qint64 total);
+    /// These items of a send have gone into the history, in the order sent.
+    void recorded(const std::vector<Sent>& entries);
+    /// A send has ended; all its items as they stand in the history, in the order sent.
+    void sendEnded(const std::vector<Sent>& entries);
+    /// The same for the usage events; one record for each item.
     void sent(const std::vector<SendInfo>& items, Trigger via);
     /// There was nothing to send with, since the setup is not finished.
     void sendRefused();
@@ -211,12 +226,19 @@ private:
     /// Throws when the user has forgotten the bot since `change`, a value of tokenChanges_.
     void expectSameBot(int change, std::string sentence) const;
 
+    /// What is behind the public actions that send; without items, it sends the clipboard's.
+    [[nodiscard]] QCoro::Task<> startSend(std::optional<std::vector<SendItem>> items,
+                                          SendWishes wishes);
+    /// The clipboard's content. Where there is nothing that can be sent, it says so.
+    [[nodiscard]] QCoro::Task<std::vector<SendItem>> copiedItems(std::stop_token stop);
+    [[nodiscard]] QCoro::Task<> sendItems(std::shared_ptr<RunningSend> send);
     void refuseToSend();
     /// Puts the next items of the send, in the order sent, into its record and into the history,
     /// the last one first.
     void record(RunningSend& send, const std::vector<SentItem>& items);
     /// Records all items that are left as not sent, for this reason.
     void recordUnsent(RunningSend& send, const std::string& error);
+    void announceEnd(const RunningSend& send);
     /// Ends the send under way, if any, without waiting for it.
     void abandonSend();
     static void abandonAtExit(Store* store);

@@ -11,7 +11,7 @@ namespace {
 constexpr std::int64_t leastRetryAfter = -1;
 
 Refusal refusedToken() {
-    return Refusal{translate("Telegram", "Telegram didn't accept that bot token.")};
+    return Refusal{translate("Telegram", "Telegram didn't accept that bot token."), true};
 }
 
 Verdict judgeWithoutEnvelope(int status) {

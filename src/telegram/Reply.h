@@ -22,6 +22,8 @@ struct Wait {
 /// The sentence for the user.
 struct Refusal {
     std::string message;
+    /// It is the bot's token that was refused.
+    bool ofToken = false;
 };
 
 using Verdict = std::variant<Success, Wait, Refusal>;

@@ -93,7 +93,9 @@ QCoro::Task<Json> Telegram::call(std::string method, Json params, std::optional<
         Verdict verdict = co_await judged(*reply);
         if (auto* success = std::get_if<Success>(&verdict)) co_return std::move(success->result);
         if (auto* refusal = std::get_if<Refusal>(&verdict)) {
-            throw TelegramError{std::move(refusal->message)};
+            throw TelegramError{std::move(refusal->message), refusal->ofToken
+                                                                 ? TelegramError::Cause::token
+                                                                 : TelegramError::Cause::refused};
         }
         co_await wait(clock, std::get<Wait>(verdict).duration, stop);
     }

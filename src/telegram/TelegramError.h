@@ -8,7 +8,11 @@ namespace quillon {
 
 /// A failure the user must act on. Its message is a finished sentence, shown as it is.
 struct TelegramError : std::exception {
-    enum class Cause { refused, unreachable };
+    enum class Cause {
+        refused,
+        unreachable,
+        token, ///< Telegram knows no bot with this token
+    };
 
     explicit TelegramError(std::string sentence, Cause why = Cause::refused)
         : message{std::move(sentence)},

@@ -2,16 +2,23 @@
 
 #include "cli/Console.h"
 #include "cli/RemoteProgram.h"
+#include "cli/Reports.h"
+#include "cli/SendCommand.h"
+#include "cli/StandardInput.h"
 #include "cli/Terminal.h"
+#include "core/Core.h"
+#include "ui/GivenItems.h"
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
+#include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
 #include <array>
 #include <map>
+#include <tuple>
 #include <utility>
 
 #include <sys/stat.h>
@@ -23,6 +30,12 @@ namespace {
 
 /// More than any token has, in bytes.
 constexpr std::size_t maximumInput = 4096;
+
+/// The option of Send that names the topic for everything.
+constexpr QLatin1String topicOption{"topic"};
+
+/// The name of the error that tells why nothing was sent.
+constexpr QLatin1String notSent{"dev.vostrel.quillon.Error.NotSent"};
 
 /// The actions of the desktop entry.
 const std::map<std::string, CommandService::Wish> wishNames{
@@ -60,6 +73,10 @@ public:
         signal("Notice", {QString::fromStdString(Terminal::harmless(line))});
     }
     void printText(std::string_view text) override { output += text; }
+    void printNow(std::string_view text) override { signal("Output", {QString::fromUtf8(text)}); }
+    [[nodiscard]] QFuture<std::optional<QByteArray>> readInput(qsizetype limit) override {
+        return StandardInput::held(input_.fileDescriptor(), limit);
+    }
     [[nodiscard]] std::optional<std::string> readSecret(std::string_view /*prompt*/) override {
         return firstLine(input_);
     }
@@ -102,6 +119,8 @@ public Q_SLOTS:
         service_.wishByName(action, platformData);
     }
 
+    void Open(const QStringList& uris, const QVariantMap& /*platformData*/) { service_.open(uris); }
+
 private:
     CommandService& service_;
 };
@@ -117,6 +136,7 @@ CommandService::Publication CommandService::publish() {
     if (!bus.isConnected()) return Publication::noBus;
     // Qt knows the type by its name only once somebody has used it.
     qRegisterMetaType<QDBusUnixFileDescriptor>();
+    qDBusRegisterMetaType<QByteArrayList>();
     // The object comes before the name: who sees the name may call at once.
     bus.registerObject(QLatin1String{RemoteProgram::objectPath}, this,
                        QDBusConnection::ExportScriptableContents | QDBusConnection::ExportAdaptors);
@@ -129,16 +149,19 @@ CommandService::Publication CommandService::publish() {
 void CommandService::serve(CommandContext context, DesktopActions actions) {
     context_.emplace(std::move(context));
     actions_ = std::move(actions);
-    for (const Wish waiting : std::exchange(wishes_, {}))
-        (actions_.*waiting)();
-    for (Call& call : std::exchange(early_, {}))
-        take(std::move(call));
+    announceSends();
+    for (const auto& waiting : std::exchange(early_, {}))
+        waiting();
+}
+
+void CommandService::whenServing(std::function<void()> then) {
+    if (!context_) return early_.push_back(std::move(then));
+    then();
 }
 
 void CommandService::wish(Wish wish, const QVariantMap& platformData) {
     keepActivation(platformData.value(QStringLiteral("activation-token")).toString().toStdString());
-    if (!context_) return wishes_.push_back(wish);
-    (actions_.*wish)();
+    whenServing([this, wish] { (actions_.*wish)(); });
 }
 
 void CommandService::keepActivation(const std::string& token) {
@@ -156,10 +179,23 @@ int CommandService::RunCommand(const QStringList& arguments, const QDBusUnixFile
     std::vector<std::string> words;
     for (const QString& argument : arguments)
         words.push_back(argument.toStdString());
+    return handle(words, input) ? exitDone : exitUsage;
+}
+
+int CommandService::RunWords(const QByteArrayList& arguments, const QDBusUnixFileDescriptor& input,
+                             QString& /*output*/, QString& /*errors*/) {
+    std::vector<std::string> words;
+    for (const QByteArray& argument : arguments)
+        words.push_back(argument.toStdString());
+    return handle(words, input) ? exitDone : exitUsage;
+}
+
+bool CommandService::handle(const std::vector<std::string>& words,
+                            const QDBusUnixFileDescriptor& input) {
     const auto invocation = parseCommandLine(words);
     if (!invocation || invocation->command->where != Where::dataHolder) {
         sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("That is no command."));
-        return exitUsage;
+        return false;
     }
     setDelayedReply(true);
     Call call{.invocation = *invocation, .input = input, .message = message()};
@@ -176,7 +212,7 @@ int CommandService::RunCommand(const QStringList& arguments, const QDBusUnixFile
         const QDBusPendingReply<bool> waits = *asked;
         if (waits.isError() || waits.value()) take(call);
     });
-    return exitDone;
+    return true;
 }
 
 int CommandService::Run(const QString& command, const QString& argument,
@@ -184,6 +220,76 @@ int CommandService::Run(const QString& command, const QString& argument,
     QStringList words{command};
     if (!argument.isEmpty()) words << argument;
     return RunCommand(words, input, output, errors);
+}
+
+QString CommandService::Send(const QStringList& files, const QString& text,
+                             const QVariantMap& options) {
+    auto items = givenItems(files, text);
+    SendWishes wishes{.via = Trigger::command};
+    if (options.contains(topicOption))
+        wishes.topic = fromRawValue<TopicKind>(options.value(topicOption).toString().toStdString());
+    // An option that is not known here may be what matters to the caller.
+    if (!items || options.size() != (wishes.topic ? 1 : 0)) {
+        sendErrorReply(QDBusError::InvalidArgs,
+                       QStringLiteral("There is nothing to send, or it cannot be sent like this."));
+        return {};
+    }
+    setDelayedReply(true);
+    whenServing([this, call = message(), given = *std::move(items), wishes = std::move(wishes)] {
+        send(call, given, wishes);
+    });
+    return {};
+}
+
+QCoro::Task<> CommandService::send(QDBusMessage call, std::vector<SendItem> items,
+                                   SendWishes wishes) {
+    QDBusMessage answer;
+    try {
+        QCoro::Task<std::vector<Sent>> sending =
+            sendNow(*context_, std::move(items), std::move(wishes));
+        const std::vector<Sent> entries = co_await sending;
+        answer = call.createReply(QString::fromStdString(historyJson(entries)).trimmed());
+    } catch (const std::exception& error) {
+        answer = call.createErrorReply(notSent, QString::fromUtf8(error.what()));
+    }
+    QDBusConnection::sessionBus().send(answer);
+}
+
+void CommandService::open(const QStringList& uris) {
+    auto items = givenItems(uris, {});
+    if (!items) {
+        return sendErrorReply(QDBusError::InvalidArgs,
+                              QStringLiteral("Only files of this computer can be sent."));
+    }
+    whenServing([this, given = *std::move(items)] {
+        std::ignore = context_->core.store.send(given, {.via = Trigger::button});
+    });
+}
+
+QString CommandService::Status() {
+    setDelayedReply(true);
+    whenServing([this, call = message()] { tellStatus(call); });
+    return {};
+}
+
+QCoro::Task<> CommandService::tellStatus(QDBusMessage call) {
+    const auto console =
+        std::make_shared<DistantConsole>(QDBusUnixFileDescriptor{}, call.service());
+    CommandContext context = *context_;
+    context.console = console;
+    QCoro::Task<int> telling = runCommand(*parseCommandLine({"status", "--json"}), context);
+    co_await telling;
+    const QDBusMessage answer = call.createReply(QString::fromStdString(console->output).trimmed());
+    QDBusConnection::sessionBus().send(answer);
+}
+
+void CommandService::announceSends() {
+    const Store* const store = &context_->core.store;
+    connect(store, &Store::sendStarted, this, &CommandService::SendStarted);
+    connect(store, &Store::sendProgressed, this, &CommandService::SendProgress);
+    connect(store, &Store::sendEnded, this, [this](const std::vector<Sent>& entries) {
+        Q_EMIT SendFinished(QString::fromStdString(historyJson(entries)).trimmed());
+    });
 }
 
 void CommandService::Quit() {
@@ -196,7 +302,7 @@ void CommandService::QuitWithoutUpdate() {
 }
 
 void CommandService::take(Call call) {
-    if (!context_) return early_.push_back(std::move(call));
+    if (!context_) return whenServing([this, call] { take(call); });
     if (call.invocation.onlyReads() || !call.invocation.command->waitsItsTurn) {
         carryOut(std::move(call));
         return;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "cli/Commands.h"
+#include "state/SendItem.h"
 
+#include <QByteArrayList>
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusServiceWatcher>
@@ -58,18 +60,33 @@ public:
     /// The same by the name of an action of the desktop entry: "send", "panel" or
     /// "settings".
     void wishByName(const QString& action, const QVariantMap& platformData);
+    /// Sends the files that these URIs name, as an application that is told to open them.
+    void open(const QStringList& uris);
     /// Keeps the desktop's leave to take the focus, where it is not empty, for the window that next
     /// asks for it: Qt's platform plugins look for it in the environment.
     static void keepActivation(const std::string& token);
 
 public Q_SLOTS:
+    // For scripts and other programs; packaging/dev.vostrel.quillon.xml tells what each promises.
+
+    /// Sends files and text, and answers with the entries in the history when that is done.
+    Q_SCRIPTABLE QString Send(const QStringList& files, const QString& text,
+                              const QVariantMap& options);
+    /// The JSON that `quillon status --json` prints.
+    Q_SCRIPTABLE QString Status();
+
+    // For the program's own command line.
+
     /// Carries out the command line of these words, with what it reads from standard input. Gives
     /// the exit code, and what went to standard output and standard error. Meanwhile the caller is
     /// sent the signal Progress with how many bytes of what the command does, as in "Sending…", are
-    /// done, and of how many.
+    /// done, and of how many; and Output with what is to be printed at once.
+    Q_SCRIPTABLE int RunWords(const QByteArrayList& arguments, const QDBusUnixFileDescriptor& input,
+                              QString& output, QString& errors);
+    /// The same for the command lines of older versions, whose words are UTF-8.
     Q_SCRIPTABLE int RunCommand(const QStringList& arguments, const QDBusUnixFileDescriptor& input,
                                 QString& output, QString& errors);
-    /// The same for the command lines of older versions, which have one argument at the most.
+    /// The same for still older ones, which have one argument at the most.
     Q_SCRIPTABLE int Run(const QString& command, const QString& argument,
                          const QDBusUnixFileDescriptor& input, QString& output, QString& errors);
     Q_SCRIPTABLE void Quit();
@@ -77,6 +94,12 @@ public Q_SLOTS:
     Q_SCRIPTABLE void QuitWithoutUpdate();
     /// Does nothing; an answer is a sign of life.
     Q_SCRIPTABLE void Ping() {}
+
+Q_SIGNALS:
+    // Sent to everybody, whoever set the send off; see packaging/dev.vostrel.quillon.xml.
+    Q_SCRIPTABLE void SendStarted(int items);
+    Q_SCRIPTABLE void SendProgress(qlonglong done, qlonglong total);
+    Q_SCRIPTABLE void SendFinished(const QString& entries);
 
 private:
     struct Call {
@@ -88,7 +111,15 @@ private:
         std::shared_ptr<QDBusServiceWatcher> caller{};
     };
 
+    /// Calls `then` once the program serves.
+    void whenServing(std::function<void()> then);
+    /// Takes in the command line of a call; false when there is no such command.
+    bool handle(const std::vector<std::string>& words, const QDBusUnixFileDescriptor& input);
     void take(Call call);
+    /// Tells everybody of all sends from now on.
+    void announceSends();
+    QCoro::Task<> send(QDBusMessage call, std::vector<SendItem> items, SendWishes wishes);
+    QCoro::Task<> tellStatus(QDBusMessage call);
     /// Carries out the queue's calls until there are none.
     QCoro::Task<> work();
     QCoro::Task<> carryOut(Call call);
@@ -97,8 +128,7 @@ private:
     DesktopActions actions_;
     std::function<void()> quit_;
     /// What came before serve().
-    std::vector<Wish> wishes_;
-    std::vector<Call> early_;
+    std::vector<std::function<void()>> early_;
     std::deque<Call> queue_;
     bool working_ = false;
 };

@@ -1,6 +1,8 @@
 #include "ui/Resident.h"
 
 #include "base/Translate.h"
+#include "doctor/Examination.h"
+#include "doctor/Rules.h"
 #include "maintenance/AppMover.h"
 #include "platform/LoginItem.h"
 #include "platform/Platform.h"
@@ -108,7 +110,8 @@ std::unique_ptr<QWidget> Resident::makeSettings(const SettingsWindow::Fit& fit) 
     SettingsActions actions{
         .showBanner = [this](BannerMessage message) { core_.hud->show(std::move(message)); },
         .uninstall = [this] { return uninstaller_.run(); },
-        .openPanel = desktopActions().showPanel};
+        .openPanel = desktopActions().showPanel,
+        .troubles = [this] { return troubles(); }};
     auto view = std::make_unique<SettingsView>(core_.store, updater_, std::move(actions),
                                                QStringLiteral("setup"));
     QObject::connect(view.get(), &SettingsView::fittingHeightChanged, view.get(),
@@ -190,6 +193,17 @@ QCoro::Task<> Resident::offerSetup() {
         co_await asked;
     }
     if (!core_.store.mayBeReady()) settingsWindow_.show();
+}
+
+QCoro::Task<std::vector<std::string>> Resident::troubles() {
+    // While the setup is not finished, its guide tells what is missing.
+    if (!core_.store.mayBeReady()) co_return std::vector<std::string>{};
+    QCoro::Task<Facts> examination = examine(platform_, core_.store, surroundings_, true);
+    const Facts facts = co_await examination;
+    std::vector<Finding> found = findings(facts, Names::told);
+    // The general settings tell that themselves, with what can be done.
+    std::erase_if(found, [](const Finding& each) { return each.check == "shortcut"; });
+    co_return failures(found);
 }
 
 } // namespace quillon

@@ -4,6 +4,7 @@
 #include "core/DataLock.h"
 #include "maintenance/Uninstaller.h"
 #include "maintenance/Updater.h"
+#include "platform/linux/LinuxSurroundings.h"
 #include "ui/CommandService.h"
 #include "ui/ConfigWatch.h"
 #include "ui/SettingsWindow.h"
@@ -14,6 +15,8 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace quillon {
 
@@ -47,6 +50,8 @@ private:
     [[nodiscard]] TrayActions trayActions();
     /// Shows the settings window while the setup is not finished.
     QCoro::Task<> offerSetup();
+    /// What the settings window tells to be wrong.
+    [[nodiscard]] QCoro::Task<std::vector<std::string>> troubles();
     [[nodiscard]] DesktopActions desktopActions();
     /// Forgets an update that waits, and removes what updates have left on the disk.
     [[nodiscard]] QCoro::Task<> dropUpdates();
@@ -62,6 +67,7 @@ private:
     PanelWindow panelWindow_;
     TrayIcon trayIcon_;
     std::unique_ptr<CommandService> service_;
+    LinuxSurroundings surroundings_;
 };
 
 } // namespace quillon

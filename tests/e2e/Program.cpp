@@ -66,8 +66,10 @@ Finished Program::run(const std::vector<std::string>& arguments, const std::stri
     timer.start();
     QProcess process;
     process.setProcessEnvironment(environment);
+    // A pipe is content for commands that send.
+    if (input.empty()) process.setStandardInputFile(QProcess::nullDevice());
     process.start(QString::fromStdString(executable), toList(arguments));
-    process.write(input.data(), static_cast<qint64>(input.size()));
+    if (!input.empty()) process.write(input.data(), static_cast<qint64>(input.size()));
     process.closeWriteChannel();
     Finished run = finish(process);
     run.took = std::chrono::milliseconds{timer.elapsed()};

@@ -5,6 +5,7 @@
 #include <QProcessEnvironment>
 
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -33,7 +34,7 @@ public:
     /// for this one's.
     Program(const std::string& botApi, const std::filesystem::path& data);
 
-    /// Runs to the end, with `input` on standard input.
+    /// Runs to the end, with `input` on standard input, which is at its end where that is empty.
     [[nodiscard]] Finished run(const std::vector<std::string>& arguments,
                                const std::string& input = {}) const;
 
@@ -69,6 +70,8 @@ public:
     /// URIs as a file manager offers them.
     void copyFiles(const std::vector<std::string>& uris);
     void clear();
+    /// Who copied last does not answer any more.
+    void hang() const { ::kill(static_cast<pid_t>(process_->processId()), SIGSTOP); }
 
 private:
     std::unique_ptr<QProcess> process_;

@@ -155,7 +155,7 @@ TEST_F(WholeLife, FromTheDownloadToTheTrash) {
     ASSERT_TRUE(waitUntil([&] { return residents().size() == 1 && Program::hasName(); }));
     EXPECT_FALSE(std::filesystem::exists(downloaded));
     EXPECT_THAT(content(home / ".local/share/applications/dev.vostrel.quillon.desktop"),
-                HasSubstr("\nExec=" + (installed / inside).native() + "\n"));
+                HasSubstr("\nExec=" + (installed / inside).native() + " %F\n"));
 
     // It is set up, and sends.
     setUp();

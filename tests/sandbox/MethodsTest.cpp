@@ -95,6 +95,28 @@ TEST_F(Methods, refuseTopicsWithoutTheirConditions) {
               "Forbidden: bot was kicked from the supergroup chat");
 }
 
+TEST_F(Methods, tellABotWhatItMayDoWithoutASign) {
+    const auto act = [&](std::int64_t thread, const char* action) {
+        return call("sendChatAction",
+                    {{"chat_id", group}, {"message_thread_id", thread}, {"action", action}})
+            .error();
+    };
+    const auto rights = [&] {
+        return call("getChatMember", {{"chat_id", group}, {"user_id", 7000000001}}).result();
+    };
+    const std::int64_t topic = sandbox.userCreatesTopic(group, "Topic");
+    const Json before = sandbox.view();
+    EXPECT_EQ(act(topic, "cancel"), "");
+    EXPECT_EQ(act(topic, "dance"), "Bad Request: wrong parameter action in request");
+    EXPECT_EQ(act(topic + 100, "typing"), "Bad Request: message thread not found");
+    EXPECT_EQ(rights()["can_manage_topics"], true);
+    EXPECT_EQ(sandbox.view(), before);
+    sandbox.addBotToGroup(group, BotRole::admin);
+    EXPECT_EQ(rights()["can_manage_topics"], false);
+    sandbox.addBotToGroup(group, BotRole::kicked);
+    EXPECT_EQ(act(topic, "typing"), "Forbidden: bot was kicked from the supergroup chat");
+}
+
 TEST_F(Methods, recordOnlyUpdatesAllowedAtTheTime) {
     updates({{"allowed_updates", {"message"}}});
     sandbox.userSays(group, "hi");

@@ -145,6 +145,40 @@ TEST_F(SendPipeline, CutsTextBetweenCharactersAndLosesNone) {
     }
 }
 
+TEST_F(SendPipeline, SendsWhatItIsGivenToTheTopicThatIsWished) {
+    computer.pasteboard.copy(text("copied"));
+    const std::string odd = "a\nb\xff.MOV";
+    const std::vector<SendItem> items{file("plan.pdf", 7), ClipImage{pngOf(1000), {}},
+                                      ClipText{"typed"},
+                                      NamedBytes{"folder/" + odd, QByteArray(9, 'x')},
+                                      NamedBytes{"big.mp4", QByteArray(50'000'001, 'x')}};
+    const auto send = [&](std::optional<TopicKind> topic) {
+        SendWishes wishes{.via = Trigger::command, .topic = topic};
+        await(computer.store->send(items, std::move(wishes)));
+    };
+    send(TopicKind::images);
+    const std::string topic = computer.topic("images").name;
+    std::vector<std::string> rows;
+    for (const Sent& entry : computer.store->history()) {
+        EXPECT_EQ(entry.topic, topic);
+        rows.push_back(entry.symbol + " " + entry.title + " " + entry.error.value_or("sent"));
+    }
+    EXPECT_THAT(rows, ElementsAre("film big.mp4 big.mp4 is over 50 MB (Telegram's limit for bots)",
+                                  "film a\nb\uFFFD.MOV sent", "text.alignleft typed sent",
+                                  "photo Image · 4×3 sent", "doc plan.pdf sent"));
+    EXPECT_THAT(computer.messages("images"), SizeIs(4));
+    EXPECT_EQ(computer.sandbox.requests().back().parameters.files.front().filename,
+              "a b\uFFFD.MOV");
+    EXPECT_THAT(banners(), ElementsAre("4 sent, 1 failed"));
+
+    send(std::nullopt);
+    EXPECT_THAT(computer.messages("images"), SizeIs(5));
+    EXPECT_THAT(computer.messages("videos"), SizeIs(1));
+    computer.clear();
+    await(computer.store->send({}, {.via = Trigger::command}));
+    EXPECT_THAT(banners(), IsEmpty()) << "nothing is nothing, and not the clipboard";
+}
+
 TEST_F(SendPipeline, StopsATextAtTheFirstMessageThatFails) {
     computer.sandbox.failNext(fault(FaultKind::delay, 0ms));
     computer.sandbox.failNext(fault(FaultKind::jsonList));

@@ -170,6 +170,7 @@ class FakeWorkspace : public Workspace {
 public:
     std::vector<std::filesystem::path> running;
     bool trashWorks = true;
+    bool pressed = false;
     QScreen* screen = QGuiApplication::primaryScreen();
     /// What happened, in order: "trash PATH", "list PATH", "exit 0"...
     std::vector<std::string> log;
@@ -199,6 +200,7 @@ public:
     }
     void keepOffTaskBar(QWindow& /*window*/) override { log.emplace_back("off the task bar"); }
     [[nodiscard]] QScreen* screenInUse() const override { return screen; }
+    [[nodiscard]] bool pointerPressed() const override { return pressed; }
     void openAfterExit(const std::filesystem::path& application) override {
         log.push_back("open " + application.native());
     }

@@ -73,6 +73,10 @@ public:
     [[nodiscard]] QFuture<DownloadOutcome> download(HttpDownload download) override {
         return real_.download(std::move(download));
     }
+    [[nodiscard]] QFuture<HttpLook> look(std::string url,
+                                         std::chrono::milliseconds limit) override {
+        return real_.look(std::move(url), limit);
+    }
 
 private:
     CurlTransport real_{{.allowHttp = true}};

@@ -8,4 +8,7 @@ namespace quillon {
 /// variable with a relative path or a ".." counts as not set.
 [[nodiscard]] Folders linuxFolders();
 
+/// The name of the folder of the program's data, below `Folders::data`.
+inline constexpr const char* dataFolderName = "Quillon";
+
 } // namespace quillon

@@ -55,7 +55,7 @@ LinuxPlatform::LinuxPlatform(std::unique_ptr<Pasteboard> pasteboard,
                 .bundle = bundle_,
                 .folders = folders_,
                 .system = linuxSystemInfo(),
-                .dataFolder = folders_.data / "Quillon",
+                .dataFolder = folders_.data / dataFolderName,
                 .botApi = baseAddress(botApiVariable, telegramsBotApi),
                 .server = baseAddress(serverVariable, QUILLON_MAKERS_SERVER)} {}
 

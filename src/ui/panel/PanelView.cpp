@@ -6,6 +6,7 @@
 #include "maintenance/Updater.h"
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
+#include "send/Dropped.h"
 #include "state/ShownKeys.h"
 #include "state/Store.h"
 #include "ui/controls/Buttons.h"
@@ -17,6 +18,7 @@
 #include "ui/text/IconLabel.h"
 
 #include <QCoroFuture>
+#include <QDropEvent>
 #include <QPointer>
 #include <QVBoxLayout>
 #include <QtConcurrentRun>
@@ -85,6 +87,7 @@ PanelView::PanelView(Platform& platform, Store& store, const Updater& updater, P
       keyring_{makeWarning()},
       recent_{new RecentSends},
       refresher_{this, [this] { refresh(); }} {
+    setAcceptDrops(true);
     build();
     refresher_.watch(store_, &Store::objectWillChange)
         .watch(updater_, &Updater::objectWillChange)
@@ -137,6 +140,7 @@ void PanelView::refresh() {
     setup_->setShortcut(keys);
     setup_->setVisible(!ready);
     send_->setClip(clip_, store_.busy());
+    send_->setDrop(dragging_);
     send_->setVisible(ready);
     const auto problem = ready ? store_.keyringProblem() : std::nullopt;
     keyring_->setText(QString::fromStdString(problem.value_or("")));
@@ -188,6 +192,33 @@ void PanelView::showEvent(QShowEvent* event) {
 void PanelView::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
     tick_.reset();
+}
+
+void PanelView::dragEnterEvent(QDragEnterEvent* event) {
+    const bool sends = store_.mayBeReady() && !store_.busy() && canBeDropped(*event->mimeData()) &&
+                       (event->possibleActions() & Qt::CopyAction);
+    if (!sends) return event->ignore();
+    // Whoever moves a file removes it from where it was.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    setDragging(true);
+}
+
+void PanelView::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
+    setDragging(false);
+}
+
+void PanelView::dropEvent(QDropEvent* event) {
+    setDragging(false);
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    SendWishes wishes{.via = Trigger::button};
+    std::ignore = store_.send(droppedItems(*event->mimeData()), std::move(wishes));
+}
+
+void PanelView::setDragging(bool dragging) {
+    dragging_ = dragging;
+    refresher_.refreshNow();
 }
 
 void PanelView::tick() {

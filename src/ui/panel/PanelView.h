@@ -55,6 +55,10 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    /// What is dropped on the panel is sent.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void build();
@@ -66,6 +70,7 @@ private:
     /// Looks at everything that changes without a signal, and schedules the next look.
     void tick();
     QCoro::Task<> readClipboard();
+    void setDragging(bool dragging);
 
     Platform& platform_;
     Store& store_;
@@ -75,6 +80,8 @@ private:
     Clipboard::Summary clip_;
     std::unique_ptr<Clock::Timer> tick_;
     bool reading_ = false;
+    /// Something that can be sent is dragged over the panel.
+    bool dragging_ = false;
     /// The pasteboard's change count when clip_ was read. No value if nothing was read, which may
     /// mean that the clipboard's owner did not answer.
     std::optional<std::uint64_t> readAt_;

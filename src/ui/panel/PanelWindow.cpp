@@ -25,6 +25,8 @@ namespace {
 /// A click on the icon first takes the focus, which closes the panel, and is reported only then. A
 /// click that is reported within this time is that same click, and must not open the panel again.
 constexpr std::chrono::milliseconds sameClick{300};
+/// How often a button that is held down is looked at.
+constexpr std::chrono::milliseconds pressedInterval{50};
 constexpr double cornerRadius = 10;
 
 } // namespace
@@ -35,6 +37,8 @@ PanelWindow::PanelWindow(Compositor& compositor, Workspace& workspace, MakePanel
       workspace_{workspace},
       makePanel_{std::move(makePanel)} {
     setWindowTitle(QStringLiteral("Quillon"));
+    pressed_.setInterval(pressedInterval);
+    connect(&pressed_, &QTimer::timeout, this, &PanelWindow::closeUnlessPressed);
 }
 
 PanelWindow::~PanelWindow() = default;
@@ -92,11 +96,16 @@ bool PanelWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool PanelWindow::event(QEvent* event) {
-    if (event->type() == QEvent::WindowDeactivate && isVisible()) {
-        sinceLostFocus_.start();
-        hide();
-    }
+    if (event->type() == QEvent::WindowDeactivate && isVisible()) closeUnlessPressed();
+    if (event->type() == QEvent::WindowActivate) pressed_.stop();
     return QWidget::event(event);
+}
+
+void PanelWindow::closeUnlessPressed() {
+    if (workspace_.pointerPressed()) return pressed_.start();
+    pressed_.stop();
+    sinceLostFocus_.start();
+    hide();
 }
 
 void PanelWindow::keyPressEvent(QKeyEvent* event) {

@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QRect>
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -15,7 +16,8 @@ class ScrollView;
 class Workspace;
 
 /// The small window of the panel. It opens beside the icon that was clicked, and closes on Escape,
-/// when it loses the focus, and when the icon is clicked again.
+/// when it loses the focus, and when the icon is clicked again. While a button of the pointer is
+/// held down elsewhere it stays, for something may be dragged to it.
 class PanelWindow : public QWidget {
     Q_OBJECT
 
@@ -41,6 +43,8 @@ private:
     void makePanel();
     /// Gives the window the panel's size, and keeps it where it opened.
     void place();
+    /// Closes the window once no button of the pointer is held down any more.
+    void closeUnlessPressed();
 
     Compositor& compositor_;
     Workspace& workspace_;
@@ -51,6 +55,8 @@ private:
     QPoint pointer_;
     /// The time since the window closed because it lost the focus.
     QElapsedTimer sinceLostFocus_;
+    /// Runs while the window has lost the focus and stays nevertheless.
+    QTimer pressed_;
 };
 
 } // namespace quillon

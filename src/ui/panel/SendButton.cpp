@@ -10,6 +10,8 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
+#include <utility>
+
 namespace quillon {
 
 namespace {
@@ -24,6 +26,8 @@ constexpr TextStyle titleStyle{14, QFont::Bold};
 // lighter() take.
 constexpr int pressedDarker = 108;
 constexpr int hoverLighter = 103;
+/// The width of the line around the button while something is dragged over the panel.
+constexpr double dropLine = 2;
 
 } // namespace
 
@@ -65,6 +69,14 @@ void SendButton::setClip(const Clipboard::Summary& clip, bool busy) {
     setDescription(*this, busy ? tr("Sending…") : line);
 }
 
+void SendButton::setDrop(bool offered) {
+    if (offered) {
+        title_->setText(tr("Drop to send"));
+        line_->setText(tr("Files, a picture or text"));
+    }
+    if (std::exchange(drop_, offered) != offered) update();
+}
+
 void SendButton::setShortcut(ShortcutChoice shortcut, bool shown) {
     keys_->setLabels(keyLabels(shortcut));
     keys_->setVisible(shown);
@@ -74,10 +86,11 @@ void SendButton::paintGround(QPainter& painter, const Theme& theme) {
     QColor ground = Brand::coral;
     if (isDown()) {
         ground = ground.darker(pressedDarker);
-    } else if (isEnabled() && underMouse()) {
+    } else if (isEnabled() && (underMouse() || drop_)) {
         ground = ground.lighter(hoverLighter);
     }
-    paintBox(painter, rect(), cornerRadius(), theme.fill(ground));
+    const QPen edge = drop_ ? QPen{theme.color(Brand::navy), dropLine} : QPen{Qt::NoPen};
+    paintBox(painter, rect(), cornerRadius(), theme.fill(ground), edge);
 }
 
 Tint SendButton::focusTint() const {

@@ -18,6 +18,9 @@ public:
     SendButton();
 
     void setClip(const Clipboard::Summary& clip, bool busy);
+    /// Says that what is dragged over the panel is sent when it is dropped; to be called after
+    /// setClip().
+    void setDrop(bool offered);
     /// Shows the keys of the shortcut, or none.
     void setShortcut(ShortcutChoice shortcut, bool shown);
 
@@ -30,6 +33,7 @@ private:
     IconLabel* title_;
     IconLabel* line_;
     KeyRow* keys_;
+    bool drop_ = false;
 };
 
 } // namespace quillon

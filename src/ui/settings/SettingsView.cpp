@@ -6,6 +6,7 @@
 #include "ui/settings/GeneralView.h"
 #include "ui/settings/TabStrip.h"
 #include "ui/settings/TopicsView.h"
+#include "ui/settings/TroubleStrip.h"
 #include "ui/setup/SetupView.h"
 #include "ui/text/IconLabel.h"
 
@@ -53,6 +54,7 @@ SettingsView::SettingsView(Store& store, Updater& updater, SettingsActions actio
     : setup_{new SetupView{store}},
       tabs_{new TabStrip},
       pages_{new Pages},
+      troubles_{new TroubleStrip{actions.troubles}},
       offer_{buildOffer(actions.openPanel)},
       measuring_{this, [this] { measure(); }} {
     build();
@@ -81,8 +83,10 @@ void SettingsView::build() {
     column->addSpacing(Space::small);
     column->addWidget(new Divider);
     column->addWidget(new ScrollView{pages_}, 1);
+    column->addWidget(troubles_);
     column->addWidget(offer_);
     offer_->hide();
+    connect(troubles_, &TroubleStrip::changed, this, [this] { measuring_.schedule(); });
 }
 
 QWidget* SettingsView::buildOffer(std::function<void()> openPanel) {
@@ -144,7 +148,8 @@ int SettingsView::fittingWidth() {
 int SettingsView::fittingHeight() const {
     const QWidget* page = pageList_.at(static_cast<std::size_t>(tabs_->currentIndex()));
     const int above = Space::small + tabs_->sizeHint().height() + Space::small + 1;
-    const int below = offer_->isHidden() ? 0 : offer_->sizeHint().height();
+    const int below = (offer_->isHidden() ? 0 : offer_->sizeHint().height()) +
+                      (troubles_->isHidden() ? 0 : troubles_->heightForWidth(fittingWidth()));
     const int height = above + page->heightForWidth(fittingWidth()) + below;
     if (page != setup_ || !setup_->moving()) return height;
     // The window changes its height once: before rows of the guide grow, or after they have shrunk.
@@ -167,6 +172,13 @@ bool SettingsView::eventFilter(QObject* watched, QEvent* event) {
 void SettingsView::showEvent(QShowEvent* event) {
     View::showEvent(event);
     measuring_.schedule();
+    troubles_->look();
+}
+
+/// What was wrong may have been mended in another window.
+bool SettingsView::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) troubles_->lookIfDue();
+    return View::event(event);
 }
 
 void SettingsView::themeChanged() {

@@ -11,6 +11,7 @@ namespace quillon {
 class SetupView;
 class Store;
 class TabStrip;
+class TroubleStrip;
 class Updater;
 
 /// The content of the settings window: three tabs with the setup guide, the topics and the general
@@ -45,6 +46,7 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
     void themeChanged() override;
 
 private:
@@ -62,6 +64,7 @@ private:
     TabStrip* tabs_;
     QWidget* pages_;
     std::vector<QWidget*> pageList_;
+    TroubleStrip* troubles_;
     QWidget* offer_;
     int reported_ = 0;
     Refresher measuring_;

@@ -7,6 +7,8 @@
 #include "ui/text/Keycap.h"
 #include "ui/text/SymbolView.h"
 
+#include <QMimeData>
+
 #include <ctime>
 
 namespace quillon::test {
@@ -161,6 +163,36 @@ TEST_F(ReadyPanel, SendsTheClipboardAndSaysSo) {
     EXPECT_EQ(clipSymbol(), "text.alignleft");
     EXPECT_THAT(computer.messages("notes"), SizeIs(1));
     EXPECT_TRUE(button(sendName)->isEnabled());
+}
+
+TEST_F(ReadyPanel, SendsWhatIsDroppedAndLeavesItWhereItWas) {
+    open();
+    const auto dragged = [this](const QMimeData& data, Qt::DropActions offered) {
+        QDragEnterEvent event{{}, offered, &data, Qt::LeftButton, {}};
+        QCoreApplication::sendEvent(&*panel, &event);
+        return event.isAccepted() && event.dropAction() == Qt::CopyAction;
+    };
+    computer.files.createFolder(computer.path("documents"));
+    computer.files.write(computer.path("documents/a b.mov"), "x");
+    QMimeData file;
+    file.setUrls(
+        {QUrl::fromLocalFile(QString::fromStdString(computer.path("documents/a b.mov").native()))});
+    QMimeData link;
+    link.setUrls({QUrl{QStringLiteral("https://example.com/a")}});
+    QMimeData color;
+    color.setColorData(QColor{Qt::red});
+    EXPECT_FALSE(dragged(color, Qt::CopyAction));
+    EXPECT_FALSE(dragged(file, Qt::MoveAction));
+    for (const auto& [data, topic] : {std::pair{&file, "videos"}, std::pair{&link, "notes"}}) {
+        ASSERT_TRUE(dragged(*data, Qt::CopyAction | Qt::MoveAction));
+        EXPECT_THAT(seen(), Contains("Drop to send"));
+        QDropEvent drop{{}, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, {}};
+        QCoreApplication::sendEvent(&*panel, &drop);
+        EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+        EXPECT_TRUE(waitUntil([&] { return computer.messages(topic).size() == 1; }));
+        EXPECT_TRUE(waitUntil([&] { return !computer.store->busy(); }));
+    }
+    EXPECT_THAT(seen(), AllOf(Contains("Send clipboard"), Contains("a b.mov")));
 }
 
 TEST_F(ReadyPanel, FollowsAKeyringThatIsNotThereOrLocked) {

@@ -6,6 +6,8 @@
 #include "support/TestComputer.h"
 #include "ui/panel/PanelView.h"
 
+#include <QTest>
+
 namespace quillon::test {
 
 struct PanelWindowTest : testing::Test {
@@ -32,6 +34,20 @@ TEST_F(PanelWindowTest, ClosesWithItsIconAndWhenSomethingElseTakesTheFocus) {
     EXPECT_TRUE(window.isVisible());
     window.toggle(icon); // without taking the focus
     EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(PanelWindowTest, StaysWhileSomethingMayBeDraggedToIt) {
+    window.open(icon);
+    ASSERT_TRUE(waitUntil([this] { return window.isActiveWindow(); }));
+    computer.workspace.pressed = true;
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return other.isActiveWindow(); }));
+    QTest::qWait(120);
+    EXPECT_TRUE(window.isVisible());
+    computer.workspace.pressed = false;
+    EXPECT_TRUE(waitUntil([this] { return !window.isVisible(); }));
 }
 
 TEST_F(PanelWindowTest, GrowsWithItsContent) {

@@ -33,7 +33,12 @@ struct SettingsTest : testing::Test {
     [[nodiscard]] bool on(const char* name) const { return controls.get<Switch>(name).isChecked(); }
     [[nodiscard]] const Config& config() const { return computer.store->config(); }
 
+    static QCoro::Task<std::vector<std::string>> look(std::vector<std::string> found) {
+        co_return found;
+    }
+
     ConnectedComputer computer;
+    std::vector<std::string> troubles;
     FakeFramework* framework = nullptr;
     Updater updater{computer.platform, *computer.analytics, fakeHooks(framework)};
     int uninstalls = 0;
@@ -45,7 +50,8 @@ struct SettingsTest : testing::Test {
                                       .uninstall = [this]() -> QCoro::Task<> {
                                           ++uninstalls;
                                           co_return;
-                                      }},
+                                      },
+                                      .troubles = [this] { return look(troubles); }},
                       QStringLiteral("setup")};
     Controls controls{view};
 };
@@ -69,6 +75,31 @@ TEST_F(SettingsTest, ReportsTheHeightOfEachTab) {
     EXPECT_GT(reported[1], reported[0]);
     show("nowhere");
     EXPECT_EQ(view.tab(), QStringLiteral("topics"));
+}
+
+TEST_F(SettingsTest, TellsWhatIsWrongUntilItIsMended) {
+    const auto comeBack = [this] {
+        view.hide();
+        view.show();
+        turn();
+    };
+    const int height = view.fittingHeight();
+    troubles = {"Keyring: it is locked. <b>Unlock</b> it.", "b", "c", "d", "e"};
+    comeBack();
+    EXPECT_TRUE(shows("Keyring: it is locked. <b>Unlock</b> it."));
+    EXPECT_TRUE(shows("c"));
+    EXPECT_FALSE(shows("d"));
+    EXPECT_TRUE(shows("2 more: quillon doctor"));
+    EXPECT_GT(view.fittingHeight(), height);
+    troubles = {"Keyring: it is locked. <b>Unlock</b> it."};
+    QEvent activation{QEvent::WindowActivate}; // which Qt passes on from the window
+    QCoreApplication::sendEvent(&view, &activation);
+    turn();
+    EXPECT_FALSE(shows("c"));
+    troubles.clear();
+    comeBack();
+    EXPECT_FALSE(shows("Keyring: it is locked. <b>Unlock</b> it."));
+    EXPECT_EQ(view.fittingHeight(), height);
 }
 
 TEST_F(SettingsTest, RegistersThePickedShortcutAndTellsOfOneThatIsTaken) {

@@ -86,6 +86,10 @@ QScreen* LinuxWorkspace::screenInUse() const {
     return pointed ? pointed : QGuiApplication::primaryScreen();
 }
 
+bool LinuxWorkspace::pointerPressed() const {
+    return quillon::pointerPressed();
+}
+
 void LinuxWorkspace::openAfterExit(const std::filesystem::path& application) {
     quillon::openAfterExit(application);
 }

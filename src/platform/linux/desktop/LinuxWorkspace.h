@@ -20,6 +20,7 @@ public:
     void bringToFront(QWindow& window) override;
     void keepOffTaskBar(QWindow& window) override;
     [[nodiscard]] QScreen* screenInUse() const override;
+    [[nodiscard]] bool pointerPressed() const override;
     void openAfterExit(const std::filesystem::path& application) override;
     void terminate() override;
     void exitNow(int status) override;

@@ -1,6 +1,7 @@
 #include "platform/linux/http/CurlTransport.h"
 
 #include "platform/linux/http/CurlDownload.h"
+#include "platform/linux/http/CurlLook.h"
 #include "platform/linux/http/CurlRequest.h"
 #include "platform/linux/http/LibCurl.h"
 
@@ -257,6 +258,11 @@ QFuture<std::optional<HttpReply>> CurlTransport::get(HttpRequest request) {
 
 QFuture<DownloadOutcome> CurlTransport::download(HttpDownload download) {
     return start<CurlDownload>(std::move(download));
+}
+
+QFuture<HttpLook> CurlTransport::look(std::string url, std::chrono::milliseconds limit) {
+    return start<CurlLook>(
+        CurlLook::Request{.url = std::move(url), .limit = limit, .progress = {}});
 }
 
 } // namespace quillon

@@ -30,6 +30,7 @@ public:
     [[nodiscard]] QFuture<std::optional<HttpReply>> post(HttpRequest request) override;
     [[nodiscard]] QFuture<std::optional<HttpReply>> get(HttpRequest request) override;
     [[nodiscard]] QFuture<DownloadOutcome> download(HttpDownload download) override;
+    [[nodiscard]] QFuture<HttpLook> look(std::string url, std::chrono::milliseconds limit) override;
 
 private:
     class ProgressListeners;

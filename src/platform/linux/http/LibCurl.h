@@ -5,10 +5,11 @@
 /// The functions of libcurl that are used here, without "curl_" before their names.
 #define QUILLON_CURL_FUNCTIONS(each)                                                               \
     each(easy_cleanup) each(easy_getinfo) each(easy_init) each(easy_setopt) each(free)             \
-        each(global_init) each(multi_add_handle) each(multi_cleanup) each(multi_info_read)         \
-            each(multi_init) each(multi_perform) each(multi_poll) each(multi_remove_handle)        \
-                each(multi_wakeup) each(slist_append) each(slist_free_all) each(url)               \
-                    each(url_cleanup) each(url_get) each(url_set) each(version_info)
+        each(getdate) each(global_init) each(multi_add_handle) each(multi_cleanup)                 \
+            each(multi_info_read) each(multi_init) each(multi_perform) each(multi_poll)            \
+                each(multi_remove_handle) each(multi_wakeup) each(slist_append)                    \
+                    each(slist_free_all) each(url) each(url_cleanup) each(url_get) each(url_set)   \
+                        each(version_info)
 
 namespace quillon {
 

@@ -58,6 +58,17 @@ QScreen* screenOfActiveWindow() {
     return centre ? screenAt(*centre) : nullptr;
 }
 
+bool pointerPressed() {
+    xcb_connection_t* const connection = qtConnection();
+    if (!connection) return false;
+    const auto cookie = xcb_query_pointer(connection, rootWindow(connection));
+    const XcbPointer<xcb_query_pointer_reply_t> reply{
+        xcb_query_pointer_reply(connection, cookie, nullptr)};
+    constexpr unsigned buttons =
+        XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3; // the others are the wheel's
+    return reply && (reply->mask & buttons) != 0;
+}
+
 void keepOffTaskBar(QWindow& window) {
     xcb_connection_t* const connection = qtConnection();
     if (!connection) return;

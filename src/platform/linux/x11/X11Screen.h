@@ -13,4 +13,8 @@ namespace quillon {
 /// time before the window shows: window managers forget it of a window that they take away.
 void keepOffTaskBar(QWindow& window);
 
+/// Whether a button of the pointer is held down, in whichever window; false where Qt is not on an X
+/// server.
+[[nodiscard]] bool pointerPressed();
+
 } // namespace quillon
