@@ -16,7 +16,7 @@
     </message>
     <message>
         <source>There is no desktop to work on: neither an X server nor a Wayland compositor answers.</source>
-        <translation>Es gibt keine Arbeitsumgebung: Weder ein X-Server noch ein Wayland-Compositor antwortet.</translation>
+        <translation>Es gibt keinen Desktop: Weder ein X-Server noch ein Wayland-Compositor antwortet.</translation>
     </message>
 </context>
 <context>
@@ -110,7 +110,7 @@
     </message>
     <message>
         <source>The clipboard is out of reach. This desktop offers neither data-control nor Xwayland.</source>
-        <translation>Die Zwischenablage ist nicht erreichbar. Diese Arbeitsumgebung bietet weder data-control noch Xwayland.</translation>
+        <translation>Die Zwischenablage ist nicht erreichbar. Dieser Desktop bietet weder data-control noch Xwayland.</translation>
     </message>
 </context>
 <context>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
-        <translation>in den Einstellungen der Arbeitsumgebung ausgeschaltet</translation>
+        <translation>in den Einstellungen des Desktops ausgeschaltet</translation>
     </message>
     <message>
         <source>on, but what it would open is not there: switch it on again</source>
@@ -209,23 +209,23 @@
     </message>
     <message>
         <source>Quillon was not ready to send within a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon war nicht binnen einer Minute bereit zu senden.</translation>
     </message>
     <message>
         <source>There is no Quillon running to follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es läuft kein Quillon, dem zu folgen wäre.</translation>
     </message>
     <message>
         <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das laufende Quillon ist eine andere Version und kennt diesen Befehl nicht. Beenden Sie es und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>Standard input could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standardeingabe konnte nicht gelesen werden.</translation>
     </message>
     <message>
         <source>Standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardeingabe</translation>
     </message>
 </context>
 <context>
@@ -332,35 +332,35 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>a file to send</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Datei, die gesendet wird</translation>
     </message>
     <message>
         <source>to notes, images, files or videos</source>
-        <translation type="unfinished"></translation>
+        <translation>an notes, images, files oder videos</translation>
     </message>
     <message>
         <source>standard input as a file of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>die Standardeingabe als Datei dieses Namens</translation>
     </message>
     <message>
         <source>send the clipboard, files, or with - or by a pipe standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenablage, Dateien oder mit - oder über eine Pipe die Standardeingabe senden</translation>
     </message>
     <message>
         <source>wait up to a minute until it can send</source>
-        <translation type="unfinished"></translation>
+        <translation>bis zu eine Minute warten, bis es senden kann</translation>
     </message>
     <message>
         <source>print what is sent from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>ausgeben, was von jetzt an gesendet wird</translation>
     </message>
     <message>
         <source>tell names, too</source>
-        <translation type="unfinished"></translation>
+        <translation>auch Namen nennen</translation>
     </message>
     <message>
         <source>tell what is wrong, and how to mend it</source>
-        <translation type="unfinished"></translation>
+        <translation>sagen, was nicht stimmt und was hilft</translation>
     </message>
 </context>
 <context>
@@ -543,7 +543,7 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
-        <translation type="unfinished">in den Einstellungen der Arbeitsumgebung ausgeschaltet</translation>
+        <translation>in den Einstellungen des Desktops ausgeschaltet</translation>
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
@@ -659,7 +659,7 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">Tastenkürzel</translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Banner</source>
@@ -679,15 +679,15 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>Opening at login</source>
-        <translation type="unfinished">Den Start bei der Anmeldung</translation>
+        <translation>Den Start bei der Anmeldung</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished">Aktualisierungen</translation>
+        <translation>Aktualisierungen</translation>
     </message>
     <message>
         <source>Keyring</source>
-        <translation type="unfinished">Schlüsselbund</translation>
+        <translation>Schlüsselbund</translation>
     </message>
     <message>
         <source>Network</source>
@@ -699,11 +699,11 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>Bot</source>
-        <translation type="unfinished">Bot</translation>
+        <translation>Bot</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Gruppe</translation>
+        <translation>Gruppe</translation>
     </message>
     <message>
         <source>Topics</source>
@@ -1062,11 +1062,11 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>%1 holds nothing to send.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enthält nichts, was zu senden wäre.</translation>
     </message>
     <message>
         <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist weder Text noch ein PNG-Bild. Geben Sie dem Inhalt mit --name einen Dateinamen.</translation>
     </message>
 </context>
 <context>
@@ -1116,23 +1116,23 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>On this desktop the shortcut is %2.</source>
-        <translation>In dieser Arbeitsumgebung ist das Tastenkürzel %2.</translation>
+        <translation>Auf diesem Desktop ist das Tastenkürzel %2.</translation>
     </message>
     <message>
         <source>Your desktop is setting up %1. If it asks you, answer there.</source>
-        <translation>Die Arbeitsumgebung richtet %1 ein. Falls sie fragt, antworten Sie dort.</translation>
+        <translation>Der Desktop richtet %1 ein. Falls er fragt, antworten Sie dort.</translation>
     </message>
     <message>
         <source>Your desktop knows the shortcut, but gives it no keys yet.</source>
-        <translation>Die Arbeitsumgebung kennt das Tastenkürzel, gibt ihm aber noch keine Tasten.</translation>
+        <translation>Der Desktop kennt das Tastenkürzel, gibt ihm aber noch keine Tasten.</translation>
     </message>
     <message>
         <source>Your desktop gives the shortcut no keys yet. See Settings.</source>
-        <translation>Die Arbeitsumgebung gibt dem Tastenkürzel noch keine Tasten. Siehe Einstellungen.</translation>
+        <translation>Der Desktop gibt dem Tastenkürzel noch keine Tasten. Siehe Einstellungen.</translation>
     </message>
     <message>
         <source>You declined the shortcut when your desktop asked.</source>
-        <translation>Sie haben das Tastenkürzel abgelehnt, als die Arbeitsumgebung fragte.</translation>
+        <translation>Sie haben das Tastenkürzel abgelehnt, als der Desktop fragte.</translation>
     </message>
     <message>
         <source>You declined the shortcut. Settings can ask again.</source>
@@ -1140,11 +1140,11 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>Your desktop&apos;s shortcuts have stopped. %1 works again as soon as they are back.</source>
-        <translation>Die Tastenkürzel der Arbeitsumgebung sind ausgefallen. %1 geht wieder, sobald sie zurück sind.</translation>
+        <translation>Die Tastenkürzel des Desktops sind ausgefallen. %1 geht wieder, sobald sie zurück sind.</translation>
     </message>
     <message>
         <source>Your desktop gives programs no shortcuts. Quillon can add %1 to your keyboard settings, where you can change it.</source>
-        <translation>Die Arbeitsumgebung gibt Programmen keine Tastenkürzel. Quillon kann %1 in Ihre Tastatureinstellungen eintragen, wo Sie es ändern können.</translation>
+        <translation>Der Desktop gibt Programmen keine Tastenkürzel. Quillon kann %1 in Ihre Tastatureinstellungen eintragen, wo Sie es ändern können.</translation>
     </message>
     <message>
         <source>The shortcut is not set up yet. Settings can add it.</source>
@@ -1152,19 +1152,19 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>Your desktop keeps shortcuts in a file of its own. For %1, add this line to %3:</source>
-        <translation>Die Arbeitsumgebung hält Tastenkürzel in einer eigenen Datei. Fügen Sie für %1 in %3 diese Zeile ein:</translation>
+        <translation>Der Desktop hält Tastenkürzel in einer eigenen Datei. Fügen Sie für %1 in %3 diese Zeile ein:</translation>
     </message>
     <message>
         <source>Your desktop has not set up %1. Ask it again, or bind this command in its keyboard settings:</source>
-        <translation>Die Arbeitsumgebung hat %1 nicht eingerichtet. Fragen Sie noch einmal, oder belegen Sie die Tasten in den Tastatureinstellungen mit diesem Befehl:</translation>
+        <translation>Der Desktop hat %1 nicht eingerichtet. Fragen Sie noch einmal, oder belegen Sie die Tasten in den Tastatureinstellungen mit diesem Befehl:</translation>
     </message>
     <message>
         <source>Your desktop gives programs no shortcuts. For %1, bind this command in its keyboard settings:</source>
-        <translation>Die Arbeitsumgebung gibt Programmen keine Tastenkürzel. Belegen Sie %1 in den Tastatureinstellungen mit diesem Befehl:</translation>
+        <translation>Der Desktop gibt Programmen keine Tastenkürzel. Belegen Sie %1 in den Tastatureinstellungen mit diesem Befehl:</translation>
     </message>
     <message>
         <source>This desktop gives programs no shortcuts.</source>
-        <translation>Diese Arbeitsumgebung gibt Programmen keine Tastenkürzel.</translation>
+        <translation>Dieser Desktop gibt Programmen keine Tastenkürzel.</translation>
     </message>
     <message>
         <source>Send the clipboard to the phone</source>
@@ -1651,11 +1651,11 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>Drop to send</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Senden ablegen</translation>
     </message>
     <message>
         <source>Files, a picture or text</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, ein Bild oder Text</translation>
     </message>
 </context>
 <context>
@@ -1678,7 +1678,7 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>This desktop shows no icon for Quillon.</source>
-        <translation>Diese Arbeitsumgebung zeigt kein Symbol für Quillon.</translation>
+        <translation>Dieser Desktop zeigt kein Symbol für Quillon.</translation>
     </message>
 </context>
 <context>
@@ -1904,9 +1904,9 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     <name>quillon::TroubleStrip</name>
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n weiterer Punkt: quillon doctor</numerusform>
+            <numerusform>%n weitere Punkte: quillon doctor</numerusform>
         </translation>
     </message>
 </context>

@@ -1898,9 +1898,9 @@ Without a command it stays, and sends whenever you press its shortcut.
     <name>quillon::TroubleStrip</name>
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n more: quillon doctor</numerusform>
+            <numerusform>%n more: quillon doctor</numerusform>
         </translation>
     </message>
 </context>

@@ -209,23 +209,23 @@
     </message>
     <message>
         <source>Quillon was not ready to send within a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon no estuvo listo para enviar en un minuto.</translation>
     </message>
     <message>
         <source>There is no Quillon running to follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún Quillon en ejecución que seguir.</translation>
     </message>
     <message>
         <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El Quillon en ejecución es otra versión, que no conoce esta orden. Ciérrelo e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Standard input could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo leer la entrada estándar.</translation>
     </message>
     <message>
         <source>Standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada estándar</translation>
     </message>
 </context>
 <context>
@@ -332,35 +332,35 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>a file to send</source>
-        <translation type="unfinished"></translation>
+        <translation>un archivo que enviar</translation>
     </message>
     <message>
         <source>to notes, images, files or videos</source>
-        <translation type="unfinished"></translation>
+        <translation>a notes, images, files o videos</translation>
     </message>
     <message>
         <source>standard input as a file of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>la entrada estándar como archivo con este nombre</translation>
     </message>
     <message>
         <source>send the clipboard, files, or with - or by a pipe standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>enviar el portapapeles, archivos o, con - o por una tubería, la entrada estándar</translation>
     </message>
     <message>
         <source>wait up to a minute until it can send</source>
-        <translation type="unfinished"></translation>
+        <translation>esperar hasta un minuto a que pueda enviar</translation>
     </message>
     <message>
         <source>print what is sent from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>mostrar lo que se envíe a partir de ahora</translation>
     </message>
     <message>
         <source>tell names, too</source>
-        <translation type="unfinished"></translation>
+        <translation>decir también nombres</translation>
     </message>
     <message>
         <source>tell what is wrong, and how to mend it</source>
-        <translation type="unfinished"></translation>
+        <translation>decir qué falla y cómo arreglarlo</translation>
     </message>
 </context>
 <context>
@@ -543,7 +543,7 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
-        <translation type="unfinished">desactivado en la configuración del escritorio</translation>
+        <translation>desactivado en la configuración del escritorio</translation>
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
@@ -659,7 +659,7 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">Atajo</translation>
+        <translation>Atajo</translation>
     </message>
     <message>
         <source>Banner</source>
@@ -679,15 +679,15 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>Opening at login</source>
-        <translation type="unfinished">La apertura al iniciar sesión</translation>
+        <translation>La apertura al iniciar sesión</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished">Actualizaciones</translation>
+        <translation>Actualizaciones</translation>
     </message>
     <message>
         <source>Keyring</source>
-        <translation type="unfinished">Depósito de claves</translation>
+        <translation>Depósito de claves</translation>
     </message>
     <message>
         <source>Network</source>
@@ -699,11 +699,11 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>Bot</source>
-        <translation type="unfinished">Bot</translation>
+        <translation>Bot</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Grupo</translation>
+        <translation>Grupo</translation>
     </message>
     <message>
         <source>Topics</source>
@@ -1062,11 +1062,11 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>%1 holds nothing to send.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no contiene nada que enviar.</translation>
     </message>
     <message>
         <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es texto ni una imagen PNG. Déle un nombre de archivo con --name.</translation>
     </message>
 </context>
 <context>
@@ -1651,11 +1651,11 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>Drop to send</source>
-        <translation type="unfinished"></translation>
+        <translation>Suelte para enviar</translation>
     </message>
     <message>
         <source>Files, a picture or text</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos, una imagen o texto</translation>
     </message>
 </context>
 <context>
@@ -1904,9 +1904,9 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     <name>quillon::TroubleStrip</name>
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n más: quillon doctor</numerusform>
+            <numerusform>%n más: quillon doctor</numerusform>
         </translation>
     </message>
 </context>

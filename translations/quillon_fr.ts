@@ -16,18 +16,18 @@
     </message>
     <message>
         <source>There is no desktop to work on: neither an X server nor a Wayland compositor answers.</source>
-        <translation>Aucun bureau trouvé&#xa0;: ni serveur X ni compositeur Wayland ne répond.</translation>
+        <translation>Aucun bureau trouvé : ni serveur X ni compositeur Wayland ne répond.</translation>
     </message>
 </context>
 <context>
     <name>AppMover</name>
     <message>
         <source>macOS is running Quillon from a hidden copy. Open your Downloads folder and drag Quillon into Applications yourself, then open it from there.</source>
-        <translation>Quillon s’exécute depuis une copie cachée. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans «&#xa0;Applications&#xa0;» et lancez-le de là.</translation>
+        <translation>Quillon s’exécute depuis une copie cachée. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans « Applications » et lancez-le de là.</translation>
     </message>
     <message>
         <source>Your Mac didn&apos;t allow Quillon to write to the Applications folder. Open your Downloads folder and drag Quillon into Applications yourself, then open it from there.</source>
-        <translation>L’ordinateur n’a pas laissé Quillon écrire dans le dossier des applications. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans «&#xa0;Applications&#xa0;» et lancez-le de là.</translation>
+        <translation>L’ordinateur n’a pas laissé Quillon écrire dans le dossier des applications. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans « Applications » et lancez-le de là.</translation>
     </message>
     <message>
         <source>An older Quillon is open from Applications. Quit it from its menu, then try again.</source>
@@ -39,7 +39,7 @@
     </message>
     <message>
         <source>Your Mac didn&apos;t allow the move. Open your Downloads folder and drag Quillon into Applications yourself, then open it from there.</source>
-        <translation>L’ordinateur n’a pas permis le déplacement. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans «&#xa0;Applications&#xa0;» et lancez-le de là.</translation>
+        <translation>L’ordinateur n’a pas permis le déplacement. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans « Applications » et lancez-le de là.</translation>
     </message>
     <message>
         <source>Quillon couldn&apos;t move itself</source>
@@ -51,7 +51,7 @@
     </message>
     <message>
         <source>Move Quillon to your Applications folder?</source>
-        <translation>Déplacer Quillon dans le dossier des applications&#xa0;?</translation>
+        <translation>Déplacer Quillon dans le dossier des applications ?</translation>
     </message>
     <message>
         <source>It needs to be there to update itself.</source>
@@ -102,7 +102,7 @@
     <message>
         <source>“%1”</source>
         <comment>a copied text</comment>
-        <translation>«&#xa0;%1&#xa0;»</translation>
+        <translation>« %1 »</translation>
     </message>
     <message>
         <source>The clipboard is empty</source>
@@ -117,7 +117,7 @@
     <name>Command</name>
     <message>
         <source>Bot token: </source>
-        <translation>Token du bot&#xa0;: </translation>
+        <translation>Token du bot : </translation>
     </message>
     <message>
         <source>Another send is still running.</source>
@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>The setup could not be saved. Is there room on the disk?</source>
-        <translation>La configuration n’a pas pu être enregistrée. Reste-t-il de la place sur le disque&#xa0;?</translation>
+        <translation>La configuration n’a pas pu être enregistrée. Reste-t-il de la place sur le disque ?</translation>
     </message>
     <message>
         <source>The bot answers, but no keyring could keep its token.</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Found “%1”</source>
-        <translation>«&#xa0;%1&#xa0;» trouvé</translation>
+        <translation>« %1 » trouvé</translation>
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>on, but what it would open is not there: switch it on again</source>
-        <translation>activé, mais ce qu’il faudrait ouvrir n’est pas là&#xa0;: activez-le de nouveau</translation>
+        <translation>activé, mais ce qu’il faudrait ouvrir n’est pas là : activez-le de nouveau</translation>
     </message>
     <message>
         <source>Quillon could not be set to open at login.</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Quillon and all it has stored are gone; the app is in the Trash</source>
-        <translation>Quillon et tout ce qu’il a enregistré sont supprimés&#xa0;; l’application est dans la corbeille</translation>
+        <translation>Quillon et tout ce qu’il a enregistré sont supprimés ; l’application est dans la corbeille</translation>
     </message>
     <message>
         <source>The app is in the Trash</source>
@@ -209,23 +209,23 @@
     </message>
     <message>
         <source>Quillon was not ready to send within a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon n’était pas prêt à envoyer au bout d’une minute.</translation>
     </message>
     <message>
         <source>There is no Quillon running to follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun Quillon en cours à suivre.</translation>
     </message>
     <message>
         <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le Quillon en cours est une autre version, qui ne connaît pas cette commande. Quittez-le et réessayez.</translation>
     </message>
     <message>
         <source>Standard input could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’entrée standard n’a pas pu être lue.</translation>
     </message>
     <message>
         <source>Standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée standard</translation>
     </message>
 </context>
 <context>
@@ -240,7 +240,7 @@ Without a command it stays, and sends whenever you press its shortcut.
 </source>
         <translation>Quillon envoie ce que vous copiez sur votre téléphone, par votre propre bot Telegram.
 
-Utilisation&#xa0;: quillon [COMMANDE]
+Utilisation : quillon [COMMANDE]
 
 Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
 
@@ -248,7 +248,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Exit status: 0 done, 1 failed, 2 the command line was not understood.</source>
-        <translation>Code de retour&#xa0;: 0 réussi, 1 échec, 2 ligne de commande non comprise.</translation>
+        <translation>Code de retour : 0 réussi, 1 échec, 2 ligne de commande non comprise.</translation>
     </message>
     <message>
         <source>answer as JSON</source>
@@ -256,15 +256,15 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>show the panel; starts Quillon if it is not running</source>
-        <translation>afficher le panneau&#xa0;; lance Quillon s’il ne tourne pas</translation>
+        <translation>afficher le panneau ; lance Quillon s’il ne tourne pas</translation>
     </message>
     <message>
         <source>show the settings; starts Quillon if it is not running</source>
-        <translation>afficher les paramètres&#xa0;; lance Quillon s’il ne tourne pas</translation>
+        <translation>afficher les paramètres ; lance Quillon s’il ne tourne pas</translation>
     </message>
     <message>
         <source>connect your bot; reads its token from standard input</source>
-        <translation>connecter votre bot&#xa0;; lit son token sur l’entrée standard</translation>
+        <translation>connecter votre bot ; lit son token sur l’entrée standard</translation>
     </message>
     <message>
         <source>find the group in which you wrote to the bot</source>
@@ -312,7 +312,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>tell whether there is a newer version; install it</source>
-        <translation>dire s’il existe une version plus récente&#xa0;; l’installer</translation>
+        <translation>dire s’il existe une version plus récente ; l’installer</translation>
     </message>
     <message>
         <source>yes, remove it</source>
@@ -332,35 +332,35 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>a file to send</source>
-        <translation type="unfinished"></translation>
+        <translation>un fichier à envoyer</translation>
     </message>
     <message>
         <source>to notes, images, files or videos</source>
-        <translation type="unfinished"></translation>
+        <translation>vers notes, images, files ou videos</translation>
     </message>
     <message>
         <source>standard input as a file of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>l’entrée standard comme fichier de ce nom</translation>
     </message>
     <message>
         <source>send the clipboard, files, or with - or by a pipe standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>envoyer le presse-papiers, des fichiers ou, avec - ou par un tube, l’entrée standard</translation>
     </message>
     <message>
         <source>wait up to a minute until it can send</source>
-        <translation type="unfinished"></translation>
+        <translation>attendre jusqu’à une minute qu’il puisse envoyer</translation>
     </message>
     <message>
         <source>print what is sent from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>afficher ce qui est envoyé à partir de maintenant</translation>
     </message>
     <message>
         <source>tell names, too</source>
-        <translation type="unfinished"></translation>
+        <translation>dire aussi les noms</translation>
     </message>
     <message>
         <source>tell what is wrong, and how to mend it</source>
-        <translation type="unfinished"></translation>
+        <translation>dire ce qui ne va pas, et comment y remédier</translation>
     </message>
 </context>
 <context>
@@ -543,7 +543,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
-        <translation type="unfinished">désactivé dans les paramètres du bureau</translation>
+        <translation>désactivé dans les paramètres du bureau</translation>
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
@@ -659,7 +659,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">Raccourci</translation>
+        <translation>Raccourci</translation>
     </message>
     <message>
         <source>Banner</source>
@@ -679,15 +679,15 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Opening at login</source>
-        <translation type="unfinished">L’ouverture à la connexion</translation>
+        <translation>L’ouverture à la connexion</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished">Mises à jour</translation>
+        <translation>Mises à jour</translation>
     </message>
     <message>
         <source>Keyring</source>
-        <translation type="unfinished">Trousseau</translation>
+        <translation>Trousseau</translation>
     </message>
     <message>
         <source>Network</source>
@@ -699,11 +699,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Bot</source>
-        <translation type="unfinished">Bot</translation>
+        <translation>Bot</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Groupe</translation>
+        <translation>Groupe</translation>
     </message>
     <message>
         <source>Topics</source>
@@ -1019,11 +1019,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>%1 is over 50 MB (Telegram&apos;s limit for bots)</source>
-        <translation>%1 dépasse 50&#xa0;Mo (la limite de Telegram pour les bots)</translation>
+        <translation>%1 dépasse 50 Mo (la limite de Telegram pour les bots)</translation>
     </message>
     <message>
         <source>Folders can&apos;t be sent yet: %1</source>
-        <translation>Les dossiers ne peuvent pas encore être envoyés&#xa0;: %1</translation>
+        <translation>Les dossiers ne peuvent pas encore être envoyés : %1</translation>
     </message>
     <message>
         <source>Couldn&apos;t read %1</source>
@@ -1035,7 +1035,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Not sent: the send was stopped.</source>
-        <translation>Non envoyé&#xa0;: l’envoi a été arrêté.</translation>
+        <translation>Non envoyé : l’envoi a été arrêté.</translation>
     </message>
     <message>
         <source>%1 sent, %2 failed</source>
@@ -1062,11 +1062,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>%1 holds nothing to send.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne contient rien à envoyer.</translation>
     </message>
     <message>
         <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est ni un texte ni une image PNG. Donnez un nom de fichier avec --name.</translation>
     </message>
 </context>
 <context>
@@ -1085,11 +1085,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>No group found yet. Add the bot to your group, then send “hi” in the group and try again.</source>
-        <translation>Aucun groupe trouvé pour l’instant. Ajoutez le bot à votre groupe, envoyez-y «&#xa0;hi&#xa0;» et réessayez.</translation>
+        <translation>Aucun groupe trouvé pour l’instant. Ajoutez le bot à votre groupe, envoyez-y « hi » et réessayez.</translation>
     </message>
     <message>
         <source>Found “%1”, but Topics are off. Turn on Topics in the group settings.</source>
-        <translation>«&#xa0;%1&#xa0;» trouvé, mais les sujets y sont désactivés. Activez les sujets dans les paramètres du groupe.</translation>
+        <translation>« %1 » trouvé, mais les sujets y sont désactivés. Activez les sujets dans les paramètres du groupe.</translation>
     </message>
     <message>
         <source>your group</source>
@@ -1097,7 +1097,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Couldn&apos;t create topics. Make the bot an admin with “Manage Topics” and try again.</source>
-        <translation>Impossible de créer les sujets. Nommez le bot administrateur avec «&#xa0;Gérer les sujets&#xa0;» et réessayez.</translation>
+        <translation>Impossible de créer les sujets. Nommez le bot administrateur avec « Gérer les sujets » et réessayez.</translation>
     </message>
     <message>
         <source>Find your group first.</source>
@@ -1152,15 +1152,15 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Your desktop keeps shortcuts in a file of its own. For %1, add this line to %3:</source>
-        <translation>Votre bureau garde les raccourcis dans un fichier à lui. Pour %1, ajoutez cette ligne à %3&#xa0;:</translation>
+        <translation>Votre bureau garde les raccourcis dans un fichier à lui. Pour %1, ajoutez cette ligne à %3 :</translation>
     </message>
     <message>
         <source>Your desktop has not set up %1. Ask it again, or bind this command in its keyboard settings:</source>
-        <translation>Votre bureau n’a pas mis en place %1. Redemandez-lui, ou associez cette commande dans ses paramètres de clavier&#xa0;:</translation>
+        <translation>Votre bureau n’a pas mis en place %1. Redemandez-lui, ou associez cette commande dans ses paramètres de clavier :</translation>
     </message>
     <message>
         <source>Your desktop gives programs no shortcuts. For %1, bind this command in its keyboard settings:</source>
-        <translation>Votre bureau ne donne pas de raccourcis aux programmes. Pour %1, associez cette commande dans ses paramètres de clavier&#xa0;:</translation>
+        <translation>Votre bureau ne donne pas de raccourcis aux programmes. Pour %1, associez cette commande dans ses paramètres de clavier :</translation>
     </message>
     <message>
         <source>This desktop gives programs no shortcuts.</source>
@@ -1187,7 +1187,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <name>Status</name>
     <message>
         <source>%1:</source>
-        <translation>%1&#xa0;:</translation>
+        <translation>%1 :</translation>
     </message>
     <message>
         <source>connected</source>
@@ -1278,7 +1278,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <message>
         <source>%1 %2 of %3 MB</source>
         <comment>what is done, and how far it is</comment>
-        <translation>%1 %2 sur %3&#xa0;Mo</translation>
+        <translation>%1 %2 sur %3 Mo</translation>
     </message>
 </context>
 <context>
@@ -1339,7 +1339,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <name>UpdateError</name>
     <message>
         <source>Quillon cannot update itself where it lies now: that disk cannot be written to.</source>
-        <translation>Quillon ne peut pas se mettre à jour là où il se trouve&#xa0;: ce disque n’est pas accessible en écriture.</translation>
+        <translation>Quillon ne peut pas se mettre à jour là où il se trouve : ce disque n’est pas accessible en écriture.</translation>
     </message>
     <message>
         <source>Quillon cannot update itself from the temporary place it was started from.</source>
@@ -1391,7 +1391,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>The downloaded update is not signed by Quillon&apos;s makers, so it was thrown away.</source>
-        <translation>La mise à jour téléchargée n’est pas signée par les auteurs de Quillon&#xa0;; elle a été rejetée.</translation>
+        <translation>La mise à jour téléchargée n’est pas signée par les auteurs de Quillon ; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The downloaded update could not be stored in your cache folder.</source>
@@ -1403,27 +1403,27 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>The update&apos;s archive holds a path outside of its folder, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un chemin hors de son dossier&#xa0;; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un chemin hors de son dossier ; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive holds a path with &quot;..&quot;, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un chemin avec «&#xa0;..&#xa0;»&#xa0;; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un chemin avec « .. » ; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive holds a link that leaves its folder, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un lien qui sort de son dossier&#xa0;; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un lien qui sort de son dossier ; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive holds a device, pipe or socket, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un périphérique, un tube ou un socket&#xa0;; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un périphérique, un tube ou un socket ; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive holds a program with another user&apos;s rights, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un programme avec les droits d’un autre utilisateur&#xa0;; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un programme avec les droits d’un autre utilisateur ; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update is too large when unpacked, so it was thrown away.</source>
-        <translation>La mise à jour est trop grande une fois extraite&#xa0;; elle a été rejetée.</translation>
+        <translation>La mise à jour est trop grande une fois extraite ; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive does not hold exactly one application.</source>
@@ -1651,11 +1651,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Drop to send</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposer pour envoyer</translation>
     </message>
     <message>
         <source>Files, a picture or text</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers, image ou texte</translation>
     </message>
 </context>
 <context>
@@ -1716,7 +1716,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>**New Group** → add your bot → name it anything (like “My Outbox”) → Create.</source>
-        <translation>**Nouveau groupe** → ajoutez votre bot → donnez-lui un nom («&#xa0;Ma boîte d’envoi&#xa0;», par exemple) → Créer.</translation>
+        <translation>**Nouveau groupe** → ajoutez votre bot → donnez-lui un nom (« Ma boîte d’envoi », par exemple) → Créer.</translation>
     </message>
     <message>
         <source>Tap the **group name** → tap the **pencil** → turn on **Topics** (just below Appearance) → Save.</source>
@@ -1728,7 +1728,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Send “hi” in the group.</source>
-        <translation>Envoyez «&#xa0;hi&#xa0;» dans le groupe.</translation>
+        <translation>Envoyez « hi » dans le groupe.</translation>
     </message>
     <message>
         <source>Copy on Mac. Paste on phone.</source>
@@ -1744,7 +1744,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>In Telegram:</source>
-        <translation>Dans Telegram&#xa0;:</translation>
+        <translation>Dans Telegram :</translation>
     </message>
     <message>
         <source>You&apos;re all set.</source>
@@ -1832,7 +1832,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <name>quillon::StepRow</name>
     <message>
         <source>Step %1: %2</source>
-        <translation>Étape %1&#xa0;: %2</translation>
+        <translation>Étape %1 : %2</translation>
     </message>
     <message>
         <source>Done</source>
@@ -1904,9 +1904,9 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <name>quillon::TroubleStrip</name>
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n de plus : quillon doctor</numerusform>
+            <numerusform>%n de plus : quillon doctor</numerusform>
         </translation>
     </message>
 </context>
@@ -1934,11 +1934,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Uninstall Quillon?</source>
-        <translation>Désinstaller Quillon&#xa0;?</translation>
+        <translation>Désinstaller Quillon ?</translation>
     </message>
     <message>
         <source>This removes from this Mac:</source>
-        <translation>Ceci supprime de cet ordinateur&#xa0;:</translation>
+        <translation>Ceci supprime de cet ordinateur :</translation>
     </message>
     <message>
         <source>Your bot and group stay in Telegram.</source>
@@ -1965,7 +1965,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Check for updates automatically?</source>
-        <translation>Rechercher les mises à jour automatiquement&#xa0;?</translation>
+        <translation>Rechercher les mises à jour automatiquement ?</translation>
     </message>
     <message>
         <source>Quillon can look for a new version once a day. You can change this in its settings at any time, or check by hand.</source>
@@ -2037,7 +2037,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>%1 of %2 MB</source>
-        <translation>%1 sur %2&#xa0;Mo</translation>
+        <translation>%1 sur %2 Mo</translation>
     </message>
     <message>
         <source>Quillon %1 is ready to install</source>

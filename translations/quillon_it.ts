@@ -209,23 +209,23 @@
     </message>
     <message>
         <source>Quillon was not ready to send within a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon non era pronto a inviare entro un minuto.</translation>
     </message>
     <message>
         <source>There is no Quillon running to follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun Quillon in esecuzione da seguire.</translation>
     </message>
     <message>
         <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il Quillon in esecuzione è un’altra versione, che non conosce questo comando. Chiuderlo e riprovare.</translation>
     </message>
     <message>
         <source>Standard input could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere lo standard input.</translation>
     </message>
     <message>
         <source>Standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard input</translation>
     </message>
 </context>
 <context>
@@ -332,35 +332,35 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>a file to send</source>
-        <translation type="unfinished"></translation>
+        <translation>un file da inviare</translation>
     </message>
     <message>
         <source>to notes, images, files or videos</source>
-        <translation type="unfinished"></translation>
+        <translation>a notes, images, files o videos</translation>
     </message>
     <message>
         <source>standard input as a file of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>lo standard input come file con questo nome</translation>
     </message>
     <message>
         <source>send the clipboard, files, or with - or by a pipe standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>invia gli appunti, dei file o, con - o da una pipe, lo standard input</translation>
     </message>
     <message>
         <source>wait up to a minute until it can send</source>
-        <translation type="unfinished"></translation>
+        <translation>attende fino a un minuto che possa inviare</translation>
     </message>
     <message>
         <source>print what is sent from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra ciò che viene inviato da ora in poi</translation>
     </message>
     <message>
         <source>tell names, too</source>
-        <translation type="unfinished"></translation>
+        <translation>dice anche i nomi</translation>
     </message>
     <message>
         <source>tell what is wrong, and how to mend it</source>
-        <translation type="unfinished"></translation>
+        <translation>dice che cosa non va, e come rimediare</translation>
     </message>
 </context>
 <context>
@@ -543,7 +543,7 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
-        <translation type="unfinished">disattivato nelle impostazioni del desktop</translation>
+        <translation>disattivato nelle impostazioni del desktop</translation>
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
@@ -659,7 +659,7 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">Scorciatoia</translation>
+        <translation>Scorciatoia</translation>
     </message>
     <message>
         <source>Banner</source>
@@ -679,15 +679,15 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>Opening at login</source>
-        <translation type="unfinished">L’apertura all’accesso</translation>
+        <translation>L’apertura all’accesso</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished">Aggiornamenti</translation>
+        <translation>Aggiornamenti</translation>
     </message>
     <message>
         <source>Keyring</source>
-        <translation type="unfinished">Portachiavi</translation>
+        <translation>Portachiavi</translation>
     </message>
     <message>
         <source>Network</source>
@@ -699,11 +699,11 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>Bot</source>
-        <translation type="unfinished">Bot</translation>
+        <translation>Bot</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Gruppo</translation>
+        <translation>Gruppo</translation>
     </message>
     <message>
         <source>Topics</source>
@@ -1062,11 +1062,11 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>%1 holds nothing to send.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non contiene nulla da inviare.</translation>
     </message>
     <message>
         <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è né testo né un’immagine PNG. Dare un nome di file con --name.</translation>
     </message>
 </context>
 <context>
@@ -1651,11 +1651,11 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>Drop to send</source>
-        <translation type="unfinished"></translation>
+        <translation>Rilascia per inviare</translation>
     </message>
     <message>
         <source>Files, a picture or text</source>
-        <translation type="unfinished"></translation>
+        <translation>File, un’immagine o testo</translation>
     </message>
 </context>
 <context>
@@ -1904,9 +1904,9 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     <name>quillon::TroubleStrip</name>
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Un altro (%n): quillon doctor</numerusform>
+            <numerusform>Altri %n: quillon doctor</numerusform>
         </translation>
     </message>
 </context>

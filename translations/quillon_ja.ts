@@ -208,23 +208,23 @@
     </message>
     <message>
         <source>Quillon was not ready to send within a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon は 1 分以内に送信の準備ができませんでした。</translation>
     </message>
     <message>
         <source>There is no Quillon running to follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>追跡できる実行中の Quillon がありません。</translation>
     </message>
     <message>
         <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>実行中の Quillon は別のバージョンで、このコマンドに対応していません。終了して、もう一度試してください。</translation>
     </message>
     <message>
         <source>Standard input could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>標準入力を読み取れませんでした。</translation>
     </message>
     <message>
         <source>Standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>標準入力</translation>
     </message>
 </context>
 <context>
@@ -331,35 +331,35 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>a file to send</source>
-        <translation type="unfinished"></translation>
+        <translation>送信するファイル</translation>
     </message>
     <message>
         <source>to notes, images, files or videos</source>
-        <translation type="unfinished"></translation>
+        <translation>notes、images、files、videos のどれかに送る</translation>
     </message>
     <message>
         <source>standard input as a file of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>標準入力をこの名前のファイルとして送る</translation>
     </message>
     <message>
         <source>send the clipboard, files, or with - or by a pipe standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>クリップボード、ファイル、または - かパイプで標準入力を送信</translation>
     </message>
     <message>
         <source>wait up to a minute until it can send</source>
-        <translation type="unfinished"></translation>
+        <translation>送信できるまで最大 1 分待つ</translation>
     </message>
     <message>
         <source>print what is sent from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>今後送信されるものを表示</translation>
     </message>
     <message>
         <source>tell names, too</source>
-        <translation type="unfinished"></translation>
+        <translation>名前も表示</translation>
     </message>
     <message>
         <source>tell what is wrong, and how to mend it</source>
-        <translation type="unfinished"></translation>
+        <translation>問題点と直し方を表示</translation>
     </message>
 </context>
 <context>
@@ -542,7 +542,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
-        <translation type="unfinished">デスクトップの設定で無効になっています</translation>
+        <translation>デスクトップの設定で無効になっています</translation>
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
@@ -658,7 +658,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">ショートカット</translation>
+        <translation>ショートカット</translation>
     </message>
     <message>
         <source>Banner</source>
@@ -678,15 +678,15 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Opening at login</source>
-        <translation type="unfinished">ログイン時に開く設定</translation>
+        <translation>ログイン時に開く設定</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished">アップデート</translation>
+        <translation>アップデート</translation>
     </message>
     <message>
         <source>Keyring</source>
-        <translation type="unfinished">キーリング</translation>
+        <translation>キーリング</translation>
     </message>
     <message>
         <source>Network</source>
@@ -698,11 +698,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Bot</source>
-        <translation type="unfinished">ボット</translation>
+        <translation>ボット</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">グループ</translation>
+        <translation>グループ</translation>
     </message>
     <message>
         <source>Topics</source>
@@ -1060,11 +1060,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>%1 holds nothing to send.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1には送信するものがありません。</translation>
     </message>
     <message>
         <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1はテキストでも PNG 画像でもありません。--name でファイル名を付けてください。</translation>
     </message>
 </context>
 <context>
@@ -1649,11 +1649,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Drop to send</source>
-        <translation type="unfinished"></translation>
+        <translation>ドロップして送信</translation>
     </message>
     <message>
         <source>Files, a picture or text</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル、画像、テキスト</translation>
     </message>
 </context>
 <context>
@@ -1901,8 +1901,8 @@ Without a command it stays, and sends whenever you press its shortcut.
     <name>quillon::TroubleStrip</name>
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ほか %n 件: quillon doctor</numerusform>
         </translation>
     </message>
 </context>

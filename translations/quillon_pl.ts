@@ -210,23 +210,23 @@
     </message>
     <message>
         <source>Quillon was not ready to send within a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon nie był gotowy do wysyłania w ciągu minuty.</translation>
     </message>
     <message>
         <source>There is no Quillon running to follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie działa żaden Quillon, który można śledzić.</translation>
     </message>
     <message>
         <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Działający Quillon to inna wersja, która nie zna tego polecenia. Proszę go zakończyć i spróbować ponownie.</translation>
     </message>
     <message>
         <source>Standard input could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się odczytać standardowego wejścia.</translation>
     </message>
     <message>
         <source>Standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardowe wejście</translation>
     </message>
 </context>
 <context>
@@ -333,35 +333,35 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     </message>
     <message>
         <source>a file to send</source>
-        <translation type="unfinished"></translation>
+        <translation>plik do wysłania</translation>
     </message>
     <message>
         <source>to notes, images, files or videos</source>
-        <translation type="unfinished"></translation>
+        <translation>do notes, images, files lub videos</translation>
     </message>
     <message>
         <source>standard input as a file of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>standardowe wejście jako plik o tej nazwie</translation>
     </message>
     <message>
         <source>send the clipboard, files, or with - or by a pipe standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>wysyła schowek, pliki lub, z - albo potokiem, standardowe wejście</translation>
     </message>
     <message>
         <source>wait up to a minute until it can send</source>
-        <translation type="unfinished"></translation>
+        <translation>czeka do minuty, aż będzie można wysyłać</translation>
     </message>
     <message>
         <source>print what is sent from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>wypisuje, co jest wysyłane od teraz</translation>
     </message>
     <message>
         <source>tell names, too</source>
-        <translation type="unfinished"></translation>
+        <translation>podaje też nazwy</translation>
     </message>
     <message>
         <source>tell what is wrong, and how to mend it</source>
-        <translation type="unfinished"></translation>
+        <translation>mówi, co jest nie tak i jak to naprawić</translation>
     </message>
 </context>
 <context>
@@ -544,7 +544,7 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
-        <translation type="unfinished">wyłączone w ustawieniach pulpitu</translation>
+        <translation>wyłączone w ustawieniach pulpitu</translation>
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
@@ -660,7 +660,7 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">Skrót</translation>
+        <translation>Skrót</translation>
     </message>
     <message>
         <source>Banner</source>
@@ -680,15 +680,15 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     </message>
     <message>
         <source>Opening at login</source>
-        <translation type="unfinished">Uruchamianie po zalogowaniu</translation>
+        <translation>Uruchamianie po zalogowaniu</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished">Aktualizacje</translation>
+        <translation>Aktualizacje</translation>
     </message>
     <message>
         <source>Keyring</source>
-        <translation type="unfinished">Baza kluczy</translation>
+        <translation>Baza kluczy</translation>
     </message>
     <message>
         <source>Network</source>
@@ -700,11 +700,11 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     </message>
     <message>
         <source>Bot</source>
-        <translation type="unfinished">Bot</translation>
+        <translation>Bot</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Grupa</translation>
+        <translation>Grupa</translation>
     </message>
     <message>
         <source>Topics</source>
@@ -1064,11 +1064,11 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     </message>
     <message>
         <source>%1 holds nothing to send.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nie ma nic do wysłania.</translation>
     </message>
     <message>
         <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: to ani tekst, ani obraz PNG. Proszę podać nazwę pliku z --name.</translation>
     </message>
 </context>
 <context>
@@ -1653,11 +1653,11 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     </message>
     <message>
         <source>Drop to send</source>
-        <translation type="unfinished"></translation>
+        <translation>Upuść, aby wysłać</translation>
     </message>
     <message>
         <source>Files, a picture or text</source>
-        <translation type="unfinished"></translation>
+        <translation>Pliki, obraz lub tekst</translation>
     </message>
 </context>
 <context>
@@ -1907,10 +1907,10 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     <name>quillon::TroubleStrip</name>
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Jeszcze %n: quillon doctor</numerusform>
+            <numerusform>Jeszcze %n: quillon doctor</numerusform>
+            <numerusform>Jeszcze %n: quillon doctor</numerusform>
         </translation>
     </message>
 </context>

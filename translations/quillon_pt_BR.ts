@@ -209,23 +209,23 @@
     </message>
     <message>
         <source>Quillon was not ready to send within a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Quillon não ficou pronto para enviar em um minuto.</translation>
     </message>
     <message>
         <source>There is no Quillon running to follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há Quillon em execução para acompanhar.</translation>
     </message>
     <message>
         <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Quillon em execução é outra versão, que não conhece este comando. Saia dele e tente de novo.</translation>
     </message>
     <message>
         <source>Standard input could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível ler a entrada padrão.</translation>
     </message>
     <message>
         <source>Standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada padrão</translation>
     </message>
 </context>
 <context>
@@ -332,35 +332,35 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     </message>
     <message>
         <source>a file to send</source>
-        <translation type="unfinished"></translation>
+        <translation>um arquivo para enviar</translation>
     </message>
     <message>
         <source>to notes, images, files or videos</source>
-        <translation type="unfinished"></translation>
+        <translation>para notes, images, files ou videos</translation>
     </message>
     <message>
         <source>standard input as a file of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>a entrada padrão como arquivo com este nome</translation>
     </message>
     <message>
         <source>send the clipboard, files, or with - or by a pipe standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>envia a área de transferência, arquivos ou, com - ou por pipe, a entrada padrão</translation>
     </message>
     <message>
         <source>wait up to a minute until it can send</source>
-        <translation type="unfinished"></translation>
+        <translation>espera até um minuto até poder enviar</translation>
     </message>
     <message>
         <source>print what is sent from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra o que for enviado a partir de agora</translation>
     </message>
     <message>
         <source>tell names, too</source>
-        <translation type="unfinished"></translation>
+        <translation>diz também os nomes</translation>
     </message>
     <message>
         <source>tell what is wrong, and how to mend it</source>
-        <translation type="unfinished"></translation>
+        <translation>diz o que está errado e como consertar</translation>
     </message>
 </context>
 <context>
@@ -543,7 +543,7 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
-        <translation type="unfinished">desligado nas configurações do ambiente</translation>
+        <translation>desligado nas configurações do ambiente</translation>
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
@@ -659,7 +659,7 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">Atalho</translation>
+        <translation>Atalho</translation>
     </message>
     <message>
         <source>Banner</source>
@@ -679,15 +679,15 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     </message>
     <message>
         <source>Opening at login</source>
-        <translation type="unfinished">A abertura ao iniciar a sessão</translation>
+        <translation>A abertura ao iniciar a sessão</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished">Atualizações</translation>
+        <translation>Atualizações</translation>
     </message>
     <message>
         <source>Keyring</source>
-        <translation type="unfinished">Chaveiro</translation>
+        <translation>Chaveiro</translation>
     </message>
     <message>
         <source>Network</source>
@@ -699,11 +699,11 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     </message>
     <message>
         <source>Bot</source>
-        <translation type="unfinished">Bot</translation>
+        <translation>Bot</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Grupo</translation>
+        <translation>Grupo</translation>
     </message>
     <message>
         <source>Topics</source>
@@ -1062,11 +1062,11 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     </message>
     <message>
         <source>%1 holds nothing to send.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: não há nada para enviar.</translation>
     </message>
     <message>
         <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: não é texto nem imagem PNG. Dê um nome de arquivo com --name.</translation>
     </message>
 </context>
 <context>
@@ -1469,7 +1469,7 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     </message>
     <message>
         <source>Send clipboard</source>
-        <translation>Enviar área de transferência</translation>
+        <translation>Enviar área de transf.</translation>
     </message>
     <message>
         <source>After sending</source>
@@ -1651,11 +1651,11 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     </message>
     <message>
         <source>Drop to send</source>
-        <translation type="unfinished"></translation>
+        <translation>Solte para enviar</translation>
     </message>
     <message>
         <source>Files, a picture or text</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivos, uma imagem ou texto</translation>
     </message>
 </context>
 <context>
@@ -1904,9 +1904,9 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     <name>quillon::TroubleStrip</name>
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Mais %n: quillon doctor</numerusform>
+            <numerusform>Mais %n: quillon doctor</numerusform>
         </translation>
     </message>
 </context>

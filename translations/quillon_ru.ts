@@ -210,23 +210,23 @@
     </message>
     <message>
         <source>Quillon was not ready to send within a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon не подготовился к отправке за минуту.</translation>
     </message>
     <message>
         <source>There is no Quillon running to follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет запущенного Quillon, за которым можно следить.</translation>
     </message>
     <message>
         <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Запущен Quillon другой версии, который не знает этой команды. Завершите его и попробуйте ещё раз.</translation>
     </message>
     <message>
         <source>Standard input could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать стандартный ввод.</translation>
     </message>
     <message>
         <source>Standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Стандартный ввод</translation>
     </message>
 </context>
 <context>
@@ -333,35 +333,35 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>a file to send</source>
-        <translation type="unfinished"></translation>
+        <translation>файл для отправки</translation>
     </message>
     <message>
         <source>to notes, images, files or videos</source>
-        <translation type="unfinished"></translation>
+        <translation>в notes, images, files или videos</translation>
     </message>
     <message>
         <source>standard input as a file of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>стандартный ввод как файл с этим именем</translation>
     </message>
     <message>
         <source>send the clipboard, files, or with - or by a pipe standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>отправить буфер обмена, файлы или, с - либо через канал, стандартный ввод</translation>
     </message>
     <message>
         <source>wait up to a minute until it can send</source>
-        <translation type="unfinished"></translation>
+        <translation>ждать до минуты, пока можно будет отправлять</translation>
     </message>
     <message>
         <source>print what is sent from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>показывать отправляемое с этого момента</translation>
     </message>
     <message>
         <source>tell names, too</source>
-        <translation type="unfinished"></translation>
+        <translation>называть и имена</translation>
     </message>
     <message>
         <source>tell what is wrong, and how to mend it</source>
-        <translation type="unfinished"></translation>
+        <translation>показать, что не так и как это исправить</translation>
     </message>
 </context>
 <context>
@@ -544,7 +544,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
-        <translation type="unfinished">выключено в настройках рабочего стола</translation>
+        <translation>выключено в настройках рабочего стола</translation>
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
@@ -660,7 +660,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">Комбинация клавиш</translation>
+        <translation>Комбинация клавиш</translation>
     </message>
     <message>
         <source>Banner</source>
@@ -680,15 +680,15 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Opening at login</source>
-        <translation type="unfinished">Запуск при входе в систему</translation>
+        <translation>Запуск при входе в систему</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished">Обновления</translation>
+        <translation>Обновления</translation>
     </message>
     <message>
         <source>Keyring</source>
-        <translation type="unfinished">Связка ключей</translation>
+        <translation>Связка ключей</translation>
     </message>
     <message>
         <source>Network</source>
@@ -700,11 +700,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Bot</source>
-        <translation type="unfinished">Бот</translation>
+        <translation>Бот</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Группа</translation>
+        <translation>Группа</translation>
     </message>
     <message>
         <source>Topics</source>
@@ -1064,11 +1064,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>%1 holds nothing to send.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: нечего отправлять.</translation>
     </message>
     <message>
         <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: это не текст и не изображение PNG. Задайте имя файла с помощью --name.</translation>
     </message>
 </context>
 <context>
@@ -1653,11 +1653,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Drop to send</source>
-        <translation type="unfinished"></translation>
+        <translation>Отпустите для отправки</translation>
     </message>
     <message>
         <source>Files, a picture or text</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы, изображение или текст</translation>
     </message>
 </context>
 <context>
@@ -1907,10 +1907,10 @@ Without a command it stays, and sends whenever you press its shortcut.
     <name>quillon::TroubleStrip</name>
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ещё %n: quillon doctor</numerusform>
+            <numerusform>Ещё %n: quillon doctor</numerusform>
+            <numerusform>Ещё %n: quillon doctor</numerusform>
         </translation>
     </message>
 </context>

@@ -208,23 +208,23 @@
     </message>
     <message>
         <source>Quillon was not ready to send within a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon bir dakika içinde göndermeye hazır olmadı.</translation>
     </message>
     <message>
         <source>There is no Quillon running to follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>İzlenecek çalışan bir Quillon yok.</translation>
     </message>
     <message>
         <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Çalışan Quillon başka bir sürüm ve bu komutu bilmiyor. Ondan çıkıp yeniden deneyin.</translation>
     </message>
     <message>
         <source>Standard input could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Standart girdi okunamadı.</translation>
     </message>
     <message>
         <source>Standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Standart girdi</translation>
     </message>
 </context>
 <context>
@@ -331,35 +331,35 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>a file to send</source>
-        <translation type="unfinished"></translation>
+        <translation>gönderilecek dosya</translation>
     </message>
     <message>
         <source>to notes, images, files or videos</source>
-        <translation type="unfinished"></translation>
+        <translation>notes, images, files ya da videos konusuna</translation>
     </message>
     <message>
         <source>standard input as a file of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>standart girdiyi bu adda bir dosya olarak</translation>
     </message>
     <message>
         <source>send the clipboard, files, or with - or by a pipe standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>panoyu, dosyaları ya da - ile veya boruyla standart girdiyi gönderir</translation>
     </message>
     <message>
         <source>wait up to a minute until it can send</source>
-        <translation type="unfinished"></translation>
+        <translation>gönderebilene kadar en çok bir dakika bekler</translation>
     </message>
     <message>
         <source>print what is sent from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>bundan sonra gönderilenleri yazdırır</translation>
     </message>
     <message>
         <source>tell names, too</source>
-        <translation type="unfinished"></translation>
+        <translation>adları da söyler</translation>
     </message>
     <message>
         <source>tell what is wrong, and how to mend it</source>
-        <translation type="unfinished"></translation>
+        <translation>neyin yanlış olduğunu ve nasıl düzeltileceğini söyler</translation>
     </message>
 </context>
 <context>
@@ -542,7 +542,7 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
-        <translation type="unfinished">masaüstü ayarlarında kapatılmış</translation>
+        <translation>masaüstü ayarlarında kapatılmış</translation>
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
@@ -658,7 +658,7 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">Kısayol</translation>
+        <translation>Kısayol</translation>
     </message>
     <message>
         <source>Banner</source>
@@ -678,15 +678,15 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>Opening at login</source>
-        <translation type="unfinished">Oturum açılışında başlama</translation>
+        <translation>Oturum açılışında başlama</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished">Güncellemeler</translation>
+        <translation>Güncellemeler</translation>
     </message>
     <message>
         <source>Keyring</source>
-        <translation type="unfinished">Anahtarlık</translation>
+        <translation>Anahtarlık</translation>
     </message>
     <message>
         <source>Network</source>
@@ -698,11 +698,11 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>Bot</source>
-        <translation type="unfinished">Bot</translation>
+        <translation>Bot</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Grup</translation>
+        <translation>Grup</translation>
     </message>
     <message>
         <source>Topics</source>
@@ -1060,11 +1060,11 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>%1 holds nothing to send.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: gönderilecek bir şey yok.</translation>
     </message>
     <message>
         <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: metin ya da PNG resmi değil. --name ile bir dosya adı verin.</translation>
     </message>
 </context>
 <context>
@@ -1649,11 +1649,11 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
     <message>
         <source>Drop to send</source>
-        <translation type="unfinished"></translation>
+        <translation>Göndermek için bırakın</translation>
     </message>
     <message>
         <source>Files, a picture or text</source>
-        <translation type="unfinished"></translation>
+        <translation>Dosyalar, resim ya da metin</translation>
     </message>
 </context>
 <context>
@@ -1901,8 +1901,8 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     <name>quillon::TroubleStrip</name>
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n tane daha: quillon doctor</numerusform>
         </translation>
     </message>
 </context>

@@ -210,23 +210,23 @@
     </message>
     <message>
         <source>Quillon was not ready to send within a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon не підготувався до надсилання за хвилину.</translation>
     </message>
     <message>
         <source>There is no Quillon running to follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Немає запущеного Quillon, за яким можна стежити.</translation>
     </message>
     <message>
         <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Запущено Quillon іншої версії, який не знає цієї команди. Завершіть його й спробуйте ще раз.</translation>
     </message>
     <message>
         <source>Standard input could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося прочитати стандартний ввід.</translation>
     </message>
     <message>
         <source>Standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Стандартний ввід</translation>
     </message>
 </context>
 <context>
@@ -333,35 +333,35 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>a file to send</source>
-        <translation type="unfinished"></translation>
+        <translation>файл для надсилання</translation>
     </message>
     <message>
         <source>to notes, images, files or videos</source>
-        <translation type="unfinished"></translation>
+        <translation>до notes, images, files або videos</translation>
     </message>
     <message>
         <source>standard input as a file of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>стандартний ввід як файл із цією назвою</translation>
     </message>
     <message>
         <source>send the clipboard, files, or with - or by a pipe standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>надіслати буфер обміну, файли або, з - чи через канал, стандартний ввід</translation>
     </message>
     <message>
         <source>wait up to a minute until it can send</source>
-        <translation type="unfinished"></translation>
+        <translation>чекати до хвилини, доки можна буде надсилати</translation>
     </message>
     <message>
         <source>print what is sent from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>показувати надіслане відтепер</translation>
     </message>
     <message>
         <source>tell names, too</source>
-        <translation type="unfinished"></translation>
+        <translation>називати й імена</translation>
     </message>
     <message>
         <source>tell what is wrong, and how to mend it</source>
-        <translation type="unfinished"></translation>
+        <translation>показати, що не так і як це виправити</translation>
     </message>
 </context>
 <context>
@@ -544,7 +544,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
-        <translation type="unfinished">вимкнено в налаштуваннях стільниці</translation>
+        <translation>вимкнено в налаштуваннях стільниці</translation>
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
@@ -660,7 +660,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">Комбінація клавіш</translation>
+        <translation>Комбінація клавіш</translation>
     </message>
     <message>
         <source>Banner</source>
@@ -680,15 +680,15 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Opening at login</source>
-        <translation type="unfinished">Запуск під час входу</translation>
+        <translation>Запуск під час входу</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished">Оновлення</translation>
+        <translation>Оновлення</translation>
     </message>
     <message>
         <source>Keyring</source>
-        <translation type="unfinished">Сховище ключів</translation>
+        <translation>Сховище ключів</translation>
     </message>
     <message>
         <source>Network</source>
@@ -700,11 +700,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Bot</source>
-        <translation type="unfinished">Бот</translation>
+        <translation>Бот</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Група</translation>
+        <translation>Група</translation>
     </message>
     <message>
         <source>Topics</source>
@@ -1064,11 +1064,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>%1 holds nothing to send.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: немає чого надсилати.</translation>
     </message>
     <message>
         <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: це не текст і не зображення PNG. Задайте назву файлу за допомогою --name.</translation>
     </message>
 </context>
 <context>
@@ -1653,11 +1653,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Drop to send</source>
-        <translation type="unfinished"></translation>
+        <translation>Відпустіть, щоб надіслати</translation>
     </message>
     <message>
         <source>Files, a picture or text</source>
-        <translation type="unfinished"></translation>
+        <translation>Файли, зображення або текст</translation>
     </message>
 </context>
 <context>
@@ -1907,10 +1907,10 @@ Without a command it stays, and sends whenever you press its shortcut.
     <name>quillon::TroubleStrip</name>
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ще %n: quillon doctor</numerusform>
+            <numerusform>Ще %n: quillon doctor</numerusform>
+            <numerusform>Ще %n: quillon doctor</numerusform>
         </translation>
     </message>
 </context>

@@ -208,23 +208,23 @@
     </message>
     <message>
         <source>Quillon was not ready to send within a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon 在一分钟内未能准备好发送。</translation>
     </message>
     <message>
         <source>There is no Quillon running to follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有正在运行的 Quillon 可供跟踪。</translation>
     </message>
     <message>
         <source>The Quillon that is running is another version, which does not know this command. Quit it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在运行的 Quillon 是另一个版本，不支持此命令。请退出它，然后重试。</translation>
     </message>
     <message>
         <source>Standard input could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取标准输入。</translation>
     </message>
     <message>
         <source>Standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>标准输入</translation>
     </message>
 </context>
 <context>
@@ -331,35 +331,35 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>a file to send</source>
-        <translation type="unfinished"></translation>
+        <translation>要发送的文件</translation>
     </message>
     <message>
         <source>to notes, images, files or videos</source>
-        <translation type="unfinished"></translation>
+        <translation>发送到 notes、images、files 或 videos</translation>
     </message>
     <message>
         <source>standard input as a file of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>将标准输入作为此名称的文件</translation>
     </message>
     <message>
         <source>send the clipboard, files, or with - or by a pipe standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>发送剪贴板、文件，或用 - 或管道发送标准输入</translation>
     </message>
     <message>
         <source>wait up to a minute until it can send</source>
-        <translation type="unfinished"></translation>
+        <translation>最多等待一分钟，直到可以发送</translation>
     </message>
     <message>
         <source>print what is sent from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>显示从现在起发送的内容</translation>
     </message>
     <message>
         <source>tell names, too</source>
-        <translation type="unfinished"></translation>
+        <translation>同时显示名称</translation>
     </message>
     <message>
         <source>tell what is wrong, and how to mend it</source>
-        <translation type="unfinished"></translation>
+        <translation>说明哪里有问题以及如何修复</translation>
     </message>
 </context>
 <context>
@@ -542,7 +542,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
-        <translation type="unfinished">已在桌面设置中关闭</translation>
+        <translation>已在桌面设置中关闭</translation>
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
@@ -658,7 +658,7 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">快捷键</translation>
+        <translation>快捷键</translation>
     </message>
     <message>
         <source>Banner</source>
@@ -678,15 +678,15 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Opening at login</source>
-        <translation type="unfinished">登录时打开</translation>
+        <translation>登录时打开</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished">更新</translation>
+        <translation>更新</translation>
     </message>
     <message>
         <source>Keyring</source>
-        <translation type="unfinished">密钥环</translation>
+        <translation>密钥环</translation>
     </message>
     <message>
         <source>Network</source>
@@ -698,11 +698,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Bot</source>
-        <translation type="unfinished">机器人</translation>
+        <translation>机器人</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">群组</translation>
+        <translation>群组</translation>
     </message>
     <message>
         <source>Topics</source>
@@ -1060,11 +1060,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>%1 holds nothing to send.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：没有可发送的内容。</translation>
     </message>
     <message>
         <source>%1 is neither text nor a PNG picture. Give it a file name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：既不是文本也不是 PNG 图片。请用 --name 指定文件名。</translation>
     </message>
 </context>
 <context>
@@ -1649,11 +1649,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Drop to send</source>
-        <translation type="unfinished"></translation>
+        <translation>拖放到此处发送</translation>
     </message>
     <message>
         <source>Files, a picture or text</source>
-        <translation type="unfinished"></translation>
+        <translation>文件、图片或文本</translation>
     </message>
 </context>
 <context>
@@ -1901,8 +1901,8 @@ Without a command it stays, and sends whenever you press its shortcut.
     <name>quillon::TroubleStrip</name>
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>另有 %n 项：quillon doctor</numerusform>
         </translation>
     </message>
 </context>

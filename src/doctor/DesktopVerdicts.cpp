@@ -1,5 +1,6 @@
 // Session, display, clipboard, shortcut, banner and icon.
 #include "doctor/Verdicts.h"
+#include "state/ShownKeys.h"
 
 #include <QtGlobal>
 
