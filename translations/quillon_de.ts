@@ -367,179 +367,179 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     <name>Doctor</name>
     <message>
         <source>not looked at, for the display is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht angesehen, denn der Bildschirm fehlt</translation>
     </message>
     <message>
         <source>the desktop has not answered yet</source>
-        <translation type="unfinished"></translation>
+        <translation>der Desktop hat noch nicht geantwortet</translation>
     </message>
     <message>
         <source>If it asks you, answer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falls er Sie fragt, antworten Sie dort.</translation>
     </message>
     <message>
         <source>%1 works</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geht</translation>
     </message>
     <message>
         <source>the desktop knows it, but gives it no keys</source>
-        <translation type="unfinished"></translation>
+        <translation>der Desktop kennt es, gibt ihm aber keine Tasten</translation>
     </message>
     <message>
         <source>Choose keys in the settings, under General.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie in den Einstellungen unter „Allgemein“ Tasten.</translation>
     </message>
     <message>
         <source>another program or the desktop itself has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Programm oder der Desktop selbst hat %1</translation>
     </message>
     <message>
         <source>Choose another in the settings, under General, or free it in the desktop&apos;s keyboard settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie in den Einstellungen unter „Allgemein“ ein anderes, oder geben Sie es in den Tastatureinstellungen des Desktops frei.</translation>
     </message>
     <message>
         <source>it was declined when the desktop asked</source>
-        <translation type="unfinished"></translation>
+        <translation>es wurde abgelehnt, als der Desktop fragte</translation>
     </message>
     <message>
         <source>Have it ask again in the settings, under General.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lassen Sie in den Einstellungen unter „Allgemein“ noch einmal fragen.</translation>
     </message>
     <message>
         <source>the desktop gives programs no shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>der Desktop gibt Programmen keine Tastenkürzel</translation>
     </message>
     <message>
         <source>The settings show, under General, how to bind one yourself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen zeigen unter „Allgemein“, wie Sie selbst eines belegen.</translation>
     </message>
     <message>
         <source>could not be looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>konnte nicht angesehen werden</translation>
     </message>
     <message>
         <source>Log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Melden Sie sich ab und wieder an.</translation>
     </message>
     <message>
         <source>the Wayland compositor does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>der Wayland-Compositor antwortet nicht</translation>
     </message>
     <message>
         <source>the Wayland compositor and an X server answer</source>
-        <translation type="unfinished"></translation>
+        <translation>der Wayland-Compositor und ein X-Server antworten</translation>
     </message>
     <message>
         <source>the Wayland compositor answers</source>
-        <translation type="unfinished"></translation>
+        <translation>der Wayland-Compositor antwortet</translation>
     </message>
     <message>
         <source>the X server answers</source>
-        <translation type="unfinished"></translation>
+        <translation>der X-Server antwortet</translation>
     </message>
     <message>
         <source>the X server does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>der X-Server antwortet nicht</translation>
     </message>
     <message>
         <source>there is no display</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keinen Bildschirm</translation>
     </message>
     <message>
         <source>Run Quillon in your desktop&apos;s session, where DISPLAY or WAYLAND_DISPLAY names the display.</source>
-        <translation type="unfinished"></translation>
+        <translation>Starten Sie Quillon in der Sitzung Ihres Desktops, wo DISPLAY oder WAYLAND_DISPLAY den Bildschirm nennt.</translation>
     </message>
     <message>
         <source>the program that copied last does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>das Programm, das zuletzt kopiert hat, antwortet nicht</translation>
     </message>
     <message>
         <source>Copy something in another program, or end that one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren Sie etwas in einem anderen Programm, oder beenden Sie jenes.</translation>
     </message>
     <message>
         <source>this desktop lets no program read it</source>
-        <translation type="unfinished"></translation>
+        <translation>dieser Desktop lässt kein Programm sie lesen</translation>
     </message>
     <message>
         <source>Switch on Xwayland in the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalten Sie Xwayland im Desktop ein.</translation>
     </message>
     <message>
         <source>by %1; empty now</source>
-        <translation type="unfinished"></translation>
+        <translation>über %1; jetzt leer</translation>
     </message>
     <message>
         <source>by %1; on offer now: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>über %1; jetzt angeboten: %2</translation>
     </message>
     <message>
         <source>not looked at, for Quillon does not run</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht angesehen, denn Quillon läuft nicht</translation>
     </message>
     <message>
         <source>%1 is free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist frei</translation>
     </message>
     <message>
         <source>the desktop&apos;s shortcuts have stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>die Tastenkürzel des Desktops sind ausgefallen</translation>
     </message>
     <message>
         <source>“%2” has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>„%2“ hat %1</translation>
     </message>
     <message>
         <source>switched off in the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>in den Einstellungen ausgeschaltet</translation>
     </message>
     <message>
         <source>a layer over all windows</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Ebene über allen Fenstern</translation>
     </message>
     <message>
         <source>a window</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Fenster</translation>
     </message>
     <message>
         <source>shown by a host on the session bus</source>
-        <translation type="unfinished"></translation>
+        <translation>gezeigt von einem Programm am Sitzungsbus</translation>
     </message>
     <message>
         <source>shown by a tray on the X server</source>
-        <translation type="unfinished"></translation>
+        <translation>gezeigt von einer Leiste am X-Server</translation>
     </message>
     <message>
         <source>this desktop shows no icons</source>
-        <translation type="unfinished"></translation>
+        <translation>dieser Desktop zeigt keine Symbole</translation>
     </message>
     <message>
         <source>Open the panel with: quillon panel. Or give the desktop a tray, such as an extension.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen Sie das Panel mit: quillon panel. Oder geben Sie dem Desktop eine Leiste für Symbole, etwa als Erweiterung.</translation>
     </message>
     <message>
         <source>ok</source>
-        <translation type="unfinished"></translation>
+        <translation>in Ordnung</translation>
     </message>
     <message>
         <source>warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannt</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>aus</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>ein</translation>
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
@@ -547,115 +547,115 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>ein, aber das Programm, das gestartet werden soll, ist nicht da</translation>
     </message>
     <message>
         <source>Switch it on again: quillon launch-at-login on</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalten Sie es noch einmal ein: quillon launch-at-login on</translation>
     </message>
     <message>
         <source>%1 on %2, with %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 unter %2, mit %3</translation>
     </message>
     <message>
         <source>runs, and waits for the shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>läuft und wartet auf das Tastenkürzel</translation>
     </message>
     <message>
         <source>does not run, so that nothing waits for the shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>läuft nicht, sodass nichts auf das Tastenkürzel wartet</translation>
     </message>
     <message>
         <source>Start Quillon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Starten Sie Quillon.</translation>
     </message>
     <message>
         <source>there is a sound server or a sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt einen Klangserver oder eine Soundkarte</translation>
     </message>
     <message>
         <source>there is no sound server, and no sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt weder Klangserver noch Soundkarte</translation>
     </message>
     <message>
         <source>Start PipeWire or PulseAudio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Starten Sie PipeWire oder PulseAudio.</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 antwortet nicht</translation>
     </message>
     <message>
         <source>See whether its disk or network share is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sehen Sie nach, ob der Datenträger oder die Netzwerkfreigabe da ist.</translation>
     </message>
     <message>
         <source>%1 cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden</translation>
     </message>
     <message>
         <source>%1 cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht angelegt werden</translation>
     </message>
     <message>
         <source>Give yourself the rights to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie sich die Rechte dazu.</translation>
     </message>
     <message>
         <source>the disk of %1 is full</source>
-        <translation type="unfinished"></translation>
+        <translation>der Datenträger von %1 ist voll</translation>
     </message>
     <message>
         <source>Make room on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaffen Sie dort Platz.</translation>
     </message>
     <message>
         <source>others can look into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>andere können in %1 hineinsehen</translation>
     </message>
     <message>
         <source>Take their rights: chmod 700 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nehmen Sie ihnen die Rechte: chmod 700 %1</translation>
     </message>
     <message>
         <source>%1 can be written; %2 MB free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann geschrieben werden; %2 MB frei</translation>
     </message>
     <message>
         <source>this copy does not update itself</source>
-        <translation type="unfinished"></translation>
+        <translation>diese Kopie aktualisiert sich nicht selbst</translation>
     </message>
     <message>
         <source>Quillon updates itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon aktualisiert sich selbst</translation>
     </message>
     <message>
         <source>Quillon cannot replace itself where it lies</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon kann sich dort, wo es liegt, nicht ersetzen</translation>
     </message>
     <message>
         <source>Move it to a folder of yours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben Sie es in einen Ordner, der Ihnen gehört.</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>Programm</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm</translation>
     </message>
     <message>
         <source>Clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenablage</translation>
     </message>
     <message>
         <source>Shortcut</source>
@@ -663,19 +663,19 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>Banner</source>
-        <translation type="unfinished"></translation>
+        <translation>Banner</translation>
     </message>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbol</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Ton</translation>
     </message>
     <message>
         <source>Data folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenordner</translation>
     </message>
     <message>
         <source>Opening at login</source>
@@ -691,11 +691,11 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk</translation>
     </message>
     <message>
         <source>Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Uhr</translation>
     </message>
     <message>
         <source>Bot</source>
@@ -707,271 +707,271 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
     <message>
         <source>Topics</source>
-        <translation type="unfinished"></translation>
+        <translation>Themen</translation>
     </message>
     <message>
         <source>Rights</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechte</translation>
     </message>
     <message>
         <source>Topic %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Thema %1</translation>
     </message>
     <message>
         <source>not asked, for something before it failed</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht gefragt, denn vorher ist etwas fehlgeschlagen</translation>
     </message>
     <message>
         <source>Telegram says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram sagt: %1</translation>
     </message>
     <message>
         <source>Telegram does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram antwortet nicht</translation>
     </message>
     <message>
         <source>Try again in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Versuchen Sie es gleich noch einmal.</translation>
     </message>
     <message>
         <source>Check the internet connection and its firewall.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen Sie die Internetverbindung und ihre Firewall.</translation>
     </message>
     <message>
         <source>Correct %1, or take it away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Berichtigen Sie %1, oder nehmen Sie es weg.</translation>
     </message>
     <message>
         <source>the way to Telegram is good</source>
-        <translation type="unfinished"></translation>
+        <translation>der Weg zu Telegram ist gut</translation>
     </message>
     <message>
         <source>libcurl is missing, or too old</source>
-        <translation type="unfinished"></translation>
+        <translation>libcurl fehlt oder ist zu alt</translation>
     </message>
     <message>
         <source>Install libcurl 7.87 or a newer one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installieren Sie libcurl 7.87 oder neuer.</translation>
     </message>
     <message>
         <source>QUILLON_BOT_API is not the address of a server</source>
-        <translation type="unfinished"></translation>
+        <translation>QUILLON_BOT_API ist nicht die Adresse eines Servers</translation>
     </message>
     <message>
         <source>Correct it, or take it away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Berichtigen Sie es, oder nehmen Sie es weg.</translation>
     </message>
     <message>
         <source>the name of the proxy in %1 is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name des Proxys in %1 wird nicht gefunden</translation>
     </message>
     <message>
         <source>the server&apos;s name is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name des Servers wird nicht gefunden</translation>
     </message>
     <message>
         <source>Check the internet connection and its name server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen Sie die Internetverbindung und ihren Nameserver.</translation>
     </message>
     <message>
         <source>the proxy in %1 turns the connection away</source>
-        <translation type="unfinished"></translation>
+        <translation>der Proxy in %1 weist die Verbindung ab</translation>
     </message>
     <message>
         <source>no connection to the server comes about</source>
-        <translation type="unfinished"></translation>
+        <translation>es kommt keine Verbindung zum Server zustande</translation>
     </message>
     <message>
         <source>the server&apos;s certificate is not trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>dem Zertifikat des Servers wird nicht vertraut</translation>
     </message>
     <message>
         <source>Install ca-certificates. Where a proxy reads along, SSL_CERT_FILE can name its certificate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installieren Sie ca-certificates. Wo ein Proxy mitliest, kann SSL_CERT_FILE sein Zertifikat nennen.</translation>
     </message>
     <message>
         <source>by this computer&apos;s clock, the server&apos;s certificate is out of its time</source>
-        <translation type="unfinished"></translation>
+        <translation>nach der Uhr dieses Computers gilt das Zertifikat des Servers jetzt nicht</translation>
     </message>
     <message>
         <source>Set the clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stellen Sie die Uhr.</translation>
     </message>
     <message>
         <source>no encryption can be agreed with the server</source>
-        <translation type="unfinished"></translation>
+        <translation>mit dem Server kommt keine Verschlüsselung zustande</translation>
     </message>
     <message>
         <source>no answer in time</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Antwort in der Zeit</translation>
     </message>
     <message>
         <source>it was deleted on the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>es wurde auf dem Handy gelöscht</translation>
     </message>
     <message>
         <source>Create it again: quillon create-topics</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie es wieder an: quillon create-topics</translation>
     </message>
     <message>
         <source>it is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist geschlossen</translation>
     </message>
     <message>
         <source>Reopen it on the phone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen Sie es auf dem Handy wieder.</translation>
     </message>
     <message>
         <source>the bot may not write in it</source>
-        <translation type="unfinished"></translation>
+        <translation>der Bot darf dort nicht schreiben</translation>
     </message>
     <message>
         <source>Make the bot an admin of the group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Machen Sie den Bot zum Admin der Gruppe.</translation>
     </message>
     <message>
         <source>answers, and has the bot&apos;s token</source>
-        <translation type="unfinished"></translation>
+        <translation>antwortet und hat das Token des Bots</translation>
     </message>
     <message>
         <source>it is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>er ist gesperrt</translation>
     </message>
     <message>
         <source>Unlock it, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entsperren Sie ihn und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>it answers, but has no bot&apos;s token</source>
-        <translation type="unfinished"></translation>
+        <translation>er antwortet, hat aber kein Token eines Bots</translation>
     </message>
     <message>
         <source>Connect your bot: quillon connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinden Sie Ihren Bot: quillon connect</translation>
     </message>
     <message>
         <source>it does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>er antwortet nicht</translation>
     </message>
     <message>
         <source>End its service, or log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden Sie seinen Dienst, oder melden Sie sich ab und wieder an.</translation>
     </message>
     <message>
         <source>it gives no token; the bot&apos;s is in memory until Quillon ends</source>
-        <translation type="unfinished"></translation>
+        <translation>er gibt kein Token heraus; das des Bots bleibt im Speicher, bis Quillon endet</translation>
     </message>
     <message>
         <source>Unlock it, or connect your bot again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entsperren Sie ihn, oder verbinden Sie Ihren Bot noch einmal.</translation>
     </message>
     <message>
         <source>no session bus answers, by which it is reached</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Sitzungsbus antwortet, über den er erreicht wird</translation>
     </message>
     <message>
         <source>Run Quillon in your desktop&apos;s session, where DBUS_SESSION_BUS_ADDRESS names the bus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Starten Sie Quillon in der Sitzung Ihres Desktops, wo DBUS_SESSION_BUS_ADDRESS den Bus nennt.</translation>
     </message>
     <message>
         <source>there is none</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keinen</translation>
     </message>
     <message>
         <source>Install gnome-keyring or KWallet, and log in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installieren Sie gnome-keyring oder KWallet, und melden Sie sich neu an.</translation>
     </message>
     <message>
         <source>the way to Telegram is good, through the proxy in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>der Weg zu Telegram ist gut, über den Proxy in %1</translation>
     </message>
     <message>
         <source>the proxy in %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>der Proxy in %1 antwortet nicht</translation>
     </message>
     <message>
         <source>the server did not tell its time</source>
-        <translation type="unfinished"></translation>
+        <translation>der Server hat seine Zeit nicht genannt</translation>
     </message>
     <message>
         <source>it agrees with the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>sie stimmt mit der des Servers überein</translation>
     </message>
     <message>
         <source>it is %1 min ahead of the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>sie geht gegenüber der des Servers %1 min vor</translation>
     </message>
     <message>
         <source>it is %1 min behind the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>sie geht gegenüber der des Servers %1 min nach</translation>
     </message>
     <message>
         <source>Telegram does not accept its token</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram nimmt sein Token nicht an</translation>
     </message>
     <message>
         <source>Get its token from @BotFather, and connect it: quillon connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Holen Sie sein Token von @BotFather, und verbinden Sie ihn: quillon connect</translation>
     </message>
     <message>
         <source>Telegram accepts its token</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram nimmt sein Token an</translation>
     </message>
     <message>
         <source>Add the bot to the group, write “hi” there, and: quillon find-group</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügen Sie den Bot zur Gruppe hinzu, schreiben Sie dort „hi“, dann: quillon find-group</translation>
     </message>
     <message>
         <source>it is not found yet</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist noch nicht gefunden</translation>
     </message>
     <message>
         <source>it has become a supergroup, which is another one</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist zu einer Supergruppe geworden, und die ist eine andere</translation>
     </message>
     <message>
         <source>Write “hi” there, and: quillon find-group</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben Sie dort „hi“, dann: quillon find-group</translation>
     </message>
     <message>
         <source>the bot reaches it</source>
-        <translation type="unfinished"></translation>
+        <translation>der Bot erreicht sie</translation>
     </message>
     <message>
         <source>they are switched on</source>
-        <translation type="unfinished"></translation>
+        <translation>sie sind eingeschaltet</translation>
     </message>
     <message>
         <source>they are switched off in the group</source>
-        <translation type="unfinished"></translation>
+        <translation>sie sind in der Gruppe ausgeschaltet</translation>
     </message>
     <message>
         <source>Switch on Topics in the group&apos;s settings on the phone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalten Sie Themen auf dem Handy in den Einstellungen der Gruppe ein.</translation>
     </message>
     <message>
         <source>the bot may manage topics</source>
-        <translation type="unfinished"></translation>
+        <translation>der Bot darf Themen verwalten</translation>
     </message>
     <message>
         <source>the bot may not manage topics</source>
-        <translation type="unfinished"></translation>
+        <translation>der Bot darf Themen nicht verwalten</translation>
     </message>
     <message>
         <source>Make it an admin with “Manage Topics”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Machen Sie ihn zum Admin mit „Themen verwalten“.</translation>
     </message>
     <message>
         <source>it is not created yet</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist noch nicht angelegt</translation>
     </message>
     <message>
         <source>Create it: quillon create-topics</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie es an: quillon create-topics</translation>
     </message>
     <message>
         <source>it is there</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist da</translation>
     </message>
 </context>
 <context>
