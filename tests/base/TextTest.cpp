@@ -96,7 +96,7 @@ TEST(Translate, TakesTheFirstCatalogueOfTheUsersLanguages) {
         {"", "zh_SG", {"zh_SG", "zh", "zh_CN", "en"}},
         {"", "zh_Hant_HK", {"zh_Hant_HK", "zh", "en"}}, // another script
         {"", "zh_TW.Big5", {"zh_TW", "zh", "en"}},
-        {"../../etc/passwd", "_", {"../../etc/passwd", "en"}},
+        {"../../etc/passwd", "_", {"en"}},
     };
     for (const auto& [languages, locale, names] : cases)
         EXPECT_EQ(wantedCatalogues({languages, locale}), names) << languages << " in " << locale;
