@@ -79,6 +79,15 @@ SendWishes wishesFor(const CommandContext& context, std::optional<TopicKind> top
     throw TelegramError{problem};
 }
 
+/// The banner has told why, unless another send was under way. Then the shortcut is ignored in
+/// silence; but who has chosen files elsewhere must know that they did not go.
+[[noreturn]] void refuseNothingSent(const CommandContext& context, bool given) {
+    if (const auto& problem = context.core.banner.problem()) throw TelegramError{*problem};
+    const std::string running = translate("Command", "Another send is still running.");
+    if (given) refuse(context, running);
+    throw TelegramError{running};
+}
+
 QCoro::Task<SendItem> inputItem(CommandContext context, std::optional<std::string> name) {
     const QFuture<std::optional<QByteArray>> reading =
         context.console->readInput(maximumFileSize + 1);
@@ -132,17 +141,14 @@ QCoro::Task<std::vector<Sent>> sendNow(CommandContext context, std::vector<SendI
                                        SendWishes wishes) {
     Store& store = context.core.store;
     const std::size_t before = store.history().size();
+    const bool given = !items.empty();
     context.core.banner.forget();
     QCoro::Task<> sending = items.empty() ? store.sendClipboard(std::move(wishes))
                                           : store.send(std::move(items), std::move(wishes));
     co_await sending;
     const std::vector<Sent>& history = store.history();
     const auto added = static_cast<std::ptrdiff_t>(history.size() - before);
-    // The banner told why, unless another send was under way.
-    if (added == 0) {
-        throw TelegramError{context.core.banner.problem().value_or(
-            translate("Command", "Another send is still running."))};
-    }
+    if (added == 0) refuseNothingSent(context, given);
     // The newest entry stands first.
     std::vector<Sent> entries{history.rend() - added, history.rend()};
     co_return entries;

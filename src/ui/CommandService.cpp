@@ -18,7 +18,6 @@
 
 #include <array>
 #include <map>
-#include <tuple>
 #include <utility>
 
 #include <sys/stat.h>
@@ -261,9 +260,18 @@ void CommandService::open(const QStringList& uris) {
         return sendErrorReply(QDBusError::InvalidArgs,
                               QStringLiteral("Only files of this computer can be sent."));
     }
-    whenServing([this, given = *std::move(items)] {
-        std::ignore = context_->core.store.send(given, {.via = Trigger::button});
-    });
+    whenServing([this, given = *std::move(items)] { sendOpened(given); });
+}
+
+QCoro::Task<> CommandService::sendOpened(std::vector<SendItem> items) {
+    SendWishes wishes{.via = Trigger::button};
+    try {
+        QCoro::Task<std::vector<Sent>> sending =
+            sendNow(*context_, std::move(items), std::move(wishes));
+        co_await sending;
+    } catch (const std::exception&) {
+        // The banner has told what is wrong, and nobody else listens.
+    }
 }
 
 QString CommandService::Status() {

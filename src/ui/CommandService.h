@@ -119,6 +119,7 @@ private:
     /// Tells everybody of all sends from now on.
     void announceSends();
     QCoro::Task<> send(QDBusMessage call, std::vector<SendItem> items, SendWishes wishes);
+    QCoro::Task<> sendOpened(std::vector<SendItem> items);
     QCoro::Task<> tellStatus(QDBusMessage call);
     /// Carries out the queue's calls until there are none.
     QCoro::Task<> work();

@@ -239,6 +239,12 @@ TEST_F(Anywhere, TakesFilesAndTextsFromOtherPrograms) {
     EXPECT_EQ(callSend({}, "a", {{QStringLiteral("topic"), QStringLiteral("all")}}).errorName(),
               invalid);
     EXPECT_EQ(callSend({}, "a", {{QStringLiteral("later"), true}}).errorName(), invalid);
+    phone.clearRequests();
+    phone.failNext(fault(sandbox::FaultKind::delay, 1s));
+    const auto busy = startShell("q send plan.pdf");
+    ASSERT_TRUE(waitUntil([this] { return !phone.requests().empty(); }));
+    EXPECT_EQ(callSend({}, "a").errorMessage(), QStringLiteral("Another send is still running."));
+    static_cast<void>(Program::finish(*busy));
     EXPECT_EQ(quillon.run({"forget"}).code, 0);
     const QDBusMessage refused = callSend({}, "a");
     EXPECT_EQ(refused.errorName(), QStringLiteral("dev.vostrel.quillon.Error.NotSent"));
