@@ -5,8 +5,10 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMap>
 #include <QScrollArea>
 #include <QTabBar>
 
@@ -28,13 +30,18 @@ public:
         std::ranges::sort(names_, [](auto& one, auto& other) { return one.size() > other.size(); });
     }
 
-    QStringList faults() {
-        speech(QAccessible::queryAccessibleInterface(&window_));
+    QStringList layoutFaults() {
         for (QWidget* each : window_.findChildren<QWidget*>()) {
             if (!each->isVisible()) continue;
             if (isLeaf(*each)) room(*each);
             neighbours(*each);
+            keys(*each);
         }
+        return faults_;
+    }
+
+    QStringList languageFaults() {
+        speech(QAccessible::queryAccessibleInterface(&window_));
         return faults_;
     }
 
@@ -108,19 +115,41 @@ private:
         }
     }
 
+    void keys(const QWidget& widget) {
+        if (!widget.isEnabled()) return;
+        if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget))
+            key(button->shortcut(), button->text());
+        const auto* const tabs = qobject_cast<const QTabBar*>(&widget);
+        for (int i = 0; tabs && i < tabs->count(); ++i)
+            key(QKeySequence::mnemonic(tabs->tabText(i)), tabs->tabText(i));
+    }
+
+    /// One key reaches one control.
+    void key(const QKeySequence& keys, const QString& text) {
+        if (keys.isEmpty()) return;
+        if (const QString other = keys_.value(keys); !other.isEmpty())
+            faults_ << QStringLiteral("“%1” and “%2” have the same key").arg(other, text);
+        keys_.insert(keys, text);
+    }
+
     static bool isViewport(const QWidget& widget) {
         return qobject_cast<const QAbstractScrollArea*>(widget.parentWidget()) != nullptr;
     }
 
     QWidget& window_;
     QStringList names_;
+    QMap<QKeySequence, QString> keys_;
     QStringList faults_;
 };
 
 } // namespace
 
-QStringList textFaults(QWidget& window, const QStringList& names) {
-    return Check{window, names}.faults();
+QStringList layoutFaults(QWidget& window, const QStringList& names) {
+    return Check{window, names}.layoutFaults();
+}
+
+QStringList languageFaults(QWidget& window, const QStringList& names) {
+    return Check{window, names}.languageFaults();
 }
 
 } // namespace quillon::test

@@ -202,7 +202,7 @@ const std::map<std::string, Scene> scenes{
      {on("setup", found()),
       [](Stage& stage) {
           stage.computer.sandbox.failNext(refusal("createForumTopic", 400, noRights));
-          stage.click("Create the topics");
+          stage.click("C&reate the topics");
           stage.awaitText("Couldn't create topics. Make the bot an admin with “Manage Topics” and "
                           "try again.");
       }}},

@@ -1,7 +1,9 @@
 #include "shots/Shots.h"
 
+#include "base/Translate.h"
 #include "shots/LayoutCheck.h"
 #include "shots/Pseudo.h"
+#include "shots/Words.h"
 #include "support/Await.h"
 #include "ui/theme/ApplicationTheme.h"
 #include "ui/theme/Motion.h"
@@ -118,7 +120,8 @@ Findings& findings() {
 }
 
 bool complain(const Shot& shot, const QString& fault) {
-    std::fprintf(stderr, "%s: %s\n", shot.name.c_str(), qUtf8Printable(fault));
+    std::fprintf(stderr, "%s %s: %s\n", shot.name.c_str(), textLanguage().c_str(),
+                 qUtf8Printable(fault));
     return false;
 }
 
@@ -140,6 +143,19 @@ bool take(const Shot& shot, const QString& folder, Sheet& sheet) {
     }
 }
 
+/// Takes those of the pictures that are named, or all.
+bool takeAll(const std::vector<Shot>& shots, const QStringList& chosen, const QString& folder) {
+    Sheet sheet;
+    bool all = true;
+    for (const Shot& shot : shots) {
+        if (chosen.isEmpty() || chosen.contains(QString::fromStdString(shot.name)))
+            all = take(shot, folder, sheet) && all;
+    }
+    if (!folder.isEmpty())
+        all = sheet.save(QDir{folder}.filePath(QStringLiteral("sheet.png"))) && all;
+    return all;
+}
+
 } // namespace
 
 int takeShots(int argc, char** argv, const std::vector<Shot>& shots, const QStringList& names) {
@@ -157,21 +173,18 @@ int takeShots(int argc, char** argv, const std::vector<Shot>& shots, const QStri
     dress();
     findings().names = names;
     const QString folder = arguments[1] == QLatin1String{"--check"} ? QString{} : arguments[1];
-    Sheet sheet;
     bool all = folder.isEmpty() || QDir{}.mkpath(folder);
-    for (const Shot& shot : shots) {
-        const QString name = QString::fromStdString(shot.name);
-        if (arguments.size() == 2 || arguments.sliced(2).contains(name))
-            all = take(shot, folder, sheet) && all;
+    const QStringList languages = qEnvironmentVariable("WORDS").split(QLatin1Char{':'});
+    for (const QString& language : languages) {
+        speak(language);
+        all = takeAll(shots, arguments.sliced(2), folder) && all;
     }
-    if (!folder.isEmpty())
-        all = sheet.save(QDir{folder}.filePath(QStringLiteral("sheet.png"))) && all;
     return all ? 0 : 1;
 }
 
 QString shown(const char* text) {
     const QString words = QString::fromUtf8(text);
-    return wanted("PSEUDO") ? pseudo(words) : words;
+    return wanted("PSEUDO") ? pseudo(withoutKey(words)) : spoken(words);
 }
 
 void until(const std::function<bool()>& so) {
@@ -187,7 +200,8 @@ QPixmap pictureOf(QWidget& window) {
         waitUntil([&] { return frame.isActiveWindow(); }, 2s);
         waitUntil([] { return false; }, 60ms);
     }
-    findings().faults += textFaults(window, findings().names);
+    findings().faults += layoutFaults(window, findings().names);
+    if (wanted("PSEUDO")) findings().faults += languageFaults(window, findings().names);
     return window.grab();
 }
 

@@ -10,9 +10,10 @@
 class QWidget;
 
 /// The common part of the programs that take pictures of windows. The environment sets how the
-/// windows look: DARK=1 gives dark colours, PSEUDO=1 the pseudo-language of shots/Pseudo.h, RTL=1
-/// windows that are written from right to left, and TEXT=1.5 larger text. QT_SCALE_FACTOR works as
-/// in any Qt program. The same window always gives the same picture.
+/// windows look: DARK=1 gives dark colours, PSEUDO=1 the pseudo-language of shots/Pseudo.h,
+/// WORDS=de the words of a catalogue (with WORDS=de:ja all is done in one language after the
+/// other), RTL=1 windows that are written from right to left, and TEXT=1.5 larger text.
+/// QT_SCALE_FACTOR works as in any Qt program. The same window always gives the same picture.
 namespace quillon::test {
 
 struct Shot {
@@ -28,7 +29,7 @@ struct Shot {
 [[nodiscard]] int takeShots(int argc, char** argv, const std::vector<Shot>& shots,
                             const QStringList& names);
 
-/// The text as windows show it: in the pseudo-language if that is on.
+/// The text as windows show it: in the pseudo-language or the catalogue's language if one is on.
 [[nodiscard]] QString shown(const char* text);
 
 /// Runs the event loop until `so` returns true. Throws if that takes too long.

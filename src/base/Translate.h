@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QString>
 #include <QtGlobal> // QT_TRANSLATE_NOOP
 
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Texts for people, in the user's language, where no QObject's tr is at hand. Qt's lupdate finds
 /// the calls by the function's name; context and text are literals. A text that stands in a table
@@ -21,8 +23,27 @@ namespace quillon {
 [[nodiscard]] std::string filled(std::string_view text,
                                  std::initializer_list<std::string_view> values);
 
-/// Loads the catalogue of the user's language into the application object, if the program has one,
-/// and Qt's own with it. To be called right after the application object is made.
+/// What the environment says about the user's language, as gettext's programs read it: LANGUAGE, a
+/// list with colons between, and what the first of LC_ALL, LC_MESSAGES and LANG that is set says.
+struct LanguageWish {
+    std::string languages;
+    std::string locale;
+};
+
+/// The names of the catalogues that would do, best first, such as "de_AT", "de", "en". Texts in
+/// English are for everyone: "en" is always among them, and nothing comes after it.
+[[nodiscard]] std::vector<std::string> wantedCatalogues(const LanguageWish& wish);
+
+/// Loads the catalogue of the user's language, one of those that the build put into the program,
+/// into the application object. A program with windows gets Qt's own with it. To be called right
+/// after the application object is made.
 void loadCatalogue();
+
+/// Loads quillon_NAME.qm of the folder, in place of one that was loaded before. Returns whether
+/// there is such a file.
+bool loadCatalogue(const QString& folder, const QString& name);
+
+/// The language of the texts, as in "pt_BR": that of the catalogue; "en" while there is none.
+[[nodiscard]] std::string textLanguage();
 
 } // namespace quillon

@@ -4,6 +4,7 @@
 #include "base/Translate.h"
 #include "base/Uuid.h"
 #include "cli/Terminal.h"
+#include "state/ShownKeys.h"
 #include "state/Store.h"
 
 #include <QDateTime>
@@ -35,10 +36,21 @@ QDateTime dateTime(Date date) {
     return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(sinceEpoch.count()));
 }
 
-std::string row(const std::string& name, const std::string& value) {
-    constexpr int width = 10;
-    const QString label = QString::fromStdString(name + ":").leftJustified(width);
-    return Terminal::harmless(label.toStdString() + value) + "\n";
+using Rows = std::vector<std::pair<std::string, std::string>>;
+
+/// A line for each row, with the values below each other, however long the names are.
+std::string inLines(Rows rows) {
+    std::size_t widest = 0;
+    for (auto& [name, value] : rows) {
+        name = filled(translate("Status", "%1:"), {name});
+        widest = std::max(widest, Terminal::cells(name));
+    }
+    std::string text;
+    for (const auto& [name, value] : rows) {
+        const std::string space(widest - Terminal::cells(name) + 1, ' ');
+        text += Terminal::harmless(name + space + value) + "\n";
+    }
+    return text;
 }
 
 /// The bot's row: without the keyring's answer, what the settings remember.
@@ -89,20 +101,21 @@ std::string sendLine(const Sent& entry) {
 
 std::string statusText(const Store& store) {
     const Config& config = store.config();
-    std::string text = row(translate("Status", "Bot"), botText(store));
-    text += row(translate("Status", "Group"),
-                config.chatId ? config.chatTitle.value_or(translate("Status", "your group"))
-                              : translate("Status", "not found yet"));
+    Rows rows{{translate("Status", "Bot"), botText(store)}};
+    rows.emplace_back(translate("Status", "Group"),
+                      config.chatId ? config.chatTitle.value_or(translate("Status", "your group"))
+                                    : translate("Status", "not found yet"));
     for (const Topic& topic : config.topics) {
         const std::string shown =
             topic.threadId ? "%1" : translate("Status", "%1 (not created yet)");
-        text += row(translate("Status", "Topic"), filled(shown, {topic.name}));
+        rows.emplace_back(translate("Status", "Topic"), filled(shown, {topic.name}));
     }
-    text += row(translate("Status", "Shortcut"), keysText(config.shortcut));
+    rows.emplace_back(translate("Status", "Shortcut"), shownKeysText(config.shortcut));
     if (const auto problem = store.keyringProblem())
-        text += row(translate("Status", "Keyring"), *problem);
-    return text + row(translate("Status", "Ready"),
+        rows.emplace_back(translate("Status", "Keyring"), *problem);
+    rows.emplace_back(translate("Status", "Ready"),
                       canSend(store) ? translate("Status", "yes") : translate("Status", "no"));
+    return inLines(std::move(rows));
 }
 
 std::string statusJson(const Store& store, const DesktopWays& ways, bool registered) {

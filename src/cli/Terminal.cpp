@@ -3,9 +3,12 @@
 #include "base/Translate.h"
 #include "base/Utf8.h"
 
+#include <QLocale>
+
+#include <unicode/uchar.h>
+
 #include <array>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 #include <iostream>
 
@@ -59,9 +62,7 @@ private:
 };
 
 std::string megabytes(qint64 bytes) {
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%.1f", static_cast<double>(bytes) / 1e6);
-    return text.data();
+    return QLocale{}.toString(static_cast<double>(bytes) / 1e6, 'f', 1).toStdString();
 }
 
 } // namespace
@@ -75,6 +76,16 @@ std::string harmless(std::string_view text) {
         safe += keep ? text.substr(begin, offset - begin) : std::string_view{"\uFFFD"};
     }
     return safe;
+}
+
+std::size_t cells(std::string_view text) {
+    std::size_t count = 0;
+    for (std::size_t offset = 0; offset < text.size();) {
+        const int width =
+            u_getIntPropertyValue(nextCodePoint(text, offset), UCHAR_EAST_ASIAN_WIDTH);
+        count += width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
+    }
+    return count;
 }
 
 void print(std::string_view line) {

@@ -13,6 +13,10 @@ namespace quillon::Terminal {
 /// names can hold them) drives the terminal.
 [[nodiscard]] std::string harmless(std::string_view text);
 
+/// How many columns the text takes: two for each East Asian character that is wide (Unicode's annex
+/// 11), one for each other. Meant for words of translations.
+[[nodiscard]] std::size_t cells(std::string_view text);
+
 /// Prints one line to standard output or standard error, made harmless.
 void print(std::string_view line);
 void printError(std::string_view line);

@@ -1,6 +1,7 @@
 #include "desktop/ShortcutSentence.h"
 
 #include "base/Translate.h"
+#include "state/ShownKeys.h"
 
 #include <algorithm>
 #include <optional>
@@ -100,7 +101,7 @@ std::string shortcutSentence(const HotKeyState& state, ShortcutChoice choice, Sh
     const auto row = std::ranges::find_if(rows, [&](const Row& each) { return fits(each, state); });
     const char* const text = place == ShortcutPlace::settings ? row->settings : row->panel;
     if (!*text) return {};
-    return filled(translate("Shortcut", text), {keysText(choice), state.trigger, state.place});
+    return filled(translate("Shortcut", text), {shownKeysText(choice), state.trigger, state.place});
 }
 
 bool wantsAttention(const HotKeyState& state) {

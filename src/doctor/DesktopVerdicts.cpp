@@ -1,5 +1,6 @@
 // Session, display, clipboard, shortcut, banner and icon.
 #include "doctor/Verdicts.h"
+#include "state/ShownKeys.h"
 
 #include <QtGlobal>
 
@@ -38,7 +39,7 @@ Verdict withoutDisplay() {
 }
 
 std::string keys(const Facts& facts) {
-    return keysText(facts.config.shortcut);
+    return shownKeysText(facts.config.shortcut);
 }
 
 /// The name of a format without its parameters, which can hold names of files.

@@ -1,6 +1,7 @@
 // Creating the forum topics, finding them again, and giving them new names.
 #include "base/Translate.h"
 #include "setup/GroupUpdates.h"
+#include "state/ShownKeys.h"
 #include "state/Store.h"
 
 #include <QString>
@@ -90,7 +91,7 @@ std::string welcome(ShortcutChoice shortcut) {
     return filled(translate("Setup",
                             "✅ Quillon is connected. Press %1 on your Mac to send what you "
                             "copied."),
-                  {keysText(shortcut)});
+                  {shownKeysText(shortcut)});
 }
 
 } // namespace

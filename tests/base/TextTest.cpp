@@ -81,6 +81,27 @@ TEST(Translate, FillsPlacesOnceWhateverTheValuesHold) {
     EXPECT_EQ(filled("no place", {"x"}), "no place");
 }
 
+TEST(Translate, TakesTheFirstCatalogueOfTheUsersLanguages) {
+    using Names = std::vector<std::string>;
+    const std::tuple<const char*, const char*, Names> cases[]{
+        {"", "de_AT.UTF-8@euro", {"de_AT", "de", "en"}},
+        {"", "", {"en"}},
+        {"ja", "C", {"en"}}, // says what it always says
+        {"ja", "POSIX", {"en"}},
+        {"ja", "C.UTF-8", {"ja", "en"}},
+        {"sv:de_DE.UTF-8:C", "ru_RU.UTF-8", {"sv", "de_DE", "de", "ru_RU", "ru", "en"}},
+        {"nl::en_GB:de", "ru", {"nl", "en_GB", "en"}}, // English is there, so nothing after it counts
+        {":", "pt_PT", {"pt_PT", "pt", "pt_BR", "en"}},
+        {"", "pt_BR.UTF-8", {"pt_BR", "pt", "en"}},
+        {"", "zh_SG", {"zh_SG", "zh", "zh_CN", "en"}},
+        {"", "zh_Hant_HK", {"zh_Hant_HK", "zh", "en"}}, // another script
+        {"", "zh_TW.Big5", {"zh_TW", "zh", "en"}},
+        {"../../etc/passwd", "_", {"en"}},
+    };
+    for (const auto& [languages, locale, names] : cases)
+        EXPECT_EQ(wantedCatalogues({languages, locale}), names) << languages << " in " << locale;
+}
+
 TEST(ThisMachineTest, IsLocalhostAndTheLoopbackAddressesAlone) {
     for (const char* host : {"localhost", "127.0.0.1", "127.255.0.3", "::1", "[::1]"})
         EXPECT_TRUE(isThisMachine(host)) << host;

@@ -126,7 +126,7 @@ TEST_F(Accessibility, TheKeyboardReachesEverythingInOrder) {
         {"General",
          {"Control Alt V", "Play a sound", "Show a banner", "Banner in the top",
           "Banner in the middle", "Banner in the bottom", "Open Quillon when I log in",
-          "Check for updates automatically", "Disconnect this Mac", "Uninstall Quillon…"}}};
+          "Check for updates automatically", "Disconnect this computer", "Uninstall Quillon…"}}};
     for (const auto& [tab, controls] : tabs) {
         reader.waitForFocus(tab);
         for (const std::string& control : controls) {

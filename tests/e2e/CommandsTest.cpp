@@ -9,7 +9,7 @@ constexpr const char* notSetUp = "Bot:      not connected\n"
                                  "Topic:    📸 Images (not created yet)\n"
                                  "Topic:    📎 Files (not created yet)\n"
                                  "Topic:    🎬 Videos (not created yet)\n"
-                                 "Shortcut: ⌃⌥V\n"
+                                 "Shortcut: Ctrl+Alt+V\n"
                                  "Ready:    no\n";
 
 struct Commands : EndToEnd {
@@ -117,6 +117,21 @@ TEST_F(Commands, FollowWhatIsWrittenIntoTheSettings) {
     EXPECT_THAT(sandbox::dumped(phone.view()), HasSubstr("📝 Scraps"));
     endProgram(*program);
     EXPECT_EQ(content(settings), text);
+}
+
+TEST_F(Commands, SpeakTheLanguageThatIsAskedForToPeopleAlone) {
+    const std::string forScripts = quillon.run({"status", "--json"}).out;
+    const std::tuple<const char*, const char*, std::string> cases[]{
+        {"nl:de:ja", "ja_JP.UTF-8", "Bot:          nicht verbunden\n"},
+        {"", "ja_JP.UTF-8", "ボット:         未接続\n"},
+        {"de", "C", "Bot:      not connected\n"},
+    };
+    for (const auto& [languages, locale, line] : cases) {
+        quillon.environment.insert(QStringLiteral("LANGUAGE"), QString::fromUtf8(languages));
+        quillon.environment.insert(QStringLiteral("LC_ALL"), QString::fromUtf8(locale));
+        EXPECT_THAT(quillon.run({"status"}).out, StartsWith(line)) << languages << locale;
+        EXPECT_EQ(quillon.run({"status", "--json"}).out, forScripts) << languages << locale;
+    }
 }
 
 TEST_F(Commands, NameAnAddressOfTheBotApiThatIsNone) {

@@ -38,6 +38,7 @@ Program::Program(const std::string& botApi, const std::filesystem::path& data)
     environment.insert(QStringLiteral("QUILLON_BOT_API"), QString::fromStdString(botApi));
     environment.insert(QStringLiteral("XDG_DATA_HOME"), QString::fromStdString(data.native()));
     environment.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));
+    environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
 }
 
 std::unique_ptr<QProcess> Program::start(const std::vector<std::string>& arguments) const {

@@ -1,12 +1,14 @@
 #include "ui/panel/PanelView.h"
 
 #include "base/ShownText.h"
+#include "base/Translate.h"
 #include "desktop/ShortcutSentence.h"
 #include "maintenance/Updater.h"
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
 #include "send/Dropped.h"
 #include "send/UndoOutcome.h"
+#include "state/ShownKeys.h"
 #include "state/Store.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Card.h"
@@ -134,7 +136,7 @@ QHBoxLayout* PanelView::buildFooter(TextButton* settings) {
 void PanelView::refresh() {
     const bool ready = store_.mayBeReady();
     const Config& config = store_.config();
-    const QString keys = QString::fromStdString(keysText(config.shortcut));
+    const QString keys = QString::fromStdString(shownKeysText(config.shortcut));
 
     header_->setStatus(ready, config.chatTitle);
     setup_->setShortcut(keys);
@@ -146,7 +148,7 @@ void PanelView::refresh() {
     keyring_->setText(QString::fromStdString(problem.value_or("")));
     keyring_->setVisible(problem.has_value());
     refreshShortcut();
-    recent_->setHistory(store_.history(), platform_.clock.now(), platform_.system.locale);
+    recent_->setHistory(store_.history(), platform_.clock.now(), textLanguage());
     refreshUndo();
     updates_->setVisible(updater_.available());
     updates_->setEnabled(updater_.canCheck());
@@ -178,7 +180,7 @@ void PanelView::refreshShortcut() {
 
 QString PanelView::takenText(ShortcutChoice shortcut) {
     return tr("%1 is already used by another app. Pick another shortcut in Settings.")
-        .arg(QString::fromStdString(keysText(shortcut)));
+        .arg(QString::fromStdString(shownKeysText(shortcut)));
 }
 
 void PanelView::focusMainAction() {

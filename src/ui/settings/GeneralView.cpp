@@ -2,6 +2,7 @@
 
 #include "artwork/Palette.h"
 #include "maintenance/Updater.h"
+#include "state/ShownKeys.h"
 #include "state/Store.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Card.h"
@@ -53,7 +54,7 @@ Card* GeneralView::buildShortcut() {
     auto* card = new Card{tr("Shortcut"), "command"};
     QStringList items;
     for (const ShortcutChoice choice : allShortcutChoices)
-        items << QString::fromStdString(keysText(choice));
+        items << QString::fromStdString(shownKeysText(choice));
     shortcut_ = new SegmentedPicker{items};
     shortcut_->setAccessibleName(tr("Shortcut"));
     for (std::size_t i = 0; i < allShortcutChoices.size(); ++i) {
@@ -150,10 +151,12 @@ void GeneralView::refresh() {
 
 void GeneralView::refreshShortcut() {
     const ShortcutChoice choice = store_.config().shortcut;
-    shortcut_->setFixedWidth(Theme::wholeLength(pickerWidth));
+    // The names of keys are longer than their symbols.
+    shortcut_->setFixedWidth(
+        std::max(Theme::wholeLength(pickerWidth), shortcut_->minimumSizeHint().width()));
     shortcut_->setCurrentIndex(static_cast<int>(choice));
     taken_->setText(tr("Another app already uses %1. Pick another one.")
-                        .arg(QString::fromStdString(keysText(choice))));
+                        .arg(QString::fromStdString(shownKeysText(choice))));
     taken_->setVisible(store_.shortcutTaken());
     note_->refresh();
 }

@@ -3,6 +3,7 @@
 #include "artwork/Brand.h"
 #include "artwork/Colors.h"
 #include "artwork/Shapes.h"
+#include "state/ShownKeys.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
@@ -29,19 +30,25 @@ constexpr int betweenKeys = 3;
 constexpr double labelTint = 0.16;
 
 struct KeyName {
-    QChar symbol;
+    const char* symbol;
     const char* name;
 };
 
 constexpr std::array keyNames{
-    KeyName{u'\u2303', QT_TRANSLATE_NOOP("quillon::Keycap", "Control")},
-    KeyName{u'\u2325', QT_TRANSLATE_NOOP("quillon::Keycap", "Alt")},
-    KeyName{u'\u21e7', QT_TRANSLATE_NOOP("quillon::Keycap", "Shift")},
+    KeyName{"⌃", QT_TRANSLATE_NOOP("quillon::Keycap", "Control")},
+    KeyName{"⌥", QT_TRANSLATE_NOOP("quillon::Keycap", "Alt")},
+    KeyName{"⇧", QT_TRANSLATE_NOOP("quillon::Keycap", "Shift")},
 };
 
+/// Whether the label is the key's: its symbol, or what shownKeys has in its place.
+bool isLabelOf(const KeyName& key, const QString& label) {
+    return label == QString::fromUtf8(key.symbol) ||
+           label == QCoreApplication::translate("Shortcut", key.symbol);
+}
+
 QString spokenKey(const QString& label) {
-    const auto* const known = std::ranges::find_if(
-        keyNames, [&](const KeyName& key) { return label == QString{key.symbol}; });
+    const auto* const known =
+        std::ranges::find_if(keyNames, [&](const KeyName& key) { return isLabelOf(key, label); });
     if (known == keyNames.end()) return label;
     return QCoreApplication::translate("quillon::Keycap", known->name);
 }
@@ -123,8 +130,8 @@ void KeyRow::setLabels(const QStringList& labels) {
 
 QStringList keyLabels(ShortcutChoice shortcut) {
     QStringList labels;
-    for (const std::string_view key : keys(shortcut))
-        labels << QString::fromUtf8(key.data(), std::ssize(key));
+    for (const std::string& key : shownKeys(shortcut))
+        labels << QString::fromStdString(key);
     return labels;
 }
 
@@ -137,8 +144,8 @@ QString spokenKeys(const QStringList& labels) {
 
 QString spokenText(QString text) {
     for (const KeyName& key : keyNames) {
-        if (text.contains(key.symbol))
-            text.replace(key.symbol, spokenKey(QString{key.symbol}) + QLatin1Char{' '});
+        const QString symbol = QString::fromUtf8(key.symbol);
+        if (text.contains(symbol)) text.replace(symbol, spokenKey(symbol) + QLatin1Char{' '});
     }
     return text;
 }

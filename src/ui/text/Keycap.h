@@ -74,7 +74,7 @@ private:
 /// The labels of a shortcut's keys, in the order in which they are pressed.
 [[nodiscard]] QStringList keyLabels(ShortcutChoice shortcut);
 
-/// The names of the keys: "Control Alt V" for ⌃, ⌥ and V.
+/// The names of the keys: "Control Alt V" for ⌃ or Ctrl, ⌥ or Alt, and V.
 [[nodiscard]] QString spokenKeys(const QStringList& labels);
 
 /// The text with words in place of the symbols of keys: "press Control Alt V" for "press ⌃⌥V".
