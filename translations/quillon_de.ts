@@ -362,6 +362,10 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
         <source>tell what is wrong, and how to mend it</source>
         <translation>sagen, was nicht stimmt und was hilft</translation>
     </message>
+    <message>
+        <source>take the last send back, for 48 hours</source>
+        <translation>die letzte Übertragung zurücknehmen, 48 Stunden lang</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1317,6 +1321,57 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     </message>
 </context>
 <context>
+    <name>Undo</name>
+    <message>
+        <source>Stopped before all was taken back.</source>
+        <translation>Abgebrochen, bevor alles zurückgenommen war.</translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation>Nachricht %1</translation>
+    </message>
+    <message>
+        <source>A send is still running. Take it back once it has ended.</source>
+        <translation>Es läuft noch eine Übertragung. Nehmen Sie sie zurück, sobald sie beendet ist.</translation>
+    </message>
+    <message>
+        <source>The last send is being taken back already.</source>
+        <translation>Die letzte Übertragung wird schon zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>Nothing of the last send has arrived.</source>
+        <translation>Von der letzten Übertragung ist nichts angekommen.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Es gibt nichts zurückzunehmen.</translation>
+    </message>
+    <message>
+        <source>The last send is more than 48 hours old. Telegram lets bots delete messages no longer than that.</source>
+        <translation>Die letzte Übertragung ist mehr als 48 Stunden her. Länger lässt Telegram Bots keine Nachrichten löschen.</translation>
+    </message>
+    <message>
+        <source>Taking back…</source>
+        <translation>Wird zurückgenommen …</translation>
+    </message>
+    <message>
+        <source>Took back the message</source>
+        <translation>Nachricht zurückgenommen</translation>
+    </message>
+    <message>
+        <source>Took back only %1: %2</source>
+        <comment>number of messages, reason</comment>
+        <translation>Nur %1 zurückgenommen: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Took back %n messages</source>
+        <translation>
+            <numerusform>%n Nachricht zurückgenommen</numerusform>
+            <numerusform>%n Nachrichten zurückgenommen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Uninstaller</name>
     <message>
         <source>It couldn&apos;t move itself to the Trash. Drag Quillon from Applications to the Trash to finish.</source>
@@ -1554,6 +1609,29 @@ Ohne Befehl bleibt es aktiv und sendet, sobald Sie das Tastenkürzel drücken.
     <message>
         <source>Sent</source>
         <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Taken back</source>
+        <translation>Zurückgenommen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>zurückgenommen</translation>
+    </message>
+    <message>
+        <source>Deletes the message of the last send</source>
+        <translation>Löscht die Nachricht der letzten Übertragung</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deletes all %n messages of the last send</source>
+        <translation>
+            <numerusform>Löscht die %n Nachricht der letzten Übertragung</numerusform>
+            <numerusform>Löscht alle %n Nachrichten der letzten Übertragung</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -356,6 +356,10 @@ Without a command it stays, and sends whenever you press its shortcut.
         <source>tell what is wrong, and how to mend it</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>take the last send back, for 48 hours</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1311,6 +1315,57 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
 </context>
 <context>
+    <name>Undo</name>
+    <message>
+        <source>Stopped before all was taken back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A send is still running. Take it back once it has ended.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last send is being taken back already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing of the last send has arrived.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last send is more than 48 hours old. Telegram lets bots delete messages no longer than that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taking back…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Took back the message</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Took back only %1: %2</source>
+        <comment>number of messages, reason</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Took back %n messages</source>
+        <translation>
+            <numerusform>Took back %n message</numerusform>
+            <numerusform>Took back %n messages</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Uninstaller</name>
     <message>
         <source>It couldn&apos;t move itself to the Trash. Drag Quillon from Applications to the Trash to finish.</source>
@@ -1548,6 +1603,29 @@ Without a command it stays, and sends whenever you press its shortcut.
     <message>
         <source>Sent</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taken back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deletes the message of the last send</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Deletes all %n messages of the last send</source>
+        <translation>
+            <numerusform>Deletes the %n message of the last send</numerusform>
+            <numerusform>Deletes all %n messages of the last send</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -362,6 +362,10 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
         <source>tell what is wrong, and how to mend it</source>
         <translation>decir qué falla y cómo arreglarlo</translation>
     </message>
+    <message>
+        <source>take the last send back, for 48 hours</source>
+        <translation>deshacer el último envío, durante 48 horas</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1317,6 +1321,57 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
 </context>
 <context>
+    <name>Undo</name>
+    <message>
+        <source>Stopped before all was taken back.</source>
+        <translation>Se detuvo antes de deshacerlo todo.</translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation>Mensaje %1</translation>
+    </message>
+    <message>
+        <source>A send is still running. Take it back once it has ended.</source>
+        <translation>Todavía hay un envío en curso. Deshágalo cuando haya terminado.</translation>
+    </message>
+    <message>
+        <source>The last send is being taken back already.</source>
+        <translation>Ya se está deshaciendo el último envío.</translation>
+    </message>
+    <message>
+        <source>Nothing of the last send has arrived.</source>
+        <translation>No llegó nada del último envío.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>No hay nada que deshacer.</translation>
+    </message>
+    <message>
+        <source>The last send is more than 48 hours old. Telegram lets bots delete messages no longer than that.</source>
+        <translation>El último envío tiene más de 48 horas. Telegram no deja que los bots borren mensajes pasado ese tiempo.</translation>
+    </message>
+    <message>
+        <source>Taking back…</source>
+        <translation>Deshaciendo…</translation>
+    </message>
+    <message>
+        <source>Took back the message</source>
+        <translation>Mensaje deshecho</translation>
+    </message>
+    <message>
+        <source>Took back only %1: %2</source>
+        <comment>number of messages, reason</comment>
+        <translation>Solo se deshicieron %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Took back %n messages</source>
+        <translation>
+            <numerusform>%n mensaje deshecho</numerusform>
+            <numerusform>%n mensajes deshechos</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Uninstaller</name>
     <message>
         <source>It couldn&apos;t move itself to the Trash. Drag Quillon from Applications to the Trash to finish.</source>
@@ -1554,6 +1609,29 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     <message>
         <source>Sent</source>
         <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Taken back</source>
+        <translation>Deshecho</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>deshecho</translation>
+    </message>
+    <message>
+        <source>Deletes the message of the last send</source>
+        <translation>Borra el mensaje del último envío</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deletes all %n messages of the last send</source>
+        <translation>
+            <numerusform>Borra el %n mensaje del último envío</numerusform>
+            <numerusform>Borra los %n mensajes del último envío</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -16,18 +16,18 @@
     </message>
     <message>
         <source>There is no desktop to work on: neither an X server nor a Wayland compositor answers.</source>
-        <translation>Aucun bureau trouvé : ni serveur X ni compositeur Wayland ne répond.</translation>
+        <translation>Aucun bureau trouvé&#xa0;: ni serveur X ni compositeur Wayland ne répond.</translation>
     </message>
 </context>
 <context>
     <name>AppMover</name>
     <message>
         <source>macOS is running Quillon from a hidden copy. Open your Downloads folder and drag Quillon into Applications yourself, then open it from there.</source>
-        <translation>Quillon s’exécute depuis une copie cachée. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans « Applications » et lancez-le de là.</translation>
+        <translation>Quillon s’exécute depuis une copie cachée. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans «&#xa0;Applications&#xa0;» et lancez-le de là.</translation>
     </message>
     <message>
         <source>Your Mac didn&apos;t allow Quillon to write to the Applications folder. Open your Downloads folder and drag Quillon into Applications yourself, then open it from there.</source>
-        <translation>L’ordinateur n’a pas laissé Quillon écrire dans le dossier des applications. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans « Applications » et lancez-le de là.</translation>
+        <translation>L’ordinateur n’a pas laissé Quillon écrire dans le dossier des applications. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans «&#xa0;Applications&#xa0;» et lancez-le de là.</translation>
     </message>
     <message>
         <source>An older Quillon is open from Applications. Quit it from its menu, then try again.</source>
@@ -39,7 +39,7 @@
     </message>
     <message>
         <source>Your Mac didn&apos;t allow the move. Open your Downloads folder and drag Quillon into Applications yourself, then open it from there.</source>
-        <translation>L’ordinateur n’a pas permis le déplacement. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans « Applications » et lancez-le de là.</translation>
+        <translation>L’ordinateur n’a pas permis le déplacement. Ouvrez le dossier Téléchargements, déplacez vous-même Quillon dans «&#xa0;Applications&#xa0;» et lancez-le de là.</translation>
     </message>
     <message>
         <source>Quillon couldn&apos;t move itself</source>
@@ -51,7 +51,7 @@
     </message>
     <message>
         <source>Move Quillon to your Applications folder?</source>
-        <translation>Déplacer Quillon dans le dossier des applications ?</translation>
+        <translation>Déplacer Quillon dans le dossier des applications&#xa0;?</translation>
     </message>
     <message>
         <source>It needs to be there to update itself.</source>
@@ -102,7 +102,7 @@
     <message>
         <source>“%1”</source>
         <comment>a copied text</comment>
-        <translation>« %1 »</translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>The clipboard is empty</source>
@@ -117,7 +117,7 @@
     <name>Command</name>
     <message>
         <source>Bot token: </source>
-        <translation>Token du bot : </translation>
+        <translation>Token du bot&#xa0;: </translation>
     </message>
     <message>
         <source>Another send is still running.</source>
@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>The setup could not be saved. Is there room on the disk?</source>
-        <translation>La configuration n’a pas pu être enregistrée. Reste-t-il de la place sur le disque ?</translation>
+        <translation>La configuration n’a pas pu être enregistrée. Reste-t-il de la place sur le disque&#xa0;?</translation>
     </message>
     <message>
         <source>The bot answers, but no keyring could keep its token.</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Found “%1”</source>
-        <translation>« %1 » trouvé</translation>
+        <translation>«&#xa0;%1&#xa0;» trouvé</translation>
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>on, but what it would open is not there: switch it on again</source>
-        <translation>activé, mais ce qu’il faudrait ouvrir n’est pas là : activez-le de nouveau</translation>
+        <translation>activé, mais ce qu’il faudrait ouvrir n’est pas là&#xa0;: activez-le de nouveau</translation>
     </message>
     <message>
         <source>Quillon could not be set to open at login.</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Quillon and all it has stored are gone; the app is in the Trash</source>
-        <translation>Quillon et tout ce qu’il a enregistré sont supprimés ; l’application est dans la corbeille</translation>
+        <translation>Quillon et tout ce qu’il a enregistré sont supprimés&#xa0;; l’application est dans la corbeille</translation>
     </message>
     <message>
         <source>The app is in the Trash</source>
@@ -240,7 +240,7 @@ Without a command it stays, and sends whenever you press its shortcut.
 </source>
         <translation>Quillon envoie ce que vous copiez sur votre téléphone, par votre propre bot Telegram.
 
-Utilisation : quillon [COMMANDE]
+Utilisation&#xa0;: quillon [COMMANDE]
 
 Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
 
@@ -248,7 +248,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Exit status: 0 done, 1 failed, 2 the command line was not understood.</source>
-        <translation>Code de retour : 0 réussi, 1 échec, 2 ligne de commande non comprise.</translation>
+        <translation>Code de retour&#xa0;: 0 réussi, 1 échec, 2 ligne de commande non comprise.</translation>
     </message>
     <message>
         <source>answer as JSON</source>
@@ -256,15 +256,15 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>show the panel; starts Quillon if it is not running</source>
-        <translation>afficher le panneau ; lance Quillon s’il ne tourne pas</translation>
+        <translation>afficher le panneau&#xa0;; lance Quillon s’il ne tourne pas</translation>
     </message>
     <message>
         <source>show the settings; starts Quillon if it is not running</source>
-        <translation>afficher les paramètres ; lance Quillon s’il ne tourne pas</translation>
+        <translation>afficher les paramètres&#xa0;; lance Quillon s’il ne tourne pas</translation>
     </message>
     <message>
         <source>connect your bot; reads its token from standard input</source>
-        <translation>connecter votre bot ; lit son token sur l’entrée standard</translation>
+        <translation>connecter votre bot&#xa0;; lit son token sur l’entrée standard</translation>
     </message>
     <message>
         <source>find the group in which you wrote to the bot</source>
@@ -312,7 +312,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>tell whether there is a newer version; install it</source>
-        <translation>dire s’il existe une version plus récente ; l’installer</translation>
+        <translation>dire s’il existe une version plus récente&#xa0;; l’installer</translation>
     </message>
     <message>
         <source>yes, remove it</source>
@@ -361,6 +361,10 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <message>
         <source>tell what is wrong, and how to mend it</source>
         <translation>dire ce qui ne va pas, et comment y remédier</translation>
+    </message>
+    <message>
+        <source>take the last send back, for 48 hours</source>
+        <translation>annuler le dernier envoi, pendant 48 heures</translation>
     </message>
 </context>
 <context>
@@ -1019,11 +1023,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>%1 is over 50 MB (Telegram&apos;s limit for bots)</source>
-        <translation>%1 dépasse 50 Mo (la limite de Telegram pour les bots)</translation>
+        <translation>%1 dépasse 50&#xa0;Mo (la limite de Telegram pour les bots)</translation>
     </message>
     <message>
         <source>Folders can&apos;t be sent yet: %1</source>
-        <translation>Les dossiers ne peuvent pas encore être envoyés : %1</translation>
+        <translation>Les dossiers ne peuvent pas encore être envoyés&#xa0;: %1</translation>
     </message>
     <message>
         <source>Couldn&apos;t read %1</source>
@@ -1035,7 +1039,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Not sent: the send was stopped.</source>
-        <translation>Non envoyé : l’envoi a été arrêté.</translation>
+        <translation>Non envoyé&#xa0;: l’envoi a été arrêté.</translation>
     </message>
     <message>
         <source>%1 sent, %2 failed</source>
@@ -1085,11 +1089,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>No group found yet. Add the bot to your group, then send “hi” in the group and try again.</source>
-        <translation>Aucun groupe trouvé pour l’instant. Ajoutez le bot à votre groupe, envoyez-y « hi » et réessayez.</translation>
+        <translation>Aucun groupe trouvé pour l’instant. Ajoutez le bot à votre groupe, envoyez-y «&#xa0;hi&#xa0;» et réessayez.</translation>
     </message>
     <message>
         <source>Found “%1”, but Topics are off. Turn on Topics in the group settings.</source>
-        <translation>« %1 » trouvé, mais les sujets y sont désactivés. Activez les sujets dans les paramètres du groupe.</translation>
+        <translation>«&#xa0;%1&#xa0;» trouvé, mais les sujets y sont désactivés. Activez les sujets dans les paramètres du groupe.</translation>
     </message>
     <message>
         <source>your group</source>
@@ -1097,7 +1101,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Couldn&apos;t create topics. Make the bot an admin with “Manage Topics” and try again.</source>
-        <translation>Impossible de créer les sujets. Nommez le bot administrateur avec « Gérer les sujets » et réessayez.</translation>
+        <translation>Impossible de créer les sujets. Nommez le bot administrateur avec «&#xa0;Gérer les sujets&#xa0;» et réessayez.</translation>
     </message>
     <message>
         <source>Find your group first.</source>
@@ -1152,15 +1156,15 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Your desktop keeps shortcuts in a file of its own. For %1, add this line to %3:</source>
-        <translation>Votre bureau garde les raccourcis dans un fichier à lui. Pour %1, ajoutez cette ligne à %3 :</translation>
+        <translation>Votre bureau garde les raccourcis dans un fichier à lui. Pour %1, ajoutez cette ligne à %3&#xa0;:</translation>
     </message>
     <message>
         <source>Your desktop has not set up %1. Ask it again, or bind this command in its keyboard settings:</source>
-        <translation>Votre bureau n’a pas mis en place %1. Redemandez-lui, ou associez cette commande dans ses paramètres de clavier :</translation>
+        <translation>Votre bureau n’a pas mis en place %1. Redemandez-lui, ou associez cette commande dans ses paramètres de clavier&#xa0;:</translation>
     </message>
     <message>
         <source>Your desktop gives programs no shortcuts. For %1, bind this command in its keyboard settings:</source>
-        <translation>Votre bureau ne donne pas de raccourcis aux programmes. Pour %1, associez cette commande dans ses paramètres de clavier :</translation>
+        <translation>Votre bureau ne donne pas de raccourcis aux programmes. Pour %1, associez cette commande dans ses paramètres de clavier&#xa0;:</translation>
     </message>
     <message>
         <source>This desktop gives programs no shortcuts.</source>
@@ -1187,7 +1191,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <name>Status</name>
     <message>
         <source>%1:</source>
-        <translation>%1 :</translation>
+        <translation>%1&#xa0;:</translation>
     </message>
     <message>
         <source>connected</source>
@@ -1278,7 +1282,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <message>
         <source>%1 %2 of %3 MB</source>
         <comment>what is done, and how far it is</comment>
-        <translation>%1 %2 sur %3 Mo</translation>
+        <translation>%1 %2 sur %3&#xa0;Mo</translation>
     </message>
 </context>
 <context>
@@ -1317,6 +1321,57 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
 </context>
 <context>
+    <name>Undo</name>
+    <message>
+        <source>Stopped before all was taken back.</source>
+        <translation>Arrêté avant que tout soit annulé.</translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation>Message %1</translation>
+    </message>
+    <message>
+        <source>A send is still running. Take it back once it has ended.</source>
+        <translation>Un envoi est encore en cours. Annulez-le quand il sera terminé.</translation>
+    </message>
+    <message>
+        <source>The last send is being taken back already.</source>
+        <translation>Le dernier envoi est déjà en cours d’annulation.</translation>
+    </message>
+    <message>
+        <source>Nothing of the last send has arrived.</source>
+        <translation>Rien du dernier envoi n’est arrivé.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Il n’y a rien à annuler.</translation>
+    </message>
+    <message>
+        <source>The last send is more than 48 hours old. Telegram lets bots delete messages no longer than that.</source>
+        <translation>Le dernier envoi date de plus de 48 heures. Au-delà, Telegram ne laisse pas les bots supprimer des messages.</translation>
+    </message>
+    <message>
+        <source>Taking back…</source>
+        <translation>Annulation…</translation>
+    </message>
+    <message>
+        <source>Took back the message</source>
+        <translation>Message annulé</translation>
+    </message>
+    <message>
+        <source>Took back only %1: %2</source>
+        <comment>number of messages, reason</comment>
+        <translation>Seulement %1 annulés : %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Took back %n messages</source>
+        <translation>
+            <numerusform>%n message annulé</numerusform>
+            <numerusform>%n messages annulés</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Uninstaller</name>
     <message>
         <source>It couldn&apos;t move itself to the Trash. Drag Quillon from Applications to the Trash to finish.</source>
@@ -1339,7 +1394,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <name>UpdateError</name>
     <message>
         <source>Quillon cannot update itself where it lies now: that disk cannot be written to.</source>
-        <translation>Quillon ne peut pas se mettre à jour là où il se trouve : ce disque n’est pas accessible en écriture.</translation>
+        <translation>Quillon ne peut pas se mettre à jour là où il se trouve&#xa0;: ce disque n’est pas accessible en écriture.</translation>
     </message>
     <message>
         <source>Quillon cannot update itself from the temporary place it was started from.</source>
@@ -1391,7 +1446,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>The downloaded update is not signed by Quillon&apos;s makers, so it was thrown away.</source>
-        <translation>La mise à jour téléchargée n’est pas signée par les auteurs de Quillon ; elle a été rejetée.</translation>
+        <translation>La mise à jour téléchargée n’est pas signée par les auteurs de Quillon&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The downloaded update could not be stored in your cache folder.</source>
@@ -1403,27 +1458,27 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>The update&apos;s archive holds a path outside of its folder, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un chemin hors de son dossier ; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un chemin hors de son dossier&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive holds a path with &quot;..&quot;, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un chemin avec « .. » ; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un chemin avec «&#xa0;..&#xa0;»&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive holds a link that leaves its folder, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un lien qui sort de son dossier ; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un lien qui sort de son dossier&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive holds a device, pipe or socket, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un périphérique, un tube ou un socket ; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un périphérique, un tube ou un socket&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive holds a program with another user&apos;s rights, so it was thrown away.</source>
-        <translation>L’archive de la mise à jour contient un programme avec les droits d’un autre utilisateur ; elle a été rejetée.</translation>
+        <translation>L’archive de la mise à jour contient un programme avec les droits d’un autre utilisateur&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update is too large when unpacked, so it was thrown away.</source>
-        <translation>La mise à jour est trop grande une fois extraite ; elle a été rejetée.</translation>
+        <translation>La mise à jour est trop grande une fois extraite&#xa0;; elle a été rejetée.</translation>
     </message>
     <message>
         <source>The update&apos;s archive does not hold exactly one application.</source>
@@ -1554,6 +1609,29 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <message>
         <source>Sent</source>
         <translation>Envoyé</translation>
+    </message>
+    <message>
+        <source>Taken back</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>Deletes the message of the last send</source>
+        <translation>Supprime le message du dernier envoi</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deletes all %n messages of the last send</source>
+        <translation>
+            <numerusform>Supprime le %n message du dernier envoi</numerusform>
+            <numerusform>Supprime les %n messages du dernier envoi</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1716,7 +1794,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>**New Group** → add your bot → name it anything (like “My Outbox”) → Create.</source>
-        <translation>**Nouveau groupe** → ajoutez votre bot → donnez-lui un nom (« Ma boîte d’envoi », par exemple) → Créer.</translation>
+        <translation>**Nouveau groupe** → ajoutez votre bot → donnez-lui un nom («&#xa0;Ma boîte d’envoi&#xa0;», par exemple) → Créer.</translation>
     </message>
     <message>
         <source>Tap the **group name** → tap the **pencil** → turn on **Topics** (just below Appearance) → Save.</source>
@@ -1728,7 +1806,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Send “hi” in the group.</source>
-        <translation>Envoyez « hi » dans le groupe.</translation>
+        <translation>Envoyez «&#xa0;hi&#xa0;» dans le groupe.</translation>
     </message>
     <message>
         <source>Copy on Mac. Paste on phone.</source>
@@ -1744,7 +1822,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>In Telegram:</source>
-        <translation>Dans Telegram :</translation>
+        <translation>Dans Telegram&#xa0;:</translation>
     </message>
     <message>
         <source>You&apos;re all set.</source>
@@ -1832,7 +1910,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <name>quillon::StepRow</name>
     <message>
         <source>Step %1: %2</source>
-        <translation>Étape %1 : %2</translation>
+        <translation>Étape %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Done</source>
@@ -1905,8 +1983,8 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <message numerus="yes">
         <source>%n more: quillon doctor</source>
         <translation>
-            <numerusform>%n de plus : quillon doctor</numerusform>
-            <numerusform>%n de plus : quillon doctor</numerusform>
+            <numerusform>%n de plus&#xa0;: quillon doctor</numerusform>
+            <numerusform>%n de plus&#xa0;: quillon doctor</numerusform>
         </translation>
     </message>
 </context>
@@ -1934,11 +2012,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Uninstall Quillon?</source>
-        <translation>Désinstaller Quillon ?</translation>
+        <translation>Désinstaller Quillon&#xa0;?</translation>
     </message>
     <message>
         <source>This removes from this Mac:</source>
-        <translation>Ceci supprime de cet ordinateur :</translation>
+        <translation>Ceci supprime de cet ordinateur&#xa0;:</translation>
     </message>
     <message>
         <source>Your bot and group stay in Telegram.</source>
@@ -1965,7 +2043,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Check for updates automatically?</source>
-        <translation>Rechercher les mises à jour automatiquement ?</translation>
+        <translation>Rechercher les mises à jour automatiquement&#xa0;?</translation>
     </message>
     <message>
         <source>Quillon can look for a new version once a day. You can change this in its settings at any time, or check by hand.</source>
@@ -2037,7 +2115,7 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>%1 of %2 MB</source>
-        <translation>%1 sur %2 Mo</translation>
+        <translation>%1 sur %2&#xa0;Mo</translation>
     </message>
     <message>
         <source>Quillon %1 is ready to install</source>

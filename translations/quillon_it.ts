@@ -362,6 +362,10 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
         <source>tell what is wrong, and how to mend it</source>
         <translation>dice che cosa non va, e come rimediare</translation>
     </message>
+    <message>
+        <source>take the last send back, for 48 hours</source>
+        <translation>annullare l’ultimo invio, per 48 ore</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1317,6 +1321,57 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
 </context>
 <context>
+    <name>Undo</name>
+    <message>
+        <source>Stopped before all was taken back.</source>
+        <translation>Interrotto prima di annullare tutto.</translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation>Messaggio %1</translation>
+    </message>
+    <message>
+        <source>A send is still running. Take it back once it has ended.</source>
+        <translation>Un invio è ancora in corso. Annullalo quando sarà finito.</translation>
+    </message>
+    <message>
+        <source>The last send is being taken back already.</source>
+        <translation>L’ultimo invio è già in corso di annullamento.</translation>
+    </message>
+    <message>
+        <source>Nothing of the last send has arrived.</source>
+        <translation>Dell’ultimo invio non è arrivato nulla.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Non c’è nulla da annullare.</translation>
+    </message>
+    <message>
+        <source>The last send is more than 48 hours old. Telegram lets bots delete messages no longer than that.</source>
+        <translation>L’ultimo invio risale a più di 48 ore fa. Oltre, Telegram non lascia che i bot eliminino messaggi.</translation>
+    </message>
+    <message>
+        <source>Taking back…</source>
+        <translation>Annullamento…</translation>
+    </message>
+    <message>
+        <source>Took back the message</source>
+        <translation>Messaggio annullato</translation>
+    </message>
+    <message>
+        <source>Took back only %1: %2</source>
+        <comment>number of messages, reason</comment>
+        <translation>Annullati solo %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Took back %n messages</source>
+        <translation>
+            <numerusform>%n messaggio annullato</numerusform>
+            <numerusform>%n messaggi annullati</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Uninstaller</name>
     <message>
         <source>It couldn&apos;t move itself to the Trash. Drag Quillon from Applications to the Trash to finish.</source>
@@ -1554,6 +1609,29 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     <message>
         <source>Sent</source>
         <translation>Inviato</translation>
+    </message>
+    <message>
+        <source>Taken back</source>
+        <translation>Annullato</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>annullato</translation>
+    </message>
+    <message>
+        <source>Deletes the message of the last send</source>
+        <translation>Elimina il messaggio dell’ultimo invio</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deletes all %n messages of the last send</source>
+        <translation>
+            <numerusform>Elimina %n messaggio dell’ultimo invio</numerusform>
+            <numerusform>Elimina tutti i %n messaggi dell’ultimo invio</numerusform>
+        </translation>
     </message>
 </context>
 <context>

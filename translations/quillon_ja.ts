@@ -361,6 +361,10 @@ Without a command it stays, and sends whenever you press its shortcut.
         <source>tell what is wrong, and how to mend it</source>
         <translation>問題点と直し方を表示</translation>
     </message>
+    <message>
+        <source>take the last send back, for 48 hours</source>
+        <translation>直前の送信を取り消す（48 時間以内）</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1315,6 +1319,56 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
 </context>
 <context>
+    <name>Undo</name>
+    <message>
+        <source>Stopped before all was taken back.</source>
+        <translation>すべてを取り消す前に停止しました。</translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation>メッセージ %1</translation>
+    </message>
+    <message>
+        <source>A send is still running. Take it back once it has ended.</source>
+        <translation>送信がまだ実行中です。終わってから取り消してください。</translation>
+    </message>
+    <message>
+        <source>The last send is being taken back already.</source>
+        <translation>直前の送信はすでに取り消し中です。</translation>
+    </message>
+    <message>
+        <source>Nothing of the last send has arrived.</source>
+        <translation>直前の送信は何も届いていません。</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>取り消すものはありません。</translation>
+    </message>
+    <message>
+        <source>The last send is more than 48 hours old. Telegram lets bots delete messages no longer than that.</source>
+        <translation>直前の送信から 48 時間以上たっています。それを過ぎると、Telegram はボットによるメッセージの削除を許可しません。</translation>
+    </message>
+    <message>
+        <source>Taking back…</source>
+        <translation>取り消し中…</translation>
+    </message>
+    <message>
+        <source>Took back the message</source>
+        <translation>メッセージを取り消しました</translation>
+    </message>
+    <message>
+        <source>Took back only %1: %2</source>
+        <comment>number of messages, reason</comment>
+        <translation>%1 件だけ取り消しました: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Took back %n messages</source>
+        <translation>
+            <numerusform>%n 件のメッセージを取り消しました</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Uninstaller</name>
     <message>
         <source>It couldn&apos;t move itself to the Trash. Drag Quillon from Applications to the Trash to finish.</source>
@@ -1552,6 +1606,28 @@ Without a command it stays, and sends whenever you press its shortcut.
     <message>
         <source>Sent</source>
         <translation>送信済み</translation>
+    </message>
+    <message>
+        <source>Taken back</source>
+        <translation>取り消し済み</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>取り消す</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>取り消し済み</translation>
+    </message>
+    <message>
+        <source>Deletes the message of the last send</source>
+        <translation>直前の送信のメッセージを削除します</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deletes all %n messages of the last send</source>
+        <translation>
+            <numerusform>直前の送信のメッセージ %n 件をすべて削除します</numerusform>
+        </translation>
     </message>
 </context>
 <context>

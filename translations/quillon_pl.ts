@@ -363,6 +363,10 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
         <source>tell what is wrong, and how to mend it</source>
         <translation>mówi, co jest nie tak i jak to naprawić</translation>
     </message>
+    <message>
+        <source>take the last send back, for 48 hours</source>
+        <translation>cofa ostatnie wysyłanie, przez 48 godzin</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1319,6 +1323,58 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     </message>
 </context>
 <context>
+    <name>Undo</name>
+    <message>
+        <source>Stopped before all was taken back.</source>
+        <translation>Zatrzymano, zanim wszystko cofnięto.</translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation>Wiadomość %1</translation>
+    </message>
+    <message>
+        <source>A send is still running. Take it back once it has ended.</source>
+        <translation>Wysyłanie jeszcze trwa. Cofnij je, gdy się zakończy.</translation>
+    </message>
+    <message>
+        <source>The last send is being taken back already.</source>
+        <translation>Ostatnie wysyłanie jest już cofane.</translation>
+    </message>
+    <message>
+        <source>Nothing of the last send has arrived.</source>
+        <translation>Z ostatniego wysyłania nic nie dotarło.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Nie ma czego cofnąć.</translation>
+    </message>
+    <message>
+        <source>The last send is more than 48 hours old. Telegram lets bots delete messages no longer than that.</source>
+        <translation>Od ostatniego wysyłania minęło ponad 48 godzin. Potem Telegram nie pozwala botom usuwać wiadomości.</translation>
+    </message>
+    <message>
+        <source>Taking back…</source>
+        <translation>Cofanie…</translation>
+    </message>
+    <message>
+        <source>Took back the message</source>
+        <translation>Cofnięto wiadomość</translation>
+    </message>
+    <message>
+        <source>Took back only %1: %2</source>
+        <comment>number of messages, reason</comment>
+        <translation>Cofnięto tylko %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Took back %n messages</source>
+        <translation>
+            <numerusform>Cofnięto %n wiadomość</numerusform>
+            <numerusform>Cofnięto %n wiadomości</numerusform>
+            <numerusform>Cofnięto %n wiadomości</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Uninstaller</name>
     <message>
         <source>It couldn&apos;t move itself to the Trash. Drag Quillon from Applications to the Trash to finish.</source>
@@ -1556,6 +1612,30 @@ Bez polecenia działa w tle i wysyła po każdym naciśnięciu skrótu.
     <message>
         <source>Sent</source>
         <translation>Wysłano</translation>
+    </message>
+    <message>
+        <source>Taken back</source>
+        <translation>Cofnięto</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Cofnij</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>cofnięto</translation>
+    </message>
+    <message>
+        <source>Deletes the message of the last send</source>
+        <translation>Usuwa wiadomość ostatniego wysyłania</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deletes all %n messages of the last send</source>
+        <translation>
+            <numerusform>Usuwa %n wiadomość ostatniego wysyłania</numerusform>
+            <numerusform>Usuwa wszystkie %n wiadomości ostatniego wysyłania</numerusform>
+            <numerusform>Usuwa wszystkie %n wiadomości ostatniego wysyłania</numerusform>
+        </translation>
     </message>
 </context>
 <context>

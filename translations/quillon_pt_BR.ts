@@ -362,6 +362,10 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
         <source>tell what is wrong, and how to mend it</source>
         <translation>diz o que está errado e como consertar</translation>
     </message>
+    <message>
+        <source>take the last send back, for 48 hours</source>
+        <translation>desfazer o último envio, por 48 horas</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1317,6 +1321,57 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     </message>
 </context>
 <context>
+    <name>Undo</name>
+    <message>
+        <source>Stopped before all was taken back.</source>
+        <translation>Interrompido antes de desfazer tudo.</translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation>Mensagem %1</translation>
+    </message>
+    <message>
+        <source>A send is still running. Take it back once it has ended.</source>
+        <translation>Um envio ainda está em andamento. Desfaça-o quando terminar.</translation>
+    </message>
+    <message>
+        <source>The last send is being taken back already.</source>
+        <translation>O último envio já está sendo desfeito.</translation>
+    </message>
+    <message>
+        <source>Nothing of the last send has arrived.</source>
+        <translation>Nada do último envio chegou.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Não há nada a desfazer.</translation>
+    </message>
+    <message>
+        <source>The last send is more than 48 hours old. Telegram lets bots delete messages no longer than that.</source>
+        <translation>O último envio tem mais de 48 horas. Depois disso, o Telegram não deixa bots apagarem mensagens.</translation>
+    </message>
+    <message>
+        <source>Taking back…</source>
+        <translation>Desfazendo…</translation>
+    </message>
+    <message>
+        <source>Took back the message</source>
+        <translation>Mensagem desfeita</translation>
+    </message>
+    <message>
+        <source>Took back only %1: %2</source>
+        <comment>number of messages, reason</comment>
+        <translation>Só %1 foram desfeitas: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Took back %n messages</source>
+        <translation>
+            <numerusform>%n mensagem desfeita</numerusform>
+            <numerusform>%n mensagens desfeitas</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Uninstaller</name>
     <message>
         <source>It couldn&apos;t move itself to the Trash. Drag Quillon from Applications to the Trash to finish.</source>
@@ -1554,6 +1609,29 @@ Sem um comando, fica em execução e envia sempre que você pressiona o atalho.
     <message>
         <source>Sent</source>
         <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Taken back</source>
+        <translation>Desfeito</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>desfeito</translation>
+    </message>
+    <message>
+        <source>Deletes the message of the last send</source>
+        <translation>Apaga a mensagem do último envio</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deletes all %n messages of the last send</source>
+        <translation>
+            <numerusform>Apaga a %n mensagem do último envio</numerusform>
+            <numerusform>Apaga todas as %n mensagens do último envio</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -363,6 +363,10 @@ Without a command it stays, and sends whenever you press its shortcut.
         <source>tell what is wrong, and how to mend it</source>
         <translation>показать, что не так и как это исправить</translation>
     </message>
+    <message>
+        <source>take the last send back, for 48 hours</source>
+        <translation>отменить последнюю отправку, в течение 48 часов</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1319,6 +1323,58 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
 </context>
 <context>
+    <name>Undo</name>
+    <message>
+        <source>Stopped before all was taken back.</source>
+        <translation>Остановлено до того, как всё было отменено.</translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation>Сообщение %1</translation>
+    </message>
+    <message>
+        <source>A send is still running. Take it back once it has ended.</source>
+        <translation>Отправка ещё не закончилась. Отмените её, когда она закончится.</translation>
+    </message>
+    <message>
+        <source>The last send is being taken back already.</source>
+        <translation>Последняя отправка уже отменяется.</translation>
+    </message>
+    <message>
+        <source>Nothing of the last send has arrived.</source>
+        <translation>Из последней отправки ничего не дошло.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Отменять нечего.</translation>
+    </message>
+    <message>
+        <source>The last send is more than 48 hours old. Telegram lets bots delete messages no longer than that.</source>
+        <translation>С последней отправки прошло больше 48 часов. После этого Telegram не даёт ботам удалять сообщения.</translation>
+    </message>
+    <message>
+        <source>Taking back…</source>
+        <translation>Отмена…</translation>
+    </message>
+    <message>
+        <source>Took back the message</source>
+        <translation>Сообщение отменено</translation>
+    </message>
+    <message>
+        <source>Took back only %1: %2</source>
+        <comment>number of messages, reason</comment>
+        <translation>Отменено только %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Took back %n messages</source>
+        <translation>
+            <numerusform>Отменено %n сообщение</numerusform>
+            <numerusform>Отменено %n сообщения</numerusform>
+            <numerusform>Отменено %n сообщений</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Uninstaller</name>
     <message>
         <source>It couldn&apos;t move itself to the Trash. Drag Quillon from Applications to the Trash to finish.</source>
@@ -1556,6 +1612,30 @@ Without a command it stays, and sends whenever you press its shortcut.
     <message>
         <source>Sent</source>
         <translation>Отправлено</translation>
+    </message>
+    <message>
+        <source>Taken back</source>
+        <translation>Отменено</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>отменено</translation>
+    </message>
+    <message>
+        <source>Deletes the message of the last send</source>
+        <translation>Удаляет сообщение последней отправки</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deletes all %n messages of the last send</source>
+        <translation>
+            <numerusform>Удаляет %n сообщение последней отправки</numerusform>
+            <numerusform>Удаляет все %n сообщения последней отправки</numerusform>
+            <numerusform>Удаляет все %n сообщений последней отправки</numerusform>
+        </translation>
     </message>
 </context>
 <context>

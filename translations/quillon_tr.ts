@@ -361,6 +361,10 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
         <source>tell what is wrong, and how to mend it</source>
         <translation>neyin yanlış olduğunu ve nasıl düzeltileceğini söyler</translation>
     </message>
+    <message>
+        <source>take the last send back, for 48 hours</source>
+        <translation>son gönderimi geri al, 48 saat boyunca</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1315,6 +1319,56 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     </message>
 </context>
 <context>
+    <name>Undo</name>
+    <message>
+        <source>Stopped before all was taken back.</source>
+        <translation>Tümü geri alınmadan durduruldu.</translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation>Mesaj %1</translation>
+    </message>
+    <message>
+        <source>A send is still running. Take it back once it has ended.</source>
+        <translation>Bir gönderim hâlâ sürüyor. Bitince geri alın.</translation>
+    </message>
+    <message>
+        <source>The last send is being taken back already.</source>
+        <translation>Son gönderim zaten geri alınıyor.</translation>
+    </message>
+    <message>
+        <source>Nothing of the last send has arrived.</source>
+        <translation>Son gönderimden hiçbir şey ulaşmadı.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Geri alınacak bir şey yok.</translation>
+    </message>
+    <message>
+        <source>The last send is more than 48 hours old. Telegram lets bots delete messages no longer than that.</source>
+        <translation>Son gönderimin üzerinden 48 saatten fazla geçti. Telegram, bundan sonra bot mesajlarının silinmesine izin vermez.</translation>
+    </message>
+    <message>
+        <source>Taking back…</source>
+        <translation>Geri alınıyor…</translation>
+    </message>
+    <message>
+        <source>Took back the message</source>
+        <translation>Mesaj geri alındı</translation>
+    </message>
+    <message>
+        <source>Took back only %1: %2</source>
+        <comment>number of messages, reason</comment>
+        <translation>Yalnızca %1 geri alındı: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Took back %n messages</source>
+        <translation>
+            <numerusform>%n mesaj geri alındı</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Uninstaller</name>
     <message>
         <source>It couldn&apos;t move itself to the Trash. Drag Quillon from Applications to the Trash to finish.</source>
@@ -1552,6 +1606,28 @@ Komut verilmezse açık kalır ve kısayoluna her basışınızda gönderir.
     <message>
         <source>Sent</source>
         <translation>Gönderildi</translation>
+    </message>
+    <message>
+        <source>Taken back</source>
+        <translation>Geri alındı</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Geri al</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>geri alındı</translation>
+    </message>
+    <message>
+        <source>Deletes the message of the last send</source>
+        <translation>Son gönderimin mesajını siler</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deletes all %n messages of the last send</source>
+        <translation>
+            <numerusform>Son gönderimin %n mesajını siler</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -363,6 +363,10 @@ Without a command it stays, and sends whenever you press its shortcut.
         <source>tell what is wrong, and how to mend it</source>
         <translation>показати, що не так і як це виправити</translation>
     </message>
+    <message>
+        <source>take the last send back, for 48 hours</source>
+        <translation>скасувати останнє надсилання, протягом 48 годин</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1319,6 +1323,58 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
 </context>
 <context>
+    <name>Undo</name>
+    <message>
+        <source>Stopped before all was taken back.</source>
+        <translation>Зупинено, перш ніж усе було скасовано.</translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation>Повідомлення %1</translation>
+    </message>
+    <message>
+        <source>A send is still running. Take it back once it has ended.</source>
+        <translation>Надсилання ще триває. Скасуйте його, коли воно закінчиться.</translation>
+    </message>
+    <message>
+        <source>The last send is being taken back already.</source>
+        <translation>Останнє надсилання вже скасовується.</translation>
+    </message>
+    <message>
+        <source>Nothing of the last send has arrived.</source>
+        <translation>З останнього надсилання нічого не дійшло.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Немає чого скасовувати.</translation>
+    </message>
+    <message>
+        <source>The last send is more than 48 hours old. Telegram lets bots delete messages no longer than that.</source>
+        <translation>Від останнього надсилання минуло понад 48 годин. Після цього Telegram не дає ботам видаляти повідомлення.</translation>
+    </message>
+    <message>
+        <source>Taking back…</source>
+        <translation>Скасування…</translation>
+    </message>
+    <message>
+        <source>Took back the message</source>
+        <translation>Повідомлення скасовано</translation>
+    </message>
+    <message>
+        <source>Took back only %1: %2</source>
+        <comment>number of messages, reason</comment>
+        <translation>Скасовано лише %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Took back %n messages</source>
+        <translation>
+            <numerusform>Скасовано %n повідомлення</numerusform>
+            <numerusform>Скасовано %n повідомлення</numerusform>
+            <numerusform>Скасовано %n повідомлень</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Uninstaller</name>
     <message>
         <source>It couldn&apos;t move itself to the Trash. Drag Quillon from Applications to the Trash to finish.</source>
@@ -1556,6 +1612,30 @@ Without a command it stays, and sends whenever you press its shortcut.
     <message>
         <source>Sent</source>
         <translation>Надіслано</translation>
+    </message>
+    <message>
+        <source>Taken back</source>
+        <translation>Скасовано</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>скасовано</translation>
+    </message>
+    <message>
+        <source>Deletes the message of the last send</source>
+        <translation>Видаляє повідомлення останнього надсилання</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deletes all %n messages of the last send</source>
+        <translation>
+            <numerusform>Видаляє %n повідомлення останнього надсилання</numerusform>
+            <numerusform>Видаляє всі %n повідомлення останнього надсилання</numerusform>
+            <numerusform>Видаляє всі %n повідомлень останнього надсилання</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -361,6 +361,10 @@ Without a command it stays, and sends whenever you press its shortcut.
         <source>tell what is wrong, and how to mend it</source>
         <translation>说明哪里有问题以及如何修复</translation>
     </message>
+    <message>
+        <source>take the last send back, for 48 hours</source>
+        <translation>撤回上一次发送（48 小时内）</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1315,6 +1319,56 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
 </context>
 <context>
+    <name>Undo</name>
+    <message>
+        <source>Stopped before all was taken back.</source>
+        <translation>在全部撤回之前已停止。</translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation>消息 %1</translation>
+    </message>
+    <message>
+        <source>A send is still running. Take it back once it has ended.</source>
+        <translation>发送仍在进行。请在结束后再撤回。</translation>
+    </message>
+    <message>
+        <source>The last send is being taken back already.</source>
+        <translation>上一次发送已在撤回中。</translation>
+    </message>
+    <message>
+        <source>Nothing of the last send has arrived.</source>
+        <translation>上一次发送没有任何内容送达。</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>没有可撤回的内容。</translation>
+    </message>
+    <message>
+        <source>The last send is more than 48 hours old. Telegram lets bots delete messages no longer than that.</source>
+        <translation>上一次发送已超过 48 小时。此后 Telegram 不允许机器人删除消息。</translation>
+    </message>
+    <message>
+        <source>Taking back…</source>
+        <translation>正在撤回…</translation>
+    </message>
+    <message>
+        <source>Took back the message</source>
+        <translation>已撤回该消息</translation>
+    </message>
+    <message>
+        <source>Took back only %1: %2</source>
+        <comment>number of messages, reason</comment>
+        <translation>仅撤回 %1 条：%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Took back %n messages</source>
+        <translation>
+            <numerusform>已撤回 %n 条消息</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Uninstaller</name>
     <message>
         <source>It couldn&apos;t move itself to the Trash. Drag Quillon from Applications to the Trash to finish.</source>
@@ -1552,6 +1606,28 @@ Without a command it stays, and sends whenever you press its shortcut.
     <message>
         <source>Sent</source>
         <translation>已发送</translation>
+    </message>
+    <message>
+        <source>Taken back</source>
+        <translation>已撤回</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤回</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>已撤回</translation>
+    </message>
+    <message>
+        <source>Deletes the message of the last send</source>
+        <translation>删除上一次发送的消息</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deletes all %n messages of the last send</source>
+        <translation>
+            <numerusform>删除上一次发送的全部 %n 条消息</numerusform>
+        </translation>
     </message>
 </context>
 <context>

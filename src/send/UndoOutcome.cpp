@@ -6,7 +6,8 @@ namespace quillon {
 
 std::string tookBackText(std::size_t messages) {
     if (messages == 1) return translate("Undo", "Took back the message");
-    return translate("Undo", "Took back %n messages", nullptr, static_cast<int>(messages));
+    const int count = static_cast<int>(messages);
+    return translate("Undo", "Took back %n messages", nullptr, count);
 }
 
 std::string undoText(const UndoOutcome& outcome) {
