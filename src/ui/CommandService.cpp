@@ -3,6 +3,7 @@
 #include "cli/Console.h"
 #include "cli/RemoteProgram.h"
 #include "cli/Terminal.h"
+#include "platform/linux/desktop/ActivationToken.h"
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
@@ -136,13 +137,10 @@ void CommandService::serve(CommandContext context, DesktopActions actions) {
 }
 
 void CommandService::wish(Wish wish, const QVariantMap& platformData) {
-    keepActivation(platformData.value(QStringLiteral("activation-token")).toString().toStdString());
+    ActivationToken::keep(
+        platformData.value(QStringLiteral("activation-token")).toString().toUtf8());
     if (!context_) return wishes_.push_back(wish);
     (actions_.*wish)();
-}
-
-void CommandService::keepActivation(const std::string& token) {
-    if (!token.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
 }
 
 void CommandService::wishByName(const QString& action, const QVariantMap& platformData) {

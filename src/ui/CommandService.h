@@ -58,9 +58,6 @@ public:
     /// The same by the name of an action of the desktop entry: "send", "panel" or
     /// "settings".
     void wishByName(const QString& action, const QVariantMap& platformData);
-    /// Keeps the desktop's leave to take the focus, where it is not empty, for the window that next
-    /// asks for it: Qt's platform plugins look for it in the environment.
-    static void keepActivation(const std::string& token);
 
 public Q_SLOTS:
     /// Carries out the command line of these words, with what it reads from standard input. Gives

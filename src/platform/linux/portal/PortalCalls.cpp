@@ -16,13 +16,6 @@ constexpr std::chrono::milliseconds openTime = std::chrono::seconds{10};
 
 constexpr int noTimeout = std::numeric_limits<int>::max();
 
-/// The path of the request that a call with this token makes, as the portal's documentation has it.
-QString requestPath(const QDBusConnection& bus, const QString& token) {
-    QString caller = bus.baseService().mid(1);
-    caller.replace(QLatin1Char{'.'}, QLatin1Char{'_'});
-    return portal::path + QStringLiteral("/request/") + caller + QLatin1Char{'/'} + token;
-}
-
 } // namespace
 
 PortalCalls::PortalCalls(QDBusConnection bus) : bus_{std::move(bus)} {
@@ -59,7 +52,7 @@ void PortalCalls::call(const QString& interface, const char* method, const QVari
 void PortalCalls::request(const QString& interface, const char* method, QVariantList arguments,
                           QVariantMap options, Responded responded) {
     const QString token = newToken();
-    const QString path = requestPath(bus_, token);
+    const QString path = handle("request", token);
     options[QStringLiteral("handle_token")] = token;
     arguments << options;
     requests_[path] = std::move(responded);
@@ -81,6 +74,12 @@ void PortalCalls::tell(const QString& path, const QString& interface, const char
 
 bool PortalCalls::isPortal(const QDBusMessage& signal) const {
     return !owner_.isEmpty() && signal.service() == owner_;
+}
+
+QString PortalCalls::handle(const char* kind, const QString& token) const {
+    QString caller = bus_.baseService().mid(1);
+    caller.replace(QLatin1Char{'.'}, QLatin1Char{'_'});
+    return QStringList{portal::path, QLatin1String{kind}, caller, token}.join(QLatin1Char{'/'});
 }
 
 QString PortalCalls::newToken() {

@@ -55,6 +55,9 @@ public:
 
     /// Whether the signal comes from the portal that answered, and not from just any program.
     [[nodiscard]] bool isPortal(const QDBusMessage& signal) const;
+    /// The path of the object that a call with this token makes, as the portal's documentation has
+    /// it; of which kind, "request" or "session".
+    [[nodiscard]] QString handle(const char* kind, const QString& token) const;
     /// A word that no other request or session of this process has.
     [[nodiscard]] static QString newToken();
 
