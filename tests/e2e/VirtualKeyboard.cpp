@@ -50,10 +50,11 @@ void takeOffer(void* data, wl_registry* registry, std::uint32_t name, const char
     const auto bind = [&](const wl_interface& wanted) {
         return wl_registry_bind(registry, name, &wanted, 1);
     };
-    if (interface == std::string_view{wl_seat_interface.name})
+    if (interface == std::string_view{wl_seat_interface.name}) {
         offers.seat = static_cast<wl_seat*>(bind(wl_seat_interface));
-    else if (interface == std::string_view{managerInterface.name})
+    } else if (interface == std::string_view{managerInterface.name}) {
         offers.manager = static_cast<wl_proxy*>(bind(managerInterface));
+    }
 }
 
 /// A file in memory that holds the description of a US keyboard.

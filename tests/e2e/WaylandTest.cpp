@@ -35,7 +35,7 @@ std::string focusedApplication(const Json& node) {
     if (node.value("focused", false)) return node.value("app_id", "");
     for (const char* inner : {"nodes", "floating_nodes"}) {
         for (const Json& child : node.value(inner, Json::array())) {
-            if (const std::string found = focusedApplication(child); !found.empty()) return found;
+            if (std::string found = focusedApplication(child); !found.empty()) return found;
         }
     }
     return {};
@@ -193,7 +193,7 @@ TEST_F(Wayland, ShowsTheBannerOverEverythingAndLeavesTheFocus) {
             const QRect last = std::exchange(banner, difference(before, screen()));
             return banner == last && !banner.isEmpty();
         }));
-        EXPECT_NEAR(banner.center().x(), before.width() / 2, 2);
+        EXPECT_NEAR(banner.center().x(), before.rect().center().x(), 2);
         EXPECT_GT(banner.width(), 200 * scale);
         EXPECT_LT(banner.bottom(), 100 * scale);
         EXPECT_EQ(focusedApplication(), "foot");
