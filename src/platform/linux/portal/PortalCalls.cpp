@@ -34,19 +34,36 @@ PortalCalls::~PortalCalls() {
         tell(path, portal::request, "Close");
 }
 
+void PortalCalls::send(const QDBusMessage& message, Answered answered) {
+    auto* const pending = new QDBusPendingCallWatcher{bus_.asyncCall(message, noTimeout), this};
+    connect(pending, &QDBusPendingCallWatcher::finished, this,
+            [pending, answered = std::move(answered)] {
+                pending->deleteLater();
+                answered(pending->reply());
+            });
+}
+
 void PortalCalls::call(const QString& interface, const char* method, const QVariantList& arguments,
                        Answered answered) {
     QDBusMessage message = QDBusMessage::createMethodCall(portal::name, portal::path, interface,
                                                           QLatin1String{method});
     message.setArguments(arguments);
-    auto* const pending = new QDBusPendingCallWatcher{bus_.asyncCall(message, noTimeout), this};
-    connect(pending, &QDBusPendingCallWatcher::finished, this,
-            [this, pending, answered = std::move(answered)] {
-                pending->deleteLater();
-                const QDBusMessage answer = pending->reply();
-                if (answer.service().startsWith(QLatin1Char{':'})) owner_ = answer.service();
-                answered(answer);
-            });
+    send(message, [this, answered = std::move(answered)](const QDBusMessage& answer) {
+        owner_.isEmpty() ? learnOwner([answer, answered] { answered(answer); }) : answered(answer);
+    });
+}
+
+void PortalCalls::learnOwner(std::function<void()> then) {
+    const QString bus = QStringLiteral("org.freedesktop.DBus");
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        bus, QStringLiteral("/org/freedesktop/DBus"), bus, QStringLiteral("GetNameOwner"));
+    question << portal::name;
+    // Newer versions of Qt do not tell who has sent an answer.
+    send(question, [this, then = std::move(then)](const QDBusMessage& answer) {
+        if (answer.type() == QDBusMessage::ReplyMessage)
+            owner_ = answer.arguments().value(0).toString();
+        then();
+    });
 }
 
 void PortalCalls::request(const QString& interface, const char* method, QVariantList arguments,

@@ -65,6 +65,9 @@ private Q_SLOTS:
     void respond(const QDBusMessage& signal);
 
 private:
+    void send(const QDBusMessage& message, Answered answered);
+    /// Asks the bus who the portal is, once it has answered and so is there.
+    void learnOwner(std::function<void()> then);
     void end(const QString& path, uint code, const QVariantMap& results);
 
     QDBusConnection bus_;
