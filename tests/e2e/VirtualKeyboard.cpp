@@ -6,6 +6,7 @@
 #include <wayland-client.h>
 
 #include <QProcess>
+#include <QScopeGuard>
 
 #include <array>
 #include <memory>
@@ -82,6 +83,11 @@ void pressControlAltV() {
     ASSERT_NE(offers.manager, nullptr) << "the compositor takes no virtual keyboards";
     wl_proxy* const keyboard = wl_proxy_marshal_flags(
         offers.manager, createKeyboard, &keyboardInterface, 1, 0, offers.seat, nullptr);
+    const auto unplug = qScopeGuard([&] {
+        for (void* proxy : {static_cast<void*>(keyboard), static_cast<void*>(offers.manager),
+                            static_cast<void*>(offers.seat), static_cast<void*>(registry)})
+            wl_proxy_destroy(static_cast<wl_proxy*>(proxy));
+    });
     const auto request = [&](std::uint32_t number, auto... arguments) {
         wl_proxy_marshal_flags(keyboard, number, nullptr, 1, 0, arguments...);
         wl_display_roundtrip(display.get());
