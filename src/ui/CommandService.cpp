@@ -7,6 +7,7 @@
 #include "cli/StandardInput.h"
 #include "cli/Terminal.h"
 #include "core/Core.h"
+#include "platform/linux/desktop/ActivationToken.h"
 #include "ui/GivenItems.h"
 
 #include <QDBusAbstractAdaptor>
@@ -159,12 +160,9 @@ void CommandService::whenServing(std::function<void()> then) {
 }
 
 void CommandService::wish(Wish wish, const QVariantMap& platformData) {
-    keepActivation(platformData.value(QStringLiteral("activation-token")).toString().toStdString());
+    ActivationToken::keep(
+        platformData.value(QStringLiteral("activation-token")).toString().toUtf8());
     whenServing([this, wish] { (actions_.*wish)(); });
-}
-
-void CommandService::keepActivation(const std::string& token) {
-    if (!token.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
 }
 
 void CommandService::wishByName(const QString& action, const QVariantMap& platformData) {

@@ -62,9 +62,6 @@ public:
     void wishByName(const QString& action, const QVariantMap& platformData);
     /// Sends the files that these URIs name, as an application that is told to open them.
     void open(const QStringList& uris);
-    /// Keeps the desktop's leave to take the focus, where it is not empty, for the window that next
-    /// asks for it: Qt's platform plugins look for it in the environment.
-    static void keepActivation(const std::string& token);
 
 public Q_SLOTS:
     // For scripts and other programs; packaging/dev.vostrel.quillon.xml tells what each promises.

@@ -8,6 +8,7 @@
 #include "platform/Platform.h"
 #include "platform/Sleep.h"
 #include "platform/Workspace.h"
+#include "platform/linux/desktop/ActivationToken.h"
 #include "ui/controls/MessageWindow.h"
 #include "ui/panel/PanelView.h"
 #include "ui/settings/SettingsView.h"
@@ -165,7 +166,7 @@ void Resident::start(std::string_view wanted) {
     updater_.start();
     QObject::connect(&core_.store, &Store::shortcutPressed, &core_.store,
                      [this](const std::string& activation) {
-                         CommandService::keepActivation(activation);
+                         ActivationToken::keep(QByteArray::fromStdString(activation));
                          std::ignore = core_.store.sendClipboard(Trigger::shortcut);
                      });
     if (!core_.store.started()) {

@@ -6,6 +6,7 @@
 #include <wayland-client.h>
 
 #include <QProcess>
+#include <QScopeGuard>
 
 #include <array>
 #include <memory>
@@ -50,10 +51,11 @@ void takeOffer(void* data, wl_registry* registry, std::uint32_t name, const char
     const auto bind = [&](const wl_interface& wanted) {
         return wl_registry_bind(registry, name, &wanted, 1);
     };
-    if (interface == std::string_view{wl_seat_interface.name})
+    if (interface == std::string_view{wl_seat_interface.name}) {
         offers.seat = static_cast<wl_seat*>(bind(wl_seat_interface));
-    else if (interface == std::string_view{managerInterface.name})
+    } else if (interface == std::string_view{managerInterface.name}) {
         offers.manager = static_cast<wl_proxy*>(bind(managerInterface));
+    }
 }
 
 /// A file in memory that holds the description of a US keyboard.
@@ -81,6 +83,11 @@ void pressControlAltV() {
     ASSERT_NE(offers.manager, nullptr) << "the compositor takes no virtual keyboards";
     wl_proxy* const keyboard = wl_proxy_marshal_flags(
         offers.manager, createKeyboard, &keyboardInterface, 1, 0, offers.seat, nullptr);
+    const auto unplug = qScopeGuard([&] {
+        for (void* proxy : {static_cast<void*>(keyboard), static_cast<void*>(offers.manager),
+                            static_cast<void*>(offers.seat), static_cast<void*>(registry)})
+            wl_proxy_destroy(static_cast<wl_proxy*>(proxy));
+    });
     const auto request = [&](std::uint32_t number, auto... arguments) {
         wl_proxy_marshal_flags(keyboard, number, nullptr, 1, 0, arguments...);
         wl_display_roundtrip(display.get());

@@ -3,11 +3,10 @@
 #include "platform/linux/http/Certificates.h"
 #include "sandbox/Sandbox.h"
 #include "support/Await.h"
+#include "support/Files.h"
 #include "support/RawServer.h"
 
 #include <QTemporaryDir>
-
-#include <fstream>
 
 namespace quillon::test {
 namespace {
@@ -206,12 +205,12 @@ TEST(Certificates, AreReadFromAFolderAloneWhereItHasAllOfThem) {
     const auto add = [&](const char* folder, const std::vector<std::string>& names) {
         std::filesystem::create_directory(root / folder);
         for (const std::string& name : names)
-            std::ofstream{root / folder / name};
+            write(root / folder / name);
         return replacesBundle(root / folder, system);
     };
     const std::string certificate =
         "-----BEGIN CERTIFICATE-----\nMII=\n-----END CERTIFICATE-----\n";
-    std::ofstream{system.bundle} << certificate << "# another\n" << certificate;
+    write(system.bundle, certificate + "# another\n" + certificate);
     EXPECT_FALSE(add("system", {"0123abcd.0", "a.pem", "0123abcg.0", "01234567.x", "012345678"}));
     EXPECT_TRUE(add("system", {"0123abcd.1"}));
     EXPECT_FALSE(add("own", {"0123abcd.0", "ffffffff.0"}));
@@ -221,7 +220,7 @@ TEST(Certificates, AreReadFromAFolderAloneWhereItHasAllOfThem) {
     // On another distribution, the bundle has another name.
     EXPECT_EQ(systemBundle(root / "none", root), root / "none");
     std::filesystem::create_directories(root / "etc/ssl");
-    std::ofstream{root / "etc/ssl/ca-bundle.pem"};
+    write(root / "etc/ssl/ca-bundle.pem");
     EXPECT_EQ(systemBundle(root / "none", root), root / "etc/ssl/ca-bundle.pem");
     EXPECT_EQ(systemBundle(system.bundle, root), system.bundle);
 }

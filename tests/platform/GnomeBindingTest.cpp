@@ -93,6 +93,13 @@ TEST(GnomeBinding, IsMadeWhenToldFollowsTheProgramAndGoesAlone) {
     gnomeBinding::removeAll();
     EXPECT_THAT(list->texts(listed), ElementsAre("no path", others));
     EXPECT_EQ(foreign->text("command"), "xterm");
+
+    for (const char* const users : {"quillon send", "'/q' send"}) {
+        foreign->setText("command", users);
+        EXPECT_EQ(gnomeBinding::add(PhysicalKey::v, "/q send", "Send").trigger, "Ctrl+Alt+P");
+    }
+    EXPECT_THAT(list->texts(listed), ElementsAre("no path", others));
+    list->setTexts(listed, {});
 }
 
 TEST(GnomeBinding, IsLookedAtAgainWhenTheUserComesBackFromTheDesktopsSettings) {

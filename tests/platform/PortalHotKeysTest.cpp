@@ -265,10 +265,16 @@ TEST_F(PortalHotKeysTest, TakesALateAnswerAndWithdrawsAQuestion) {
     start("sway");
     portal.openSession();
     EXPECT_TRUE(waitUntil([&] { return portal.calls("BindShortcuts").size() == 2; }));
-    const qsizetype before = portal.calls("Close").size();
-    registration.reset();
-    EXPECT_TRUE(waitUntil([&] { return portal.calls("Close").size() == before + 2; }))
-        << "the question to the user, and the session";
+    const auto closesBoth = [&] {
+        const qsizetype before = portal.calls("Close").size();
+        registration.reset();
+        return waitUntil([&] { return portal.calls("Close").size() == before + 2; });
+    };
+    EXPECT_TRUE(closesBoth()) << "the question to the user, and the session";
+    const qsizetype made = portal.calls("CreateSession").size();
+    start("sway");
+    EXPECT_TRUE(waitUntil([&] { return portal.calls("CreateSession").size() > made; }));
+    EXPECT_TRUE(closesBoth()) << "the session that it will answer with, too";
 }
 
 TEST_F(PortalHotKeysTest, MayEndWhileThePoolLooksForABinding) {

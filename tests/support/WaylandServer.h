@@ -78,9 +78,10 @@ public:
             wl_resource_create(client, &wl_seat_interface, int(version), id);
         };
         wl_global_create(display_, &wl_seat_interface, 1, this, bindSeat);
-        for (const DataControlProtocol* const protocol : protocols_)
+        for (const DataControlProtocol* const protocol : protocols_) {
             wl_global_create(display_, protocol->manager, int(protocol->version),
                              &made_.emplace_back(Made{this, protocol}), bindManager);
+        }
         running_ = true;
         loop_ = std::thread{[this] { run(); }};
     }
@@ -139,8 +140,11 @@ private:
     void give(const char* format, Descriptor into) {
         asked_.emplace_back(format);
         std::ignore = writeAll(into.number(), content_);
-        if (then_ == Then::hold) held_ = std::move(into);
-        into.close();
+        if (then_ == Then::hold) {
+            held_ = std::move(into);
+        } else {
+            into.close();
+        }
         if (then_ != Then::die) return;
         std::this_thread::sleep_for(std::chrono::milliseconds{20}); // the compositor notices later
         copy({}, {});

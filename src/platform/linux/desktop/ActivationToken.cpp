@@ -1,6 +1,5 @@
 #include "platform/linux/desktop/ActivationToken.h"
 
-#include <QByteArray>
 #include <QGuiApplication>
 #include <QVariant>
 
@@ -15,9 +14,13 @@ constexpr const char* kept = "quillon_activation_token";
 
 void ActivationToken::takeFromLauncher() {
     if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland")))
-        qGuiApp->setProperty(kept, qgetenv(variable));
+        keep(qgetenv(variable));
     withdraw();
     qunsetenv("DESKTOP_STARTUP_ID");
+}
+
+void ActivationToken::keep(const QByteArray& token) {
+    if (!token.isEmpty()) qGuiApp->setProperty(kept, token);
 }
 
 void ActivationToken::offer() {

@@ -16,13 +16,6 @@ constexpr std::chrono::milliseconds openTime = std::chrono::seconds{10};
 
 constexpr int noTimeout = std::numeric_limits<int>::max();
 
-/// The path of the request that a call with this token makes, as the portal's documentation has it.
-QString requestPath(const QDBusConnection& bus, const QString& token) {
-    QString caller = bus.baseService().mid(1);
-    caller.replace(QLatin1Char{'.'}, QLatin1Char{'_'});
-    return portal::path + QStringLiteral("/request/") + caller + QLatin1Char{'/'} + token;
-}
-
 } // namespace
 
 PortalCalls::PortalCalls(QDBusConnection bus) : bus_{std::move(bus)} {
@@ -41,25 +34,42 @@ PortalCalls::~PortalCalls() {
         tell(path, portal::request, "Close");
 }
 
+void PortalCalls::send(const QDBusMessage& message, Answered answered) {
+    auto* const pending = new QDBusPendingCallWatcher{bus_.asyncCall(message, noTimeout), this};
+    connect(pending, &QDBusPendingCallWatcher::finished, this,
+            [pending, answered = std::move(answered)] {
+                pending->deleteLater();
+                answered(pending->reply());
+            });
+}
+
 void PortalCalls::call(const QString& interface, const char* method, const QVariantList& arguments,
                        Answered answered) {
     QDBusMessage message = QDBusMessage::createMethodCall(portal::name, portal::path, interface,
                                                           QLatin1String{method});
     message.setArguments(arguments);
-    auto* const pending = new QDBusPendingCallWatcher{bus_.asyncCall(message, noTimeout), this};
-    connect(pending, &QDBusPendingCallWatcher::finished, this,
-            [this, pending, answered = std::move(answered)] {
-                pending->deleteLater();
-                const QDBusMessage answer = pending->reply();
-                if (answer.service().startsWith(QLatin1Char{':'})) owner_ = answer.service();
-                answered(answer);
-            });
+    send(message, [this, answered = std::move(answered)](const QDBusMessage& answer) {
+        owner_.isEmpty() ? learnOwner([answer, answered] { answered(answer); }) : answered(answer);
+    });
+}
+
+void PortalCalls::learnOwner(std::function<void()> then) {
+    const QString bus = QStringLiteral("org.freedesktop.DBus");
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        bus, QStringLiteral("/org/freedesktop/DBus"), bus, QStringLiteral("GetNameOwner"));
+    question << portal::name;
+    // Newer versions of Qt do not tell who has sent an answer.
+    send(question, [this, then = std::move(then)](const QDBusMessage& answer) {
+        if (answer.type() == QDBusMessage::ReplyMessage)
+            owner_ = answer.arguments().value(0).toString();
+        then();
+    });
 }
 
 void PortalCalls::request(const QString& interface, const char* method, QVariantList arguments,
                           QVariantMap options, Responded responded) {
     const QString token = newToken();
-    const QString path = requestPath(bus_, token);
+    const QString path = handle("request", token);
     options[QStringLiteral("handle_token")] = token;
     arguments << options;
     requests_[path] = std::move(responded);
@@ -81,6 +91,12 @@ void PortalCalls::tell(const QString& path, const QString& interface, const char
 
 bool PortalCalls::isPortal(const QDBusMessage& signal) const {
     return !owner_.isEmpty() && signal.service() == owner_;
+}
+
+QString PortalCalls::handle(const char* kind, const QString& token) const {
+    QString caller = bus_.baseService().mid(1);
+    caller.replace(QLatin1Char{'.'}, QLatin1Char{'_'});
+    return QStringList{portal::path, QLatin1String{kind}, caller, token}.join(QLatin1Char{'/'});
 }
 
 QString PortalCalls::newToken() {

@@ -55,6 +55,9 @@ public:
 
     /// Whether the signal comes from the portal that answered, and not from just any program.
     [[nodiscard]] bool isPortal(const QDBusMessage& signal) const;
+    /// The path of the object that a call with this token makes, as the portal's documentation has
+    /// it; of which kind, "request" or "session".
+    [[nodiscard]] QString handle(const char* kind, const QString& token) const;
     /// A word that no other request or session of this process has.
     [[nodiscard]] static QString newToken();
 
@@ -62,6 +65,9 @@ private Q_SLOTS:
     void respond(const QDBusMessage& signal);
 
 private:
+    void send(const QDBusMessage& message, Answered answered);
+    /// Asks the bus who the portal is, once it has answered and so is there.
+    void learnOwner(std::function<void()> then);
     void end(const QString& path, uint code, const QVariantMap& results);
 
     QDBusConnection bus_;

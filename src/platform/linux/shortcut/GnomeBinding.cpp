@@ -3,6 +3,7 @@
 #include "platform/linux/shortcut/CompositorLine.h"
 #include "platform/linux/shortcut/DesktopSettings.h"
 
+#include <QProcess>
 #include <QRegularExpression>
 #include <QString>
 #include <QStringList>
@@ -59,6 +60,18 @@ QStringList partsOf(std::string_view accelerator) {
     return parts;
 }
 
+/// The words of a command, of which some may be in quotes of either kind.
+QStringList wordsOf(const std::string& command) {
+    QString text = QString::fromStdString(command);
+    return QProcess::splitCommand(text.replace(QLatin1Char{'\''}, QLatin1Char{'"'}));
+}
+
+/// Whether the command that a user has bound is the program's own, by its path or by its name
+/// alone.
+bool areSameCommands(const std::string& users, const std::string& own) {
+    return wordsOf(users) == wordsOf(own) || wordsOf(users) == wordsOf("quillon send");
+}
+
 /// The list of bindings with commands, which is the desktop's own.
 class CommandBindings {
 public:
@@ -83,11 +96,23 @@ public:
         return DesktopSettings::open(customBinding, path.c_str());
     }
 
-    [[nodiscard]] BindingReport find(PhysicalKey key) const {
-        const std::string keys = lists(pathOf(key)) ? at(pathOf(key))->text("binding") : "";
+    [[nodiscard]] BindingReport find(PhysicalKey key, const std::string& command) const {
+        std::string keys = lists(pathOf(key)) ? at(pathOf(key))->text("binding") : "";
+        if (keys.empty()) keys = keysByUser(command);
         // Without keys, as the user may leave it, it is none.
         if (keys.empty()) return {.outcome = BindingReport::Outcome::absent};
         return {.outcome = BindingReport::Outcome::present, .trigger = shownKeys(keys)};
+    }
+
+    /// The keys to which the user has bound the command without this program's help; empty where
+    /// there are none.
+    [[nodiscard]] std::string keysByUser(const std::string& command) const {
+        for (const std::string& path : paths()) {
+            const auto other = isOwn(path) ? std::nullopt : at(path);
+            if (other && areSameCommands(other->text("command"), command))
+                return other->text("binding");
+        }
+        return {};
     }
 
     /// Whether somebody else's binding has the keys.
@@ -155,13 +180,13 @@ BindingReport gnomeBinding::follow(PhysicalKey key, const std::string& command) 
     const CommandBindings bindings;
     if (!bindings.exist()) return {.outcome = BindingReport::Outcome::missing};
     bindings.keepOnly(pathOf(key));
-    BindingReport report = bindings.find(key);
-    if (report.outcome == BindingReport::Outcome::present) {
+    if (bindings.lists(pathOf(key))) {
         const auto own = CommandBindings::at(pathOf(key));
         if (own->text("command") != command) own->setText("command", command);
-    } else if (bindings.areTaken(acceleratorOf(key))) {
-        report.outcome = BindingReport::Outcome::taken;
     }
+    BindingReport report = bindings.find(key, command);
+    if (report.outcome == BindingReport::Outcome::absent && bindings.areTaken(acceleratorOf(key)))
+        report.outcome = BindingReport::Outcome::taken;
     DesktopSettings::sync();
     return report;
 }
@@ -174,7 +199,7 @@ BindingReport gnomeBinding::add(PhysicalKey key, const std::string& command,
     const CommandBindings bindings;
     bindings.add(key, command, name);
     DesktopSettings::sync();
-    return bindings.find(key);
+    return bindings.find(key, command);
 }
 
 void gnomeBinding::removeAll() {

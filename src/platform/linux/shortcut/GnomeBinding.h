@@ -14,6 +14,7 @@ namespace gnomeBinding {
 
 /// Looks for the binding of the key. One that is there is made to run `command`, which differs once
 /// the program has moved; those of other keys are removed, so that one shortcut is bound at a time.
+/// One that the user has made, on whatever keys, will do as well, and stays as it is.
 [[nodiscard]] BindingReport follow(PhysicalKey key, const std::string& command);
 
 /// Adds the binding with this name for people, unless another has its keys.

@@ -56,7 +56,8 @@ PortalSession::PortalSession(const QDBusConnection& bus, QString applicationId, 
 }
 
 PortalSession::~PortalSession() {
-    if (!session_.isEmpty()) calls_.tell(session_, portal::session, "Close");
+    const QString& open = session_.isEmpty() ? coming_ : session_;
+    if (!open.isEmpty()) calls_.tell(open, portal::session, "Close");
 }
 
 void PortalSession::listen() {
@@ -87,12 +88,15 @@ void PortalSession::askVersion() {
 }
 
 void PortalSession::create() {
-    QVariantMap options{{QStringLiteral("session_handle_token"), newSessionToken()}};
+    const QString token = newSessionToken();
+    coming_ = calls_.handle("session", token);
+    QVariantMap options{{QStringLiteral("session_handle_token"), token}};
     // By the first draft of the portal, the shortcuts are told here, and desktops that keep to it
     // bind none that they learn of later.
     options[QStringLiteral("shortcuts")] = wanted();
     calls_.request(shortcutsInterface, "CreateSession", {}, options,
                    [this](uint code, const QVariantMap& results) {
+                       coming_.clear();
                        session_ = pathIn(results.value(QStringLiteral("session_handle")));
                        if (code != done || session_.isEmpty()) return tell(PortalAnswer::failed);
                        // Those desktops have bound it by now, and would open their settings if told

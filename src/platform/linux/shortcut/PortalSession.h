@@ -62,6 +62,8 @@ private:
     Listener listener_;
     PortalCalls calls_;
     QString session_;
+    /// Where the session will be whose making the portal has not answered; else empty.
+    QString coming_;
     uint version_ = 0;
     PortalReport report_;
 };

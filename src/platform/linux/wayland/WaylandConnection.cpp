@@ -15,7 +15,7 @@ namespace {
 
 /// The compositor's socket, by the rule of libwayland; empty when there is none.
 std::filesystem::path socketOf(const char* display) {
-    const std::filesystem::path name =
+    std::filesystem::path name =
         display != nullptr
             ? std::string{display}
             : qEnvironmentVariable("WAYLAND_DISPLAY", QStringLiteral("wayland-0")).toStdString();
