@@ -19,7 +19,8 @@ QStringList faults(const char* label, int width, int apart) {
     auto* button = new TextButton{QStringLiteral("áéíóú áéíóú"), {}, {}, &window};
     button->setGeometry(0, apart, width, 40);
     window.show();
-    return textFaults(window, {QStringLiteral("Anna")});
+    const QStringList names{QStringLiteral("Anna")};
+    return layoutFaults(window, names) + languageFaults(window, names);
 }
 
 TEST(LayoutCheck, FindsEachFaultAlone) {
