@@ -371,179 +371,179 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     <name>Doctor</name>
     <message>
         <source>not looked at, for the display is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>sin comprobar, porque falta la pantalla</translation>
     </message>
     <message>
         <source>the desktop has not answered yet</source>
-        <translation type="unfinished"></translation>
+        <translation>el escritorio todavía no ha respondido</translation>
     </message>
     <message>
         <source>If it asks you, answer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le pregunta, responda allí.</translation>
     </message>
     <message>
         <source>%1 works</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 funciona</translation>
     </message>
     <message>
         <source>the desktop knows it, but gives it no keys</source>
-        <translation type="unfinished"></translation>
+        <translation>el escritorio lo conoce, pero no le asigna teclas</translation>
     </message>
     <message>
         <source>Choose keys in the settings, under General.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija unas teclas en la configuración, en «General».</translation>
     </message>
     <message>
         <source>another program or the desktop itself has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>otro programa o el propio escritorio usa %1</translation>
     </message>
     <message>
         <source>Choose another in the settings, under General, or free it in the desktop&apos;s keyboard settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija otro en la configuración, en «General», o libérelo en la configuración del teclado del escritorio.</translation>
     </message>
     <message>
         <source>it was declined when the desktop asked</source>
-        <translation type="unfinished"></translation>
+        <translation>se rechazó cuando el escritorio preguntó</translation>
     </message>
     <message>
         <source>Have it ask again in the settings, under General.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga que vuelva a preguntar en la configuración, en «General».</translation>
     </message>
     <message>
         <source>the desktop gives programs no shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>el escritorio no da atajos a los programas</translation>
     </message>
     <message>
         <source>The settings show, under General, how to bind one yourself.</source>
-        <translation type="unfinished"></translation>
+        <translation>La configuración muestra, en «General», cómo asociar uno usted mismo.</translation>
     </message>
     <message>
         <source>could not be looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pudo comprobar</translation>
     </message>
     <message>
         <source>Log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cierre la sesión y vuelva a iniciarla.</translation>
     </message>
     <message>
         <source>the Wayland compositor does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>el compositor de Wayland no responde</translation>
     </message>
     <message>
         <source>the Wayland compositor and an X server answer</source>
-        <translation type="unfinished"></translation>
+        <translation>el compositor de Wayland y un servidor X responden</translation>
     </message>
     <message>
         <source>the Wayland compositor answers</source>
-        <translation type="unfinished"></translation>
+        <translation>el compositor de Wayland responde</translation>
     </message>
     <message>
         <source>the X server answers</source>
-        <translation type="unfinished"></translation>
+        <translation>el servidor X responde</translation>
     </message>
     <message>
         <source>the X server does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>el servidor X no responde</translation>
     </message>
     <message>
         <source>there is no display</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna pantalla</translation>
     </message>
     <message>
         <source>Run Quillon in your desktop&apos;s session, where DISPLAY or WAYLAND_DISPLAY names the display.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecute Quillon en la sesión de su escritorio, donde DISPLAY o WAYLAND_DISPLAY indica la pantalla.</translation>
     </message>
     <message>
         <source>the program that copied last does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>el último programa que copió algo no responde</translation>
     </message>
     <message>
         <source>Copy something in another program, or end that one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie algo en otro programa o cierre ese.</translation>
     </message>
     <message>
         <source>this desktop lets no program read it</source>
-        <translation type="unfinished"></translation>
+        <translation>este escritorio no permite que ningún programa lo lea</translation>
     </message>
     <message>
         <source>Switch on Xwayland in the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Active Xwayland en el escritorio.</translation>
     </message>
     <message>
         <source>by %1; empty now</source>
-        <translation type="unfinished"></translation>
+        <translation>mediante %1; ahora está vacío</translation>
     </message>
     <message>
         <source>by %1; on offer now: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>mediante %1; ahora ofrece: %2</translation>
     </message>
     <message>
         <source>not looked at, for Quillon does not run</source>
-        <translation type="unfinished"></translation>
+        <translation>sin comprobar, porque Quillon no está en ejecución</translation>
     </message>
     <message>
         <source>%1 is free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está libre</translation>
     </message>
     <message>
         <source>the desktop&apos;s shortcuts have stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>los atajos del escritorio se han detenido</translation>
     </message>
     <message>
         <source>“%2” has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>«%2» usa %1</translation>
     </message>
     <message>
         <source>switched off in the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>desactivado en la configuración</translation>
     </message>
     <message>
         <source>a layer over all windows</source>
-        <translation type="unfinished"></translation>
+        <translation>una capa sobre todas las ventanas</translation>
     </message>
     <message>
         <source>a window</source>
-        <translation type="unfinished"></translation>
+        <translation>una ventana</translation>
     </message>
     <message>
         <source>shown by a host on the session bus</source>
-        <translation type="unfinished"></translation>
+        <translation>mostrado por un programa en el bus de sesión</translation>
     </message>
     <message>
         <source>shown by a tray on the X server</source>
-        <translation type="unfinished"></translation>
+        <translation>mostrado por una bandeja del sistema en el servidor X</translation>
     </message>
     <message>
         <source>this desktop shows no icons</source>
-        <translation type="unfinished"></translation>
+        <translation>este escritorio no muestra iconos</translation>
     </message>
     <message>
         <source>Open the panel with: quillon panel. Or give the desktop a tray, such as an extension.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abra el panel con: quillon panel. O añada al escritorio una bandeja del sistema, por ejemplo como extensión.</translation>
     </message>
     <message>
         <source>ok</source>
-        <translation type="unfinished"></translation>
+        <translation>correcto</translation>
     </message>
     <message>
         <source>warning</source>
-        <translation type="unfinished"></translation>
+        <translation>alerta</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>error</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>incierto</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>desactivada</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>activada</translation>
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
@@ -551,115 +551,115 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>activada, pero el programa que debería abrirse no está</translation>
     </message>
     <message>
         <source>Switch it on again: quillon launch-at-login on</source>
-        <translation type="unfinished"></translation>
+        <translation>Actívela de nuevo: quillon launch-at-login on</translation>
     </message>
     <message>
         <source>%1 on %2, with %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2, con %3</translation>
     </message>
     <message>
         <source>runs, and waits for the shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>en ejecución, a la espera del atajo</translation>
     </message>
     <message>
         <source>does not run, so that nothing waits for the shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>no está en ejecución, así que nada espera el atajo</translation>
     </message>
     <message>
         <source>Start Quillon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicie Quillon.</translation>
     </message>
     <message>
         <source>there is a sound server or a sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>hay un servidor de sonido o una tarjeta de sonido</translation>
     </message>
     <message>
         <source>there is no sound server, and no sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay servidor de sonido ni tarjeta de sonido</translation>
     </message>
     <message>
         <source>Start PipeWire or PulseAudio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicie PipeWire o PulseAudio.</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no responde</translation>
     </message>
     <message>
         <source>See whether its disk or network share is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Compruebe si su disco o recurso compartido de red está disponible.</translation>
     </message>
     <message>
         <source>%1 cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede escribir en %1</translation>
     </message>
     <message>
         <source>%1 cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede crear %1</translation>
     </message>
     <message>
         <source>Give yourself the rights to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Concédase los permisos necesarios.</translation>
     </message>
     <message>
         <source>the disk of %1 is full</source>
-        <translation type="unfinished"></translation>
+        <translation>el disco de %1 está lleno</translation>
     </message>
     <message>
         <source>Make room on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Libere espacio en él.</translation>
     </message>
     <message>
         <source>others can look into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>otros pueden ver el contenido de %1</translation>
     </message>
     <message>
         <source>Take their rights: chmod 700 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Quíteles los permisos: chmod 700 %1</translation>
     </message>
     <message>
         <source>%1 can be written; %2 MB free</source>
-        <translation type="unfinished"></translation>
+        <translation>se puede escribir en %1; %2 MB libres</translation>
     </message>
     <message>
         <source>this copy does not update itself</source>
-        <translation type="unfinished"></translation>
+        <translation>esta copia no se actualiza sola</translation>
     </message>
     <message>
         <source>Quillon updates itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon se actualiza solo</translation>
     </message>
     <message>
         <source>Quillon cannot replace itself where it lies</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon no se puede sustituir donde está</translation>
     </message>
     <message>
         <source>Move it to a folder of yours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muévalo a una carpeta suya.</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>Programa</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Pantalla</translation>
     </message>
     <message>
         <source>Clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Portapapeles</translation>
     </message>
     <message>
         <source>Shortcut</source>
@@ -667,19 +667,19 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>Banner</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icono</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonido</translation>
     </message>
     <message>
         <source>Data folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de datos</translation>
     </message>
     <message>
         <source>Opening at login</source>
@@ -695,11 +695,11 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red</translation>
     </message>
     <message>
         <source>Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Reloj</translation>
     </message>
     <message>
         <source>Bot</source>
@@ -711,271 +711,271 @@ Sin una orden se queda en ejecución y envía cada vez que pulsa su atajo.
     </message>
     <message>
         <source>Topics</source>
-        <translation type="unfinished"></translation>
+        <translation>Temas</translation>
     </message>
     <message>
         <source>Rights</source>
-        <translation type="unfinished"></translation>
+        <translation>Permisos</translation>
     </message>
     <message>
         <source>Topic %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tema %1</translation>
     </message>
     <message>
         <source>not asked, for something before it failed</source>
-        <translation type="unfinished"></translation>
+        <translation>sin comprobar, porque antes falló otra cosa</translation>
     </message>
     <message>
         <source>Telegram says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram dice: %1</translation>
     </message>
     <message>
         <source>Telegram does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram no responde</translation>
     </message>
     <message>
         <source>Try again in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inténtelo de nuevo en un momento.</translation>
     </message>
     <message>
         <source>Check the internet connection and its firewall.</source>
-        <translation type="unfinished"></translation>
+        <translation>Compruebe la conexión a Internet y su cortafuegos.</translation>
     </message>
     <message>
         <source>Correct %1, or take it away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrija %1 o quite esa variable.</translation>
     </message>
     <message>
         <source>the way to Telegram is good</source>
-        <translation type="unfinished"></translation>
+        <translation>la conexión con Telegram funciona</translation>
     </message>
     <message>
         <source>libcurl is missing, or too old</source>
-        <translation type="unfinished"></translation>
+        <translation>falta libcurl o es demasiado antigua</translation>
     </message>
     <message>
         <source>Install libcurl 7.87 or a newer one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instale libcurl 7.87 o posterior.</translation>
     </message>
     <message>
         <source>QUILLON_BOT_API is not the address of a server</source>
-        <translation type="unfinished"></translation>
+        <translation>QUILLON_BOT_API no es la dirección de un servidor</translation>
     </message>
     <message>
         <source>Correct it, or take it away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrija o quite esa variable.</translation>
     </message>
     <message>
         <source>the name of the proxy in %1 is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>no se encuentra el nombre del proxy indicado en %1</translation>
     </message>
     <message>
         <source>the server&apos;s name is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>no se encuentra el nombre del servidor</translation>
     </message>
     <message>
         <source>Check the internet connection and its name server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Compruebe la conexión a Internet y su servidor de nombres.</translation>
     </message>
     <message>
         <source>the proxy in %1 turns the connection away</source>
-        <translation type="unfinished"></translation>
+        <translation>el proxy indicado en %1 rechaza la conexión</translation>
     </message>
     <message>
         <source>no connection to the server comes about</source>
-        <translation type="unfinished"></translation>
+        <translation>no se logra conectar con el servidor</translation>
     </message>
     <message>
         <source>the server&apos;s certificate is not trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>el certificado del servidor no es de confianza</translation>
     </message>
     <message>
         <source>Install ca-certificates. Where a proxy reads along, SSL_CERT_FILE can name its certificate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instale ca-certificates. Si un proxy lee el tráfico, SSL_CERT_FILE puede indicar su certificado.</translation>
     </message>
     <message>
         <source>by this computer&apos;s clock, the server&apos;s certificate is out of its time</source>
-        <translation type="unfinished"></translation>
+        <translation>según el reloj de este equipo, el certificado del servidor no es válido ahora</translation>
     </message>
     <message>
         <source>Set the clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponga el reloj en hora.</translation>
     </message>
     <message>
         <source>no encryption can be agreed with the server</source>
-        <translation type="unfinished"></translation>
+        <translation>no se logra acordar un cifrado con el servidor</translation>
     </message>
     <message>
         <source>no answer in time</source>
-        <translation type="unfinished"></translation>
+        <translation>no hubo respuesta a tiempo</translation>
     </message>
     <message>
         <source>it was deleted on the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>se eliminó en el teléfono</translation>
     </message>
     <message>
         <source>Create it again: quillon create-topics</source>
-        <translation type="unfinished"></translation>
+        <translation>Créelo de nuevo: quillon create-topics</translation>
     </message>
     <message>
         <source>it is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>está cerrado</translation>
     </message>
     <message>
         <source>Reopen it on the phone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelva a abrirlo en el teléfono.</translation>
     </message>
     <message>
         <source>the bot may not write in it</source>
-        <translation type="unfinished"></translation>
+        <translation>el bot no tiene permiso para escribir en él</translation>
     </message>
     <message>
         <source>Make the bot an admin of the group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga al bot administrador del grupo.</translation>
     </message>
     <message>
         <source>answers, and has the bot&apos;s token</source>
-        <translation type="unfinished"></translation>
+        <translation>responde y tiene el token del bot</translation>
     </message>
     <message>
         <source>it is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>está bloqueado</translation>
     </message>
     <message>
         <source>Unlock it, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Desbloquéelo e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>it answers, but has no bot&apos;s token</source>
-        <translation type="unfinished"></translation>
+        <translation>responde, pero no tiene el token de ningún bot</translation>
     </message>
     <message>
         <source>Connect your bot: quillon connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Conecte su bot: quillon connect</translation>
     </message>
     <message>
         <source>it does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>no responde</translation>
     </message>
     <message>
         <source>End its service, or log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Detenga su servicio, o cierre la sesión y vuelva a iniciarla.</translation>
     </message>
     <message>
         <source>it gives no token; the bot&apos;s is in memory until Quillon ends</source>
-        <translation type="unfinished"></translation>
+        <translation>no entrega ningún token; el del bot queda en memoria hasta que Quillon se cierre</translation>
     </message>
     <message>
         <source>Unlock it, or connect your bot again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Desbloquéelo o vuelva a conectar su bot.</translation>
     </message>
     <message>
         <source>no session bus answers, by which it is reached</source>
-        <translation type="unfinished"></translation>
+        <translation>no responde ningún bus de sesión con el que acceder a él</translation>
     </message>
     <message>
         <source>Run Quillon in your desktop&apos;s session, where DBUS_SESSION_BUS_ADDRESS names the bus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecute Quillon en la sesión de su escritorio, donde DBUS_SESSION_BUS_ADDRESS indica el bus.</translation>
     </message>
     <message>
         <source>there is none</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguno</translation>
     </message>
     <message>
         <source>Install gnome-keyring or KWallet, and log in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instale gnome-keyring o KWallet y vuelva a iniciar sesión.</translation>
     </message>
     <message>
         <source>the way to Telegram is good, through the proxy in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la conexión con Telegram funciona, a través del proxy indicado en %1</translation>
     </message>
     <message>
         <source>the proxy in %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>el proxy indicado en %1 no responde</translation>
     </message>
     <message>
         <source>the server did not tell its time</source>
-        <translation type="unfinished"></translation>
+        <translation>el servidor no dio su hora</translation>
     </message>
     <message>
         <source>it agrees with the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>coincide con el del servidor</translation>
     </message>
     <message>
         <source>it is %1 min ahead of the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>va %1 min adelantado respecto al del servidor</translation>
     </message>
     <message>
         <source>it is %1 min behind the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>va %1 min atrasado respecto al del servidor</translation>
     </message>
     <message>
         <source>Telegram does not accept its token</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram no acepta su token</translation>
     </message>
     <message>
         <source>Get its token from @BotFather, and connect it: quillon connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Obtenga su token de @BotFather y conéctelo: quillon connect</translation>
     </message>
     <message>
         <source>Telegram accepts its token</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram acepta su token</translation>
     </message>
     <message>
         <source>Add the bot to the group, write “hi” there, and: quillon find-group</source>
-        <translation type="unfinished"></translation>
+        <translation>Añada el bot al grupo, escriba «hi» en él y ejecute: quillon find-group</translation>
     </message>
     <message>
         <source>it is not found yet</source>
-        <translation type="unfinished"></translation>
+        <translation>todavía no se encontró</translation>
     </message>
     <message>
         <source>it has become a supergroup, which is another one</source>
-        <translation type="unfinished"></translation>
+        <translation>se ha convertido en un supergrupo, que es otro grupo</translation>
     </message>
     <message>
         <source>Write “hi” there, and: quillon find-group</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba «hi» en él y ejecute: quillon find-group</translation>
     </message>
     <message>
         <source>the bot reaches it</source>
-        <translation type="unfinished"></translation>
+        <translation>el bot tiene acceso a él</translation>
     </message>
     <message>
         <source>they are switched on</source>
-        <translation type="unfinished"></translation>
+        <translation>están activados</translation>
     </message>
     <message>
         <source>they are switched off in the group</source>
-        <translation type="unfinished"></translation>
+        <translation>están desactivados en el grupo</translation>
     </message>
     <message>
         <source>Switch on Topics in the group&apos;s settings on the phone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Active Temas en la configuración del grupo, en el teléfono.</translation>
     </message>
     <message>
         <source>the bot may manage topics</source>
-        <translation type="unfinished"></translation>
+        <translation>el bot puede gestionar los temas</translation>
     </message>
     <message>
         <source>the bot may not manage topics</source>
-        <translation type="unfinished"></translation>
+        <translation>el bot no puede gestionar los temas</translation>
     </message>
     <message>
         <source>Make it an admin with “Manage Topics”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hágalo administrador con «Gestionar temas».</translation>
     </message>
     <message>
         <source>it is not created yet</source>
-        <translation type="unfinished"></translation>
+        <translation>todavía no se ha creado</translation>
     </message>
     <message>
         <source>Create it: quillon create-topics</source>
-        <translation type="unfinished"></translation>
+        <translation>Créelo: quillon create-topics</translation>
     </message>
     <message>
         <source>it is there</source>
-        <translation type="unfinished"></translation>
+        <translation>existe</translation>
     </message>
 </context>
 <context>

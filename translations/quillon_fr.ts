@@ -371,179 +371,179 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     <name>Doctor</name>
     <message>
         <source>not looked at, for the display is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>vérification omise, faute d’écran</translation>
     </message>
     <message>
         <source>the desktop has not answered yet</source>
-        <translation type="unfinished"></translation>
+        <translation>le bureau n’a pas encore répondu</translation>
     </message>
     <message>
         <source>If it asks you, answer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>S’il vous pose une question, répondez-y.</translation>
     </message>
     <message>
         <source>%1 works</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fonctionne</translation>
     </message>
     <message>
         <source>the desktop knows it, but gives it no keys</source>
-        <translation type="unfinished"></translation>
+        <translation>le bureau le connaît, mais ne lui donne aucune touche</translation>
     </message>
     <message>
         <source>Choose keys in the settings, under General.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez des touches dans les paramètres, sous «&#xa0;Général&#xa0;».</translation>
     </message>
     <message>
         <source>another program or the desktop itself has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre programme ou le bureau lui-même utilise %1</translation>
     </message>
     <message>
         <source>Choose another in the settings, under General, or free it in the desktop&apos;s keyboard settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez-en un autre dans les paramètres, sous «&#xa0;Général&#xa0;», ou libérez-le dans les paramètres de clavier du bureau.</translation>
     </message>
     <message>
         <source>it was declined when the desktop asked</source>
-        <translation type="unfinished"></translation>
+        <translation>il a été refusé quand le bureau l’a demandé</translation>
     </message>
     <message>
         <source>Have it ask again in the settings, under General.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites redemander dans les paramètres, sous «&#xa0;Général&#xa0;».</translation>
     </message>
     <message>
         <source>the desktop gives programs no shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>le bureau ne donne pas de raccourcis aux programmes</translation>
     </message>
     <message>
         <source>The settings show, under General, how to bind one yourself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les paramètres montrent, sous «&#xa0;Général&#xa0;», comment en associer un vous-même.</translation>
     </message>
     <message>
         <source>could not be looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>vérification impossible</translation>
     </message>
     <message>
         <source>Log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnectez-vous, puis reconnectez-vous.</translation>
     </message>
     <message>
         <source>the Wayland compositor does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>le compositeur Wayland ne répond pas</translation>
     </message>
     <message>
         <source>the Wayland compositor and an X server answer</source>
-        <translation type="unfinished"></translation>
+        <translation>le compositeur Wayland et un serveur X répondent</translation>
     </message>
     <message>
         <source>the Wayland compositor answers</source>
-        <translation type="unfinished"></translation>
+        <translation>le compositeur Wayland répond</translation>
     </message>
     <message>
         <source>the X server answers</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur X répond</translation>
     </message>
     <message>
         <source>the X server does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur X ne répond pas</translation>
     </message>
     <message>
         <source>there is no display</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas d’écran</translation>
     </message>
     <message>
         <source>Run Quillon in your desktop&apos;s session, where DISPLAY or WAYLAND_DISPLAY names the display.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancez Quillon dans la session de votre bureau, où DISPLAY ou WAYLAND_DISPLAY indique l’écran.</translation>
     </message>
     <message>
         <source>the program that copied last does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>le dernier programme qui a copié ne répond pas</translation>
     </message>
     <message>
         <source>Copy something in another program, or end that one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiez quelque chose dans un autre programme, ou arrêtez celui-là.</translation>
     </message>
     <message>
         <source>this desktop lets no program read it</source>
-        <translation type="unfinished"></translation>
+        <translation>ce bureau ne laisse aucun programme le lire</translation>
     </message>
     <message>
         <source>Switch on Xwayland in the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Activez Xwayland dans le bureau.</translation>
     </message>
     <message>
         <source>by %1; empty now</source>
-        <translation type="unfinished"></translation>
+        <translation>via %1&#xa0;; vide en ce moment</translation>
     </message>
     <message>
         <source>by %1; on offer now: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>via %1&#xa0;; proposés en ce moment&#xa0;: %2</translation>
     </message>
     <message>
         <source>not looked at, for Quillon does not run</source>
-        <translation type="unfinished"></translation>
+        <translation>vérification omise, car Quillon ne tourne pas</translation>
     </message>
     <message>
         <source>%1 is free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est libre</translation>
     </message>
     <message>
         <source>the desktop&apos;s shortcuts have stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>les raccourcis du bureau sont arrêtés</translation>
     </message>
     <message>
         <source>“%2” has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%2&#xa0;» utilise %1</translation>
     </message>
     <message>
         <source>switched off in the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>désactivé dans les paramètres</translation>
     </message>
     <message>
         <source>a layer over all windows</source>
-        <translation type="unfinished"></translation>
+        <translation>une couche au-dessus de toutes les fenêtres</translation>
     </message>
     <message>
         <source>a window</source>
-        <translation type="unfinished"></translation>
+        <translation>une fenêtre</translation>
     </message>
     <message>
         <source>shown by a host on the session bus</source>
-        <translation type="unfinished"></translation>
+        <translation>affichée par un programme sur le bus de session</translation>
     </message>
     <message>
         <source>shown by a tray on the X server</source>
-        <translation type="unfinished"></translation>
+        <translation>affichée par une zone de notification sur le serveur X</translation>
     </message>
     <message>
         <source>this desktop shows no icons</source>
-        <translation type="unfinished"></translation>
+        <translation>ce bureau n’affiche pas d’icônes</translation>
     </message>
     <message>
         <source>Open the panel with: quillon panel. Or give the desktop a tray, such as an extension.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrez le panneau avec&#xa0;: quillon panel. Ou ajoutez au bureau une zone de notification, par exemple par une extension.</translation>
     </message>
     <message>
         <source>ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>warning</source>
-        <translation type="unfinished"></translation>
+        <translation>alerte</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>échec</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>désactivée</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>activée</translation>
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
@@ -551,115 +551,115 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>activée, mais le programme à ouvrir n’est pas là</translation>
     </message>
     <message>
         <source>Switch it on again: quillon launch-at-login on</source>
-        <translation type="unfinished"></translation>
+        <translation>Réactivez-la&#xa0;: quillon launch-at-login on</translation>
     </message>
     <message>
         <source>%1 on %2, with %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sous %2, avec %3</translation>
     </message>
     <message>
         <source>runs, and waits for the shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>en cours, attend le raccourci</translation>
     </message>
     <message>
         <source>does not run, so that nothing waits for the shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>ne tourne pas&#xa0;: rien n’attend le raccourci</translation>
     </message>
     <message>
         <source>Start Quillon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancez Quillon.</translation>
     </message>
     <message>
         <source>there is a sound server or a sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a un serveur de son ou une carte son</translation>
     </message>
     <message>
         <source>there is no sound server, and no sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a ni serveur de son ni carte son</translation>
     </message>
     <message>
         <source>Start PipeWire or PulseAudio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancez PipeWire ou PulseAudio.</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne répond pas</translation>
     </message>
     <message>
         <source>See whether its disk or network share is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifiez que son disque ou son partage réseau est là.</translation>
     </message>
     <message>
         <source>%1 cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas accessible en écriture</translation>
     </message>
     <message>
         <source>%1 cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être créé</translation>
     </message>
     <message>
         <source>Give yourself the rights to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donnez-vous les droits nécessaires.</translation>
     </message>
     <message>
         <source>the disk of %1 is full</source>
-        <translation type="unfinished"></translation>
+        <translation>le disque de %1 est plein</translation>
     </message>
     <message>
         <source>Make room on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Libérez-y de la place.</translation>
     </message>
     <message>
         <source>others can look into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>d’autres peuvent voir le contenu de %1</translation>
     </message>
     <message>
         <source>Take their rights: chmod 700 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirez-leur les droits&#xa0;: chmod 700 %1</translation>
     </message>
     <message>
         <source>%1 can be written; %2 MB free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est accessible en écriture&#xa0;; %2&#xa0;Mo libres</translation>
     </message>
     <message>
         <source>this copy does not update itself</source>
-        <translation type="unfinished"></translation>
+        <translation>cette copie ne se met pas à jour elle-même</translation>
     </message>
     <message>
         <source>Quillon updates itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon se met à jour lui-même</translation>
     </message>
     <message>
         <source>Quillon cannot replace itself where it lies</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon ne peut pas se remplacer là où il se trouve</translation>
     </message>
     <message>
         <source>Move it to a folder of yours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacez-le dans un dossier qui vous appartient.</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>Programme</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Session</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Écran</translation>
     </message>
     <message>
         <source>Clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Presse-papiers</translation>
     </message>
     <message>
         <source>Shortcut</source>
@@ -667,19 +667,19 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Banner</source>
-        <translation type="unfinished"></translation>
+        <translation>Bannière</translation>
     </message>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icône</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Son</translation>
     </message>
     <message>
         <source>Data folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Données</translation>
     </message>
     <message>
         <source>Opening at login</source>
@@ -695,11 +695,11 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Horloge</translation>
     </message>
     <message>
         <source>Bot</source>
@@ -711,271 +711,271 @@ Sans commande, il reste actif et envoie à chaque appui sur son raccourci.
     </message>
     <message>
         <source>Topics</source>
-        <translation type="unfinished"></translation>
+        <translation>Sujets</translation>
     </message>
     <message>
         <source>Rights</source>
-        <translation type="unfinished"></translation>
+        <translation>Droits</translation>
     </message>
     <message>
         <source>Topic %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sujet %1</translation>
     </message>
     <message>
         <source>not asked, for something before it failed</source>
-        <translation type="unfinished"></translation>
+        <translation>vérification omise, après un échec précédent</translation>
     </message>
     <message>
         <source>Telegram says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram dit&#xa0;: %1</translation>
     </message>
     <message>
         <source>Telegram does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram ne répond pas</translation>
     </message>
     <message>
         <source>Try again in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réessayez dans un instant.</translation>
     </message>
     <message>
         <source>Check the internet connection and its firewall.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifiez la connexion à Internet et son pare-feu.</translation>
     </message>
     <message>
         <source>Correct %1, or take it away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrigez %1, ou supprimez cette variable.</translation>
     </message>
     <message>
         <source>the way to Telegram is good</source>
-        <translation type="unfinished"></translation>
+        <translation>la connexion à Telegram fonctionne</translation>
     </message>
     <message>
         <source>libcurl is missing, or too old</source>
-        <translation type="unfinished"></translation>
+        <translation>libcurl manque, ou est trop ancienne</translation>
     </message>
     <message>
         <source>Install libcurl 7.87 or a newer one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installez libcurl 7.87 ou une version plus récente.</translation>
     </message>
     <message>
         <source>QUILLON_BOT_API is not the address of a server</source>
-        <translation type="unfinished"></translation>
+        <translation>QUILLON_BOT_API n’est pas l’adresse d’un serveur</translation>
     </message>
     <message>
         <source>Correct it, or take it away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrigez ou supprimez cette variable.</translation>
     </message>
     <message>
         <source>the name of the proxy in %1 is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom du proxy indiqué dans %1 est introuvable</translation>
     </message>
     <message>
         <source>the server&apos;s name is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom du serveur est introuvable</translation>
     </message>
     <message>
         <source>Check the internet connection and its name server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifiez la connexion à Internet et son serveur de noms.</translation>
     </message>
     <message>
         <source>the proxy in %1 turns the connection away</source>
-        <translation type="unfinished"></translation>
+        <translation>le proxy indiqué dans %1 refuse la connexion</translation>
     </message>
     <message>
         <source>no connection to the server comes about</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune connexion au serveur ne s’établit</translation>
     </message>
     <message>
         <source>the server&apos;s certificate is not trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>le certificat du serveur n’est pas approuvé</translation>
     </message>
     <message>
         <source>Install ca-certificates. Where a proxy reads along, SSL_CERT_FILE can name its certificate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installez ca-certificates. Si un proxy lit les échanges, SSL_CERT_FILE peut indiquer son certificat.</translation>
     </message>
     <message>
         <source>by this computer&apos;s clock, the server&apos;s certificate is out of its time</source>
-        <translation type="unfinished"></translation>
+        <translation>d’après l’horloge de cet ordinateur, le certificat du serveur n’est pas valable en ce moment</translation>
     </message>
     <message>
         <source>Set the clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettez l’horloge à l’heure.</translation>
     </message>
     <message>
         <source>no encryption can be agreed with the server</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun chiffrement commun avec le serveur</translation>
     </message>
     <message>
         <source>no answer in time</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de réponse à temps</translation>
     </message>
     <message>
         <source>it was deleted on the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>il a été supprimé sur le téléphone</translation>
     </message>
     <message>
         <source>Create it again: quillon create-topics</source>
-        <translation type="unfinished"></translation>
+        <translation>Recréez-le&#xa0;: quillon create-topics</translation>
     </message>
     <message>
         <source>it is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>il est fermé</translation>
     </message>
     <message>
         <source>Reopen it on the phone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rouvrez-le sur le téléphone.</translation>
     </message>
     <message>
         <source>the bot may not write in it</source>
-        <translation type="unfinished"></translation>
+        <translation>le bot n’a pas le droit d’y écrire</translation>
     </message>
     <message>
         <source>Make the bot an admin of the group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nommez le bot administrateur du groupe.</translation>
     </message>
     <message>
         <source>answers, and has the bot&apos;s token</source>
-        <translation type="unfinished"></translation>
+        <translation>répond et contient le token du bot</translation>
     </message>
     <message>
         <source>it is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>il est verrouillé</translation>
     </message>
     <message>
         <source>Unlock it, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Déverrouillez-le et réessayez.</translation>
     </message>
     <message>
         <source>it answers, but has no bot&apos;s token</source>
-        <translation type="unfinished"></translation>
+        <translation>il répond, mais ne contient le token d’aucun bot</translation>
     </message>
     <message>
         <source>Connect your bot: quillon connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Connectez votre bot&#xa0;: quillon connect</translation>
     </message>
     <message>
         <source>it does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne répond pas</translation>
     </message>
     <message>
         <source>End its service, or log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêtez son service, ou déconnectez-vous, puis reconnectez-vous.</translation>
     </message>
     <message>
         <source>it gives no token; the bot&apos;s is in memory until Quillon ends</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne donne aucun token&#xa0;; celui du bot reste en mémoire jusqu’à l’arrêt de Quillon</translation>
     </message>
     <message>
         <source>Unlock it, or connect your bot again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Déverrouillez-le, ou reconnectez votre bot.</translation>
     </message>
     <message>
         <source>no session bus answers, by which it is reached</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun bus de session ne répond pour y accéder</translation>
     </message>
     <message>
         <source>Run Quillon in your desktop&apos;s session, where DBUS_SESSION_BUS_ADDRESS names the bus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancez Quillon dans la session de votre bureau, où DBUS_SESSION_BUS_ADDRESS indique le bus.</translation>
     </message>
     <message>
         <source>there is none</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y en a pas</translation>
     </message>
     <message>
         <source>Install gnome-keyring or KWallet, and log in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installez gnome-keyring ou KWallet, puis reconnectez-vous.</translation>
     </message>
     <message>
         <source>the way to Telegram is good, through the proxy in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la connexion à Telegram fonctionne, par le proxy indiqué dans %1</translation>
     </message>
     <message>
         <source>the proxy in %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>le proxy indiqué dans %1 ne répond pas</translation>
     </message>
     <message>
         <source>the server did not tell its time</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur n’a pas donné son heure</translation>
     </message>
     <message>
         <source>it agrees with the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>elle concorde avec celle du serveur</translation>
     </message>
     <message>
         <source>it is %1 min ahead of the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>elle avance de %1&#xa0;min sur celle du serveur</translation>
     </message>
     <message>
         <source>it is %1 min behind the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>elle retarde de %1&#xa0;min sur celle du serveur</translation>
     </message>
     <message>
         <source>Telegram does not accept its token</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram n’accepte pas son token</translation>
     </message>
     <message>
         <source>Get its token from @BotFather, and connect it: quillon connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Obtenez son token auprès de @BotFather et connectez-le&#xa0;: quillon connect</translation>
     </message>
     <message>
         <source>Telegram accepts its token</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram accepte son token</translation>
     </message>
     <message>
         <source>Add the bot to the group, write “hi” there, and: quillon find-group</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez le bot au groupe, écrivez-y «&#xa0;hi&#xa0;», puis lancez&#xa0;: quillon find-group</translation>
     </message>
     <message>
         <source>it is not found yet</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’est pas encore trouvé</translation>
     </message>
     <message>
         <source>it has become a supergroup, which is another one</source>
-        <translation type="unfinished"></translation>
+        <translation>il est devenu un supergroupe, qui est un autre groupe</translation>
     </message>
     <message>
         <source>Write “hi” there, and: quillon find-group</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrivez-y «&#xa0;hi&#xa0;», puis lancez&#xa0;: quillon find-group</translation>
     </message>
     <message>
         <source>the bot reaches it</source>
-        <translation type="unfinished"></translation>
+        <translation>le bot y accède</translation>
     </message>
     <message>
         <source>they are switched on</source>
-        <translation type="unfinished"></translation>
+        <translation>ils sont activés</translation>
     </message>
     <message>
         <source>they are switched off in the group</source>
-        <translation type="unfinished"></translation>
+        <translation>ils sont désactivés dans le groupe</translation>
     </message>
     <message>
         <source>Switch on Topics in the group&apos;s settings on the phone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Activez Sujets dans les paramètres du groupe, sur le téléphone.</translation>
     </message>
     <message>
         <source>the bot may manage topics</source>
-        <translation type="unfinished"></translation>
+        <translation>le bot peut gérer les sujets</translation>
     </message>
     <message>
         <source>the bot may not manage topics</source>
-        <translation type="unfinished"></translation>
+        <translation>le bot ne peut pas gérer les sujets</translation>
     </message>
     <message>
         <source>Make it an admin with “Manage Topics”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nommez-le administrateur avec «&#xa0;Gérer les sujets&#xa0;».</translation>
     </message>
     <message>
         <source>it is not created yet</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’est pas encore créé</translation>
     </message>
     <message>
         <source>Create it: quillon create-topics</source>
-        <translation type="unfinished"></translation>
+        <translation>Créez-le&#xa0;: quillon create-topics</translation>
     </message>
     <message>
         <source>it is there</source>
-        <translation type="unfinished"></translation>
+        <translation>il existe</translation>
     </message>
 </context>
 <context>

@@ -371,179 +371,179 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     <name>Doctor</name>
     <message>
         <source>not looked at, for the display is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>verifica saltata, perché manca lo schermo</translation>
     </message>
     <message>
         <source>the desktop has not answered yet</source>
-        <translation type="unfinished"></translation>
+        <translation>il desktop non ha ancora risposto</translation>
     </message>
     <message>
         <source>If it asks you, answer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se chiede qualcosa, rispondere lì.</translation>
     </message>
     <message>
         <source>%1 works</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 funziona</translation>
     </message>
     <message>
         <source>the desktop knows it, but gives it no keys</source>
-        <translation type="unfinished"></translation>
+        <translation>il desktop la conosce, ma non le assegna tasti</translation>
     </message>
     <message>
         <source>Choose keys in the settings, under General.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegliere i tasti nelle impostazioni, in «Generale».</translation>
     </message>
     <message>
         <source>another program or the desktop itself has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>un altro programma o il desktop stesso usa %1</translation>
     </message>
     <message>
         <source>Choose another in the settings, under General, or free it in the desktop&apos;s keyboard settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sceglierne un’altra nelle impostazioni, in «Generale», o liberarla nelle impostazioni della tastiera del desktop.</translation>
     </message>
     <message>
         <source>it was declined when the desktop asked</source>
-        <translation type="unfinished"></translation>
+        <translation>è stata rifiutata quando il desktop ha chiesto</translation>
     </message>
     <message>
         <source>Have it ask again in the settings, under General.</source>
-        <translation type="unfinished"></translation>
+        <translation>Far chiedere di nuovo nelle impostazioni, in «Generale».</translation>
     </message>
     <message>
         <source>the desktop gives programs no shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>il desktop non dà scorciatoie ai programmi</translation>
     </message>
     <message>
         <source>The settings show, under General, how to bind one yourself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le impostazioni mostrano, in «Generale», come associarne una da sé.</translation>
     </message>
     <message>
         <source>could not be looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>verifica impossibile</translation>
     </message>
     <message>
         <source>Log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uscire dalla sessione e accedere di nuovo.</translation>
     </message>
     <message>
         <source>the Wayland compositor does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>il compositor Wayland non risponde</translation>
     </message>
     <message>
         <source>the Wayland compositor and an X server answer</source>
-        <translation type="unfinished"></translation>
+        <translation>il compositor Wayland e un server X rispondono</translation>
     </message>
     <message>
         <source>the Wayland compositor answers</source>
-        <translation type="unfinished"></translation>
+        <translation>il compositor Wayland risponde</translation>
     </message>
     <message>
         <source>the X server answers</source>
-        <translation type="unfinished"></translation>
+        <translation>il server X risponde</translation>
     </message>
     <message>
         <source>the X server does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>il server X non risponde</translation>
     </message>
     <message>
         <source>there is no display</source>
-        <translation type="unfinished"></translation>
+        <translation>non c’è uno schermo</translation>
     </message>
     <message>
         <source>Run Quillon in your desktop&apos;s session, where DISPLAY or WAYLAND_DISPLAY names the display.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avviare Quillon nella sessione del desktop, dove DISPLAY o WAYLAND_DISPLAY indica lo schermo.</translation>
     </message>
     <message>
         <source>the program that copied last does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>l’ultimo programma che ha copiato non risponde</translation>
     </message>
     <message>
         <source>Copy something in another program, or end that one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiare qualcosa in un altro programma o terminare quello.</translation>
     </message>
     <message>
         <source>this desktop lets no program read it</source>
-        <translation type="unfinished"></translation>
+        <translation>questo desktop non li lascia leggere a nessun programma</translation>
     </message>
     <message>
         <source>Switch on Xwayland in the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivare Xwayland nel desktop.</translation>
     </message>
     <message>
         <source>by %1; empty now</source>
-        <translation type="unfinished"></translation>
+        <translation>tramite %1; ora vuoti</translation>
     </message>
     <message>
         <source>by %1; on offer now: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>tramite %1; ora offrono: %2</translation>
     </message>
     <message>
         <source>not looked at, for Quillon does not run</source>
-        <translation type="unfinished"></translation>
+        <translation>verifica saltata, perché Quillon non è in esecuzione</translation>
     </message>
     <message>
         <source>%1 is free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è libera</translation>
     </message>
     <message>
         <source>the desktop&apos;s shortcuts have stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>le scorciatoie del desktop si sono fermate</translation>
     </message>
     <message>
         <source>“%2” has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>«%2» usa %1</translation>
     </message>
     <message>
         <source>switched off in the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>disattivato nelle impostazioni</translation>
     </message>
     <message>
         <source>a layer over all windows</source>
-        <translation type="unfinished"></translation>
+        <translation>un livello sopra tutte le finestre</translation>
     </message>
     <message>
         <source>a window</source>
-        <translation type="unfinished"></translation>
+        <translation>una finestra</translation>
     </message>
     <message>
         <source>shown by a host on the session bus</source>
-        <translation type="unfinished"></translation>
+        <translation>mostrata da un programma sul bus di sessione</translation>
     </message>
     <message>
         <source>shown by a tray on the X server</source>
-        <translation type="unfinished"></translation>
+        <translation>mostrata da un’area di notifica sul server X</translation>
     </message>
     <message>
         <source>this desktop shows no icons</source>
-        <translation type="unfinished"></translation>
+        <translation>questo desktop non mostra icone</translation>
     </message>
     <message>
         <source>Open the panel with: quillon panel. Or give the desktop a tray, such as an extension.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aprire il pannello con: quillon panel. Oppure dare al desktop un’area di notifica, per esempio con un’estensione.</translation>
     </message>
     <message>
         <source>ok</source>
-        <translation type="unfinished"></translation>
+        <translation>ok</translation>
     </message>
     <message>
         <source>warning</source>
-        <translation type="unfinished"></translation>
+        <translation>avviso</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>errore</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>ignoto</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>disattivata</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>attiva</translation>
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
@@ -551,115 +551,115 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>attiva, ma il programma da aprire non c’è</translation>
     </message>
     <message>
         <source>Switch it on again: quillon launch-at-login on</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivarla di nuovo: quillon launch-at-login on</translation>
     </message>
     <message>
         <source>%1 on %2, with %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 su %2, con %3</translation>
     </message>
     <message>
         <source>runs, and waits for the shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>in esecuzione, in attesa della scorciatoia</translation>
     </message>
     <message>
         <source>does not run, so that nothing waits for the shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>non è in esecuzione, quindi nulla attende la scorciatoia</translation>
     </message>
     <message>
         <source>Start Quillon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avviare Quillon.</translation>
     </message>
     <message>
         <source>there is a sound server or a sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>c’è un server audio o una scheda audio</translation>
     </message>
     <message>
         <source>there is no sound server, and no sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>non c’è né un server audio né una scheda audio</translation>
     </message>
     <message>
         <source>Start PipeWire or PulseAudio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avviare PipeWire o PulseAudio.</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non risponde</translation>
     </message>
     <message>
         <source>See whether its disk or network share is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Controllare che il suo disco o la condivisione di rete ci sia.</translation>
     </message>
     <message>
         <source>%1 cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>non si può scrivere in %1</translation>
     </message>
     <message>
         <source>%1 cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>non si può creare %1</translation>
     </message>
     <message>
         <source>Give yourself the rights to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Assegnarsi i permessi necessari.</translation>
     </message>
     <message>
         <source>the disk of %1 is full</source>
-        <translation type="unfinished"></translation>
+        <translation>il disco di %1 è pieno</translation>
     </message>
     <message>
         <source>Make room on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liberare spazio sul disco.</translation>
     </message>
     <message>
         <source>others can look into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>altri possono vedere il contenuto di %1</translation>
     </message>
     <message>
         <source>Take their rights: chmod 700 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Togliere loro i permessi: chmod 700 %1</translation>
     </message>
     <message>
         <source>%1 can be written; %2 MB free</source>
-        <translation type="unfinished"></translation>
+        <translation>si può scrivere in %1; %2 MB liberi</translation>
     </message>
     <message>
         <source>this copy does not update itself</source>
-        <translation type="unfinished"></translation>
+        <translation>questa copia non esegue aggiornamenti da sola</translation>
     </message>
     <message>
         <source>Quillon updates itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon esegue gli aggiornamenti da solo</translation>
     </message>
     <message>
         <source>Quillon cannot replace itself where it lies</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon non può sostituirsi dove si trova</translation>
     </message>
     <message>
         <source>Move it to a folder of yours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spostarlo in una propria cartella.</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>Programma</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessione</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Schermo</translation>
     </message>
     <message>
         <source>Clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Appunti</translation>
     </message>
     <message>
         <source>Shortcut</source>
@@ -667,19 +667,19 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>Banner</source>
-        <translation type="unfinished"></translation>
+        <translation>Banner</translation>
     </message>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icona</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Suono</translation>
     </message>
     <message>
         <source>Data folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartella dati</translation>
     </message>
     <message>
         <source>Opening at login</source>
@@ -695,11 +695,11 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Rete</translation>
     </message>
     <message>
         <source>Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Orologio</translation>
     </message>
     <message>
         <source>Bot</source>
@@ -711,271 +711,271 @@ Senza un comando resta in esecuzione e invia a ogni pressione della scorciatoia.
     </message>
     <message>
         <source>Topics</source>
-        <translation type="unfinished"></translation>
+        <translation>Argomenti</translation>
     </message>
     <message>
         <source>Rights</source>
-        <translation type="unfinished"></translation>
+        <translation>Permessi</translation>
     </message>
     <message>
         <source>Topic %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Argomento %1</translation>
     </message>
     <message>
         <source>not asked, for something before it failed</source>
-        <translation type="unfinished"></translation>
+        <translation>verifica saltata, perché prima qualcosa non è riuscito</translation>
     </message>
     <message>
         <source>Telegram says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram dice: %1</translation>
     </message>
     <message>
         <source>Telegram does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram non risponde</translation>
     </message>
     <message>
         <source>Try again in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Riprovare tra un momento.</translation>
     </message>
     <message>
         <source>Check the internet connection and its firewall.</source>
-        <translation type="unfinished"></translation>
+        <translation>Controllare la connessione a Internet e il suo firewall.</translation>
     </message>
     <message>
         <source>Correct %1, or take it away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Correggere %1 o togliere questa variabile.</translation>
     </message>
     <message>
         <source>the way to Telegram is good</source>
-        <translation type="unfinished"></translation>
+        <translation>la connessione a Telegram funziona</translation>
     </message>
     <message>
         <source>libcurl is missing, or too old</source>
-        <translation type="unfinished"></translation>
+        <translation>libcurl manca o è troppo vecchia</translation>
     </message>
     <message>
         <source>Install libcurl 7.87 or a newer one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installare libcurl 7.87 o successiva.</translation>
     </message>
     <message>
         <source>QUILLON_BOT_API is not the address of a server</source>
-        <translation type="unfinished"></translation>
+        <translation>QUILLON_BOT_API non è l’indirizzo di un server</translation>
     </message>
     <message>
         <source>Correct it, or take it away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Correggere o togliere questa variabile.</translation>
     </message>
     <message>
         <source>the name of the proxy in %1 is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome del proxy indicato in %1 non è stato trovato</translation>
     </message>
     <message>
         <source>the server&apos;s name is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome del server non è stato trovato</translation>
     </message>
     <message>
         <source>Check the internet connection and its name server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Controllare la connessione a Internet e il suo server dei nomi.</translation>
     </message>
     <message>
         <source>the proxy in %1 turns the connection away</source>
-        <translation type="unfinished"></translation>
+        <translation>il proxy indicato in %1 rifiuta la connessione</translation>
     </message>
     <message>
         <source>no connection to the server comes about</source>
-        <translation type="unfinished"></translation>
+        <translation>non si riesce a connettersi al server</translation>
     </message>
     <message>
         <source>the server&apos;s certificate is not trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>il certificato del server non è attendibile</translation>
     </message>
     <message>
         <source>Install ca-certificates. Where a proxy reads along, SSL_CERT_FILE can name its certificate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installare ca-certificates. Se un proxy legge il traffico, SSL_CERT_FILE può indicare il suo certificato.</translation>
     </message>
     <message>
         <source>by this computer&apos;s clock, the server&apos;s certificate is out of its time</source>
-        <translation type="unfinished"></translation>
+        <translation>secondo l’orologio di questo computer, il certificato del server ora non è valido</translation>
     </message>
     <message>
         <source>Set the clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Regolare l’orologio.</translation>
     </message>
     <message>
         <source>no encryption can be agreed with the server</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna cifratura in comune con il server</translation>
     </message>
     <message>
         <source>no answer in time</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna risposta in tempo</translation>
     </message>
     <message>
         <source>it was deleted on the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>è stato eliminato sul telefono</translation>
     </message>
     <message>
         <source>Create it again: quillon create-topics</source>
-        <translation type="unfinished"></translation>
+        <translation>Crearlo di nuovo: quillon create-topics</translation>
     </message>
     <message>
         <source>it is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>è chiuso</translation>
     </message>
     <message>
         <source>Reopen it on the phone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Riaprirlo sul telefono.</translation>
     </message>
     <message>
         <source>the bot may not write in it</source>
-        <translation type="unfinished"></translation>
+        <translation>il bot non ha il permesso di scriverci</translation>
     </message>
     <message>
         <source>Make the bot an admin of the group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendere il bot amministratore del gruppo.</translation>
     </message>
     <message>
         <source>answers, and has the bot&apos;s token</source>
-        <translation type="unfinished"></translation>
+        <translation>risponde e contiene il token del bot</translation>
     </message>
     <message>
         <source>it is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>è bloccato</translation>
     </message>
     <message>
         <source>Unlock it, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sbloccarlo e riprovare.</translation>
     </message>
     <message>
         <source>it answers, but has no bot&apos;s token</source>
-        <translation type="unfinished"></translation>
+        <translation>risponde, ma non contiene il token di nessun bot</translation>
     </message>
     <message>
         <source>Connect your bot: quillon connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Connettere il bot: quillon connect</translation>
     </message>
     <message>
         <source>it does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>non risponde</translation>
     </message>
     <message>
         <source>End its service, or log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminare il suo servizio, oppure uscire dalla sessione e accedere di nuovo.</translation>
     </message>
     <message>
         <source>it gives no token; the bot&apos;s is in memory until Quillon ends</source>
-        <translation type="unfinished"></translation>
+        <translation>non fornisce token; quello del bot resta in memoria finché Quillon non termina</translation>
     </message>
     <message>
         <source>Unlock it, or connect your bot again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sbloccarlo o connettere di nuovo il bot.</translation>
     </message>
     <message>
         <source>no session bus answers, by which it is reached</source>
-        <translation type="unfinished"></translation>
+        <translation>non risponde nessun bus di sessione con cui raggiungerlo</translation>
     </message>
     <message>
         <source>Run Quillon in your desktop&apos;s session, where DBUS_SESSION_BUS_ADDRESS names the bus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avviare Quillon nella sessione del desktop, dove DBUS_SESSION_BUS_ADDRESS indica il bus.</translation>
     </message>
     <message>
         <source>there is none</source>
-        <translation type="unfinished"></translation>
+        <translation>non ce n’è uno</translation>
     </message>
     <message>
         <source>Install gnome-keyring or KWallet, and log in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installare gnome-keyring o KWallet e accedere di nuovo.</translation>
     </message>
     <message>
         <source>the way to Telegram is good, through the proxy in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la connessione a Telegram funziona, tramite il proxy indicato in %1</translation>
     </message>
     <message>
         <source>the proxy in %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>il proxy indicato in %1 non risponde</translation>
     </message>
     <message>
         <source>the server did not tell its time</source>
-        <translation type="unfinished"></translation>
+        <translation>il server non ha indicato la sua ora</translation>
     </message>
     <message>
         <source>it agrees with the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>concorda con quello del server</translation>
     </message>
     <message>
         <source>it is %1 min ahead of the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>è avanti di %1 min rispetto a quello del server</translation>
     </message>
     <message>
         <source>it is %1 min behind the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>è indietro di %1 min rispetto a quello del server</translation>
     </message>
     <message>
         <source>Telegram does not accept its token</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram non accetta il suo token</translation>
     </message>
     <message>
         <source>Get its token from @BotFather, and connect it: quillon connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Ottenere il suo token da @BotFather e connetterlo: quillon connect</translation>
     </message>
     <message>
         <source>Telegram accepts its token</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram accetta il suo token</translation>
     </message>
     <message>
         <source>Add the bot to the group, write “hi” there, and: quillon find-group</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungere il bot al gruppo, scrivervi «hi» ed eseguire: quillon find-group</translation>
     </message>
     <message>
         <source>it is not found yet</source>
-        <translation type="unfinished"></translation>
+        <translation>non è ancora stato trovato</translation>
     </message>
     <message>
         <source>it has become a supergroup, which is another one</source>
-        <translation type="unfinished"></translation>
+        <translation>è diventato un supergruppo, che è un altro gruppo</translation>
     </message>
     <message>
         <source>Write “hi” there, and: quillon find-group</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrivervi «hi» ed eseguire: quillon find-group</translation>
     </message>
     <message>
         <source>the bot reaches it</source>
-        <translation type="unfinished"></translation>
+        <translation>il bot lo raggiunge</translation>
     </message>
     <message>
         <source>they are switched on</source>
-        <translation type="unfinished"></translation>
+        <translation>sono attivati</translation>
     </message>
     <message>
         <source>they are switched off in the group</source>
-        <translation type="unfinished"></translation>
+        <translation>sono disattivati nel gruppo</translation>
     </message>
     <message>
         <source>Switch on Topics in the group&apos;s settings on the phone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivare Argomenti nelle impostazioni del gruppo, sul telefono.</translation>
     </message>
     <message>
         <source>the bot may manage topics</source>
-        <translation type="unfinished"></translation>
+        <translation>il bot può gestire gli argomenti</translation>
     </message>
     <message>
         <source>the bot may not manage topics</source>
-        <translation type="unfinished"></translation>
+        <translation>il bot non può gestire gli argomenti</translation>
     </message>
     <message>
         <source>Make it an admin with “Manage Topics”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Renderlo amministratore con «Gestione argomenti».</translation>
     </message>
     <message>
         <source>it is not created yet</source>
-        <translation type="unfinished"></translation>
+        <translation>non è ancora stato creato</translation>
     </message>
     <message>
         <source>Create it: quillon create-topics</source>
-        <translation type="unfinished"></translation>
+        <translation>Crearlo: quillon create-topics</translation>
     </message>
     <message>
         <source>it is there</source>
-        <translation type="unfinished"></translation>
+        <translation>esiste</translation>
     </message>
 </context>
 <context>

@@ -370,179 +370,179 @@ Without a command it stays, and sends whenever you press its shortcut.
     <name>Doctor</name>
     <message>
         <source>not looked at, for the display is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスプレイがないため、確認していません</translation>
     </message>
     <message>
         <source>the desktop has not answered yet</source>
-        <translation type="unfinished"></translation>
+        <translation>デスクトップがまだ応答していません</translation>
     </message>
     <message>
         <source>If it asks you, answer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>確認を求められたら、そこで答えてください。</translation>
     </message>
     <message>
         <source>%1 works</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を使えます</translation>
     </message>
     <message>
         <source>the desktop knows it, but gives it no keys</source>
-        <translation type="unfinished"></translation>
+        <translation>デスクトップに登録されていますが、キーが未割り当てです</translation>
     </message>
     <message>
         <source>Choose keys in the settings, under General.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定の「一般」でキーを選んでください。</translation>
     </message>
     <message>
         <source>another program or the desktop itself has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>別のプログラムまたはデスクトップ自体が %1 を使用しています</translation>
     </message>
     <message>
         <source>Choose another in the settings, under General, or free it in the desktop&apos;s keyboard settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定の「一般」で別のショートカットを選ぶか、デスクトップのキーボードの設定で割り当てを解除してください。</translation>
     </message>
     <message>
         <source>it was declined when the desktop asked</source>
-        <translation type="unfinished"></translation>
+        <translation>デスクトップの確認で拒否されました</translation>
     </message>
     <message>
         <source>Have it ask again in the settings, under General.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定の「一般」から、もう一度確認できます。</translation>
     </message>
     <message>
         <source>the desktop gives programs no shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>デスクトップがプログラムにショートカットを割り当てません</translation>
     </message>
     <message>
         <source>The settings show, under General, how to bind one yourself.</source>
-        <translation type="unfinished"></translation>
+        <translation>自分で割り当てる方法は、設定の「一般」に表示されます。</translation>
     </message>
     <message>
         <source>could not be looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>確認できませんでした</translation>
     </message>
     <message>
         <source>Log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ログアウトして、ログインし直してください。</translation>
     </message>
     <message>
         <source>the Wayland compositor does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Wayland コンポジターが応答しません</translation>
     </message>
     <message>
         <source>the Wayland compositor and an X server answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Wayland コンポジターと X サーバーが応答しています</translation>
     </message>
     <message>
         <source>the Wayland compositor answers</source>
-        <translation type="unfinished"></translation>
+        <translation>Wayland コンポジターが応答しています</translation>
     </message>
     <message>
         <source>the X server answers</source>
-        <translation type="unfinished"></translation>
+        <translation>X サーバーが応答しています</translation>
     </message>
     <message>
         <source>the X server does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>X サーバーが応答しません</translation>
     </message>
     <message>
         <source>there is no display</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスプレイがありません</translation>
     </message>
     <message>
         <source>Run Quillon in your desktop&apos;s session, where DISPLAY or WAYLAND_DISPLAY names the display.</source>
-        <translation type="unfinished"></translation>
+        <translation>DISPLAY または WAYLAND_DISPLAY が設定されたデスクトップのセッションで Quillon を起動してください。</translation>
     </message>
     <message>
         <source>the program that copied last does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>最後にコピーしたプログラムが応答しません</translation>
     </message>
     <message>
         <source>Copy something in another program, or end that one.</source>
-        <translation type="unfinished"></translation>
+        <translation>別のプログラムで何かコピーするか、応答しないプログラムを終了してください。</translation>
     </message>
     <message>
         <source>this desktop lets no program read it</source>
-        <translation type="unfinished"></translation>
+        <translation>このデスクトップでは、どのプログラムからも読み取れません</translation>
     </message>
     <message>
         <source>Switch on Xwayland in the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>デスクトップで Xwayland を有効にしてください。</translation>
     </message>
     <message>
         <source>by %1; empty now</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を使用。現在は空です</translation>
     </message>
     <message>
         <source>by %1; on offer now: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を使用。現在の形式: %2</translation>
     </message>
     <message>
         <source>not looked at, for Quillon does not run</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon が起動していないため、確認していません</translation>
     </message>
     <message>
         <source>%1 is free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 は空いています</translation>
     </message>
     <message>
         <source>the desktop&apos;s shortcuts have stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>デスクトップのショートカット機能が停止しています</translation>
     </message>
     <message>
         <source>“%2” has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>「%2」が %1 を使用しています</translation>
     </message>
     <message>
         <source>switched off in the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定で無効になっています</translation>
     </message>
     <message>
         <source>a layer over all windows</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのウィンドウの上に重なるレイヤー</translation>
     </message>
     <message>
         <source>a window</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィンドウ</translation>
     </message>
     <message>
         <source>shown by a host on the session bus</source>
-        <translation type="unfinished"></translation>
+        <translation>セッションバス上のホストが表示しています</translation>
     </message>
     <message>
         <source>shown by a tray on the X server</source>
-        <translation type="unfinished"></translation>
+        <translation>X サーバー上のトレイが表示しています</translation>
     </message>
     <message>
         <source>this desktop shows no icons</source>
-        <translation type="unfinished"></translation>
+        <translation>このデスクトップにはアイコンが表示されません</translation>
     </message>
     <message>
         <source>Open the panel with: quillon panel. Or give the desktop a tray, such as an extension.</source>
-        <translation type="unfinished"></translation>
+        <translation>quillon panel でパネルを開くか、拡張機能などでデスクトップにトレイを追加してください。</translation>
     </message>
     <message>
         <source>ok</source>
-        <translation type="unfinished"></translation>
+        <translation>正常</translation>
     </message>
     <message>
         <source>warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>不明</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>無効</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>有効</translation>
     </message>
     <message>
         <source>switched off in the desktop&apos;s settings</source>
@@ -550,115 +550,115 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>on, but the program that it would open is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>有効ですが、開くプログラムが見つかりません</translation>
     </message>
     <message>
         <source>Switch it on again: quillon launch-at-login on</source>
-        <translation type="unfinished"></translation>
+        <translation>もう一度有効にしてください: quillon launch-at-login on</translation>
     </message>
     <message>
         <source>%1 on %2, with %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 で動作、%3 を使用)</translation>
     </message>
     <message>
         <source>runs, and waits for the shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>起動中で、ショートカットを待っています</translation>
     </message>
     <message>
         <source>does not run, so that nothing waits for the shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>起動していないため、ショートカットに反応しません</translation>
     </message>
     <message>
         <source>Start Quillon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon を起動してください。</translation>
     </message>
     <message>
         <source>there is a sound server or a sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>サウンドサーバーまたはサウンドカードがあります</translation>
     </message>
     <message>
         <source>there is no sound server, and no sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>サウンドサーバーもサウンドカードもありません</translation>
     </message>
     <message>
         <source>Start PipeWire or PulseAudio.</source>
-        <translation type="unfinished"></translation>
+        <translation>PipeWire または PulseAudio を起動してください。</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 が応答しません</translation>
     </message>
     <message>
         <source>See whether its disk or network share is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクまたはネットワーク共有があるか確認してください。</translation>
     </message>
     <message>
         <source>%1 cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に書き込めません</translation>
     </message>
     <message>
         <source>%1 cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を作成できません</translation>
     </message>
     <message>
         <source>Give yourself the rights to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>自分にアクセス権を付与してください。</translation>
     </message>
     <message>
         <source>the disk of %1 is full</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のあるディスクがいっぱいです</translation>
     </message>
     <message>
         <source>Make room on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクの空きを増やしてください。</translation>
     </message>
     <message>
         <source>others can look into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>他のユーザーが %1 の中を見られます</translation>
     </message>
     <message>
         <source>Take their rights: chmod 700 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>他のユーザーの権限を外してください: chmod 700 %1</translation>
     </message>
     <message>
         <source>%1 can be written; %2 MB free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に書き込めます (空き %2 MB)</translation>
     </message>
     <message>
         <source>this copy does not update itself</source>
-        <translation type="unfinished"></translation>
+        <translation>この Quillon は自動でアップデートされません</translation>
     </message>
     <message>
         <source>Quillon updates itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon は自動でアップデートされます</translation>
     </message>
     <message>
         <source>Quillon cannot replace itself where it lies</source>
-        <translation type="unfinished"></translation>
+        <translation>今の場所では Quillon を置き換えられません</translation>
     </message>
     <message>
         <source>Move it to a folder of yours.</source>
-        <translation type="unfinished"></translation>
+        <translation>自分が所有するフォルダーに移動してください。</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>プログラム</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>セッション</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスプレイ</translation>
     </message>
     <message>
         <source>Clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>クリップボード</translation>
     </message>
     <message>
         <source>Shortcut</source>
@@ -666,19 +666,19 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Banner</source>
-        <translation type="unfinished"></translation>
+        <translation>バナー</translation>
     </message>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>アイコン</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>サウンド</translation>
     </message>
     <message>
         <source>Data folder</source>
-        <translation type="unfinished"></translation>
+        <translation>データフォルダー</translation>
     </message>
     <message>
         <source>Opening at login</source>
@@ -694,11 +694,11 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク</translation>
     </message>
     <message>
         <source>Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>時計</translation>
     </message>
     <message>
         <source>Bot</source>
@@ -710,271 +710,271 @@ Without a command it stays, and sends whenever you press its shortcut.
     </message>
     <message>
         <source>Topics</source>
-        <translation type="unfinished"></translation>
+        <translation>トピック</translation>
     </message>
     <message>
         <source>Rights</source>
-        <translation type="unfinished"></translation>
+        <translation>権限</translation>
     </message>
     <message>
         <source>Topic %1</source>
-        <translation type="unfinished"></translation>
+        <translation>トピック %1</translation>
     </message>
     <message>
         <source>not asked, for something before it failed</source>
-        <translation type="unfinished"></translation>
+        <translation>前の項目でエラーがあったため、問い合わせていません</translation>
     </message>
     <message>
         <source>Telegram says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram の応答: %1</translation>
     </message>
     <message>
         <source>Telegram does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram が応答しません</translation>
     </message>
     <message>
         <source>Try again in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>しばらくしてから、もう一度試してください。</translation>
     </message>
     <message>
         <source>Check the internet connection and its firewall.</source>
-        <translation type="unfinished"></translation>
+        <translation>インターネット接続とファイアウォールを確認してください。</translation>
     </message>
     <message>
         <source>Correct %1, or take it away.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を修正するか、削除してください。</translation>
     </message>
     <message>
         <source>the way to Telegram is good</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram への接続は正常です</translation>
     </message>
     <message>
         <source>libcurl is missing, or too old</source>
-        <translation type="unfinished"></translation>
+        <translation>libcurl がないか、古すぎます</translation>
     </message>
     <message>
         <source>Install libcurl 7.87 or a newer one.</source>
-        <translation type="unfinished"></translation>
+        <translation>libcurl 7.87 以降をインストールしてください。</translation>
     </message>
     <message>
         <source>QUILLON_BOT_API is not the address of a server</source>
-        <translation type="unfinished"></translation>
+        <translation>QUILLON_BOT_API がサーバーのアドレスではありません</translation>
     </message>
     <message>
         <source>Correct it, or take it away.</source>
-        <translation type="unfinished"></translation>
+        <translation>修正するか、削除してください。</translation>
     </message>
     <message>
         <source>the name of the proxy in %1 is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のプロキシの名前が見つかりません</translation>
     </message>
     <message>
         <source>the server&apos;s name is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーの名前が見つかりません</translation>
     </message>
     <message>
         <source>Check the internet connection and its name server.</source>
-        <translation type="unfinished"></translation>
+        <translation>インターネット接続とネームサーバーを確認してください。</translation>
     </message>
     <message>
         <source>the proxy in %1 turns the connection away</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のプロキシが接続を拒否しています</translation>
     </message>
     <message>
         <source>no connection to the server comes about</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーに接続できません</translation>
     </message>
     <message>
         <source>the server&apos;s certificate is not trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーの証明書が信頼されていません</translation>
     </message>
     <message>
         <source>Install ca-certificates. Where a proxy reads along, SSL_CERT_FILE can name its certificate.</source>
-        <translation type="unfinished"></translation>
+        <translation>ca-certificates をインストールしてください。プロキシが通信を読み取る場合は、SSL_CERT_FILE でその証明書を指定できます。</translation>
     </message>
     <message>
         <source>by this computer&apos;s clock, the server&apos;s certificate is out of its time</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピューターの時計では、サーバーの証明書は有効期間外です</translation>
     </message>
     <message>
         <source>Set the clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>時計を合わせてください。</translation>
     </message>
     <message>
         <source>no encryption can be agreed with the server</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーと暗号化方式を合意できません</translation>
     </message>
     <message>
         <source>no answer in time</source>
-        <translation type="unfinished"></translation>
+        <translation>時間内に応答がありません</translation>
     </message>
     <message>
         <source>it was deleted on the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>スマートフォンで削除されました</translation>
     </message>
     <message>
         <source>Create it again: quillon create-topics</source>
-        <translation type="unfinished"></translation>
+        <translation>もう一度作成してください: quillon create-topics</translation>
     </message>
     <message>
         <source>it is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じられています</translation>
     </message>
     <message>
         <source>Reopen it on the phone.</source>
-        <translation type="unfinished"></translation>
+        <translation>スマートフォンで開き直してください。</translation>
     </message>
     <message>
         <source>the bot may not write in it</source>
-        <translation type="unfinished"></translation>
+        <translation>ボットに書き込む権限がありません</translation>
     </message>
     <message>
         <source>Make the bot an admin of the group.</source>
-        <translation type="unfinished"></translation>
+        <translation>ボットをグループの管理者にしてください。</translation>
     </message>
     <message>
         <source>answers, and has the bot&apos;s token</source>
-        <translation type="unfinished"></translation>
+        <translation>応答し、ボットのトークンを保存しています</translation>
     </message>
     <message>
         <source>it is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>ロックされています</translation>
     </message>
     <message>
         <source>Unlock it, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ロックを解除して、もう一度試してください。</translation>
     </message>
     <message>
         <source>it answers, but has no bot&apos;s token</source>
-        <translation type="unfinished"></translation>
+        <translation>応答しますが、ボットのトークンがありません</translation>
     </message>
     <message>
         <source>Connect your bot: quillon connect</source>
-        <translation type="unfinished"></translation>
+        <translation>ボットを接続してください: quillon connect</translation>
     </message>
     <message>
         <source>it does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>応答しません</translation>
     </message>
     <message>
         <source>End its service, or log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>そのサービスを終了するか、ログインし直してください。</translation>
     </message>
     <message>
         <source>it gives no token; the bot&apos;s is in memory until Quillon ends</source>
-        <translation type="unfinished"></translation>
+        <translation>トークンを取り出せません。ボットのトークンは Quillon が終了するまでメモリーにあります</translation>
     </message>
     <message>
         <source>Unlock it, or connect your bot again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ロックを解除するか、ボットを接続し直してください。</translation>
     </message>
     <message>
         <source>no session bus answers, by which it is reached</source>
-        <translation type="unfinished"></translation>
+        <translation>アクセスに必要なセッションバスが応答しません</translation>
     </message>
     <message>
         <source>Run Quillon in your desktop&apos;s session, where DBUS_SESSION_BUS_ADDRESS names the bus.</source>
-        <translation type="unfinished"></translation>
+        <translation>DBUS_SESSION_BUS_ADDRESS が設定されたデスクトップのセッションで Quillon を起動してください。</translation>
     </message>
     <message>
         <source>there is none</source>
-        <translation type="unfinished"></translation>
+        <translation>ありません</translation>
     </message>
     <message>
         <source>Install gnome-keyring or KWallet, and log in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>gnome-keyring または KWallet をインストールして、ログインし直してください。</translation>
     </message>
     <message>
         <source>the way to Telegram is good, through the proxy in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のプロキシ経由での Telegram への接続は正常です</translation>
     </message>
     <message>
         <source>the proxy in %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のプロキシが応答しません</translation>
     </message>
     <message>
         <source>the server did not tell its time</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーの時刻を取得できませんでした</translation>
     </message>
     <message>
         <source>it agrees with the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーの時刻と一致しています</translation>
     </message>
     <message>
         <source>it is %1 min ahead of the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーより %1 分進んでいます</translation>
     </message>
     <message>
         <source>it is %1 min behind the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーより %1 分遅れています</translation>
     </message>
     <message>
         <source>Telegram does not accept its token</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram がトークンを受け付けません</translation>
     </message>
     <message>
         <source>Get its token from @BotFather, and connect it: quillon connect</source>
-        <translation type="unfinished"></translation>
+        <translation>@BotFather からトークンを取得して、接続してください: quillon connect</translation>
     </message>
     <message>
         <source>Telegram accepts its token</source>
-        <translation type="unfinished"></translation>
+        <translation>Telegram がトークンを受け付けました</translation>
     </message>
     <message>
         <source>Add the bot to the group, write “hi” there, and: quillon find-group</source>
-        <translation type="unfinished"></translation>
+        <translation>ボットをグループに追加し、グループで「hi」と送ってから、実行してください: quillon find-group</translation>
     </message>
     <message>
         <source>it is not found yet</source>
-        <translation type="unfinished"></translation>
+        <translation>まだ見つかっていません</translation>
     </message>
     <message>
         <source>it has become a supergroup, which is another one</source>
-        <translation type="unfinished"></translation>
+        <translation>スーパーグループになり、別のグループに変わりました</translation>
     </message>
     <message>
         <source>Write “hi” there, and: quillon find-group</source>
-        <translation type="unfinished"></translation>
+        <translation>グループで「hi」と送ってから、実行してください: quillon find-group</translation>
     </message>
     <message>
         <source>the bot reaches it</source>
-        <translation type="unfinished"></translation>
+        <translation>ボットがアクセスできます</translation>
     </message>
     <message>
         <source>they are switched on</source>
-        <translation type="unfinished"></translation>
+        <translation>オンになっています</translation>
     </message>
     <message>
         <source>they are switched off in the group</source>
-        <translation type="unfinished"></translation>
+        <translation>グループでオフになっています</translation>
     </message>
     <message>
         <source>Switch on Topics in the group&apos;s settings on the phone.</source>
-        <translation type="unfinished"></translation>
+        <translation>スマートフォンで、グループの設定からトピックをオンにしてください。</translation>
     </message>
     <message>
         <source>the bot may manage topics</source>
-        <translation type="unfinished"></translation>
+        <translation>ボットにトピックを管理する権限があります</translation>
     </message>
     <message>
         <source>the bot may not manage topics</source>
-        <translation type="unfinished"></translation>
+        <translation>ボットにトピックを管理する権限がありません</translation>
     </message>
     <message>
         <source>Make it an admin with “Manage Topics”.</source>
-        <translation type="unfinished"></translation>
+        <translation>ボットを「トピックの管理」の権限がある管理者にしてください。</translation>
     </message>
     <message>
         <source>it is not created yet</source>
-        <translation type="unfinished"></translation>
+        <translation>まだ作成されていません</translation>
     </message>
     <message>
         <source>Create it: quillon create-topics</source>
-        <translation type="unfinished"></translation>
+        <translation>作成してください: quillon create-topics</translation>
     </message>
     <message>
         <source>it is there</source>
-        <translation type="unfinished"></translation>
+        <translation>あります</translation>
     </message>
 </context>
 <context>
