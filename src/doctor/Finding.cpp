@@ -6,7 +6,6 @@
 #include <QString>
 
 #include <algorithm>
-#include <iterator>
 
 namespace quillon {
 
@@ -21,16 +20,27 @@ constexpr std::array<const char*, 4> stateTexts{
     QT_TRANSLATE_NOOP("Doctor", "ok"), QT_TRANSLATE_NOOP("Doctor", "warning"),
     QT_TRANSLATE_NOOP("Doctor", "failed"), QT_TRANSLATE_NOOP("Doctor", "unknown")};
 
-/// The widths of the first two columns, in characters.
-constexpr int stateWidth = 9;
-constexpr int titleWidth = 18;
-
 std::string withValues(const std::string& text, const Phrase& phrase) {
     return filled(text, {phrase.values[0], phrase.values[1], phrase.values[2]});
 }
 
-std::string column(const std::string& text, int width) {
-    return QString::fromStdString(text).leftJustified(width).toStdString();
+std::string stateText(const Finding& finding) {
+    return translate("Doctor", stateTexts.at(static_cast<std::size_t>(finding.state)));
+}
+
+/// The texts of all findings in a column that is as wide as the longest of them,
+/// in characters, and a blank.
+std::vector<std::string> column(const std::vector<Finding>& findings,
+                                std::string (*text)(const Finding&)) {
+    std::vector<QString> texts;
+    for (const Finding& finding : findings)
+        texts.push_back(QString::fromStdString(text(finding)));
+    const auto longest = std::ranges::max_element(texts, {}, &QString::size);
+    const qsizetype width = longest == texts.end() ? 0 : longest->size() + 1;
+    std::vector<std::string> cells;
+    for (const QString& each : texts)
+        cells.push_back(each.leftJustified(width).toStdString());
+    return cells;
 }
 
 std::string foundAndMend(const Finding& finding) {
@@ -38,10 +48,8 @@ std::string foundAndMend(const Finding& finding) {
     return *finding.mend.text ? text + ". " + shown(finding.mend) : text;
 }
 
-std::string line(const Finding& finding) {
-    const char* const state = stateTexts.at(static_cast<std::size_t>(finding.state));
-    return column(translate("Doctor", state), stateWidth) +
-           column(shown(finding.title) + ":", titleWidth) + foundAndMend(finding);
+std::string titleText(const Finding& finding) {
+    return shown(finding.title) + ":";
 }
 
 } // namespace
@@ -72,8 +80,11 @@ std::vector<std::string> failures(const std::vector<Finding>& findings) {
 }
 
 std::vector<std::string> findingLines(const std::vector<Finding>& findings) {
+    const std::vector<std::string> states = column(findings, stateText);
+    const std::vector<std::string> titles = column(findings, titleText);
     std::vector<std::string> lines;
-    std::ranges::transform(findings, std::back_inserter(lines), line);
+    for (std::size_t i = 0; i < findings.size(); ++i)
+        lines.push_back(states[i] + titles[i] + foundAndMend(findings[i]));
     return lines;
 }
 

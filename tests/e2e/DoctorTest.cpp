@@ -94,7 +94,7 @@ TEST_F(Doctor, LooksAtTheProgramThatRuns) {
                 AllOf(HasSubstr("Family"), HasSubstr("@quillon_demo_bot")));
     breakTheGroup();
     const Finished lines = quillon.run({"doctor"});
-    EXPECT_THAT(lines.out, HasSubstr("\nok       Topic notes:      it is there\n"));
+    EXPECT_THAT(lines.out, HasSubstr("\nok      Topic notes:      it is there\n"));
     endProgram(*program);
 }
 

@@ -143,7 +143,8 @@ TEST(RemoteProgram, IsAlsoUnderstoodByAProgramOfTheVersionBefore) {
     const SessionBus bus;
     const BusService older{
         RemoteProgram::busName,
-        {{"RunCommand", std::nullopt},
+        {{"RunWords", std::nullopt},
+         {"RunCommand", std::nullopt},
          {"Run", QVariantList{1, QStringLiteral("said\n"), QStringLiteral("warned\n")}}}};
     // The command, and its argument or none.
     for (const char* argument : {"", "on"}) {
