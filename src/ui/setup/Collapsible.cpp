@@ -45,6 +45,8 @@ void Collapsible::layOut() {
 void Collapsible::resizeEvent(QResizeEvent* event) {
     View::resizeEvent(event);
     layOut();
+    // Of another width, it may want another height, for which the layout has not asked yet.
+    if (heightForWidth(width()) != height()) updateGeometry();
 }
 
 bool Collapsible::event(QEvent* event) {
